@@ -1,0 +1,1 @@
+#include "Orvello/Diagnostics/AppLog.h"

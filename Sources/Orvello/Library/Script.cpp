@@ -1,0 +1,1 @@
+#include "Orvello/Library/Script.h"

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+
+#include <array>
+
+namespace Orvello {
+
+class UserDefaults;
+
+/// The user's preferences. Every property is read from the user defaults when the store is made and
+/// written back, under the property's own name, at every assignment. Values are neither clamped nor
+/// rounded here: callers keep them in range.
+class SettingsStore final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY fontSizeChanged FINAL)
+    Q_PROPERTY(QString textColorName READ textColorName WRITE setTextColorName NOTIFY
+            textColorNameChanged FINAL)
+    Q_PROPERTY(QColor textColor READ textColor NOTIFY textColorNameChanged FINAL)
+    Q_PROPERTY(double backgroundOpacity READ backgroundOpacity WRITE setBackgroundOpacity NOTIFY
+            backgroundOpacityChanged FINAL)
+    Q_PROPERTY(double speed READ speed WRITE setSpeed NOTIFY speedChanged FINAL)
+    Q_PROPERTY(
+        bool stealthMode READ stealthMode WRITE setStealthMode NOTIFY stealthModeChanged FINAL)
+    Q_PROPERTY(
+        bool voiceFollow READ voiceFollow WRITE setVoiceFollow NOTIFY voiceFollowChanged FINAL)
+    Q_PROPERTY(double voiceSensitivity READ voiceSensitivity WRITE setVoiceSensitivity NOTIFY
+            voiceSensitivityChanged FINAL)
+    Q_PROPERTY(double countdownSeconds READ countdownSeconds WRITE setCountdownSeconds NOTIFY
+            countdownSecondsChanged FINAL)
+    Q_PROPERTY(bool slideshowPauseKey READ slideshowPauseKey WRITE setSlideshowPauseKey NOTIFY
+            slideshowPauseKeyChanged FINAL)
+    Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
+    Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
+            setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
+
+public:
+    struct ColorPreset {
+        QString name;
+        QColor color;
+    };
+
+    /// The process's one store over the standard user defaults; `adoptShared` names it once, at
+    /// launch.
+    static SettingsStore& shared();
+    static void adoptShared(SettingsStore& store);
+
+    explicit SettingsStore(
+        UserDefaults& defaults, QObject* parent = nullptr); ///< `defaults` must outlive the store.
+    ~SettingsStore() override;
+
+    double fontSize() const { return m_fontSize; } ///< Of the prompter's text, in points.
+    void setFontSize(double points);
+
+    const QString& textColorName() const { return m_textColorName; }
+    void setTextColorName(const QString& name);
+    QColor textColor() const; ///< The preset that `textColorName` names; white for an unknown name.
+    static const std::array<ColorPreset, 6>& colorPresets();
+
+    double backgroundOpacity() const
+    {
+        return m_backgroundOpacity;
+    } ///< Of the card: 0 clear, 1 opaque.
+    void setBackgroundOpacity(double opacity);
+
+    double speed() const { return m_speed; } ///< Of scrolling, in points per second.
+    void setSpeed(double pointsPerSecond);
+
+    bool stealthMode() const { return m_stealthMode; }
+    void setStealthMode(bool on);
+
+    bool voiceFollow() const { return m_voiceFollow; }
+    void setVoiceFollow(bool on);
+
+    double voiceSensitivity() const { return m_voiceSensitivity; } ///< Higher hears quieter speech.
+    void setVoiceSensitivity(double sensitivity);
+
+    double countdownSeconds() const { return m_countdownSeconds; }
+    void setCountdownSeconds(double seconds);
+
+    bool slideshowPauseKey() const { return m_slideshowPauseKey; }
+    void setSlideshowPauseKey(bool on);
+
+    bool slideSync() const { return m_slideSync; }
+    void setSlideSync(bool on);
+
+    qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
+    void setOnboardingSeenVersion(qint64 version);
+
+Q_SIGNALS:
+    void fontSizeChanged();
+    void textColorNameChanged();
+    void backgroundOpacityChanged();
+    void speedChanged();
+    void stealthModeChanged();
+    void voiceFollowChanged();
+    void voiceSensitivityChanged();
+    void countdownSecondsChanged();
+    void slideshowPauseKeyChanged();
+    void slideSyncChanged();
+    void onboardingSeenVersionChanged();
+
+private:
+    /// Updates the value, stores it under the key, and announces it if it is another than before.
+    template <typename Value, typename Signal>
+    void assign(Value& member, const Value& value, const QString& key, Signal changed);
+
+    UserDefaults& m_defaults;
+    double m_fontSize;
+    QString m_textColorName;
+    double m_backgroundOpacity;
+    double m_speed;
+    bool m_stealthMode;
+    bool m_voiceFollow;
+    double m_voiceSensitivity;
+    double m_countdownSeconds;
+    bool m_slideshowPauseKey;
+    bool m_slideSync;
+    qint64 m_onboardingSeenVersion;
+};
+
+} // namespace Orvello

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Orvello/Platform/UserDefaults.h"
+
+namespace Orvello::Testing {
+
+/// Preferences in memory. `launchArguments` shadow stored values, as the pairs of a command line
+/// do.
+class FakeUserDefaults final : public UserDefaults {
+public:
+    QVariant value(const QString& key) const override
+    {
+        return launchArguments.contains(key) ? launchArguments.value(key) : stored.value(key);
+    }
+    void setValue(const QString& key, const QVariant& value) override
+    {
+        stored.insert(key, value);
+        ++writes;
+    }
+    void remove(const QString& key) override { stored.remove(key); }
+    QVariantMap storedValues() const override { return stored; }
+
+    QVariantMap stored;
+    QVariantMap launchArguments;
+    int writes = 0;
+};
+
+} // namespace Orvello::Testing

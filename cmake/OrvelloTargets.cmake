@@ -1,0 +1,59 @@
+# The three kinds of target that the tree consists of. Everything that holds for all of them is here.
+
+add_library(OrvelloWarnings INTERFACE)
+target_compile_options(OrvelloWarnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+
+add_library(OrvelloBase INTERFACE)
+target_include_directories(OrvelloBase INTERFACE ${PROJECT_SOURCE_DIR}/Sources)
+target_compile_definitions(
+    OrvelloBase INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                          QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(ORVELLO_SANITIZE)
+    target_compile_options(OrvelloBase INTERFACE -fsanitize=${ORVELLO_SANITIZE} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+    target_link_options(OrvelloBase INTERFACE -fsanitize=${ORVELLO_SANITIZE})
+endif()
+
+# orvello_add_library(Name SOURCES ... DEPENDS ...): one static library, reached as Orvello::Name. DEPENDS is public and
+# is the layer graph: a folder can include only what it names here.
+function(orvello_add_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_library(Orvello${name} STATIC ${ARG_SOURCES})
+    add_library(Orvello::${name} ALIAS Orvello${name})
+    target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
+endfunction()
+
+# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...]): one GoogleTest program, its tests found by CTest. The shared
+# main chooses the offscreen Qt platform and makes the application object.
+function(orvello_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    if(NOT ARG_LABELS)
+        set(ARG_LABELS unit)
+    endif()
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS} OrvelloWarnings)
+    gtest_discover_tests(
+        ${name}
+        DISCOVERY_TIMEOUT 120
+        PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120)
+endfunction()
+
+# orvello_add_benchmark(Name SOURCES ... DEPENDS ...): one Google Benchmark program, run by `make bench`.
+function(orvello_add_benchmark name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE benchmark::benchmark ${ARG_DEPENDS} OrvelloWarnings)
+    set_property(GLOBAL APPEND PROPERTY ORVELLO_BENCHMARKS ${name})
+endfunction()
+
+# orvello_add_fuzzer(Name SOURCES ... DEPENDS ... SEEDS folder): one libFuzzer program with a short run as a test. A run
+# copies the seeds, so that what libFuzzer finds never lands in the source tree.
+function(orvello_add_fuzzer name)
+    cmake_parse_arguments(ARG "" "SEEDS" "SOURCES;DEPENDS;OPTIONS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} OrvelloWarnings)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    add_test(NAME fuzz.${name}
+             COMMAND ${PROJECT_SOURCE_DIR}/tools/fuzz-run $<TARGET_FILE:${name}> ${ARG_SEEDS} ${ARG_OPTIONS})
+    set_tests_properties(fuzz.${name} PROPERTIES LABELS fuzz TIMEOUT 180)
+endfunction()
