@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+
+#include <cstdint>
+#include <memory>
+
+class QSocketNotifier;
+struct xcb_connection_t;
+
+namespace Orvello {
+
+/// Keeps one override-redirect window above every window that a window manager manages, full-screen
+/// ones included, by watching the root window for whatever comes on top of it. Windows that no
+/// manager manages (menus, tool tips, screen lockers) are left above: raising over a locker would
+/// show the script on a locked screen.
+class X11StackingGuard final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit X11StackingGuard(std::uint32_t window);
+    ~X11StackingGuard() override;
+
+    void raise();
+
+private:
+    void readEvents();
+    void restacked(std::uint32_t window, bool isOverrideRedirect);
+    bool holdsManagedWindow(std::uint32_t window, int depth) const;
+    bool isManaged(std::uint32_t window) const;
+
+    std::uint32_t m_window;
+    xcb_connection_t*
+        m_connection; ///< Its own, so that Qt's event selection on the root window stays as it is.
+    std::uint32_t m_managedStateAtom
+        = 0; ///< WM_STATE, which a manager sets on each window that it manages.
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace Orvello

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QWindow;
+
+namespace Orvello {
+
+class Folders;
+class NativePanel;
+class ProcessSignals;
+class Screens;
+class SystemLog;
+class TimeSource;
+class UserDefaults;
+
+/// Every port, for the composition root, which hands them down by reference. Made before the
+/// application object; only those parts that say so need it. Whatever it returns by reference lives
+/// as long as the platform.
+class Platform {
+public:
+    /// The platform that this program was built for. `arguments` are the command line's, without
+    /// the program's name.
+    static std::unique_ptr<Platform> create(const QStringList& arguments);
+
+    virtual ~Platform() = default;
+
+    virtual TimeSource& time() = 0;
+    virtual UserDefaults& userDefaults() = 0;
+    virtual Folders& folders() = 0;
+    virtual SystemLog& systemLog() = 0;
+    virtual ProcessSignals& processSignals() = 0;
+    virtual Screens& screens() = 0; ///< Needs the application object.
+
+    /// Settles what must be settled before the application object is made. Returns why the program
+    /// cannot run here, in words for the user, or an empty text.
+    virtual QString prepareApplication() = 0;
+
+    /// The prompter's window around the window that shows its view, which must not have been shown
+    /// and must outlive it.
+    virtual std::unique_ptr<NativePanel> makePanel(QWindow& view) = 0;
+};
+
+} // namespace Orvello
