@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Orvello/Library/LibraryStore.h"
+#include "Orvello/Platform/ProcessSignals.h"
+#include "Orvello/Prompting/PrompterPanelController.h"
+#include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/LaunchOptions.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace Orvello {
+
+class Platform;
+class PrompterWindow;
+
+/// Makes every long-lived object, wires them together, shows the first window, and closes the session at quit. One for
+/// the life of the process; everything it makes lives as long.
+class AppDelegate final : public QObject {
+    Q_OBJECT
+
+public:
+    /// `platform` must outlive the delegate.
+    AppDelegate(Platform& platform, const LaunchOptions& options);
+    ~AppDelegate() override;
+
+    /// Once, when the event loop is about to run.
+    void applicationDidFinishLaunching();
+
+    /// Once, when the event loop has ended in an ordinary quit.
+    void applicationWillTerminate();
+
+    /// Shows the prompter panel if it is hidden, hides it if it is shown.
+    void togglePanel();
+
+private:
+    void makePanel();
+    void importDeckFromEnvironment();
+    void installSignalHandlers();
+
+    Platform& m_platform;
+    LaunchOptions m_options;
+    SettingsStore m_settings;
+    LibraryStore m_library;
+    ScrollEngine m_engine;
+    std::unique_ptr<PrompterWindow> m_prompterWindow;
+    std::unique_ptr<NativePanel> m_panel;
+    std::unique_ptr<PrompterPanelController> m_panelController;
+    std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
+};
+
+} // namespace Orvello

@@ -1,0 +1,39 @@
+#include "Orvello/Shell/LaunchOptions.h"
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+LaunchOptions LaunchOptions::fromArguments(const QStringList& arguments)
+{
+    return {
+        .help = arguments.contains(u"--help"_s),
+        .version = arguments.contains(u"--version"_s),
+        .noStealth = arguments.contains(u"--no-stealth"_s),
+        .autostart = arguments.contains(u"--autostart"_s),
+    };
+}
+
+QString LaunchOptions::helpText()
+{
+    return uR"(Usage: orvello [options] [-Key value ...]
+
+A private teleprompter: your script in a small panel under the camera.
+
+Options:
+  --autostart      start scrolling at once
+  --no-stealth     never hide the prompter from screen sharing
+  --help           show this text and exit
+  --version        show the version and exit
+  -Key value       use this value for a preference, for this run only
+
+Environment:
+  ORVELLO_IMPORT_PPTX   import the .pptx file at this path at launch
+
+Signals:
+  SIGUSR2          show or hide the prompter
+  SIGTERM, SIGINT  quit
+)"_s;
+}
+
+} // namespace Orvello

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QGuiApplication>
+
+namespace Orvello {
+
+/// The application object. It has no window of its own and no entry in task switchers; the last window's closing does not
+/// end it.
+class OrvelloApplication final : public QGuiApplication {
+    Q_OBJECT
+
+public:
+    OrvelloApplication(int& argumentCount, char** arguments);
+};
+
+} // namespace Orvello

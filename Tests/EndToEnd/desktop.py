@@ -1,0 +1,237 @@
+"""A private desktop to run the real program on: X server, window manager, compositor, scratch profile.
+
+Everything is started here and stopped here, by process id, and lies under one scratch folder.
+"""
+
+import contextlib
+import json
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PROGRAM = pathlib.Path(os.environ["ORVELLO_PROGRAM"]).resolve()
+SOURCES = pathlib.Path(__file__).resolve().parents[2]
+
+
+def wait_until(condition, seconds=15.0, what="a condition"):
+    """Polls until condition() is true and returns its value; fails after the given seconds."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f"gave up after {seconds} s waiting for {what}")
+        time.sleep(0.02)
+
+
+class Desktop(contextlib.ExitStack):
+    """An X display of its own with openbox and picom, and a home folder of its own."""
+
+    def __init__(self, width=1440, height=900):
+        super().__init__()
+        self.width, self.height = width, height
+        self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="orvello-desktop-"))
+        self.callback(shutil.rmtree, self.scratch, ignore_errors=True)
+        self.home = self.scratch / "home"
+        self.data = self.home / "data"
+        self.config = self.home / "config"
+        runtime = self.scratch / "runtime"
+        for folder in (self.data, self.config, runtime):
+            folder.mkdir(parents=True)
+        runtime.chmod(0o700)
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "LANG": "C.UTF-8",
+            "HOME": str(self.home),
+            "XDG_DATA_HOME": str(self.data),
+            "XDG_CONFIG_HOME": str(self.config),
+            "XDG_CACHE_HOME": str(self.home / "cache"),
+            "XDG_RUNTIME_DIR": str(runtime),
+        }
+        for name in ("ASAN_OPTIONS", "TSAN_OPTIONS", "UBSAN_OPTIONS"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+        try:
+            self._start_servers()
+        except BaseException:
+            self.close()
+            raise
+
+    def _start_servers(self):
+        read_end, write_end = os.pipe()
+        self.start(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.width}x{self.height}x24",
+             "-nolisten", "tcp"],
+            pass_fds=(write_end,))
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            self.environment["DISPLAY"] = ":" + pipe.readline().strip()
+        self.run("xsetroot", "-solid", "#284060")
+        self.start(["openbox"])
+        wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                   what="the window manager")
+        self.start(["picom", "--backend", "xrender"])
+        time.sleep(0.3)
+
+    def start(self, command, environment=None, **options):
+        """Starts a process that ends with the desktop at the latest."""
+        log = open(self.scratch / f"{pathlib.Path(command[0]).name}.log", "ab")
+        self.callback(log.close)
+        process = subprocess.Popen(
+            command, env=self.environment | (environment or {}), stdout=log, stderr=log,
+            stdin=subprocess.DEVNULL, **options)
+        self.callback(self._stop, process)
+        return process
+
+    @staticmethod
+    def _stop(process):
+        if process.poll() is None:
+            process.terminate()
+            try:
+                process.wait(10)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+
+    def run(self, *command, **options):
+        """Runs a command on the desktop and returns what it printed."""
+        return subprocess.run(
+            command, env=self.environment, check=True, capture_output=True, text=True, timeout=60,
+            **options).stdout
+
+    def screenshot(self, path=None):
+        """The whole screen as (width, height, RGB bytes); also as a file, if a path is given."""
+        if path:
+            self.run("import", "-silent", "-window", "root", str(path))
+        raw = subprocess.run(
+            ["import", "-silent", "-window", "root", "-depth", "8", "rgb:-"], env=self.environment,
+            check=True, capture_output=True, timeout=60).stdout
+        assert len(raw) == self.width * self.height * 3
+        return Picture(self.width, self.height, raw)
+
+    def focused_window(self):
+        return int(self.run("xdotool", "getwindowfocus").strip())
+
+
+class Picture:
+    """Pixels of a screenshot."""
+
+    def __init__(self, width, height, rgb):
+        self.width, self.height, self.rgb = width, height, rgb
+
+    def pixel(self, x, y):
+        at = (y * self.width + x) * 3
+        return tuple(self.rgb[at:at + 3])
+
+    def rows(self, x, y, width, height):
+        """For each row of a rectangle the sum of its green values: a profile of the text lines in it."""
+        profile = []
+        for row in range(y, y + height):
+            start = (row * self.width + x) * 3
+            profile.append(sum(self.rgb[start + 1:start + width * 3:3]))
+        return profile
+
+
+def upward_shift(before, after, largest):
+    """By how many rows the profile `after` shows the text further up than `before`: the best-matching whole number."""
+    def difference(shift):
+        pairs = list(zip(before[shift:], after))
+        return sum(abs(a - b) for a, b in pairs) / len(pairs)
+
+    return min(range(largest + 1), key=difference)
+
+
+class App:
+    """The real program on a desktop."""
+
+    def __init__(self, desktop, *arguments, environment=None):
+        self.desktop = desktop
+        self.process = desktop.start([str(PROGRAM), *arguments], environment)
+
+    # Files
+
+    @staticmethod
+    def folder(desktop):
+        return desktop.data / "Orvello"
+
+    @staticmethod
+    def log_text(desktop):
+        try:
+            return (App.folder(desktop) / "logs" / "orvello.log").read_text()
+        except FileNotFoundError:
+            return ""
+
+    @staticmethod
+    def log_messages(desktop):
+        """The log's lines without their time stamps."""
+        return [line.split(" ", 1)[1] for line in App.log_text(desktop).splitlines() if " " in line]
+
+    @staticmethod
+    def marker(desktop):
+        return App.folder(desktop) / "logs" / "session.marker"
+
+    @staticmethod
+    def library(desktop):
+        return json.loads((App.folder(desktop) / "scripts.json").read_text())
+
+    @staticmethod
+    def set_defaults(desktop, **values):
+        path = desktop.config / "Orvello" / "app.orvello.json"
+        path.parent.mkdir(parents=True, exist_ok=True)
+        old = json.loads(path.read_text()) if path.exists() else {}
+        path.write_text(json.dumps(old | values))
+
+    @staticmethod
+    def defaults(desktop):
+        return json.loads((desktop.config / "Orvello" / "app.orvello.json").read_text())
+
+    # Process
+
+    def wait_for_log(self, text, seconds=15.0):
+        wait_until(lambda: text in self.log_text(self.desktop) or self._check_alive(), seconds,
+                   f"the log line {text!r}")
+
+    def _check_alive(self):
+        if self.process.poll() is not None:
+            log = self.desktop.scratch / f"{PROGRAM.name}.log"
+            raise AssertionError(f"the program ended ({self.process.returncode}):\n{log.read_text()}")
+        return False
+
+    def window(self):
+        """The X window of the panel, once it is on screen."""
+        def found():
+            self._check_alive()
+            result = subprocess.run(
+                ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+                env=self.desktop.environment, capture_output=True, text=True)
+            return [int(line) for line in result.stdout.split()]
+        return wait_until(found, what="the panel")[0]
+
+    def is_window_visible(self):
+        result = subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+            env=self.desktop.environment, capture_output=True, text=True)
+        return bool(result.stdout.split())
+
+    def geometry(self):
+        """The panel's (x, y, width, height) on the screen."""
+        text = self.desktop.run("xdotool", "getwindowgeometry", "--shell", str(self.window()))
+        values = dict(line.split("=") for line in text.split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def signal(self, number):
+        self.process.send_signal(number)
+
+    def quit(self, number=signal.SIGTERM):
+        """Quits the program and returns its exit status."""
+        self.process.send_signal(number)
+        return self.process.wait(15)
+
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
