@@ -1,0 +1,128 @@
+#include "Orvello/Prompting/CaptureExclusion.h"
+
+#include "Tests/Support/WindowServerStandIn.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+// This file is built several times, each time into a program that has another subset of the window server's calls.
+
+namespace Orvello {
+namespace {
+
+using namespace Testing::WindowServerStandIn;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+#ifdef WITH_CONNECTION
+constexpr bool hasConnection = true;
+#else
+constexpr bool hasConnection = false;
+#endif
+#ifdef WITH_SHAPE
+constexpr bool hasShape = true;
+#else
+constexpr bool hasShape = false;
+#endif
+#ifdef WITH_REGION_CREATE
+constexpr bool hasRegionCreate = true;
+#else
+constexpr bool hasRegionCreate = false;
+#endif
+#ifdef WITH_REGION_NEW
+constexpr bool hasRegionNew = true;
+#else
+constexpr bool hasRegionNew = false;
+#endif
+constexpr bool canClear = hasConnection && hasShape;
+constexpr bool canExclude = canClear && (hasRegionCreate || hasRegionNew);
+
+class CaptureExclusionTest : public ::testing::Test {
+protected:
+    void SetUp() override { state() = {}; }
+    void TearDown() override { EXPECT_EQ(state().regionsReleased, state().regionsMade); }
+};
+
+TEST_F(CaptureExclusionTest, isUsableExactlyWithConnectionShapeAndARegionMaker)
+{
+    EXPECT_EQ(CaptureExclusion::isUsable(), canExclude);
+    EXPECT_EQ(CaptureExclusion::canSetShape(), canClear);
+}
+
+TEST_F(CaptureExclusionTest, excludesARectangleLargerThanTheWindow)
+{
+    EXPECT_EQ(CaptureExclusion::setExcluded(true, 42, { 720, 200 }), canExclude);
+
+    if (canExclude)
+        EXPECT_THAT(state().shapeCalls,
+            ElementsAre(ShapeCall { connection, 42, true, { 0, 0, 920, 400 } }));
+    else
+        EXPECT_THAT(state().shapeCalls, IsEmpty());
+}
+
+TEST_F(CaptureExclusionTest, clearsTheShapeWithANullRegion)
+{
+    EXPECT_EQ(CaptureExclusion::setExcluded(false, 42, { 720, 200 }), canClear);
+
+    if (canClear)
+        EXPECT_THAT(state().shapeCalls, ElementsAre(ShapeCall { connection, 42, false, {} }));
+    EXPECT_EQ(state().regionsMade, 0);
+}
+
+TEST_F(CaptureExclusionTest, prefersTheFirstRegionMaker)
+{
+    const CaptureExclusion::Region region = CaptureExclusion::makeRegion({ 1, 2, 3, 4 });
+
+    EXPECT_EQ(region != nullptr, hasRegionCreate || hasRegionNew);
+    if (hasRegionCreate)
+        EXPECT_THAT(state().regionMakersUsed, ElementsAre("create"));
+    else if (hasRegionNew)
+        EXPECT_THAT(state().regionMakersUsed, ElementsAre("new"));
+}
+
+TEST_F(CaptureExclusionTest, doesNotFallBackWhenThePreferredMakerRefuses)
+{
+    state().refusesRegions = true;
+
+    const bool isMade = CaptureExclusion::makeRegion({ 0, 0, 1, 1 }) != nullptr;
+
+    EXPECT_EQ(isMade, !hasRegionCreate && hasRegionNew);
+}
+
+TEST_F(CaptureExclusionTest, failsWithoutARegion)
+{
+    state().refusesRegions = true;
+    state().regionError = 1000;
+
+    EXPECT_FALSE(CaptureExclusion::setExcluded(true, 42, { 720, 200 }));
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+}
+
+TEST_F(CaptureExclusionTest, reportsAnErrorOfTheWindowServer)
+{
+    state().shapeError = 1001;
+
+    EXPECT_FALSE(CaptureExclusion::setExcluded(true, 42, { 720, 200 }));
+    EXPECT_FALSE(CaptureExclusion::setExcluded(false, 42, { 720, 200 }));
+}
+
+TEST_F(CaptureExclusionTest, refusesWindowsWithoutANumber)
+{
+    for (const qint64 number : { 0LL, -1LL, -5'000'000'000LL }) {
+        EXPECT_FALSE(CaptureExclusion::setExcluded(true, number, { 720, 200 }));
+        EXPECT_FALSE(CaptureExclusion::setExcluded(false, number, { 720, 200 }));
+    }
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+}
+
+TEST(CaptureExclusionDeathTest, endsTheProcessForANumberBeyond32Bits)
+{
+    if (canClear)
+        EXPECT_DEATH(
+            CaptureExclusion::setExcluded(true, 5'000'000'000, { 720, 200 }), "does not fit");
+    else
+        EXPECT_FALSE(CaptureExclusion::setExcluded(true, 5'000'000'000, { 720, 200 }));
+}
+
+} // namespace
+} // namespace Orvello

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Orvello/Platform/Screens.h"
+
+namespace Orvello::Testing {
+
+class FakeScreens final : public Screens {
+public:
+    QList<QRectF> frames() const override { return connected; }
+
+    QList<QRectF> connected { { 0, 0, 1440, 900 } }; ///< The main screen first.
+};
+
+} // namespace Orvello::Testing
