@@ -1,5 +1,8 @@
 #pragma once
 
+// First, because moc 6.4 cannot parse <compare> before any other standard header.
+#include <QtGlobal>
+
 #include <compare>
 
 namespace Orvello {
