@@ -23,10 +23,11 @@ function(orvello_add_library name)
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
 endfunction()
 
-# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...]): one GoogleTest program, its tests found by CTest. The shared
-# main chooses the offscreen Qt platform and makes the application object.
+# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text]): one GoogleTest program, its tests found by
+# CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform and makes the application
+# object.
 function(orvello_add_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;DEPENDS;LABELS" ${ARGN})
     if(NOT ARG_LABELS)
         set(ARG_LABELS unit)
     endif()
@@ -34,6 +35,7 @@ function(orvello_add_test name)
     target_link_libraries(${name} PRIVATE OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS} OrvelloWarnings)
     gtest_discover_tests(
         ${name}
+        TEST_PREFIX "${ARG_PREFIX}"
         DISCOVERY_TIMEOUT 120
         PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120)
 endfunction()

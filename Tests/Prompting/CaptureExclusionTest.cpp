@@ -5,7 +5,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-// This file is built several times, each time into a program that has another subset of the window server's calls.
+// These tests are linked into several programs, each of which has another subset of the window
+// server's calls. A call that a program lacks is a weak symbol without an address.
+extern "C" {
+__attribute__((weak)) std::uint32_t CGSMainConnectionID();
+__attribute__((weak)) std::int32_t CGSSetWindowCaptureExcludeShape(
+    std::uint32_t, std::uint32_t, const void*);
+__attribute__((weak))
+const void* CGRegionCreateWithRect(Orvello::Testing::WindowServerStandIn::Rect);
+__attribute__((weak)) std::int32_t CGSNewRegionWithRect(
+    const Orvello::Testing::WindowServerStandIn::Rect*, const void**);
+}
 
 namespace Orvello {
 namespace {
@@ -14,28 +24,10 @@ using namespace Testing::WindowServerStandIn;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-#ifdef WITH_CONNECTION
-constexpr bool hasConnection = true;
-#else
-constexpr bool hasConnection = false;
-#endif
-#ifdef WITH_SHAPE
-constexpr bool hasShape = true;
-#else
-constexpr bool hasShape = false;
-#endif
-#ifdef WITH_REGION_CREATE
-constexpr bool hasRegionCreate = true;
-#else
-constexpr bool hasRegionCreate = false;
-#endif
-#ifdef WITH_REGION_NEW
-constexpr bool hasRegionNew = true;
-#else
-constexpr bool hasRegionNew = false;
-#endif
-constexpr bool canClear = hasConnection && hasShape;
-constexpr bool canExclude = canClear && (hasRegionCreate || hasRegionNew);
+const bool hasRegionCreate = CGRegionCreateWithRect != nullptr;
+const bool hasRegionNew = CGSNewRegionWithRect != nullptr;
+const bool canClear = CGSMainConnectionID && CGSSetWindowCaptureExcludeShape;
+const bool canExclude = canClear && (hasRegionCreate || hasRegionNew);
 
 class CaptureExclusionTest : public ::testing::Test {
 protected:

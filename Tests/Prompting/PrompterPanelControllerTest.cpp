@@ -107,8 +107,8 @@ TEST_F(PrompterPanelControllerTest, placesThePanelUnderTheCameraAndThenRestoresI
 
     build();
 
-    EXPECT_EQ(panel.calls,
-        (QStringList { u"setFrame"_s, u"setFrameAutosaveName PrompterPanel"_s }));
+    EXPECT_EQ(
+        panel.calls, (QStringList { u"setFrame"_s, u"setFrameAutosaveName PrompterPanel"_s }));
     EXPECT_EQ(panel.frameNow, QRectF(920, 1234, 720, 200));
     EXPECT_FALSE(panel.visible);
 }
@@ -155,8 +155,7 @@ TEST_F(PrompterPanelControllerTest, hidesAFreshWindowByBothMechanisms)
     EXPECT_TRUE(controller->stealthOn());
     EXPECT_THAT(panel.sharingTypesSet, ElementsAre(None));
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
-    EXPECT_THAT(
-        stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=both shape=1"));
+    EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=both shape=1"));
 }
 
 TEST_F(PrompterPanelControllerTest, forcesAChangeOnAFreshWindowThatAlreadyHasTheType)
@@ -182,10 +181,9 @@ TEST_F(PrompterPanelControllerTest, makesThePanelAnOrdinaryWindowAgain)
     EXPECT_FALSE(controller->stealthOn());
     EXPECT_THAT(panel.sharingTypesSet, ElementsAre(ReadOnly));
     EXPECT_THAT(state().shapeCalls, ElementsAre(clearing(42)));
+    EXPECT_THAT(stealthMessages(), ElementsAre("APPLY OFF wid=42 fresh=false mode=both shape=1"));
     EXPECT_THAT(
-        stealthMessages(), ElementsAre("APPLY OFF wid=42 fresh=false mode=both shape=1"));
-    EXPECT_THAT(log.lines(),
-        ElementsAre("STEALTH OFF wid=42 fresh=0 mode=both sckExcludeApplied=1"));
+        log.lines(), ElementsAre("STEALTH OFF wid=42 fresh=0 mode=both sckExcludeApplied=1"));
 }
 
 TEST_F(PrompterPanelControllerTest, leavesTheTypeThatItAppliedToTheSameWindow)
@@ -205,10 +203,9 @@ TEST_F(PrompterPanelControllerTest, reportsARefusedShape)
 
     controller->applyStealthMode(true);
 
+    EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=false mode=both shape=0"));
     EXPECT_THAT(
-        stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=false mode=both shape=0"));
-    EXPECT_THAT(log.lines(),
-        ElementsAre("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"));
+        log.lines(), ElementsAre("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"));
 }
 
 TEST_F(PrompterPanelControllerTest, usesTheShapeAloneWhenToldSo)
@@ -219,8 +216,7 @@ TEST_F(PrompterPanelControllerTest, usesTheShapeAloneWhenToldSo)
 
     EXPECT_EQ(panel.sharing, ReadOnly);
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
-    EXPECT_THAT(
-        stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=shape shape=1"));
+    EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=shape shape=1"));
 }
 
 TEST_F(PrompterPanelControllerTest, usesTheFlagAloneWhenToldSo)

@@ -15,8 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::MatchesRegex;
 
-constexpr auto stampPattern
-    = "[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3}Z ";
+constexpr auto stampPattern = "[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}\\.[0-9]{3}Z ";
 
 class StealthLogTest : public ::testing::Test {
 protected:
@@ -53,8 +52,8 @@ TEST_F(StealthLogTest, appendsOneLineAMessage)
     log.write(u"zweite Zeile \u2014 \u00e4"_s);
 
     EXPECT_THAT(content(),
-        MatchesRegex(std::string(stampPattern) + "first\n" + stampPattern
-            + "zweite Zeile \u2014 \u00e4\n"));
+        MatchesRegex(
+            std::string(stampPattern) + "first\n" + stampPattern + "zweite Zeile \u2014 \u00e4\n"));
 }
 
 TEST_F(StealthLogTest, goesOnInALogOfTheLargestSize)

@@ -8,7 +8,8 @@
 
 namespace Orvello::Testing {
 
-/// A panel without a window. It keeps a record of what was asked of it; its state is public to steer.
+/// A panel without a window. It keeps a record of what was asked of it; its state is public to
+/// steer.
 class FakeNativePanel final : public NativePanel {
 public:
     QRectF frame() const override { return frameNow; }

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-/// Stand-ins for the window server's private calls, found by name in the test program as the real ones are in the system.
-/// Which of them a program has is chosen by the compile definitions WITH_CONNECTION, WITH_SHAPE, WITH_REGION_CREATE and
-/// WITH_REGION_NEW.
+/// Stand-ins for the window server's private calls, found by name in the test program as the real
+/// ones are in the system. Each lies in a file of its own in WindowServer/, so that a program can
+/// have any subset of them.
 namespace Orvello::Testing::WindowServerStandIn {
 
 struct Rect {
@@ -34,6 +34,9 @@ struct State {
 };
 
 State& state();
+
+/// A new region, counted.
+const void* made(const Rect& rect, const char* maker);
 
 inline constexpr std::uint32_t connection = 7;
 
