@@ -8,7 +8,8 @@ namespace Orvello::CaptureExclusion {
 
 namespace {
 
-/// The rectangle that the calls take; the same memory layout and calling convention as CoreGraphics' CGRect.
+/// The rectangle that the calls take; the same memory layout and calling convention as
+/// CoreGraphics' CGRect.
 struct ServerRect {
     double x;
     double y;
@@ -21,7 +22,8 @@ using WindowID = std::uint32_t;
 using ErrorCode = std::int32_t;
 constexpr ErrorCode success = 0;
 
-// Declarations of the private calls as other open-source window tools use them; regions are CoreFoundation objects.
+// Declarations of the private calls as other open-source window tools use them; regions are
+// CoreFoundation objects.
 using MainConnectionID = ConnectionID (*)();
 using SetWindowCaptureExcludeShape = ErrorCode (*)(ConnectionID, WindowID, const void* region);
 using RegionCreateWithRect = const void* (*)(ServerRect);
@@ -76,8 +78,7 @@ bool canSetShape()
 
 bool isUsable()
 {
-    return canSetShape()
-        && (entryPoints().regionCreateWithRect || entryPoints().newRegionWithRect);
+    return canSetShape() && (entryPoints().regionCreateWithRect || entryPoints().newRegionWithRect);
 }
 
 Region makeRegion(const QRectF& rect)

@@ -20,16 +20,11 @@ constexpr double watchdogPeriod = 2.0; // Seconds.
 constexpr double reassertionDelay = 0.1; // Seconds the window server may need to place a window.
 constexpr double pointsPerScrollDelta = 3.0;
 
-/// Which of the two mechanisms are in use, for experiments: "shape", "flag", or both for anything else.
-QString stealthMechanisms()
-{
-    return qEnvironmentVariable("ORVELLO_STEALTH", u"both"_s);
-}
+/// Which of the two mechanisms are in use, for experiments: "shape", "flag", or both for anything
+/// else.
+QString stealthMechanisms() { return qEnvironmentVariable("ORVELLO_STEALTH", u"both"_s); }
 
-QString onOrOff(bool on)
-{
-    return on ? u"ON"_s : u"OFF"_s;
-}
+QString onOrOff(bool on) { return on ? u"ON"_s : u"OFF"_s; }
 
 } // namespace
 
@@ -102,7 +97,8 @@ void PrompterPanelController::applyStealthMode(bool on)
 bool PrompterPanelController::applySharingType(SharingType desired, qint64 windowNumber)
 {
     if (windowNumber >= 1 && windowNumber != m_appliedWid) {
-        // The window server takes notice of a change only, not of the type that a window was created with.
+        // The window server takes notice of a change only, not of the type that a window was
+        // created with.
         if (m_panel.sharingType() == desired)
             m_panel.setSharingType(
                 desired == SharingType::None ? SharingType::ReadOnly : SharingType::None);
@@ -146,7 +142,8 @@ void PrompterPanelController::watchResizes()
 void PrompterPanelController::reapplyShapeOrPostpone()
 {
     if (m_presentation.inCall()) {
-        // Changing the exclusion while the screen is shared is what can leave the prompter grey in the shared picture.
+        // Changing the exclusion while the screen is shared is what can leave the prompter grey in
+        // the shared picture.
         m_pendingShapeReapply = true;
         m_stealthLog.write(u"SHAPE reapply postponed (in call)"_s);
         AppLog::write("Orvello SHAPE reapply postponed (in call)");
@@ -175,8 +172,7 @@ void PrompterPanelController::checkWindow()
     const qint64 wid = m_panel.windowNumber();
     if (!m_stealthOn || !m_panel.isVisible() || wid < 1 || wid == m_appliedWid)
         return;
-    m_stealthLog.write(
-        u"HEAL window recreated %1 -> %2, re-applying"_s.arg(m_appliedWid).arg(wid));
+    m_stealthLog.write(u"HEAL window recreated %1 -> %2, re-applying"_s.arg(m_appliedWid).arg(wid));
     AppLog::write("Orvello STEALTH HEAL wid %ld -> %ld", m_appliedWid, wid);
     applyStealthMode(m_stealthOn);
 }

@@ -17,14 +17,16 @@ class Screens;
 class ScrollEngine;
 class SettingsStore;
 
-/// Places the prompter panel and keeps it out of captures while Stealth Mode is on. Two independent mechanisms hide the
-/// panel: the window's sharing type and a capture-exclude shape. The window server can silently drop either (the window
-/// gets a new number, or outgrows the shape), so the controller remembers what it applied and repairs it: after every
-/// resize, after a call ends, and from a watchdog. The panel is built but not shown: showing it is the shell's business.
+/// Places the prompter panel and keeps it out of captures while Stealth Mode is on. Two independent
+/// mechanisms hide the panel: the window's sharing type and a capture-exclude shape. The window
+/// server can silently drop either (the window gets a new number, or outgrows the shape), so the
+/// controller remembers what it applied and repairs it: after every resize, after a call ends, and
+/// from a watchdog. The panel is built but not shown: showing it is the shell's business.
 class PrompterPanelController final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool stealthOn READ stealthOn NOTIFY stealthOnChanged FINAL)
-    Q_PROPERTY(bool visibleInRecordings READ isVisibleInRecordings NOTIFY visibleInRecordingsChanged FINAL)
+    Q_PROPERTY(
+        bool visibleInRecordings READ isVisibleInRecordings NOTIFY visibleInRecordingsChanged FINAL)
 
 public:
     /// All of them must outlive the controller.
@@ -47,7 +49,8 @@ public:
     /// Whether Stealth Mode is in effect: wanted, and not forced off.
     bool stealthOn() const { return m_stealthOn; }
 
-    /// Whether Stealth Mode is wanted on a platform that cannot keep the panel out of captures. The user must be told.
+    /// Whether Stealth Mode is wanted on a platform that cannot keep the panel out of captures. The
+    /// user must be told.
     bool isVisibleInRecordings() const;
 
     /// Hides the panel from captures, or makes it an ordinary window again.

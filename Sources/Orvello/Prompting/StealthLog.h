@@ -6,8 +6,8 @@ namespace Orvello {
 
 class Folders;
 
-/// The log of every Stealth Mode decision: "stealth.log" in the product's application-support folder, one line a message.
-/// It never interrupts anything: every failure is ignored. Main thread.
+/// The log of every Stealth Mode decision: "stealth.log" in the product's application-support
+/// folder, one line a message. It never interrupts anything: every failure is ignored. Main thread.
 class StealthLog final {
 public:
     /// A log beyond this size is deleted before the next line.

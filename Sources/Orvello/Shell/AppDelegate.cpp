@@ -34,10 +34,7 @@ void AppDelegate::applicationDidFinishLaunching()
     installSignalHandlers();
 }
 
-void AppDelegate::applicationWillTerminate()
-{
-    AppLog::endSession();
-}
+void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
 
 void AppDelegate::togglePanel()
 {
@@ -63,7 +60,8 @@ void AppDelegate::importDeckFromEnvironment()
         return;
     const auto imported = m_library.importPptx(path);
     if (!imported)
-        AppLog::write("Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));
+        AppLog::write(
+            "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));
 }
 
 void AppDelegate::installSignalHandlers()

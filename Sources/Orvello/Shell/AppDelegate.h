@@ -17,8 +17,8 @@ namespace Orvello {
 class Platform;
 class PrompterWindow;
 
-/// Makes every long-lived object, wires them together, shows the first window, and closes the session at quit. One for
-/// the life of the process; everything it makes lives as long.
+/// Makes every long-lived object, wires them together, shows the first window, and closes the
+/// session at quit. One for the life of the process; everything it makes lives as long.
 class AppDelegate final : public QObject {
     Q_OBJECT
 

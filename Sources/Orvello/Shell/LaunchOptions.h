@@ -5,7 +5,8 @@
 
 namespace Orvello {
 
-/// What the command line asks for. Each switch is a whole-argument match; everything else is left to others (pairs
+/// What the command line asks for. Each switch is a whole-argument match; everything else is left
+/// to others (pairs
 /// `-Key value` to the user defaults, Qt's own options to Qt).
 struct LaunchOptions {
     bool help = false;
@@ -13,7 +14,8 @@ struct LaunchOptions {
     bool noStealth = false;
     bool autostart = false;
 
-    static LaunchOptions fromArguments(const QStringList& arguments); ///< Without the program's name.
+    static LaunchOptions fromArguments(
+        const QStringList& arguments); ///< Without the program's name.
 
     static QString helpText();
 };

@@ -4,8 +4,8 @@
 
 namespace Orvello {
 
-/// The application object. It has no window of its own and no entry in task switchers; the last window's closing does not
-/// end it.
+/// The application object. It has no window of its own and no entry in task switchers; the last
+/// window's closing does not end it.
 class OrvelloApplication final : public QGuiApplication {
     Q_OBJECT
 

@@ -11,8 +11,8 @@ class LibraryStore;
 class ScrollEngine;
 class SettingsStore;
 
-/// The window content of the prompter panel: the prompter's view over the services that it shows. What kind of window it
-/// is, is the native panel's business.
+/// The window content of the prompter panel: the prompter's view over the services that it shows.
+/// What kind of window it is, is the native panel's business.
 class PrompterWindow final {
 public:
     struct Services {

@@ -50,7 +50,10 @@ int main(int argc, char** argv)
     const QStringList arguments = argumentsWithoutProgram(argc, argv);
     const LaunchOptions options = LaunchOptions::fromArguments(arguments);
     if (options.help || options.version) {
-        print(stdout, options.help ? LaunchOptions::helpText() : u"Orvello %1 (%2)\n"_s.arg(QLatin1StringView(version), QLatin1StringView(buildNumber)));
+        print(stdout,
+            options.help ? LaunchOptions::helpText()
+                         : u"Orvello %1 (%2)\n"_s.arg(
+                             QLatin1StringView(version), QLatin1StringView(buildNumber)));
         return 0;
     }
     const std::unique_ptr<Platform> platform = Platform::create(arguments);

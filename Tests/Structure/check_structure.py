@@ -1,0 +1,93 @@
+"""Holds the tree against what its papers and its CMake files say.
+
+    check_structure.py paths      each path that ARCHITECTURE.md names exists
+    check_structure.py includes   a folder includes only folders that its layer may see
+    check_structure.py platforms  nothing outside Platform/ asks for an operating system
+    check_structure.py format     the sources are laid out as clang-format does it
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SOURCES = ROOT / "Sources" / "Orvello"
+
+# Which folders each folder may include, besides itself.
+MAY_INCLUDE = {
+    "Platform": set(),
+    "Diagnostics": {"Platform"},
+    "Settings": {"Platform", "Diagnostics"},
+    "Library": {"Platform", "Diagnostics", "Presentations"},
+    "Voice": {"Platform", "Diagnostics", "Settings"},
+    "Presentations": {"Platform", "Diagnostics", "Settings", "Library", "Voice"},
+    "Prompting": {"Platform", "Diagnostics", "Settings", "Library", "Voice", "Presentations"},
+}
+# The deck importer lies below the library, which calls it; the rest of its folder lies above.
+LIBRARY_MAY_INCLUDE_OF_PRESENTATIONS = {"PptxImporter.h", "PresenterApp.h"}
+
+
+def sources(*suffixes):
+    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=ROOT,
+                            capture_output=True, text=True, check=True).stdout.splitlines()
+    return [ROOT / name for name in listed if name.endswith(suffixes) and (ROOT / name).exists()]
+
+
+def check_paths():
+    text = (ROOT / "ARCHITECTURE.md").read_text()
+    named = re.findall(r"`((?:Sources|Tests|Benchmarks|Resources|docs|tools)/[^`]*)`", text)
+    assert named, "ARCHITECTURE.md names no path"
+    return [f"ARCHITECTURE.md names {name}, which does not exist"
+            for name in named if not (ROOT / name).exists()]
+
+
+def is_adapter(path):
+    relative = path.relative_to(SOURCES)
+    return relative.parts[0] == "Platform" and (len(relative.parts) > 2 or path.suffix != ".h")
+
+
+def check_includes():
+    problems = []
+    for path in sources(".h", ".cpp", ".mm"):
+        if SOURCES not in path.parents or is_adapter(path):
+            continue
+        folder = path.relative_to(SOURCES).parts[0]
+        if folder == "Shell":
+            continue
+        for target, rest in re.findall(r'#include "Orvello/(\w+)/([^"]+)"', path.read_text()):
+            where = f"{path.relative_to(ROOT)} includes {target}/{rest}"
+            if target == folder and "/" not in rest:
+                continue
+            if "/" in rest or target not in MAY_INCLUDE[folder]:
+                problems.append(where)
+            elif (folder, target) == ("Library", "Presentations") \
+                    and rest not in LIBRARY_MAY_INCLUDE_OF_PRESENTATIONS:
+                problems.append(where)
+    return problems
+
+
+def check_platforms():
+    asks = re.compile(r"#\s*(?:if|ifdef|elif).*(?:__APPLE__|__linux__|__unix__|Q_OS_|_WIN32)")
+    problems = []
+    for path in sources(".h", ".cpp", ".mm"):
+        if SOURCES in path.parents and "Platform" not in path.relative_to(SOURCES).parts \
+                and asks.search(path.read_text()):
+            problems.append(f"{path.relative_to(ROOT)} asks for an operating system")
+    return problems
+
+
+def check_format():
+    files = [str(path) for path in sources(".h", ".cpp", ".mm")]
+    result = subprocess.run(["clang-format", "--dry-run", "--Werror", *files],
+                            capture_output=True, text=True)
+    return result.stderr.splitlines() if result.returncode else []
+
+
+CHECKS = {"paths": check_paths, "includes": check_includes, "platforms": check_platforms,
+          "format": check_format}
+
+if __name__ == "__main__":
+    found = CHECKS[sys.argv[1]]()
+    print("\n".join(found[:60]))
+    sys.exit(bool(found))
