@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QStringView>
+
+#include <algorithm>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <variant>
+
+namespace Orvello {
+
+/// One argument of a log line: a text, an integer (a boolean is 0 or 1) or a floating-point number.
+/// Texts are not copied, so an argument lives no longer than the call that it is made for.
+class LogArgument {
+public:
+    using Value = std::variant<std::string_view, QStringView, std::int64_t, std::uint64_t, double>;
+
+    template <std::signed_integral Integer>
+    LogArgument(Integer value)
+        : m_value(static_cast<std::int64_t>(value))
+        , m_integerBytes(promotedBytes<Integer>)
+    {
+    }
+    template <std::unsigned_integral Integer>
+    LogArgument(Integer value)
+        : m_value(static_cast<std::uint64_t>(value))
+        , m_integerBytes(promotedBytes<Integer>)
+    {
+    }
+    template <std::floating_point Number>
+    LogArgument(Number value)
+        : m_value(static_cast<double>(value))
+    {
+    }
+    LogArgument(const char* text)
+        : m_value(text ? std::string_view(text) : std::string_view("(null)"))
+    {
+    }
+    LogArgument(std::string_view text)
+        : m_value(text)
+    {
+    }
+    LogArgument(QStringView text) // A QString converts by itself.
+        : m_value(text)
+    {
+    }
+
+    const Value& value() const { return m_value; }
+
+    /// The size of an integer as a variadic C argument: what a negative one shows in hexadecimal.
+    std::size_t integerBytes() const { return m_integerBytes; }
+
+private:
+    template <typename Integer>
+    static constexpr std::size_t promotedBytes = std::max(sizeof(Integer), sizeof(int));
+
+    Value m_value;
+    std::size_t m_integerBytes = 0;
+};
+
+} // namespace Orvello
