@@ -1,0 +1,7 @@
+#include "Tests/Diagnostics/RefusedAllocation.h"
+
+namespace Orvello::Testing {
+
+void refuseAllocation() { }
+
+} // namespace Orvello::Testing
