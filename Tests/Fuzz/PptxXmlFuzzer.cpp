@@ -1,0 +1,34 @@
+/// Any bytes as each kind of part that the importer reads.
+
+#include "Orvello/Presentations/PackagePath.h"
+#include "Orvello/Presentations/PlaceholderTextParser.h"
+#include "Orvello/Presentations/RelsParser.h"
+#include "Orvello/Presentations/SlideOrderParser.h"
+
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace Orvello::PptxImporter;
+
+    const std::string_view document(reinterpret_cast<const char*>(data), size);
+    constexpr qsizetype maximumLength = 100;
+    PlaceholderTextParser text({ "title", "body" }, maximumLength);
+    text.parse(document);
+    if (text.collected.join(u'\n').size() > maximumLength)
+        __builtin_trap();
+
+    SlideOrderParser order;
+    order.parse(document);
+
+    RelsParser rels;
+    rels.parse(document);
+    for (const Rel& rel : rels.rels) {
+        const QString path = resolve(rel.target, u"ppt/slides");
+        if (path.startsWith(u'/') || path.endsWith(u'/') || path.contains(QStringLiteral("//")))
+            __builtin_trap();
+    }
+    return 0;
+}
