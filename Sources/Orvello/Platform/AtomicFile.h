@@ -10,10 +10,12 @@ namespace Orvello::AtomicFile {
 /// Replaces the file at `path` by the concatenated `pieces`: they are written to a temporary file
 /// in the same folder, which is then renamed over the old one. Whatever happens, and whenever the
 /// process dies, `path` holds either the old or the new bytes, whole. A symbolic link is followed,
-/// so that the file it names is replaced and the link stays.
+/// so that the file it names is replaced and the link stays. The new file has the old one's
+/// permissions.
 ///
 /// Returns false, with the old file untouched and no temporary file left, when any step fails (no
-/// folder, no permission, no space). The folder must exist. Any thread.
+/// folder, no permission, no space, something other than a file in its place). Only a process that
+/// is killed meanwhile leaves its temporary file behind. The folder must exist. Any thread.
 [[nodiscard]] bool replace(const QString& path, std::span<const std::string_view> pieces);
 
 /// The same for bytes in one piece.
