@@ -1,6 +1,7 @@
-// The voice engine on the platform's own sound, without a window: what it logs and publishes goes to
-// standard output with the monotonic time, and each line of standard input is a command: "start",
-// "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "quit".
+// The voice engine on the platform's own sound, without a window: what it logs and publishes goes
+// to standard output with the monotonic time, and each line of standard input is a command:
+// "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "peak" (of the level since
+// the last time), "state", "quit".
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Platform/Linux/GrantedMicrophonePermission.h"
@@ -76,7 +77,8 @@ public:
             std::string identifier;
             std::string name;
             words >> identifier >> name;
-            m_workspace.running = { { QString::fromStdString(identifier), QString::fromStdString(name) } };
+            m_workspace.running
+                = { { QString::fromStdString(identifier), QString::fromStdString(name) } };
         } else if (command == "noapp") {
             m_workspace.running.clear();
         } else if (command == "peak") {
@@ -116,9 +118,11 @@ int main(int argc, char** argv)
     Orvello::Probe probe(application.arguments().value(1));
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &application, [&] {
-        std::string line;
-        if (!std::getline(std::cin, line) || !probe.obey(line))
-            QCoreApplication::quit();
+        do {
+            std::string line;
+            if (!std::getline(std::cin, line) || !probe.obey(line))
+                return QCoreApplication::quit();
+        } while (std::cin.rdbuf()->in_avail() > 0);
     });
     return QCoreApplication::exec();
 }
