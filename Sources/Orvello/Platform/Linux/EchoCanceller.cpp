@@ -12,6 +12,12 @@ namespace {
 /// Only where the search begins: the canceller looks for the delay itself.
 constexpr int assumedDelayMilliseconds = 50;
 
+/// Quieter than the last bit of 16-bit sound: nothing that a microphone could hear again.
+constexpr float audible = 1.0f / 65536;
+
+/// The longest echo, with the time that the two streams may be apart.
+constexpr int framesOfEcho = 300;
+
 const webrtc::StreamConfig mono(EchoCanceller::sampleRate, 1);
 
 /// One sample that is not a number would stay in the adaptive filter for good.
@@ -33,6 +39,7 @@ std::unique_ptr<webrtc::AudioProcessing> makeProcessing()
 
 EchoCanceller::EchoCanceller()
     : m_processing(makeProcessing())
+    , m_framesSinceFarEnd(framesOfEcho)
 {
 }
 
@@ -56,6 +63,11 @@ void EchoCanceller::hearFarEnd(std::span<const float> samples)
 {
     m_farEnd.add(samples, [this](std::span<float> frame) {
         makeSound(frame);
+        if (std::any_of(frame.begin(), frame.end(),
+                [](float sample) { return std::abs(sample) >= audible; }))
+            m_framesSinceFarEnd = 0;
+        if (!isFarEndAudible())
+            return;
         float* const channel = frame.data();
         m_processing->ProcessReverseStream(&channel, mono, mono, &channel);
     });
@@ -64,9 +76,18 @@ void EchoCanceller::hearFarEnd(std::span<const float> samples)
 void EchoCanceller::process(std::span<float> frame)
 {
     makeSound(frame);
+    // Most of the time nothing is played, and to find no echo costs as much as to remove one.
+    if (!isFarEndAudible())
+        return;
+    ++m_framesSinceFarEnd;
     float* const channel = frame.data();
     m_processing->set_stream_delay_ms(assumedDelayMilliseconds);
     m_processing->ProcessStream(&channel, mono, mono, &channel);
+}
+
+bool EchoCanceller::isFarEndAudible() const
+{
+    return m_framesSinceFarEnd < framesOfEcho;
 }
 
 } // namespace Orvello

@@ -32,8 +32,11 @@ public:
     void process(std::span<float> frame);
 
 private:
+    bool isFarEndAudible() const;
+
     std::unique_ptr<webrtc::AudioProcessing> m_processing;
     SampleBlocks m_farEnd { frameSamples };
+    int m_framesSinceFarEnd; ///< Of the microphone, since something audible was played.
 };
 
 } // namespace Orvello
