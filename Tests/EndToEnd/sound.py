@@ -116,6 +116,7 @@ class Probe:
                 [*(command or [os.environ["ORVELLO_VOICE_PROBE"]]), str(folder)],
                 env=sound.environment | (environment or {}), stdin=subprocess.PIPE, stdout=output, stderr=subprocess.STDOUT)
         sound.callback(sound.stop, self.process)
+        sound.callback(self.process.stdin.close)
 
     def command(self, line):
         self.process.stdin.write(line.encode() + b"\n")

@@ -127,8 +127,9 @@ class VoiceCaptureTest(unittest.TestCase):
         return silence(0.04) + scaled(self.far_end, -12)
 
     def play_echo(self, sound, air):
+        players = sound.play((self.far_end, "speakers"), (air, "air"))
         begin = time.monotonic()
-        for player in sound.play((self.far_end, "speakers"), (air, "air")):
+        for player in players:
             player.wait(60)
         return begin + 5, begin + len(self.far_end) / RATE
 

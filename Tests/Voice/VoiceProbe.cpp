@@ -39,7 +39,7 @@ public:
     }
     void write(std::string_view message) override
     {
-        std::printf("%.3f %.*s\n", m_time.now(), static_cast<int>(message.size()), message.data());
+        std::printf("%.6f %.*s\n", m_time.now(), static_cast<int>(message.size()), message.data());
         std::fflush(stdout);
     }
 

@@ -1,6 +1,5 @@
 #include "Orvello/Voice/Loudness.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstring>
@@ -70,7 +69,5 @@ float speechThreshold(double sensitivity) noexcept
 {
     return std::pow(10.0f, (1.0f - static_cast<float>(sensitivity)) * 1.5f - 2.8f);
 }
-
-float levelTarget(float rootMeanSquare) noexcept { return std::min(rootMeanSquare * 25.0f, 1.0f); }
 
 } // namespace Orvello::Loudness

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <span>
 
 /// The arithmetic of the voice gate, in single precision throughout.
@@ -14,6 +15,9 @@ namespace Orvello::Loudness {
 [[nodiscard]] float speechThreshold(double sensitivity) noexcept;
 
 /// What the level indicator shows for a loudness: 0 for silence, 1 from 0.04 of full scale on.
-[[nodiscard]] float levelTarget(float rootMeanSquare) noexcept;
+[[nodiscard]] inline float levelTarget(float rootMeanSquare) noexcept
+{
+    return std::min(rootMeanSquare * 25.0f, 1.0f);
+}
 
 } // namespace Orvello::Loudness
