@@ -4,11 +4,7 @@
 // the last time), "state", "quit".
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Platform/Linux/GrantedMicrophonePermission.h"
-#include "Orvello/Platform/Linux/PulseAudioProcesses.h"
-#include "Orvello/Platform/Linux/PulseConnection.h"
-#include "Orvello/Platform/Linux/PulseMicrophone.h"
-#include "Orvello/Platform/Linux/PulseVoiceProcessing.h"
+#include "Orvello/Platform/Linux/PulseSound.h"
 #include "Orvello/Platform/QtTimeSource.h"
 #include "Orvello/Platform/SystemLog.h"
 #include "Orvello/Settings/SettingsStore.h"
@@ -97,15 +93,12 @@ private:
     Journal m_journal { m_time };
     Testing::FakeUserDefaults m_defaults;
     SettingsStore m_settings { m_defaults };
-    GrantedMicrophonePermission m_permission;
-    PulseConnection m_connection;
-    PulseVoiceProcessing m_voiceProcessing { m_connection };
-    PulseMicrophone m_microphone { m_connection };
-    PulseAudioProcesses m_processes { m_connection };
-    ProcessMicActivity m_micActivity { m_processes, QCoreApplication::applicationPid() };
+    PulseSound m_sound;
+    ProcessMicActivity m_micActivity { m_sound.processes, QCoreApplication::applicationPid() };
     Testing::FakeWorkspace m_workspace;
     VoiceActivityEngine m_engine { m_settings,
-        { m_time, m_permission, m_voiceProcessing, m_microphone, m_micActivity, m_workspace } };
+        { m_time, m_sound.permission, m_sound.voiceProcessing, m_sound.microphone, m_micActivity,
+            m_workspace } };
     float m_peak = 0;
 };
 
