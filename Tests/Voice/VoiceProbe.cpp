@@ -107,6 +107,7 @@ private:
 
 int main(int argc, char** argv)
 {
+    std::ios::sync_with_stdio(false); // Otherwise nobody can tell that a second line has come.
     QCoreApplication application(argc, argv);
     Orvello::Probe probe(application.arguments().value(1));
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);

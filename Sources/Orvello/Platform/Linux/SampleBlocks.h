@@ -33,8 +33,6 @@ public:
         }
     }
 
-    void clear() { m_filled = 0; }
-
 private:
     std::vector<float> m_block;
     std::size_t m_filled = 0;
