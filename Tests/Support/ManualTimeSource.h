@@ -3,6 +3,7 @@
 #include "Orvello/Platform/TimeSource.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <utility>
@@ -43,8 +44,8 @@ public:
     /// late.
     void stall(double seconds)
     {
-        m_now += seconds;
-        const double end = m_now;
+        const double end = m_now + seconds;
+        m_now = end;
         std::map<Key, Call> due;
         for (auto call = m_calls->begin(); call != m_calls->end() && call->first.first <= end;)
             due.insert(m_calls->extract(call++));
@@ -98,7 +99,7 @@ private:
     void runNext()
     {
         auto node = m_calls->extract(m_calls->begin());
-        m_now = std::max(m_now, node.key().first);
+        m_now = std::max(m_now.load(), node.key().first);
         run(node.mapped());
     }
 
@@ -113,7 +114,7 @@ private:
         (*action)();
     }
 
-    double m_now = 1000.0;
+    std::atomic<double> m_now = 1000.0;
     double m_start = 1000.0;
     Date m_startDate { 800000000.0 };
     std::uint64_t m_nextOrder = 0;

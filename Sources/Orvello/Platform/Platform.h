@@ -9,13 +9,17 @@ class QWindow;
 
 namespace Orvello {
 
+class AudioProcesses;
 class Folders;
+class MicrophonePermission;
 class NativePanel;
 class ProcessSignals;
+class RawMicrophone;
 class Screens;
 class SystemLog;
 class TimeSource;
 class UserDefaults;
+class VoiceProcessing;
 
 /// Every port, for the composition root, which hands them down by reference. Made before the
 /// application object; only those parts that say so need it. Whatever it returns by reference lives
@@ -34,6 +38,12 @@ public:
     virtual SystemLog& systemLog() = 0;
     virtual ProcessSignals& processSignals() = 0;
     virtual Screens& screens() = 0; ///< Needs the application object.
+
+    // Sound. The first use starts a thread.
+    virtual MicrophonePermission& microphonePermission() = 0;
+    virtual VoiceProcessing& voiceProcessing() = 0;
+    virtual RawMicrophone& rawMicrophone() = 0;
+    virtual AudioProcesses& audioProcesses() = 0;
 
     /// Settles what must be settled before the application object is made. Returns why the program
     /// cannot run here, in words for the user, or an empty text.

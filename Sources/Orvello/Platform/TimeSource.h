@@ -7,7 +7,7 @@
 
 namespace Orvello {
 
-/// The only clock and the only timer that services see. Main thread. Tests advance a
+/// The only clock and the only timer that services see. Main thread, but for now(). Tests advance a
 /// ManualTimeSource instead of waiting.
 class TimeSource {
 public:
@@ -26,7 +26,8 @@ public:
 
     virtual ~TimeSource() = default;
 
-    /// Monotonic seconds since an arbitrary moment. May stand still, never goes back.
+    /// Monotonic seconds since an arbitrary moment. May stand still, never goes back. Any thread,
+    /// the audio thread among them.
     virtual double now() const = 0;
 
     /// The wall clock, which the user may set at any time.

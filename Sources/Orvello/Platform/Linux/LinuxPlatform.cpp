@@ -1,4 +1,5 @@
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
+#include "Orvello/Platform/Linux/PulseSound.h"
 #include "Orvello/Platform/Linux/Syslog.h"
 #include "Orvello/Platform/Linux/X11Panel.h"
 #include "Orvello/Platform/Linux/XdgFolders.h"
@@ -6,6 +7,8 @@
 #include "Orvello/Platform/PosixProcessSignals.h"
 #include "Orvello/Platform/QtScreens.h"
 #include "Orvello/Platform/QtTimeSource.h"
+
+#include <optional>
 
 #include <xcb/xcb.h>
 
@@ -37,6 +40,11 @@ public:
     ProcessSignals& processSignals() override { return m_processSignals; }
     Screens& screens() override { return m_screens; }
 
+    MicrophonePermission& microphonePermission() override { return sound().permission; }
+    VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
+    RawMicrophone& rawMicrophone() override { return sound().microphone; }
+    AudioProcesses& audioProcesses() override { return sound().processes; }
+
     QString prepareApplication() override
     {
         if (!canConnectToDisplay())
@@ -52,12 +60,20 @@ public:
     }
 
 private:
+    PulseSound& sound()
+    {
+        if (!m_sound)
+            m_sound.emplace();
+        return *m_sound;
+    }
+
     QtTimeSource m_time;
     XdgFolders m_folders;
     JsonUserDefaults m_userDefaults;
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtScreens m_screens;
+    std::optional<PulseSound> m_sound;
 };
 
 } // namespace

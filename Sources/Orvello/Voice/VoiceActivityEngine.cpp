@@ -1,0 +1,264 @@
+#include "Orvello/Voice/VoiceActivityEngine.h"
+
+#include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Platform/MeetingApplications.h"
+#include "Orvello/Platform/MicActivity.h"
+#include "Orvello/Platform/Workspace.h"
+#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Voice/MicrophonePermission.h"
+#include "Orvello/Voice/RawMicrophone.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double watchdogSeconds = 1.0;
+constexpr int clearPollsBeforeAec = 5;
+constexpr int rawBlockFrames = 2048;
+
+} // namespace
+
+VoiceActivityEngine::VoiceActivityEngine(
+    SettingsStore& settings, const Ports& ports, QObject* parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_ports(ports)
+    , m_voiceProcessing(ports.voiceProcessing, *this)
+    , m_sensitivity(settings.voiceSensitivity())
+    , m_reportsArrived([this] { applyPendingReports(); })
+{
+    static_assert(std::atomic<double>::is_always_lock_free);
+    // Directly, not through the event loop: the very next block uses the new value.
+    connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
+        [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
+}
+
+VoiceActivityEngine::~VoiceActivityEngine() { stopCurrentCapture(); }
+
+QVariant VoiceActivityEngine::micAuthorizedOrNull() const
+{
+    return m_micAuthorized ? QVariant(*m_micAuthorized) : QVariant::fromValue(nullptr);
+}
+
+template <typename Value>
+void VoiceActivityEngine::publish(
+    Value& member, const Value& value, void (VoiceActivityEngine::*changed)())
+{
+    if (member == value)
+        return;
+    member = value;
+    Q_EMIT(this->*changed)();
+}
+
+void VoiceActivityEngine::requestPermissionAndStart()
+{
+    using Status = MicrophonePermission::Status;
+    switch (m_ports.permission.status()) {
+    case Status::NotDetermined:
+        requestPermission();
+        break;
+    case Status::Authorized:
+        publish(m_micAuthorized, std::optional(true), &VoiceActivityEngine::micAuthorizedChanged);
+        start();
+        break;
+    case Status::Denied:
+    case Status::Restricted:
+        publish(m_micAuthorized, std::optional(false), &VoiceActivityEngine::micAuthorizedChanged);
+        AppLog::write("Orvello mic permission previously denied");
+        break;
+    }
+}
+
+void VoiceActivityEngine::requestPermission()
+{
+    AppLog::write("Orvello requesting mic permission");
+    const auto decided = [engine = QPointer(this)](bool isGranted) {
+        if (engine)
+            engine->publish(engine->m_micAuthorized, std::optional(isGranted),
+                &VoiceActivityEngine::micAuthorizedChanged);
+        AppLog::write("Orvello mic permission granted=%d", isGranted ? 1 : 0);
+        if (isGranted && engine)
+            engine->start();
+    };
+    // The answer comes on any thread, perhaps after the engine: only the application itself is sure
+    // to be there to take it to the main loop.
+    m_ports.permission.request([decided](bool isGranted) {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [decided, isGranted] { decided(isGranted); },
+            Qt::QueuedConnection);
+    });
+}
+
+void VoiceActivityEngine::start()
+{
+    if (m_isListening)
+        return;
+    if (const std::optional<QString> reason = holdReason()) {
+        AppLog::write("Orvello VAD: AEC held (%@) — raw mic tap", *reason);
+        startFallback(RawPathCause::EnvironmentHoldsAec, reason);
+    } else if (m_voiceProcessing.start()) {
+        publish(m_isListening, true, &VoiceActivityEngine::isListeningChanged);
+        publish(m_aecActive, true, &VoiceActivityEngine::aecActiveChanged);
+        publish(m_aecHoldReason, {}, &VoiceActivityEngine::aecHoldReasonChanged);
+        AppLog::write("Orvello VAD listening (VPIO, AEC on)");
+    } else {
+        m_voiceProcessing.dispose();
+        startFallback(RawPathCause::VoiceProcessingFailed, {});
+    }
+    startWatchdog();
+}
+
+void VoiceActivityEngine::stop()
+{
+    m_watchdog.reset();
+    if (!m_isListening)
+        return;
+    stopCurrentCapture();
+    publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
+    publish(m_aecActive, false, &VoiceActivityEngine::aecActiveChanged);
+    publish(m_aecHoldReason, {}, &VoiceActivityEngine::aecHoldReasonChanged);
+    m_detector.stopSpeaking();
+    // What the audio thread reported before it ended takes effect before the reset, and what a new
+    // start reports takes effect after it.
+    const auto reset = [this, reports = m_reports.takeAll()] {
+        for (const BlockReport& report : reports)
+            apply(report);
+        publish(m_isSpeaking, false, &VoiceActivityEngine::isSpeakingChanged);
+        publish(m_level, 0.0f, &VoiceActivityEngine::levelChanged);
+    };
+    QMetaObject::invokeMethod(this, reset, Qt::QueuedConnection);
+}
+
+std::optional<QString> VoiceActivityEngine::holdReason() const
+{
+    if (m_ports.micActivity.otherProcessCapturingInput())
+        return u"another app is using the microphone"_s;
+    if (const std::optional<QString> name = runningMeetingAppName())
+        return *name + u" is open"_s;
+    return std::nullopt;
+}
+
+std::optional<QString> VoiceActivityEngine::runningMeetingAppName() const
+{
+    for (const RunningApplication& application : m_ports.workspace.runningApplications()) {
+        const std::optional<QString>& identifier = application.bundleIdentifier;
+        if (identifier && MeetingApplications::contain(*identifier))
+            return application.localizedName.value_or(*identifier);
+    }
+    return std::nullopt;
+}
+
+void VoiceActivityEngine::startWatchdog()
+{
+    m_watchdog = m_ports.time.callEvery(watchdogSeconds, [this] { watchdogTick(); });
+}
+
+void VoiceActivityEngine::watchdogTick()
+{
+    if (!m_isListening)
+        return;
+    const std::optional<QString> reason = holdReason();
+    if (m_aecActive && reason) {
+        AppLog::write("Orvello VAD: dropping AEC (%@) — switching to raw mic tap", *reason);
+        stopCurrentCapture();
+        startFallback(RawPathCause::EnvironmentHoldsAec, reason);
+        m_clearPolls = 0;
+    } else if (m_usingFallback && m_fallbackIsEnvironmental) {
+        reconsiderHold(reason);
+    }
+}
+
+void VoiceActivityEngine::reconsiderHold(const std::optional<QString>& reason)
+{
+    if (reason) {
+        m_clearPolls = 0;
+        publish(m_aecHoldReason, reason, &VoiceActivityEngine::aecHoldReasonChanged);
+        return;
+    }
+    if (++m_clearPolls < clearPollsBeforeAec)
+        return;
+    AppLog::write("Orvello VAD: environment clear — re-engaging AEC");
+    stopCurrentCapture();
+    if (m_voiceProcessing.start()) {
+        publish(m_aecActive, true, &VoiceActivityEngine::aecActiveChanged);
+        publish(m_aecHoldReason, {}, &VoiceActivityEngine::aecHoldReasonChanged);
+    } else {
+        m_voiceProcessing.dispose();
+        startFallback(RawPathCause::VoiceProcessingFailed, {});
+    }
+    m_clearPolls = 0;
+}
+
+void VoiceActivityEngine::stopCurrentCapture()
+{
+    if (m_usingFallback) {
+        m_ports.rawMicrophone.removeTap();
+        m_ports.rawMicrophone.stop();
+        m_usingFallback = false;
+    } else {
+        m_voiceProcessing.dispose();
+    }
+}
+
+void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<QString>& reason)
+{
+    RawMicrophone& microphone = m_ports.rawMicrophone;
+    if (!(microphone.sampleRate() > 0)) {
+        AppLog::write("Orvello VAD: no usable input device");
+        publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
+        return;
+    }
+    microphone.removeTap();
+    microphone.installTap(rawBlockFrames, *this);
+    if (const auto started = microphone.start(); !started) {
+        microphone.removeTap();
+        publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
+        AppLog::write("Orvello VAD failed to start: %@", started.error());
+        return;
+    }
+    m_usingFallback = true;
+    m_fallbackIsEnvironmental = cause == RawPathCause::EnvironmentHoldsAec;
+    publish(m_isListening, true, &VoiceActivityEngine::isListeningChanged);
+    publish(m_aecActive, false, &VoiceActivityEngine::aecActiveChanged);
+    publish(m_aecHoldReason, reason, &VoiceActivityEngine::aecHoldReasonChanged);
+    AppLog::write(
+        "Orvello VAD listening (raw mic, no AEC%@)", reason ? u" — "_s + *reason : QString());
+}
+
+void VoiceActivityEngine::onSamples(std::span<const float> samples) noexcept
+{
+    if (!samples.empty())
+        process(samples);
+}
+
+void VoiceActivityEngine::process(std::span<const float> samples) noexcept
+{
+    m_reports.push(m_detector.process(
+        samples, m_sensitivity.load(std::memory_order_relaxed), m_ports.time.now()));
+    m_reportsArrived.signal();
+}
+
+void VoiceActivityEngine::applyPendingReports()
+{
+    while (const std::optional<BlockReport> report = m_reports.pop())
+        apply(*report);
+}
+
+void VoiceActivityEngine::apply(const BlockReport& report)
+{
+    publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
+    if (m_isSpeaking == report.isSpeaking)
+        return;
+    publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);
+    AppLog::write("Orvello VAD speaking=%d rms=%.4f thr=%.4f", report.isSpeaking ? 1 : 0,
+        report.rootMeanSquare, report.threshold);
+}
+
+} // namespace Orvello

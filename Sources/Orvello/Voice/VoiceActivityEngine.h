@@ -1,0 +1,124 @@
+#pragma once
+
+#include "Orvello/Platform/TimeSource.h"
+#include "Orvello/Platform/WakeUp.h"
+#include "Orvello/Voice/ReportQueue.h"
+#include "Orvello/Voice/SampleListener.h"
+#include "Orvello/Voice/VoiceActivityDetector.h"
+#include "Orvello/Voice/VoiceProcessingCapture.h"
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace Orvello {
+
+class MicActivity;
+class MicrophonePermission;
+class RawMicrophone;
+class SettingsStore;
+class VoiceProcessing;
+class Workspace;
+
+/// Owns the microphone while the prompter follows the voice. It prefers the voice-processing unit,
+/// whose echo cancellation keeps what this computer plays from moving the prompter, and holds it
+/// back for the raw microphone while another program needs the microphone too: the unit would spoil
+/// that program's sound. Main thread, but for the samples.
+class VoiceActivityEngine final : public QObject, private SampleListener {
+    Q_OBJECT
+    Q_PROPERTY(bool isSpeaking READ isSpeaking NOTIFY isSpeakingChanged FINAL)
+    Q_PROPERTY(float level READ level NOTIFY levelChanged FINAL)
+    // Null until the permission is known.
+    Q_PROPERTY(QVariant micAuthorized READ micAuthorizedOrNull NOTIFY micAuthorizedChanged FINAL)
+    Q_PROPERTY(bool isListening READ isListening NOTIFY isListeningChanged FINAL)
+    Q_PROPERTY(bool aecActive READ aecActive NOTIFY aecActiveChanged FINAL)
+    // Empty while echo cancellation is not held.
+    Q_PROPERTY(QString aecHoldReason READ aecHoldReasonOrEmpty NOTIFY aecHoldReasonChanged FINAL)
+
+public:
+    /// What the engine needs of the system. All must outlive it.
+    struct Ports {
+        TimeSource& time; ///< Its now() is also asked on the audio thread.
+        MicrophonePermission& permission;
+        VoiceProcessing& voiceProcessing;
+        RawMicrophone& rawMicrophone;
+        MicActivity& micActivity;
+        const Workspace& workspace;
+    };
+
+    /// Touches no audio. `settings` must outlive the engine.
+    VoiceActivityEngine(SettingsStore& settings, const Ports& ports, QObject* parent = nullptr);
+    ~VoiceActivityEngine() override;
+
+    bool isSpeaking() const { return m_isSpeaking; } ///< The gate of the scrolling.
+    float level() const { return m_level; } ///< Smoothed loudness, 0 to 1.
+    std::optional<bool> micAuthorized() const { return m_micAuthorized; }
+    bool isListening() const { return m_isListening; }
+    bool aecActive() const { return m_aecActive; } ///< Echo cancellation is on.
+    /// Why echo cancellation is held, for the user; none when it is not.
+    const std::optional<QString>& aecHoldReason() const { return m_aecHoldReason; }
+
+    void requestPermissionAndStart();
+    void stop();
+
+Q_SIGNALS:
+    void isSpeakingChanged();
+    void levelChanged();
+    void micAuthorizedChanged();
+    void isListeningChanged();
+    void aecActiveChanged();
+    void aecHoldReasonChanged();
+
+private:
+    QVariant micAuthorizedOrNull() const;
+    QString aecHoldReasonOrEmpty() const { return m_aecHoldReason.value_or(QString()); }
+
+    template <typename Value>
+    void publish(Value& member, const Value& value, void (VoiceActivityEngine::*changed)());
+
+    void requestPermission();
+    void start();
+    void startWatchdog();
+    void watchdogTick();
+    void reconsiderHold(const std::optional<QString>& reason);
+    std::optional<QString> holdReason() const;
+    std::optional<QString> runningMeetingAppName() const;
+
+    enum class RawPathCause { EnvironmentHoldsAec, VoiceProcessingFailed };
+    void startFallback(RawPathCause cause, const std::optional<QString>& reason);
+    void stopCurrentCapture();
+
+    void onSamples(std::span<const float> samples) noexcept override;
+    void process(std::span<const float> samples) noexcept; ///< The audio thread.
+
+    void applyPendingReports();
+    void apply(const BlockReport& report);
+
+    SettingsStore& m_settings;
+    Ports m_ports;
+
+    bool m_isSpeaking = false;
+    float m_level = 0;
+    std::optional<bool> m_micAuthorized;
+    bool m_isListening = false;
+    bool m_aecActive = false;
+    std::optional<QString> m_aecHoldReason;
+
+    VoiceProcessingCapture m_voiceProcessing;
+    bool m_usingFallback = false;
+    bool m_fallbackIsEnvironmental = false;
+    int m_clearPolls = 0;
+    std::unique_ptr<TimeSource::Ticket> m_watchdog;
+
+    VoiceActivityDetector m_detector; ///< The audio thread's, while one runs.
+    std::atomic<double> m_sensitivity; ///< Mirrors the setting for the audio thread.
+    ReportQueue m_reports;
+    WakeUp m_reportsArrived;
+};
+
+} // namespace Orvello

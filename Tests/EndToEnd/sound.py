@@ -1,0 +1,215 @@
+"""A private sound server to speak to the program: null sinks as loudspeaker and air, a microphone that hears the air."""
+
+import array
+import contextlib
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import time
+import wave
+
+RATE = 48000
+
+
+def wait_until(condition, seconds=10.0, what="a condition"):
+    """Polls until condition() is true and returns its value; fails after the given seconds."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > deadline:
+            raise AssertionError(f"gave up after {seconds} s waiting for {what}")
+        time.sleep(0.02)
+
+
+class SoundServer(contextlib.ExitStack):
+    """PulseAudio with a home of its own. Everything is started here and stopped here, by process id."""
+
+    MODULES = [
+        "module-native-protocol-unix",
+        "module-null-sink sink_name=speakers rate=48000 channels=2",
+        "module-null-sink sink_name=air rate=48000 channels=1",
+        "module-remap-source master=air.monitor source_name=microphone channels=1",
+    ]
+
+    def __init__(self, modules=None, default_source="microphone", environment=None):
+        super().__init__()
+        self.modules = self.MODULES if modules is None else modules
+        self.default_source = default_source
+        self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="orvello-sound-"))
+        self.callback(shutil.rmtree, self.scratch, ignore_errors=True)
+        if environment is None:
+            runtime = self.scratch / "runtime"
+            runtime.mkdir(mode=0o700)
+            environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": str(self.scratch),
+                           "XDG_RUNTIME_DIR": str(runtime)}
+        self.environment = environment
+        self.server = None
+        self.callback(self.stop_server)
+
+    def start_server(self):
+        script = self.scratch / "server.pa"
+        lines = [f"load-module {module}" for module in self.modules]
+        if self.default_source:
+            lines += [f"set-default-source {self.default_source}", "set-default-sink speakers"]
+        script.write_text("\n".join(lines) + "\n")
+        self.server = self.start(
+            ["pulseaudio", "-n", "-F", str(script), "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+             "--disable-shm=yes", "--log-target=stderr"])
+        wait_until(self._answers, what="the sound server")
+
+    def _answers(self):
+        if self.server.poll() is not None:
+            raise AssertionError((self.scratch / "pulseaudio.log").read_text())
+        return subprocess.run(["pactl", "info"], env=self.environment, capture_output=True).returncode == 0
+
+    def stop_server(self):
+        if self.server:
+            self.stop(self.server)
+        self.server = None
+
+    def start(self, command, **options):
+        """Starts a process that ends with the server at the latest."""
+        log = open(self.scratch / f"{pathlib.Path(command[0]).name}.log", "ab")
+        self.callback(log.close)
+        options = {"stdout": log, "stderr": log, "stdin": subprocess.DEVNULL} | options
+        process = subprocess.Popen(command, env=self.environment, **options)
+        self.callback(self.stop, process)
+        return process
+
+    @staticmethod
+    def stop(process):
+        if process.poll() is None:
+            process.terminate()
+            try:
+                process.wait(10)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+
+    def control(self, *words):
+        return subprocess.run(["pactl", *words], env=self.environment, check=True, capture_output=True, text=True,
+                              timeout=20).stdout
+
+    def play(self, *parts):
+        """Begins to play pairs of samples and sink, all at the same time; returns the players' processes."""
+        commands = []
+        for samples, sink in parts:
+            path = self.scratch / f"play-{time.monotonic_ns()}.wav"
+            write_wave(path, samples)
+            commands.append(["paplay", f"--device={sink}", "--latency-msec=30", str(path)])
+        return [self.start(command) for command in commands]
+
+
+class Probe:
+    """The voice engine without a window; see VoiceProbe.cpp."""
+
+    def __init__(self, sound, command=None, environment=None):
+        self.output = sound.scratch / f"probe-{time.monotonic_ns()}.txt"
+        folder = sound.scratch / "probe-home"
+        folder.mkdir(exist_ok=True)
+        with open(self.output, "wb") as output:
+            self.process = subprocess.Popen(
+                [*(command or [os.environ["ORVELLO_VOICE_PROBE"]]), str(folder)],
+                env=sound.environment | (environment or {}), stdin=subprocess.PIPE, stdout=output, stderr=subprocess.STDOUT)
+        sound.callback(sound.stop, self.process)
+        sound.callback(self.process.stdin.close)
+
+    def command(self, line):
+        self.process.stdin.write(line.encode() + b"\n")
+        self.process.stdin.flush()
+
+    def lines(self):
+        """What it logged so far, as (monotonic time, message)."""
+        result = []
+        for line in self.output.read_text().splitlines():
+            moment, _, message = line.partition(" ")
+            with contextlib.suppress(ValueError):
+                result.append((float(moment), message))
+        return result
+
+    def messages(self):
+        return [message for _, message in self.lines()]
+
+    def wait_for(self, message, seconds=5.0, since=0.0):
+        """When a message that begins like this first came after a moment."""
+        def found():
+            if self.process.poll() is not None:
+                raise AssertionError(f"the probe ended ({self.process.returncode}):\n{self.output.read_text()}")
+            return [moment for moment, text in self.lines() if moment >= since and text.startswith(message)]
+        return wait_until(found, seconds, f"{message!r} in\n{self.output.read_text()}")[0]
+
+    def answer(self, question):
+        asked = time.monotonic()
+        self.command(question)
+        self.wait_for(question, since=asked)
+        return [text for moment, text in self.lines() if moment >= asked and text.startswith(question)][0]
+
+    def share_of_speaking(self, begin, end):
+        """For which part of a time the gate was open."""
+        is_open, last, total = False, begin, 0.0
+        for moment, message in self.lines() + [(end, "VAD speaking=end")]:
+            if not message.startswith("VAD speaking="):
+                continue
+            now = min(max(moment, begin), end)
+            total += (now - last) if is_open else 0.0
+            last, is_open = now, message.startswith("VAD speaking=1")
+        return total / (end - begin)
+
+
+# Signals: lists of floats at RATE.
+
+def speech(text, scratch, voice="en", level=0.1, speed=150):
+    """Spoken text, without the silence around it, at a loudness (RMS) of `level`."""
+    path = pathlib.Path(scratch) / "speech.wav"
+    subprocess.run(["espeak-ng", "-v", voice, "-s", str(speed), "-w", str(path), text], check=True, capture_output=True)
+    with wave.open(str(path)) as file:
+        assert file.getnchannels() == 1 and file.getsampwidth() == 2
+        rate = file.getframerate()
+        raw = array.array("h", file.readframes(file.getnframes()))
+    samples = resampled([value / 32768 for value in raw], rate)
+    loud = [index for index, value in enumerate(samples) if abs(value) > 0.01]
+    samples = samples[loud[0]:loud[-1] + 1]
+    rms = (sum(value * value for value in samples) / len(samples)) ** 0.5
+    return [value * level / rms for value in samples]
+
+
+def resampled(samples, rate):
+    step = rate / RATE
+    result = []
+    for index in range(int(len(samples) / step) - 1):
+        position = index * step
+        low = int(position)
+        part = position - low
+        high = min(low + 1, len(samples) - 1)
+        result.append(samples[low] * (1 - part) + samples[high] * part)
+    return result
+
+
+def silence(seconds):
+    return [0.0] * int(seconds * RATE)
+
+
+def scaled(samples, decibels):
+    factor = 10 ** (decibels / 20)
+    return [value * factor for value in samples]
+
+
+def mixed(*signals):
+    length = max(len(signal) for signal in signals)
+    result = [0.0] * length
+    for signal in signals:
+        for index, value in enumerate(signal):
+            result[index] += value
+    return result
+
+
+def write_wave(path, samples):
+    with wave.open(str(path), "wb") as file:
+        file.setnchannels(1)
+        file.setsampwidth(2)
+        file.setframerate(RATE)
+        file.writeframes(array.array("h", [max(-32768, min(32767, int(value * 32767))) for value in samples]).tobytes())
