@@ -30,9 +30,16 @@ struct Script {
     Date updatedAt;
     std::optional<QList<SlideNote>>
         slides; ///< Present only for a deck script; never changes after the import.
-    std::optional<QString> deckSource; ///< The deck's file name or the open document's application.
+    std::optional<QString> deckSource; ///< The deck's file name or the open document's name.
+
+    /// A script with a fresh id that was made and last edited at `now`.
+    [[nodiscard]] static Script create(const QString& title, const QString& body, Date now);
 
     friend bool operator==(const Script&, const Script&) = default;
 };
+
+/// The text of a whole deck: one block per slide, in the given order and a blank line apart, each
+/// with the slide's number and title above its notes.
+[[nodiscard]] QString joinedBody(const QList<SlideNote>& slides);
 
 } // namespace Orvello

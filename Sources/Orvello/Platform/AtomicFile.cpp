@@ -1,13 +1,14 @@
 #include "Orvello/Platform/AtomicFile.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <QRandomGenerator>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <sys/uio.h>
@@ -58,39 +59,89 @@ bool writePieces(int descriptor, std::span<const std::string_view> pieces)
     return true;
 }
 
-/// The permissions of the file that is replaced, or what the user's mask gives a new one.
-mode_t permissionsFor(const std::string& target)
+/// The file that `path` names in the end, which need not exist; nothing if its symbolic links go
+/// round in a circle.
+std::optional<std::string> followLinks(std::filesystem::path path)
 {
-    struct stat status { };
-    if (::stat(target.c_str(), &status) == 0)
-        return status.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
+    constexpr int mostLinks = 40; // As many as the kernel follows.
+    for (int i = 0; i < mostLinks; ++i) {
+        std::error_code notALink;
+        const std::filesystem::path next = std::filesystem::read_symlink(path, notALink);
+        if (notALink)
+            return path.string();
+        path = path.parent_path() / next;
+    }
+    return std::nullopt;
 }
+
+/// A new file beside the one that it is going to replace. Removed again unless it took its place.
+class TemporaryFile {
+public:
+    /// The kernel applies the user's mask to `mode`.
+    TemporaryFile(const std::string& target, mode_t mode)
+    {
+        do {
+            const quint64 number = QRandomGenerator::global()->generate64();
+            m_path = target + '.' + QByteArray::number(number, 36).toStdString();
+            m_descriptor = ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        } while (m_descriptor < 0 && errno == EEXIST);
+        m_exists = m_descriptor >= 0;
+    }
+    ~TemporaryFile()
+    {
+        close();
+        if (m_exists)
+            ::unlink(m_path.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    bool write(std::span<const std::string_view> pieces)
+    {
+        return writePieces(m_descriptor, pieces);
+    }
+    bool setPermissions(mode_t mode) { return ::fchmod(m_descriptor, mode) == 0; }
+    bool close() // Some file systems report a full disk only here.
+    {
+        const int descriptor = std::exchange(m_descriptor, -1);
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
+    bool moveTo(const std::string& target)
+    {
+        const bool isMoved = ::rename(m_path.c_str(), target.c_str()) == 0;
+        m_exists = m_exists && !isMoved;
+        return isMoved;
+    }
+
+private:
+    std::string m_path;
+    int m_descriptor = -1;
+    bool m_exists = false;
+};
 
 } // namespace
 
 bool replace(const QString& path, std::span<const std::string_view> pieces)
 {
-    const QString resolved = QFileInfo(path).canonicalFilePath();
-    const std::string target
-        = QFile::encodeName(resolved.isEmpty() ? path : resolved).toStdString();
-    std::string temporary = target + ".XXXXXX";
-    const int descriptor = ::mkstemp(temporary.data());
-    if (descriptor < 0)
+    const auto target = followLinks(QFile::encodeName(path).toStdString());
+    if (!target)
+        return false;
+    struct stat old { };
+    const bool isReplacing = ::stat(target->c_str(), &old) == 0;
+    if (isReplacing && !S_ISREG(old.st_mode))
         return false;
 
-    // No fsync(2): it would stall every key press on a slow disk, and the file systems in use order
-    // the data of a replacing rename before the rename itself (auto_da_alloc on ext4, and by design
-    // on Btrfs, XFS and APFS).
-    const bool isWritten
-        = writePieces(descriptor, pieces) && ::fchmod(descriptor, permissionsFor(target)) == 0;
-    const bool isClosed = ::close(descriptor) == 0;
-    if (isWritten && isClosed && ::rename(temporary.c_str(), target.c_str()) == 0)
-        return true;
-    ::unlink(temporary.c_str());
-    return false;
+    // Nobody may read the new bytes who could not read the old ones, not even meanwhile.
+    TemporaryFile file(*target, isReplacing ? 0600 : 0666);
+    if (!file.isOpen() || !file.write(pieces))
+        return false;
+    if (isReplacing && !file.setPermissions(old.st_mode & 07777))
+        return false;
+    // No fsync(2): it would stall every key press on a slow disk. A rename over an existing file
+    // already makes ext4 (auto_da_alloc) and Btrfs write its data out first, so that a power cut,
+    // too, leaves one of the two files whole there.
+    return file.close() && file.moveTo(*target);
 }
 
 bool replace(const QString& path, std::string_view bytes)

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+#include <QVariantMap>
+
+namespace Orvello::LaunchArguments {
+
+/// The preferences that a command line sets for one run: each pair `-Key value` gives one string
+/// under its key.
+///
+/// A key is an argument that starts with exactly one dash and does not read as a negative number;
+/// its value is the argument after it, if there is one that is not itself a key or a `--switch`. A
+/// key without a value, and everything else, is passed over. Of a repeated key the last value
+/// counts. The first of `arguments` is the program's name.
+[[nodiscard]] QVariantMap preferences(const QStringList& arguments);
+
+} // namespace Orvello::LaunchArguments
