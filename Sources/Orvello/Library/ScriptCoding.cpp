@@ -123,7 +123,7 @@ bool LibraryDecoder::number(std::string_view digits)
     if (m_field == Field::CreatedAt || m_field == Field::UpdatedAt) {
         const std::optional<double> seconds = Json::finite(digits);
         (m_field == Field::CreatedAt ? m_script.createdAt : m_script.updatedAt)
-            = { seconds.value_or(0) };
+            = { seconds ? *seconds : 0.0 };
         return seconds.has_value();
     }
     return false;
