@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Platform/Linux/ProcessTable.h"
 #include "Orvello/Platform/Workspace.h"
 
 #include <string>
@@ -20,7 +21,7 @@ public:
 
 private:
     const X11Windows& m_windows;
-    std::string m_processTable;
+    mutable ProcessTable m_processes; ///< What it remembers only saves work.
 };
 
 } // namespace Orvello
