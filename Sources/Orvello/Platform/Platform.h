@@ -9,13 +9,17 @@ class QWindow;
 
 namespace Orvello {
 
+class ChildProcess;
 class Folders;
+class HelperProcess;
 class NativePanel;
 class ProcessSignals;
 class Screens;
 class SystemLog;
 class TimeSource;
 class UserDefaults;
+class WindowServer;
+class Workspace;
 
 /// Every port, for the composition root, which hands them down by reference. Made before the
 /// application object; only those parts that say so need it. Whatever it returns by reference lives
@@ -34,6 +38,13 @@ public:
     virtual SystemLog& systemLog() = 0;
     virtual ProcessSignals& processSignals() = 0;
     virtual Screens& screens() = 0; ///< Needs the application object.
+    virtual Workspace& workspace() = 0; ///< Needs the application object.
+    virtual WindowServer& windowServer() = 0; ///< Needs the application object.
+    virtual ChildProcess& childProcess() = 0; ///< Needs the application object.
+
+    /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
+    /// Needs the application object.
+    virtual HelperProcess* impressHelper() = 0;
 
     /// Settles what must be settled before the application object is made. Returns why the program
     /// cannot run here, in words for the user, or an empty text.

@@ -1,9 +1,14 @@
+#include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
+#include "Orvello/Platform/Linux/LinuxWorkspace.h"
 #include "Orvello/Platform/Linux/Syslog.h"
 #include "Orvello/Platform/Linux/X11Panel.h"
+#include "Orvello/Platform/Linux/X11WindowServer.h"
+#include "Orvello/Platform/Linux/X11Windows.h"
 #include "Orvello/Platform/Linux/XdgFolders.h"
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/PosixProcessSignals.h"
+#include "Orvello/Platform/QtChildProcess.h"
 #include "Orvello/Platform/QtScreens.h"
 #include "Orvello/Platform/QtTimeSource.h"
 
@@ -36,6 +41,16 @@ public:
     SystemLog& systemLog() override { return m_systemLog; }
     ProcessSignals& processSignals() override { return m_processSignals; }
     Screens& screens() override { return m_screens; }
+    Workspace& workspace() override { return m_workspace; }
+    WindowServer& windowServer() override { return m_windowServer; }
+    ChildProcess& childProcess() override { return m_childProcess; }
+
+    HelperProcess* impressHelper() override
+    {
+        if (!m_impressHelper)
+            m_impressHelper = makeImpressHelper();
+        return m_impressHelper.get();
+    }
 
     QString prepareApplication() override
     {
@@ -58,6 +73,11 @@ private:
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtScreens m_screens;
+    X11Windows m_windows;
+    LinuxWorkspace m_workspace { m_windows };
+    X11WindowServer m_windowServer { m_windows };
+    QtChildProcess m_childProcess;
+    std::unique_ptr<HelperProcess> m_impressHelper;
 };
 
 } // namespace

@@ -3,9 +3,9 @@
 
     impress-helper.py slide      prints the number of the slide on screen, 1-based
     impress-helper.py deck       prints the open deck: its name, then for every slide U+001E, the title, U+001F, the notes
-    impress-helper.py serve      answers one question per input line with one line of JSON, until its input ends
     impress-helper.py allow      lets Orvello ask LibreOffice, from now on
     impress-helper.py disallow   takes that back
+    impress-helper.py serve      does the same for every line of its input, answering with one line of JSON each
 
 A failed command prints why on standard error and exits with 1. The texts mean what they mean for the other
 presentation programs: NO_DOCUMENT when no presentation is open, and the error number -1743 when LibreOffice does not
@@ -29,7 +29,7 @@ RECORD_SEPARATOR = "\x1e"
 UNIT_SEPARATOR = "\x1f"
 
 # While LibreOffice starts, its windows may be there before it listens.
-CONNECT_SECONDS = 1.5
+CONNECT_SECONDS = 3.0
 START_SECONDS = 60
 RETRY_SECONDS = 0.1
 
@@ -115,7 +115,7 @@ class Office:
                 if hasattr(document, "supportsService") and document.supportsService(PRESENTATION)]
 
     def ask(self, question):
-        """Answers a question, with a fresh connection if the old one turns out to be dead."""
+        """Does what QUESTIONS says, with a fresh connection if the old one turns out to be dead."""
         had_connection = self._desktop is not None
         try:
             return QUESTIONS[question](self)
@@ -172,27 +172,6 @@ def open_deck(office):
     return RECORD_SEPARATOR.join(record)
 
 
-QUESTIONS = {"slide": current_slide, "deck": open_deck}
-
-
-def reply(office, question):
-    """The question's answer as an exit status, standard output and standard error."""
-    try:
-        if question not in QUESTIONS:
-            raise Failure(f"Unknown question: {question}")
-        return {"status": 0, "output": office.ask(question) + "\n", "error": ""}
-    except Failure as failure:
-        return {"status": 1, "output": "", "error": str(failure)}
-    except Exception as error:  # Whatever LibreOffice throws while a document closes.
-        return {"status": 1, "output": "", "error": f"{type(error).__name__}: {error}"}
-
-
-def serve():
-    office = Office()
-    for line in sys.stdin:
-        print(json.dumps(reply(office, line.strip())), flush=True)
-
-
 # Letting Orvello in
 
 
@@ -239,7 +218,7 @@ def terminate(desktop):
         pass  # The connection ends with LibreOffice.
 
 
-def allow():
+def allow(_office):
     def change(settings):
         current = settings.getByName(CONNECTION_SETTING)
         if current not in ("", ACCEPT):
@@ -250,7 +229,7 @@ def allow():
     return "Orvello may now follow Impress. `impress-helper.py disallow` takes that back."
 
 
-def disallow():
+def disallow(_office):
     def change(settings):
         if settings.getByName(CONNECTION_SETTING) == ACCEPT:
             settings.replaceByName(CONNECTION_SETTING, "")
@@ -260,26 +239,42 @@ def disallow():
     return "Orvello may no longer follow Impress."
 
 
+# Questions and answers
+
+QUESTIONS = {"slide": current_slide, "deck": open_deck, "allow": allow, "disallow": disallow}
+
+
+def reply(office, question):
+    """The question's answer as an exit status, standard output and standard error."""
+    try:
+        if question not in QUESTIONS:
+            raise Failure(f"Unknown question: {question}")
+        return {"status": 0, "output": office.ask(question) + "\n", "error": ""}
+    except Failure as failure:
+        return {"status": 1, "output": "", "error": str(failure)}
+    except Exception as error:  # Whatever LibreOffice throws while a document closes.
+        return {"status": 1, "output": "", "error": f"{type(error).__name__}: {error}"}
+
+
+def serve():
+    office = Office()
+    for line in sys.stdin:
+        print(json.dumps(reply(office, line.strip())), flush=True)
+
+
 def main(arguments):
     command = arguments[0] if len(arguments) == 1 else ""
     if command == "serve":
         serve()
         return 0
-    if command in QUESTIONS:
-        answer = reply(Office(), command)
-        sys.stdout.write(answer["output"])
-        if answer["error"]:
-            print(answer["error"], file=sys.stderr)
-        return answer["status"]
-    if command in ("allow", "disallow"):
-        try:
-            print({"allow": allow, "disallow": disallow}[command]())
-            return 0
-        except Failure as failure:
-            print(failure, file=sys.stderr)
-            return 1
-    print(__doc__, file=sys.stderr)
-    return 2
+    if command not in QUESTIONS:
+        print(__doc__, file=sys.stderr)
+        return 2
+    answer = reply(Office(), command)
+    sys.stdout.write(answer["output"])
+    if answer["error"]:
+        print(answer["error"], file=sys.stderr)
+    return answer["status"]
 
 
 if __name__ == "__main__":
