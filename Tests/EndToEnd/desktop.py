@@ -8,7 +8,7 @@ import json
 import os
 import pathlib
 import shutil
-import signal
+from signal import Signals
 import subprocess
 import tempfile
 import time
@@ -227,7 +227,7 @@ class App:
     def signal(self, number):
         self.process.send_signal(number)
 
-    def quit(self, number=signal.SIGTERM):
+    def quit(self, number=int(Signals.SIGTERM)):
         """Quits the program and returns its exit status."""
         self.process.send_signal(number)
         return self.process.wait(15)

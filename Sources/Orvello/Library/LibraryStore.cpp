@@ -171,9 +171,15 @@ Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
     const QString fileName = QFileInfo(path).fileName();
     AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides->size(), fileName);
 
-    Script script = Script::create(withoutExtension(fileName), joinedBody(*slides), m_time.date());
-    script.slides = *slides;
-    script.deckSource = source.value_or(fileName);
+    return addDeck(withoutExtension(fileName), *slides, source.value_or(fileName));
+}
+
+QUuid LibraryStore::addDeck(
+    const QString& title, const QList<SlideNote>& slides, const QString& source)
+{
+    Script script = Script::create(title, joinedBody(slides), m_time.date());
+    script.slides = slides;
+    script.deckSource = source;
     return addOnTop(script);
 }
 

@@ -58,6 +58,9 @@ public:
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
+    /// Adds a deck's speaker notes on top and makes them active.
+    QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
+
     /// The body of a deck script.
     [[nodiscard]] static QString joinedBody(const QList<SlideNote>& slides);
 

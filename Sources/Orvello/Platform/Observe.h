@@ -3,6 +3,9 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
+#include <optional>
+#include <type_traits>
 #include <utility>
 
 namespace Orvello {
@@ -23,6 +26,39 @@ void observe(Source& source, Getter getter, Signal changed, QObject& context, Ha
             Qt::QueuedConnection);
     };
     QObject::connect(&source, changed, &context, deliver);
+    deliver();
+}
+
+/// One of the changes that a combined subscription listens to.
+template <typename Source, typename Signal>
+struct Change {
+    Source& source;
+    Signal signal;
+};
+template <typename Source, typename Signal>
+Change<Source, Signal> changeOf(Source& source, Signal signal)
+{
+    return { source, signal };
+}
+
+/// Subscribes `handler` to a value that is computed from several published ones: it receives the
+/// value as it is now, and then each time one of the changes makes it another. Otherwise as above.
+template <typename Compute, typename Handler, typename... Sources, typename... Signals>
+void observeCombined(
+    QObject& context, Compute compute, Handler handler, Change<Sources, Signals>... changes)
+{
+    using Value = std::invoke_result_t<Compute>;
+    const auto last = std::make_shared<std::optional<Value>>();
+    const auto deliver = [&context, compute, handler, last] {
+        Value value = compute();
+        if (*last == value)
+            return;
+        *last = value;
+        QMetaObject::invokeMethod(
+            &context, [handler, value = std::move(value)] { handler(value); },
+            Qt::QueuedConnection);
+    };
+    (QObject::connect(&changes.source, changes.signal, &context, deliver), ...);
     deliver();
 }
 

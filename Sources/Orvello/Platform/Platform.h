@@ -10,7 +10,9 @@ class QWindow;
 namespace Orvello {
 
 class AudioProcesses;
+class ChildProcess;
 class Folders;
+class HelperProcess;
 class MicrophonePermission;
 class NativePanel;
 class ProcessSignals;
@@ -20,6 +22,8 @@ class SystemLog;
 class TimeSource;
 class UserDefaults;
 class VoiceProcessing;
+class WindowServer;
+class Workspace;
 
 /// Every port, for the composition root, which hands them down by reference. Made before the
 /// application object; only those parts that say so need it. Whatever it returns by reference lives
@@ -37,7 +41,16 @@ public:
     virtual Folders& folders() = 0;
     virtual SystemLog& systemLog() = 0;
     virtual ProcessSignals& processSignals() = 0;
-    virtual Screens& screens() = 0; ///< Needs the application object.
+    virtual ChildProcess& childProcess() = 0;
+
+    // What is on the user's desktop. Each of these needs the application object.
+    virtual Screens& screens() = 0;
+    virtual Workspace& workspace() = 0;
+    virtual WindowServer& windowServer() = 0;
+
+    /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
+    /// Needs the application object.
+    virtual HelperProcess* impressHelper() = 0;
 
     // Sound. The first use starts a thread.
     virtual MicrophonePermission& microphonePermission() = 0;

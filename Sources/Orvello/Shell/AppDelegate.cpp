@@ -1,7 +1,10 @@
 #include "Orvello/Shell/AppDelegate.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Platform/Observe.h"
 #include "Orvello/Platform/Platform.h"
+#include "Orvello/Presentations/AppleScriptPresenters.h"
+#include "Orvello/Presentations/ImpressPresenter.h"
 #include "Orvello/Presentations/PptxImporter.h"
 #include "Orvello/Shell/PrompterWindow.h"
 
@@ -16,18 +19,41 @@ AppDelegate::AppDelegate(Platform& platform, const LaunchOptions& options)
     , m_options(options)
     , m_settings(platform.userDefaults())
     , m_library(platform.userDefaults(), platform.folders(), platform.time())
+    , m_scriptRunner(platform.childProcess())
+    , m_micActivity(platform.audioProcesses(), QCoreApplication::applicationPid())
+    , m_presentation({ m_presenters, platform.workspace(), platform.windowServer(), m_micActivity,
+          platform.time() })
     , m_engine(m_settings, platform.time())
+    , m_voice(m_settings,
+          { platform.time(), platform.microphonePermission(), platform.voiceProcessing(),
+              platform.rawMicrophone(), m_micActivity, platform.workspace() })
+    , m_slideSync(m_presentation, m_presenters, platform.time())
+    , m_deck(m_library, m_settings, m_slideSync)
 {
     SettingsStore::adoptShared(m_settings);
     LibraryStore::adoptShared(m_library);
+    addPresenters();
 }
 
 AppDelegate::~AppDelegate() = default;
 
+void AppDelegate::addPresenters()
+{
+    m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
+    m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
+    if (HelperProcess* helper = m_platform.impressHelper())
+        m_presenters.add(ImpressPresenter::row(*helper));
+}
+
 void AppDelegate::applicationDidFinishLaunching()
 {
     makePanel();
-    m_panelController->orderFrontRegardless();
+    showPanel();
+    if (m_options.voice)
+        m_settings.setVoiceFollow(true);
+    subscribe();
+    m_presentation.start();
+    followSlideTracking();
     importDeckFromEnvironment();
     if (m_options.autostart)
         m_engine.start();
@@ -38,19 +64,57 @@ void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
 
 void AppDelegate::togglePanel()
 {
-    if (m_panelController->isPanelVisible())
-        m_panelController->orderOut();
+    if (m_panelController->panel().isVisible())
+        m_panelController->panel().orderOut();
     else
-        m_panelController->orderFrontRegardless();
+        showPanel();
 }
 
 void AppDelegate::makePanel()
 {
-    m_prompterWindow = std::make_unique<PrompterWindow>(
-        PrompterWindow::Services { m_engine, m_settings, m_library, m_options.noStealth });
+    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services {
+        m_engine, m_settings, m_deck, m_platform.time(), m_options.noStealth });
     m_panel = m_platform.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
-        *m_panel, m_platform.screens(), m_engine, m_options.noStealth);
+        PrompterPanelController::Services { *m_panel, m_engine, m_settings, m_presentation,
+            m_platform.time(), m_platform.screens(), m_platform.folders() },
+        m_options.noStealth);
+}
+
+void AppDelegate::showPanel()
+{
+    m_panelController->panel().orderFrontRegardless();
+    m_panelController->reassertStealth();
+}
+
+void AppDelegate::subscribe()
+{
+    observe(m_settings, &SettingsStore::stealthMode, &SettingsStore::stealthModeChanged, *this,
+        [this](bool on) { m_panelController->applyStealthMode(on); });
+    observe(m_settings, &SettingsStore::voiceFollow, &SettingsStore::voiceFollowChanged, *this,
+        [this](bool on) {
+            m_engine.setVoiceFollowActive(on);
+            if (on)
+                m_voice.requestPermissionAndStart();
+            else
+                m_voice.stop();
+        });
+    observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
+        *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
+}
+
+/// Slide tracking is on exactly while the setting is and the active script has slides.
+void AppDelegate::followSlideTracking()
+{
+    const auto isTracking = [this] {
+        const Script* script = m_library.activeScript();
+        return m_settings.slideSync() && script && script->slides && !script->slides->isEmpty();
+    };
+    observeCombined(
+        *this, isTracking, [this](bool isOn) { m_slideSync.setActive(isOn); },
+        changeOf(m_settings, &SettingsStore::slideSyncChanged),
+        changeOf(m_library, &LibraryStore::activeScriptIDChanged),
+        changeOf(m_library, &LibraryStore::scriptsChanged));
 }
 
 void AppDelegate::importDeckFromEnvironment()

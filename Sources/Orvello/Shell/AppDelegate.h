@@ -1,11 +1,18 @@
 #pragma once
 
 #include "Orvello/Library/LibraryStore.h"
+#include "Orvello/Platform/AppleScriptRunner.h"
 #include "Orvello/Platform/ProcessSignals.h"
+#include "Orvello/Presentations/DeckController.h"
+#include "Orvello/Presentations/PresentationMonitor.h"
+#include "Orvello/Presentations/PresenterApp.h"
+#include "Orvello/Presentations/SlideSyncService.h"
 #include "Orvello/Prompting/PrompterPanelController.h"
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/LaunchOptions.h"
+#include "Orvello/Voice/ProcessMicActivity.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QObject>
 
@@ -37,7 +44,11 @@ public:
     void togglePanel();
 
 private:
+    void addPresenters();
     void makePanel();
+    void showPanel();
+    void subscribe();
+    void followSlideTracking();
     void importDeckFromEnvironment();
     void installSignalHandlers();
 
@@ -45,7 +56,14 @@ private:
     LaunchOptions m_options;
     SettingsStore m_settings;
     LibraryStore m_library;
+    AppleScriptRunner m_scriptRunner;
+    PresenterTable m_presenters;
+    ProcessMicActivity m_micActivity;
+    PresentationMonitor m_presentation;
     ScrollEngine m_engine;
+    VoiceActivityEngine m_voice;
+    SlideSyncService m_slideSync;
+    DeckController m_deck;
     std::unique_ptr<PrompterWindow> m_prompterWindow;
     std::unique_ptr<NativePanel> m_panel;
     std::unique_ptr<PrompterPanelController> m_panelController;

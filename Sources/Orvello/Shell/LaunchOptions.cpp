@@ -10,6 +10,7 @@ LaunchOptions LaunchOptions::fromArguments(const QStringList& arguments)
         .help = arguments.contains(u"--help"_s),
         .version = arguments.contains(u"--version"_s),
         .noStealth = arguments.contains(u"--no-stealth"_s),
+        .voice = arguments.contains(u"--voice"_s),
         .autostart = arguments.contains(u"--autostart"_s),
     };
 }
@@ -23,6 +24,7 @@ A private teleprompter: your script in a small panel under the camera.
 Options:
   --autostart      start scrolling at once
   --no-stealth     never hide the prompter from screen sharing
+  --voice          follow the voice: the text moves while you speak
   --help           show this text and exit
   --version        show the version and exit
   -Key value       use this value for a preference, for this run only

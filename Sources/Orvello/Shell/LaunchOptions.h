@@ -12,6 +12,7 @@ struct LaunchOptions {
     bool help = false;
     bool version = false;
     bool noStealth = false;
+    bool voice = false;
     bool autostart = false;
 
     static LaunchOptions fromArguments(

@@ -1,34 +1,44 @@
 #pragma once
 
-#include <memory>
+#include "Orvello/Prompting/PromptLines.h"
+#include "Orvello/Prompting/PrompterStatus.h"
 
-class QQuickView;
-class QWindow;
+#include <QObject>
+#include <QQuickView>
 
 namespace Orvello {
 
-class LibraryStore;
+class DeckController;
 class ScrollEngine;
 class SettingsStore;
+class TimeSource;
 
-/// The window content of the prompter panel: the prompter's view over the services that it shows.
-/// What kind of window it is, is the native panel's business.
-class PrompterWindow final {
+/// The content of the prompter panel: a window with the prompter's view over the services that it
+/// shows. What kind of window it is, is the native panel's business.
+class PrompterWindow final : public QObject {
+    Q_OBJECT
+
 public:
+    /// All of them must outlive the window.
     struct Services {
         ScrollEngine& engine;
         SettingsStore& settings;
-        LibraryStore& library;
+        DeckController& deck;
+        TimeSource& time;
         bool forceCapturable;
     };
 
-    explicit PrompterWindow(const Services& services); ///< The services must outlive the window.
-    ~PrompterWindow();
+    explicit PrompterWindow(const Services& services);
+    ~PrompterWindow() override;
 
-    QWindow& window();
+    QWindow& window() { return m_view; }
 
 private:
-    std::unique_ptr<QQuickView> m_view;
+    void followDeck(const DeckController& deck, ScrollEngine& engine);
+
+    PromptLines m_lines;
+    PrompterStatus m_status;
+    QQuickView m_view;
 };
 
 } // namespace Orvello

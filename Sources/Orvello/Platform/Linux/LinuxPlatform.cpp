@@ -1,15 +1,20 @@
+#include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
+#include "Orvello/Platform/Linux/LinuxWorkspace.h"
 #include "Orvello/Platform/Linux/PulseSound.h"
 #include "Orvello/Platform/Linux/Syslog.h"
 #include "Orvello/Platform/Linux/X11Panel.h"
+#include "Orvello/Platform/Linux/X11WindowServer.h"
+#include "Orvello/Platform/Linux/X11Windows.h"
 #include "Orvello/Platform/Linux/XdgFolders.h"
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/PosixProcessSignals.h"
+#include "Orvello/Platform/QtChildProcess.h"
 #include "Orvello/Platform/QtScreens.h"
 #include "Orvello/Platform/QtTimeSource.h"
 
+#include <memory>
 #include <optional>
-
 #include <xcb/xcb.h>
 
 namespace Orvello {
@@ -26,24 +31,22 @@ bool canConnectToDisplay()
     return isConnected;
 }
 
+/// What is read from the X display.
+struct Desktop {
+    QtScreens screens;
+    X11Windows windows;
+    LinuxWorkspace workspace { windows };
+    X11WindowServer windowServer { windows };
+};
+
+/// Made in two steps: the log and the preferences are needed before there is an application object,
+/// and a display or a sound server that nobody asks for is not connected to.
 class LinuxPlatform final : public Platform {
 public:
     explicit LinuxPlatform(const QStringList& arguments)
         : m_userDefaults(m_folders.configuration(), u"app.orvello"_s, arguments)
     {
     }
-
-    TimeSource& time() override { return m_time; }
-    UserDefaults& userDefaults() override { return m_userDefaults; }
-    Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
-    ProcessSignals& processSignals() override { return m_processSignals; }
-    Screens& screens() override { return m_screens; }
-
-    MicrophonePermission& microphonePermission() override { return sound().permission; }
-    VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
-    RawMicrophone& rawMicrophone() override { return sound().microphone; }
-    AudioProcesses& audioProcesses() override { return sound().processes; }
 
     QString prepareApplication() override
     {
@@ -54,26 +57,47 @@ public:
         return {};
     }
 
+    TimeSource& time() override { return m_time; }
+    UserDefaults& userDefaults() override { return m_userDefaults; }
+    Folders& folders() override { return m_folders; }
+    SystemLog& systemLog() override { return m_systemLog; }
+    ProcessSignals& processSignals() override { return m_processSignals; }
+    ChildProcess& childProcess() override { return m_childProcess; }
+
+    Screens& screens() override { return desktop().screens; }
+    Workspace& workspace() override { return desktop().workspace; }
+    WindowServer& windowServer() override { return desktop().windowServer; }
+
+    MicrophonePermission& microphonePermission() override { return sound().permission; }
+    VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
+    RawMicrophone& rawMicrophone() override { return sound().microphone; }
+    AudioProcesses& audioProcesses() override { return sound().processes; }
+
+    HelperProcess* impressHelper() override
+    {
+        if (!m_impressHelper)
+            m_impressHelper = makeImpressHelper();
+        return m_impressHelper.get();
+    }
+
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
         return std::make_unique<X11Panel>(view, m_userDefaults);
     }
 
 private:
-    PulseSound& sound()
-    {
-        if (!m_sound)
-            m_sound.emplace();
-        return *m_sound;
-    }
+    Desktop& desktop() { return m_desktop ? *m_desktop : m_desktop.emplace(); }
+    PulseSound& sound() { return m_sound ? *m_sound : m_sound.emplace(); }
 
     QtTimeSource m_time;
     XdgFolders m_folders;
     JsonUserDefaults m_userDefaults;
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
-    QtScreens m_screens;
+    QtChildProcess m_childProcess;
+    std::optional<Desktop> m_desktop;
     std::optional<PulseSound> m_sound;
+    std::unique_ptr<HelperProcess> m_impressHelper;
 };
 
 } // namespace

@@ -1,39 +1,25 @@
 #include "Orvello/Platform/Linux/X11StackingGuard.h"
 
+#include "Orvello/Platform/Linux/Xcb.h"
+
 #include <QSocketNotifier>
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <span>
-#include <string_view>
 #include <xcb/xcb.h>
 
 namespace Orvello {
 
+using Xcb::atomNamed;
+using Xcb::owned;
+
 namespace {
-
-template <typename Value>
-using Owned = std::unique_ptr<Value, decltype(&std::free)>;
-
-template <typename Value>
-Owned<Value> owned(Value* value)
-{
-    return { value, &std::free };
-}
 
 constexpr std::uint8_t sentEventBit = 0x80; // Set in the type of events that a client sent.
 
 /// Managers nest a client in a frame, or in a frame and a wrapper.
 constexpr int deepestClient = 2;
-
-std::uint32_t atomNamed(xcb_connection_t* connection, std::string_view name)
-{
-    const auto request
-        = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const auto reply = owned(xcb_intern_atom_reply(connection, request, nullptr));
-    return reply ? reply->atom : xcb_atom_t { XCB_ATOM_NONE };
-}
 
 } // namespace
 

@@ -1,0 +1,87 @@
+#include "Orvello/Platform/Linux/LinuxWorkspace.h"
+#include "Orvello/Platform/Linux/X11WindowServer.h"
+#include "Orvello/Platform/Linux/X11Windows.h"
+#include "Tests/Support/FakeMicActivity.h"
+#include "Tests/Support/ManualTimeSource.h"
+#include "Tests/Support/PrivateXServer.h"
+
+#include "Orvello/Presentations/PresentationMonitor.h"
+#include "Orvello/Presentations/PresenterApp.h"
+
+#include <benchmark/benchmark.h>
+
+#include <csignal>
+#include <string_view>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace Orvello {
+namespace {
+
+using namespace std::string_view_literals;
+
+/// Idle child processes, ended with it.
+class Processes {
+public:
+    explicit Processes(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            const pid_t child = ::fork();
+            if (child == 0) {
+                ::pause();
+                ::_exit(0);
+            }
+            m_children.push_back(child);
+        }
+    }
+    ~Processes()
+    {
+        for (const pid_t child : m_children)
+            ::kill(child, SIGKILL);
+        for (const pid_t child : m_children)
+            ::waitpid(child, nullptr, 0);
+    }
+
+private:
+    std::vector<pid_t> m_children;
+};
+
+/// One poll of the presentation monitor during a slideshow, with 50 windows and 500 processes: the
+/// frontmost application, the windows, the screens and the running applications. Target: < 3 ms.
+void pollDuringSlideshow(benchmark::State& state)
+{
+    const Processes processes(500);
+    Testing::PrivateXServer server;
+    std::vector<std::uint32_t> stacking;
+    // The slideshow lies lowest, so that every window is looked at.
+    stacking.push_back(server.addWindow(0, 0, Testing::PrivateXServer::width,
+        Testing::PrivateXServer::height, "libreoffice\0LibreOffice 7.4\0"sv));
+    while (stacking.size() < 50)
+        stacking.push_back(server.addWindow(0, 0, 200, 100, "Navigator\0firefox\0"sv));
+    server.publishStacking(stacking);
+    server.publishActive(stacking.front());
+
+    const X11Windows windows;
+    const LinuxWorkspace workspace(windows);
+    const X11WindowServer windowServer(windows);
+    Testing::FakeMicActivity microphone;
+    Testing::ManualTimeSource time;
+    PresenterTable presenters;
+    PresenterApp impress;
+    impress.displayName = QStringLiteral("LibreOffice Impress");
+    impress.bundleIdentifier = QStringLiteral("libreoffice-impress");
+    presenters.add(impress);
+    PresentationMonitor monitor({ presenters, workspace, windowServer, microphone, time });
+    monitor.start();
+    if (!monitor.isPresenting())
+        state.SkipWithError("the slideshow was not seen");
+    for (auto _ : state)
+        time.advance(1.0);
+}
+BENCHMARK(pollDuringSlideshow)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace Orvello
+
+BENCHMARK_MAIN();

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+namespace Orvello {
+
+struct PresenterApp;
+struct ScriptResult;
+
+/// Why a deck could not be imported from a running presentation application.
+struct DeckImportError {
+    enum class Reason {
+        NotRunning,
+        NoDocument,
+        NoNotes,
+        ScriptFailed, ///< For the reason in `message`.
+    };
+
+    Reason reason;
+    const PresenterApp* app; ///< Of the presenter table; never null.
+    QString message;
+
+    /// What the failed script says about its reason.
+    [[nodiscard]] static DeckImportError of(const PresenterApp& app, const ScriptResult& result);
+
+    /// In words for the user.
+    [[nodiscard]] QString description() const;
+
+    friend bool operator==(const DeckImportError&, const DeckImportError&) = default;
+};
+
+} // namespace Orvello

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Orvello/Platform/Linux/ProcessTable.h"
+#include "Orvello/Platform/Workspace.h"
+
+#include <string>
+
+namespace Orvello {
+
+class X11Windows;
+
+/// The running applications by the process table, as far as the product knows them; the frontmost
+/// one by the active X window.
+class LinuxWorkspace final : public Workspace {
+public:
+    /// `windows` must outlive the workspace. `processTable` is where the proc(5) file system is.
+    explicit LinuxWorkspace(const X11Windows& windows, std::string processTable = "/proc");
+
+    QList<RunningApplication> runningApplications() const override;
+    std::optional<RunningApplication> frontmostApplication() const override;
+
+private:
+    const X11Windows& m_windows;
+    mutable ProcessTable m_processes; ///< What it remembers only saves work.
+};
+
+} // namespace Orvello

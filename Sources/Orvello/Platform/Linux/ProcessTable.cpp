@@ -1,0 +1,101 @@
+#include "Orvello/Platform/Linux/ProcessTable.h"
+
+#include "Orvello/Platform/Linux/KnownApplications.h"
+
+#include <algorithm>
+#include <array>
+#include <dirent.h>
+#include <fcntl.h>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace Orvello {
+
+namespace {
+
+struct DirectoryCloser {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+using Directory = std::unique_ptr<DIR, DirectoryCloser>;
+
+bool isProcess(std::string_view name)
+{
+    return !name.empty()
+        && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// The name of a process in the table; empty when it is gone.
+QByteArray processName(int table, const char* process)
+{
+    std::array<char, 32> path {};
+    const std::string_view id(process);
+    if (id.size() > 20)
+        return {};
+    constexpr std::string_view file = "/comm";
+    std::copy(file.begin(), file.end(), std::copy(id.begin(), id.end(), path.begin()));
+
+    const int descriptor = ::openat(table, path.data(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return {};
+    std::array<char, 64> bytes; // The kernel writes at most 16.
+    const ssize_t size = ::read(descriptor, bytes.data(), bytes.size());
+    ::close(descriptor);
+    const QByteArrayView text(bytes.data(), std::max<ssize_t>(size, 0));
+    return (text.endsWith('\n') ? text.chopped(1) : text).toByteArray();
+}
+
+bool isOwn(int table, const char* process)
+{
+    struct stat status { };
+    return ::fstatat(table, process, &status, 0) == 0 && status.st_uid == ::geteuid();
+}
+
+/// For so many scans a new process is looked at again.
+constexpr unsigned youngScans = 3;
+
+} // namespace
+
+ProcessTable::ProcessTable(std::string path)
+    : m_path(std::move(path))
+{
+}
+
+QList<RunningApplication> ProcessTable::knownApplications()
+{
+    QList<RunningApplication> running;
+    const Directory directory(::opendir(m_path.c_str()));
+    if (!directory)
+        return running;
+    ++m_scan;
+    while (const dirent* entry = ::readdir(directory.get())) {
+        if (!isProcess(entry->d_name))
+            continue;
+        Process& process = m_processes[entry->d_name];
+        look(::dirfd(directory.get()), entry->d_name, process);
+        // One application is often many processes.
+        if (process.application && !running.contains(*process.application))
+            running.append(*process.application);
+    }
+    std::erase_if(
+        m_processes, [this](const auto& entry) { return entry.second.lastScan != m_scan; });
+    return running;
+}
+
+/// Finds out which application a process is, unless that is known well enough.
+void ProcessTable::look(int table, const char* id, Process& process) const
+{
+    process.lastScan = m_scan;
+    ++process.scans;
+    const bool isTurn = (std::hash<std::string_view> {}(id) + m_scan) % scansPerRound == 0;
+    if (process.scans > youngScans && !isTurn)
+        return;
+    process.application = KnownApplications::withProcessName(processName(table, id));
+    if (process.application && !isOwn(table, id))
+        process.application.reset(); // Another user's programs are none of ours.
+}
+
+} // namespace Orvello

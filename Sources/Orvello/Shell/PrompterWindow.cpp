@@ -1,0 +1,49 @@
+#include "Orvello/Shell/PrompterWindow.h"
+
+#include "Orvello/Presentations/DeckController.h"
+#include "Orvello/Prompting/PromptFont.h"
+#include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Settings/SettingsStore.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+PrompterWindow::PrompterWindow(const Services& services)
+    : m_lines(services.time)
+    , m_status(services.engine)
+{
+    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+    m_view.setTitle(u"Orvello"_s);
+    m_view.setColor(Qt::transparent);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.setInitialProperties({
+        { u"engine"_s, QVariant::fromValue(&services.engine) },
+        { u"settings"_s, QVariant::fromValue(&services.settings) },
+        { u"lines"_s, QVariant::fromValue(&m_lines) },
+        { u"status"_s, QVariant::fromValue(&m_status) },
+        { u"promptText"_s, services.deck.promptText() },
+        { u"fontFamily"_s, PromptFont::family() },
+        { u"forceCapturable"_s, services.forceCapturable },
+    });
+    m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/PrompterView.qml"_s));
+    Q_ASSERT(m_view.rootObject()); // The view is part of the program.
+
+    followDeck(services.deck, services.engine);
+}
+
+PrompterWindow::~PrompterWindow() = default;
+
+void PrompterWindow::followDeck(const DeckController& deck, ScrollEngine& engine)
+{
+    connect(&deck, &DeckController::promptTextChanged, this,
+        [this, &deck] { m_view.rootObject()->setProperty("promptText", deck.promptText()); });
+    // Every slide's notes start at the top.
+    connect(
+        &deck, &DeckController::slideChangeTokenChanged, this, [&engine] { engine.setOffset(0); });
+}
+
+} // namespace Orvello

@@ -1,0 +1,137 @@
+// The services that follow a slideshow, on the real adapters, without the prompter's window: prints
+// one line of JSON for everything that they publish. Arguments: the helper program, and the .pptx
+// file that is imported first. The input line "import" imports what is open in Impress.
+
+#include "Orvello/Library/LibraryStore.h"
+#include "Orvello/Library/LiveDeckImport.h"
+#include "Orvello/Platform/Linux/LinuxWorkspace.h"
+#include "Orvello/Platform/Linux/X11WindowServer.h"
+#include "Orvello/Platform/Linux/X11Windows.h"
+#include "Orvello/Platform/QtChildProcess.h"
+#include "Orvello/Platform/QtHelperProcess.h"
+#include "Orvello/Platform/QtTimeSource.h"
+#include "Orvello/Presentations/DeckController.h"
+#include "Orvello/Presentations/ImpressPresenter.h"
+#include "Orvello/Presentations/PresentationMonitor.h"
+#include "Orvello/Settings/SettingsStore.h"
+#include "Tests/Support/FakeFolders.h"
+#include "Tests/Support/FakeMicActivity.h"
+#include "Tests/Support/FakeUserDefaults.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMetaEnum>
+#include <QSocketNotifier>
+
+#include <iostream>
+#include <string>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Orvello {
+namespace {
+
+void say(const QString& what, const QJsonValue& value)
+{
+    std::cout << QJsonDocument(QJsonObject { { what, value } })
+                     .toJson(QJsonDocument::Compact)
+                     .toStdString()
+              << std::endl;
+}
+
+QString stateName(SlideSyncService::State state)
+{
+    return QString::fromLatin1(
+        QMetaEnum::fromType<SlideSyncService::State>().valueToKey(static_cast<int>(state)));
+}
+
+QJsonArray notesOf(const Script& script)
+{
+    QJsonArray notes;
+    for (const SlideNote& slide : script.slides.value_or(QList<SlideNote>()))
+        notes.append(QJsonArray { slide.index, slide.title.value_or(QString()), slide.notes });
+    return notes;
+}
+
+class SlideFollower final : public QObject {
+public:
+    explicit SlideFollower(const QString& helperPath)
+        : m_helper(u"/usr/bin/python3"_s, { helperPath, u"serve"_s })
+        , m_impress(m_presenters.add(ImpressPresenter::row(m_helper)))
+    {
+        connect(&m_monitor, &PresentationMonitor::isPresentingChanged, this,
+            [this] { say(u"presenting"_s, m_monitor.isPresenting()); });
+        connect(&m_sync, &SlideSyncService::stateChanged, this,
+            [this] { say(u"state"_s, stateName(m_sync.state())); });
+        connect(&m_deck, &DeckController::slideChangeTokenChanged, this,
+            [this] { say(u"text"_s, m_deck.promptText()); });
+        connect(&m_access, &ImpressAccess::adviceNeeded, this,
+            [](const QString& advice) { say(u"advice"_s, advice); });
+        connect(&m_input, &QSocketNotifier::activated, this, &SlideFollower::obey);
+    }
+
+    void start(const QString& deckPath)
+    {
+        const auto imported = m_library.importPptx(deckPath);
+        say(u"file"_s,
+            imported ? QJsonValue(notesOf(*m_library.activeScript())) : QJsonValue(false));
+        m_monitor.start();
+        m_sync.setActive(true);
+    }
+
+private:
+    void obey()
+    {
+        std::string command;
+        if (!std::getline(std::cin, command))
+            QCoreApplication::quit();
+        if (command == "import")
+            m_import.importFromOpenDeck(
+                m_impress, [this](const LiveDeckImport::Imported& imported) {
+                    say(u"live"_s,
+                        imported ? QJsonValue(notesOf(*m_library.activeScript()))
+                                 : QJsonValue(imported.error().description()));
+                });
+        else if (command == "allow")
+            m_access.allow([](const QString& message) { say(u"allowed"_s, message); });
+    }
+
+    QtTimeSource m_time;
+    Testing::FakeUserDefaults m_defaults;
+    Testing::FakeFolders m_folders;
+    Testing::FakeMicActivity m_microphone;
+    QtChildProcess m_childProcess;
+    AppleScriptRunner m_appleScript { m_childProcess };
+    QtHelperProcess m_helper;
+    PresenterTable m_presenters;
+    const PresenterApp& m_impress;
+    X11Windows m_windows;
+    LinuxWorkspace m_workspace { m_windows };
+    X11WindowServer m_windowServer { m_windows };
+    SettingsStore m_settings { m_defaults };
+    LibraryStore m_library { m_defaults, m_folders, m_time };
+    PresentationMonitor m_monitor { { m_presenters, m_workspace, m_windowServer, m_microphone,
+        m_time } };
+    SlideSyncService m_sync { m_monitor, m_presenters, m_time };
+    DeckController m_deck { m_library, m_settings, m_sync };
+    LiveDeckImport m_import { m_library, m_workspace, m_appleScript };
+    ImpressAccess m_access { m_sync, m_helper };
+    QSocketNotifier m_input { STDIN_FILENO, QSocketNotifier::Read };
+};
+
+} // namespace
+} // namespace Orvello
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3)
+        return 2;
+    Orvello::SlideFollower follower(arguments[1]);
+    follower.start(arguments[2]);
+    return QCoreApplication::exec();
+}

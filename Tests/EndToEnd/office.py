@@ -1,0 +1,141 @@
+"""A private LibreOffice on a private desktop, driven through a connection that is not the one under test."""
+
+import os
+import pathlib
+import signal
+
+import uno
+
+from desktop import wait_until
+
+SLIDES = 12
+WITHOUT_NOTES = 5
+HIDDEN = 8
+
+
+def title(slide):
+    return f"Title {slide}"
+
+
+def notes(slide):
+    """What the deck's slides have for notes."""
+    return "" if slide == WITHOUT_NOTES else f"Notes of slide {slide}.\nSecond line — größer {slide}."
+
+
+def value(name, content):
+    pair = uno.createUnoStruct("com.sun.star.beans.PropertyValue")
+    pair.Name, pair.Value = name, content
+    return pair
+
+
+class Office:
+    """LibreOffice with a profile of its own; `pipe` is the connection that Orvello's helper uses."""
+
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.pipe = f"orvello-test-{os.getpid()}"
+        self.profile = (desktop.scratch / "office-profile").as_uri()
+        self.own_pipe = self.pipe + "-own"
+        self.context = None
+
+    def environment(self):
+        """What makes the helper find this LibreOffice."""
+        return {"ORVELLO_IMPRESS_PIPE": self.pipe, "ORVELLO_IMPRESS_PROFILE": self.profile}
+
+    def start(self, *arguments):
+        self.desktop.start(
+            ["soffice", f"-env:UserInstallation={self.profile}", "--norestore", "--nologo",
+             "--nofirststartwizard", f"--accept=pipe,name={self.own_pipe};urp;", *arguments])
+        self.context = wait_until(self._connect, 60, "LibreOffice")
+
+    def _connect(self):
+        local = uno.getComponentContext()
+        resolver = local.ServiceManager.createInstanceWithContext(
+            "com.sun.star.bridge.UnoUrlResolver", local)
+        try:
+            return resolver.resolve(f"uno:pipe,name={self.own_pipe};urp;StarOffice.ComponentContext")
+        except Exception:
+            return None
+
+    def _desktop(self):
+        return self.context.ServiceManager.createInstanceWithContext(
+            "com.sun.star.frame.Desktop", self.context)
+
+    def quit(self):
+        try:
+            self._desktop().terminate()
+        except Exception:
+            pass  # The connection ends with LibreOffice.
+        wait_until(lambda: not self.process_ids(), 30, "LibreOffice's end")
+
+    def kill(self):
+        for process in self.process_ids():
+            os.kill(process, signal.SIGKILL)
+
+    def process_ids(self):
+        """The processes of this LibreOffice alone, by its profile."""
+        found = []
+        for folder in pathlib.Path("/proc").iterdir():
+            try:
+                if folder.name.isdigit() and self.profile.encode() in (folder / "cmdline").read_bytes() \
+                        and (folder / "comm").read_text().strip() == "soffice.bin":
+                    found.append(int(folder.name))
+            except OSError:
+                continue
+        return found
+
+    # Documents
+
+    def make_deck(self, path):
+        """A deck of twelve slides as a .pptx file, one without notes and one hidden."""
+        document = self._desktop().loadComponentFromURL(
+            "private:factory/simpress", "_blank", 0, (value("Hidden", True),))
+        pages = document.getDrawPages()
+        while pages.getCount() < SLIDES:
+            pages.insertNewByIndex(pages.getCount())
+        for number in range(1, SLIDES + 1):
+            page = pages.getByIndex(number - 1)
+            page.Layout = 1  # Title and text.
+            self._fill(page, "com.sun.star.presentation.TitleTextShape", title(number))
+            self._fill(page.getNotesPage(), "com.sun.star.presentation.NotesShape", notes(number))
+        pages.getByIndex(HIDDEN - 1).Visible = False
+        document.storeToURL(path.as_uri(), (value("FilterName", "Impress MS PowerPoint 2007 XML"),))
+        document.close(True)
+
+    @staticmethod
+    def _fill(page, kind, text):
+        shapes = [page.getByIndex(index) for index in range(page.getCount())]
+        for shape in shapes:
+            if shape.getShapeType() == kind and text:
+                shape.setString(text)
+
+    def open(self, path):
+        document = self._desktop().loadComponentFromURL(path.as_uri(), "_blank", 0, ())
+        return Slideshow(document)
+
+
+class Slideshow:
+    """One open presentation."""
+
+    def __init__(self, document):
+        self.document = document
+
+    def start(self):
+        self.document.getPresentation().start()
+        wait_until(self.controller, what="the slideshow")
+
+    def controller(self):
+        return self.document.getPresentation().getController()
+
+    def show(self, slide):
+        """Jumps to a slide, 1-based in the deck; LibreOffice counts what it shows from 0, hidden ones left out."""
+        self.controller().gotoSlide(self.document.getDrawPages().getByIndex(slide - 1))
+
+    def next(self):
+        self.controller().gotoNextSlide()
+
+    def previous(self):
+        self.controller().gotoPreviousSlide()
+
+    def end(self):
+        self.document.getPresentation().end()
