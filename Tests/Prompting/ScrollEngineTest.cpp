@@ -45,7 +45,7 @@ TEST_F(ScrollEngineTest, isStillAndEmptyAtFirst)
     EXPECT_FALSE(fresh.hoverPaused());
     EXPECT_EQ(fresh.countdown(), std::nullopt);
     EXPECT_FALSE(fresh.isCountingDown());
-    EXPECT_EQ(fresh.countdownSecondsLeft(), 0);
+    EXPECT_TRUE(fresh.countdownText().isEmpty());
     EXPECT_FALSE(fresh.voiceFollowActive());
     EXPECT_FALSE(fresh.voiceGate());
     EXPECT_EQ(fresh.contentHeight(), 0);
@@ -111,6 +111,7 @@ TEST_F(ScrollEngineTest, countsDownAgainWhenAFinishedTextRestarts)
 
     EXPECT_EQ(engine.offset(), 0);
     EXPECT_EQ(engine.countdown(), 3);
+    EXPECT_EQ(engine.countdownText(), u"3"_s);
     EXPECT_FALSE(engine.isRunning());
 }
 

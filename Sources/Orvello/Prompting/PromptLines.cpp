@@ -226,7 +226,7 @@ QVariant PromptLines::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> PromptLines::roleNames() const
 {
-    return { { LineTextRole, "lineText" }, { BaselineRole, "baseline" },
+    return { { LineTextRole, "lineText" }, { BaselineRole, "baselineY" },
         { IsRightToLeftRole, "isRightToLeft" } };
 }
 

@@ -46,6 +46,11 @@ void ScrollEngine::setHoverPaused(bool paused)
         Q_EMIT hoverPausedChanged();
 }
 
+QString ScrollEngine::countdownText() const
+{
+    return m_countdown ? QString::number(*m_countdown) : QString();
+}
+
 void ScrollEngine::setVoiceFollowActive(bool active)
 {
     if (std::exchange(m_voiceFollowActive, active) != active)

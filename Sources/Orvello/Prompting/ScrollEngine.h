@@ -3,6 +3,7 @@
 #include "Orvello/Platform/TimeSource.h"
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 #include <optional>
@@ -21,7 +22,7 @@ class ScrollEngine final : public QObject {
     Q_PROPERTY(
         bool hoverPaused READ hoverPaused WRITE setHoverPaused NOTIFY hoverPausedChanged FINAL)
     Q_PROPERTY(bool isCountingDown READ isCountingDown NOTIFY countdownChanged FINAL)
-    Q_PROPERTY(qint64 countdownSecondsLeft READ countdownSecondsLeft NOTIFY countdownChanged FINAL)
+    Q_PROPERTY(QString countdownText READ countdownText NOTIFY countdownChanged FINAL)
     Q_PROPERTY(bool voiceFollowActive READ voiceFollowActive WRITE setVoiceFollowActive NOTIFY
             voiceFollowActiveChanged FINAL)
     Q_PROPERTY(bool voiceGate READ voiceGate WRITE setVoiceGate NOTIFY voiceGateChanged FINAL)
@@ -43,7 +44,7 @@ public:
     /// Seconds still to wait before scrolling starts; nothing when no countdown is in progress.
     std::optional<qint64> countdown() const { return m_countdown; }
     bool isCountingDown() const { return m_countdown.has_value(); }
-    qint64 countdownSecondsLeft() const { return m_countdown.value_or(0); }
+    QString countdownText() const; ///< The number as it is shown; empty without a countdown.
 
     bool voiceFollowActive() const { return m_voiceFollowActive; }
     void setVoiceFollowActive(bool active);

@@ -1,0 +1,20 @@
+import QtQuick
+
+// Says that others can see the prompter, so plainly that nobody believes it hidden.
+Rectangle {
+    implicitWidth: label.implicitWidth + 12
+    implicitHeight: 16
+    radius: 4
+    color: "#ff3b30"
+
+    Text {
+        id: label
+        anchors.centerIn: parent
+        text: "DEBUG — VISIBLE IN RECORDINGS"
+        textFormat: Text.PlainText
+        renderType: Text.NativeRendering
+        color: "white"
+        font.pixelSize: 10
+        font.weight: Font.Bold
+    }
+}

@@ -1,0 +1,79 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Orvello
+
+// The dark card with the script, moved up by the scroll engine, and the small status elements at
+// its edges. It tells the engine the two heights and the hovering that the engine cannot know.
+Item {
+    id: root
+
+    required property ScrollEngine engine
+    required property SettingsStore settings
+    required property PromptLines lines
+    required property PrompterStatus status
+    required property string promptText
+    required property string fontFamily
+    required property bool forceCapturable
+
+    readonly property double firstLineTop: 0.18 * height
+    readonly property double textWidth: Math.max(width - 56, 100)
+    readonly property int edge: 6
+
+    onHeightChanged: engine.setViewportHeight(height)
+    Component.onCompleted: {
+        engine.setViewportHeight(height);
+        engine.setContentHeight(lines.contentHeight);
+    }
+
+    Connections {
+        target: root.lines
+        function onContentHeightChanged() {
+            root.engine.setContentHeight(root.lines.contentHeight);
+        }
+    }
+
+    Binding { target: root.lines; property: "fontFamily"; value: root.fontFamily }
+    Binding { target: root.lines; property: "fontSize"; value: root.settings.fontSize }
+    Binding { target: root.lines; property: "textWidth"; value: root.textWidth }
+    Binding { target: root.lines; property: "visibleHeight"; value: root.height }
+    Binding { target: root.lines; property: "visibleTop"; value: root.engine.offset - root.firstLineTop }
+    Binding { target: root.lines; property: "text"; value: root.promptText }
+    Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
+
+    HoverHandler {
+        id: hover
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 16
+        color: Qt.rgba(0, 0, 0, root.settings.backgroundOpacity)
+    }
+
+    PromptText {
+        anchors.fill: parent
+        lines: root.lines
+        color: root.settings.textColor
+    }
+
+    Countdown {
+        anchors.fill: parent
+        visible: root.engine.isCountingDown
+        number: root.engine.countdownText
+        fontFamily: root.fontFamily
+    }
+
+    StatusBadge {
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.margins: root.edge
+        status: root.status
+    }
+
+    DebugBadge {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: root.edge
+        visible: root.forceCapturable
+    }
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Orvello/Prompting/PromptLines.h"
+#include "Orvello/Prompting/PrompterStatus.h"
+#include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Settings/SettingsStore.h"
+
+#include <QtQml/qqml.h>
+
+/// What the views know the services as. The services' own folders need no QML.
+namespace Orvello::QmlTypes {
+
+struct ScrollEngineType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScrollEngine)
+    QML_NAMED_ELEMENT(ScrollEngine)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SettingsStoreType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SettingsStore)
+    QML_NAMED_ELEMENT(SettingsStore)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct PromptLinesType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::PromptLines)
+    QML_NAMED_ELEMENT(PromptLines)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct PrompterStatusType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::PrompterStatus)
+    QML_NAMED_ELEMENT(PrompterStatus)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+} // namespace Orvello::QmlTypes

@@ -1,0 +1,45 @@
+# The QML module: the views of every subsystem, each in its subsystem's folder, and the types they see the services as
+# (Shell/QmlTypes.h). Link Orvello::Views, add the import path "qrc:/qt/qml", load "qrc:/qt/qml/Orvello/<View>.qml".
+
+set(views
+    Prompting/Capsule.qml
+    Prompting/Countdown.qml
+    Prompting/DebugBadge.qml
+    Prompting/FadingStrip.qml
+    Prompting/PromptText.qml
+    Prompting/PrompterView.qml
+    Prompting/SmallLabel.qml
+    Prompting/StatusBadge.qml)
+
+# The module is flat, whatever folder a view lies in.
+foreach(view ${views})
+    get_filename_component(name ${view} NAME)
+    set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
+endforeach()
+
+qt_add_library(OrvelloViews STATIC)
+qt_add_qml_module(
+    OrvelloViews
+    URI Orvello
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    DEPENDENCIES QtQuick QtQml.Models
+    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
+    SOURCES Shell/QmlTypes.h
+    QML_FILES ${views})
+target_include_directories(OrvelloViews PRIVATE Shell) # The generated registration includes by name alone.
+qt_add_shaders(
+    OrvelloViews OrvelloShaders
+    BATCHABLE PRECOMPILE OPTIMIZED
+    PREFIX /qt/qml/Orvello
+    BASE Prompting
+    FILES Prompting/Fade.frag
+    OUTPUTS Fade.frag.qsb)
+target_link_libraries(OrvelloViews PUBLIC OrvelloBase Orvello::Prompting Orvello::Settings Qt6::Quick)
+
+# A static QML module needs its plugin linked as well.
+add_library(OrvelloViewsAndPlugin INTERFACE)
+target_link_libraries(OrvelloViewsAndPlugin INTERFACE OrvelloViews OrvelloViewsplugin)
+add_library(Orvello::Views ALIAS OrvelloViewsAndPlugin)
+
+add_test(NAME qmllint COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target OrvelloViews_qmllint)
