@@ -67,7 +67,6 @@ public:
     std::pair<Index, Index> linesBetween(double top, double bottom) const;
 
 private:
-    /// 16 bytes: a million words have some 200,000 lines.
     struct Line {
         double top = 0;
         quint32 start : 31 = 0;
@@ -113,6 +112,12 @@ private:
     void endParagraph(qsizetype length);
     qsizetype lineEnd(Index line) const;
 
+public:
+    /// A million words have some 150,000 lines.
+    static constexpr std::size_t bytesPerLine = sizeof(Line);
+    static_assert(bytesPerLine == 16);
+
+private:
     QString m_text;
     PromptTypography m_typography;
     double m_fontAscent = 0;

@@ -100,6 +100,11 @@ void PromptLines::setVisibleHeight(double points)
 
 bool PromptLines::isLaidOut() const { return !m_next && m_shown.isComplete(); }
 
+std::size_t PromptLines::positionBytes() const
+{
+    return static_cast<std::size_t>(m_shown.lineCount()) * PromptLayout::bytesPerLine;
+}
+
 PromptLayout& PromptLines::newest() { return m_next ? *m_next : m_shown; }
 
 void PromptLines::restart()

@@ -71,6 +71,8 @@ public:
 
     bool isLaidOut() const; ///< Whether the layout has reached the end of the present text.
 
+    std::size_t positionBytes() const; ///< That the positions of lines take.
+
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
