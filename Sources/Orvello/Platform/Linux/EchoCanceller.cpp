@@ -85,9 +85,6 @@ void EchoCanceller::process(std::span<float> frame)
     m_processing->ProcessStream(&channel, mono, mono, &channel);
 }
 
-bool EchoCanceller::isFarEndAudible() const
-{
-    return m_framesSinceFarEnd < framesOfEcho;
-}
+bool EchoCanceller::isFarEndAudible() const { return m_framesSinceFarEnd < framesOfEcho; }
 
 } // namespace Orvello
