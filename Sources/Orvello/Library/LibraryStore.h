@@ -39,8 +39,8 @@ public:
     std::optional<QUuid> activeScriptID() const { return m_activeScriptID; }
     void setActiveScriptID(std::optional<QUuid> id);
 
-    /// The script that `activeScriptID` names, else the first; null for an empty library. It is a
-    /// value of both properties and lives until either changes.
+    /// The script that `activeScriptID` names, else the first; null for an empty library. Follows
+    /// from both properties. The pointer holds until `scripts` changes.
     const Script* activeScript() const;
 
     /// Adds an empty script on top and makes it active.

@@ -47,8 +47,8 @@ public:
     static SettingsStore& shared();
     static void adoptShared(SettingsStore& store);
 
-    explicit SettingsStore(
-        UserDefaults& defaults, QObject* parent = nullptr); ///< `defaults` must outlive the store.
+    /// `defaults` must outlive the store.
+    explicit SettingsStore(UserDefaults& defaults, QObject* parent = nullptr);
     ~SettingsStore() override;
 
     double fontSize() const { return m_fontSize; } ///< Of the prompter's text, in points.
@@ -57,12 +57,10 @@ public:
     const QString& textColorName() const { return m_textColorName; }
     void setTextColorName(const QString& name);
     QColor textColor() const; ///< The preset that `textColorName` names; white for an unknown name.
-    static const std::array<ColorPreset, 6>& colorPresets();
+    static const std::array<ColorPreset, 6>& colorPresets(); ///< In the order of the choices.
 
-    double backgroundOpacity() const
-    {
-        return m_backgroundOpacity;
-    } ///< Of the card: 0 clear, 1 opaque.
+    /// Of the card: 0 clear, 1 opaque.
+    double backgroundOpacity() const { return m_backgroundOpacity; }
     void setBackgroundOpacity(double opacity);
 
     double speed() const { return m_speed; } ///< Of scrolling, in points per second.
