@@ -66,12 +66,12 @@ class Desktop(contextlib.ExitStack):
         read_end, write_end = os.pipe()
         self.start(
             ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.width}x{self.height}x24",
-             "-nolisten", "tcp"],
+             "-nolisten", "tcp", "-noreset"],
             pass_fds=(write_end,))
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             self.environment["DISPLAY"] = ":" + pipe.readline().strip()
-        self.run("xsetroot", "-solid", "#284060")
+        self.run("hsetroot", "-solid", "#284060")
         self.start(["openbox"])
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    what="the window manager")
@@ -211,6 +211,15 @@ class App:
                 env=self.desktop.environment, capture_output=True, text=True)
             return [int(line) for line in result.stdout.split()]
         return wait_until(found, what="the panel")[0]
+
+    def shown(self):
+        """The panel's (x, y, width, height) once its first frame is on the screen."""
+        def painted():
+            x, y, width, height = self.geometry()
+            # The card darkens the background; its left margin never holds text.
+            is_dark = max(self.desktop.screenshot().pixel(x + 14, y + height // 2)) < 60
+            return is_dark and (x, y, width, height)
+        return wait_until(painted, what="the first frame")
 
     def is_window_visible(self):
         result = subprocess.run(

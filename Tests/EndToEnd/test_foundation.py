@@ -47,8 +47,9 @@ class FoundationTest(unittest.TestCase):
         app = App(self.desktop, environment={"ORVELLO_IMPORT_PPTX": str(deck)})
         app.wait_for_log("IMPORT_PPTX ok slides=5 file=Quarterly review.pptx")
 
-        titles = [script["title"] for script in App.library(self.desktop)]
-        self.assertEqual(titles, ["Quarterly review", "Welcome to Orvello"])
+        titles = lambda: [script["title"] for script in App.library(self.desktop)]
+        wait_until(lambda: titles() == ["Quarterly review", "Welcome to Orvello"],
+                   what="the deck on top of the library")
         imported = App.library(self.desktop)[0]
         self.assertEqual(imported["deckSource"], "Quarterly review.pptx")
         self.assertEqual([slide["index"] for slide in imported["slides"]], [1, 2, 3, 4, 5])
@@ -72,9 +73,8 @@ class FoundationTest(unittest.TestCase):
         write_library(self.desktop, body)
         App.set_defaults(self.desktop, countdownSeconds=0, onboardingSeenVersion=1)
         app = App(self.desktop, "--autostart")
-        app.window()
-        time.sleep(1.5)
-        x, y, width, height = app.geometry()
+        x, y, width, height = app.shown()
+        time.sleep(1.0)
         area = (x + 60, y + 24, width - 120, height - 70)  # Inside the fades.
 
         shots = []
@@ -119,11 +119,11 @@ class FoundationTest(unittest.TestCase):
     def test_the_panel_stands_under_the_camera(self):
         app = App(self.desktop)
 
-        self.assertEqual(app.geometry(), ((1440 - 720) // 2, 6, 720, 200))
+        self.assertEqual(app.shown(), ((1440 - 720) // 2, 6, 720, 200))
 
     def test_the_panel_is_above_a_full_screen_window_and_leaves_it_the_focus(self):
         app = App(self.desktop)
-        app.window()
+        x, y, width, height = app.shown()
         other = self.desktop.start(["xterm", "-fullscreen", "-bg", "white", "-e", "sleep", "60"])
         window = int(wait_until(
             lambda: subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "xterm"],
@@ -135,12 +135,12 @@ class FoundationTest(unittest.TestCase):
         self.desktop.run("xdotool", "windowraise", str(window))
         time.sleep(0.5)
         self.assertEqual(other.poll(), None)
-        x, y, width, height = app.geometry()
 
         picture = self.desktop.screenshot()
 
         self.assertEqual(picture.pixel(5, 500), (255, 255, 255), "the other window fills the screen")
-        self.assertLess(max(picture.pixel(x + 20, y + height // 2)), 200, "the card is on top of it")
+        self.assertLess(
+            max(picture.pixel(x + 14, y + height // 2)), 200, "the card is on top of it")
         self.assertEqual(self.desktop.focused_window(), window)
         self.desktop.run("xdotool", "mousemove", str(x + 30), str(y + 30), "click", "1")
         time.sleep(0.3)
@@ -148,19 +148,19 @@ class FoundationTest(unittest.TestCase):
 
     def test_the_panel_is_on_every_workspace(self):
         app = App(self.desktop)
-        app.window()
+        x, y, width, height = app.shown()
 
         self.desktop.run("xdotool", "set_num_desktops", "3")
         self.desktop.run("xdotool", "set_desktop", "2")
         time.sleep(0.5)
 
-        x, y, width, height = app.geometry()
         background = self.desktop.screenshot().pixel(5, 5)
-        card = self.desktop.screenshot().pixel(x + 20, y + height // 2)
+        card = self.desktop.screenshot().pixel(x + 14, y + height // 2)
         self.assertNotEqual(card, background)
 
     def test_dragging_and_resizing_are_kept_for_the_next_launch(self):
         app = App(self.desktop)
+        app.shown()
         self.drag(app, start=(30, 100), by=(-200, 300))
         x, y, width, height = app.geometry()
         self.assertEqual((x, y, width, height), (160, 306, 720, 200))
@@ -172,7 +172,7 @@ class FoundationTest(unittest.TestCase):
 
         again = App(self.desktop)
 
-        self.assertEqual(again.geometry(), (660, 306, 340, 260))
+        self.assertEqual(again.shown(), (660, 306, 340, 260))
 
     def drag(self, app, start, by):
         x, y, _, _ = app.geometry()
@@ -189,7 +189,7 @@ class FoundationTest(unittest.TestCase):
 
         app = App(self.desktop)
 
-        x, y, width, height = app.geometry()
+        x, y, width, height = app.shown()
         self.assertEqual((width, height), (720, 200))
         self.assertLessEqual(x + width, self.desktop.width)
 
@@ -206,9 +206,7 @@ class FoundationTest(unittest.TestCase):
 
     def test_an_argument_pair_shadows_a_preference_for_this_run_only(self):
         app = App(self.desktop, "-textColorName", "Green")
-        app.window()
-        time.sleep(0.5)
-        x, y, width, height = app.geometry()
+        x, y, width, height = app.shown()
 
         picture = self.desktop.screenshot()
 
