@@ -378,22 +378,27 @@ TEST_F(PptxImporterTest, opensAFileWithAnyName)
 
 TEST_F(PptxImporterTest, importsOnSeveralThreadsAtOnce)
 {
+    const QString path = decks + u"/twelve-slides.pptx"_s;
+    // Before the threads start, because of ThreadSanitizer: it does not see the lock under which
+    // the C library sets up the time zone, which libzip needs first.
+    const auto expected = importNotes(path);
+    ASSERT_TRUE(expected.has_value());
+
     std::vector<QList<SlideNote>> results(4);
     std::vector<std::thread> threads;
     for (auto& result : results) {
-        threads.emplace_back([&result] {
-            const auto slides = importNotes(decks + u"/twelve-slides.pptx"_s);
-            if (slides)
-                result = *slides;
+        threads.emplace_back([&result, &path] {
+            for (int round = 0; round < 5; ++round) {
+                const auto slides = importNotes(path);
+                result = slides ? *slides : QList<SlideNote>();
+            }
         });
     }
     for (std::thread& thread : threads)
         thread.join();
 
-    for (const auto& result : results) {
-        EXPECT_EQ(result.size(), 12);
-        EXPECT_EQ(result, results.front());
-    }
+    for (const auto& result : results)
+        EXPECT_EQ(result, *expected);
 }
 
 } // namespace

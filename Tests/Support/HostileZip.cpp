@@ -25,21 +25,24 @@ QByteArray directoryEntry(const QByteArray& name)
     return entry + QByteArray(16, '\0') + name;
 }
 
-/// The three records that end an archive of more than 65,535 entries.
-QByteArray zip64End(quint64 directoryOffset, quint64 directorySize, quint64 count)
+/// The archive of this directory alone, ended by the three records of one with more than 65,535
+/// entries.
+QByteArray withEnd(const QByteArray& directory, quint64 count)
 {
+    const auto size = static_cast<quint64>(directory.size());
+    constexpr quint64 offset = 0;
     QByteArray end("PK\6\6");
     append<quint64>(end, 44);
     append<quint32>(end, 0x002d'002d);
     append<quint64>(end, 0);
     append(end, count);
     append(end, count);
-    append(end, directorySize);
-    append(end, directoryOffset);
+    append(end, size);
+    append(end, offset);
 
     end += "PK\6\7";
     append<quint32>(end, 0);
-    append(end, directoryOffset + directorySize);
+    append(end, offset + size);
     append<quint32>(end, 1);
 
     const auto shortCount = static_cast<quint16>(std::min<quint64>(count, 0xffff));
@@ -47,10 +50,10 @@ QByteArray zip64End(quint64 directoryOffset, quint64 directorySize, quint64 coun
     append<quint32>(end, 0);
     append(end, shortCount);
     append(end, shortCount);
-    append(end, static_cast<quint32>(std::min<quint64>(directorySize, 0xffff'ffff)));
-    append(end, static_cast<quint32>(directoryOffset));
+    append(end, static_cast<quint32>(size));
+    append(end, static_cast<quint32>(offset));
     append<quint16>(end, 0);
-    return end;
+    return directory + end;
 }
 
 } // namespace
@@ -75,10 +78,17 @@ QByteArray deflatedZeros(int mebibytes)
     return piece.repeated(mebibytes) + end;
 }
 
+QByteArray archiveOfEmptyEntries(qint64 count)
+{
+    QByteArray directory;
+    for (qint64 number = 0; number < count; ++number)
+        directory += directoryEntry("media/image" + QByteArray::number(number) + ".png");
+    return withEnd(directory, static_cast<quint64>(count));
+}
+
 QByteArray archiveWithClaimedEntries(quint64 count)
 {
-    const QByteArray directory = directoryEntry("name");
-    return directory + zip64End(0, static_cast<quint64>(directory.size()), count);
+    return withEnd(directoryEntry("name"), count);
 }
 
 QByteArray archiveWithCollidingNames(quint64 count)
@@ -91,7 +101,7 @@ QByteArray archiveWithCollidingNames(quint64 count)
             name += pieces[rest % 3];
         directory += directoryEntry(name);
     }
-    return directory + zip64End(0, static_cast<quint64>(directory.size()), count);
+    return withEnd(directory, count);
 }
 
 } // namespace Orvello::Testing

@@ -8,6 +8,9 @@ namespace Orvello::Testing {
 /// A raw deflate stream of this many mebibytes of zeros.
 QByteArray deflatedZeros(int mebibytes);
 
+/// An archive of this many entries with different names.
+QByteArray archiveOfEmptyEntries(qint64 count);
+
 /// An archive that says in its 64-bit end record that it has this many entries.
 QByteArray archiveWithClaimedEntries(quint64 count);
 
