@@ -147,4 +147,15 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @end
 extern "C" __kindof NSApplication* _Null_unspecified NSApp;
 
+@interface NSRunningApplication : NSObject
+@property (nullable, readonly, copy) NSString* bundleIdentifier;
+@property (nullable, readonly, copy) NSString* localizedName;
+@end
+
+@interface NSWorkspace : NSObject
+@property (class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property (readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
+@property (nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+@end
+
 NS_ASSUME_NONNULL_END

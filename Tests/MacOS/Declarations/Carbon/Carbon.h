@@ -17,8 +17,8 @@ struct EventHotKeyID {
     OSType signature;
     UInt32 id;
 };
-typedef OSStatus (*EventHandlerProcPtr)(
-    EventHandlerCallRef _Nullable inHandlerCallRef, EventRef _Nullable inEvent, void* _Nullable inUserData);
+typedef OSStatus (*EventHandlerProcPtr)(EventHandlerCallRef _Nullable inHandlerCallRef,
+    EventRef _Nullable inEvent, void* _Nullable inUserData);
 typedef EventHandlerProcPtr EventHandlerUPP;
 
 enum : OSType { kEventClassKeyboard = 'keyb' };
@@ -33,8 +33,9 @@ OSStatus InstallEventHandler(EventTargetRef _Nullable inTarget, EventHandlerUPP 
     ItemCount inNumTypes, const EventTypeSpec* _Nullable inList, void* _Nullable inUserData,
     EventHandlerRef _Nullable* _Nullable outRef);
 OSStatus RemoveEventHandler(EventHandlerRef _Nullable inHandlerRef);
-OSStatus RegisterEventHotKey(UInt32 inHotKeyCode, UInt32 inHotKeyModifiers, EventHotKeyID inHotKeyID,
-    EventTargetRef _Nullable inTarget, OptionBits inOptions, EventHotKeyRef _Nullable* _Nullable outRef);
+OSStatus RegisterEventHotKey(UInt32 inHotKeyCode, UInt32 inHotKeyModifiers,
+    EventHotKeyID inHotKeyID, EventTargetRef _Nullable inTarget, OptionBits inOptions,
+    EventHotKeyRef _Nullable* _Nullable outRef);
 OSStatus UnregisterEventHotKey(EventHotKeyRef _Nullable inHotKey);
 OSStatus GetEventParameter(EventRef _Nullable inEvent, EventParamName inName,
     EventParamType inDesiredType, EventParamType* _Nullable outActualType, ByteCount inBufferSize,

@@ -15,6 +15,7 @@ extern const CFStringRef _Nonnull kCGWindowOwnerName;
 extern const CFStringRef _Nonnull kCGWindowBounds;
 
 /// One reference, the caller's; null outside a session with a screen.
-CFArrayRef _Nullable CGWindowListCopyWindowInfo(CGWindowListOption option, CGWindowID relativeToWindow);
+CFArrayRef _Nullable CGWindowListCopyWindowInfo(
+    CGWindowListOption option, CGWindowID relativeToWindow);
 bool CGRectMakeWithDictionaryRepresentation(CFDictionaryRef _Nullable dict, CGRect* _Nullable rect);
 }

@@ -8,11 +8,11 @@ typedef bool BOOL;
 #define NO __objc_no
 #define nil nullptr
 
-#define NS_ENUM(type, name) \
-    enum name : type name;  \
+#define NS_ENUM(type, name)                                                                        \
+    enum name : type name;                                                                         \
     enum name : type
-#define NS_OPTIONS(type, name) \
-    type name;                 \
+#define NS_OPTIONS(type, name)                                                                     \
+    type name;                                                                                     \
     enum : name
 #define NS_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
 #define NS_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
@@ -45,14 +45,15 @@ typedef struct {
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString, NSError;
+@class NSString;
 
 @protocol NSObject
 - (BOOL)isEqual:(nullable id)object;
 - (BOOL)isKindOfClass:(Class)aClass;
 @end
 
-__attribute__((objc_root_class)) @interface NSObject <NSObject>
+__attribute__((objc_root_class))
+@interface NSObject<NSObject>
 + (instancetype)alloc;
 + (Class)class;
 - (instancetype)init;
@@ -127,6 +128,10 @@ typedef NSString* NSExceptionName;
 @end
 typedef void NSUncaughtExceptionHandler(NSException* exception);
 
+@interface NSError : NSObject <NSCopying>
+@property (readonly, copy) NSString* localizedDescription;
+@end
+
 @interface NSBundle : NSObject
 @property (class, readonly, strong) NSBundle* mainBundle;
 @property (nullable, readonly, copy) NSString* bundleIdentifier;
@@ -151,7 +156,10 @@ typedef NSString* NSNotificationName;
 @interface NSNotification : NSObject <NSCopying>
 @end
 
-@class NSOperationQueue;
+@interface NSOperationQueue : NSObject
+@property (class, readonly, strong) NSOperationQueue* mainQueue;
+@end
+
 @interface NSNotificationCenter : NSObject
 @property (class, readonly, strong) NSNotificationCenter* defaultCenter;
 - (void)removeObserver:(id)observer;
