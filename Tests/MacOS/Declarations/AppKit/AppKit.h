@@ -4,7 +4,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSEvent, NSGraphicsContext, NSScreen, NSView, NSWindow;
+@class NSEvent, NSGraphicsContext, NSScreen, NSView, NSWindow, UTType;
 
 @interface NSColor : NSObject <NSCopying>
 @property (class, strong, readonly) NSColor* clearColor;
@@ -132,6 +132,23 @@ typedef NSString* NSWindowFrameAutosaveName;
 @property (getter=isFloatingPanel) BOOL floatingPanel;
 @end
 
+typedef NSInteger NSModalResponse;
+static const NSModalResponse NSModalResponseOK = 1;
+
+@interface NSSavePanel : NSPanel
+@property (copy) NSArray<UTType*>* allowedContentTypes;
+@property (nullable, readonly, copy) NSURL* URL;
+@property (null_resettable, copy) NSString* message;
+- (NSModalResponse)runModal;
+@end
+
+@interface NSOpenPanel : NSSavePanel
+@property BOOL allowsMultipleSelection;
+@property BOOL canChooseDirectories;
+@property BOOL canChooseFiles;
++ (NSOpenPanel*)openPanel;
+@end
+
 extern NSNotificationName const NSWindowDidResizeNotification;
 extern NSNotificationName const NSWindowDidEndLiveResizeNotification;
 
@@ -143,6 +160,7 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @property (nullable, readonly, strong) NSEvent* currentEvent;
 @property (readonly, getter=isActive) BOOL active;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
+- (void)activateIgnoringOtherApps:(BOOL)ignoreOtherApps;
 - (void)reportException:(NSException*)exception;
 @end
 extern "C" __kindof NSApplication* _Null_unspecified NSApp;
@@ -156,6 +174,8 @@ extern "C" __kindof NSApplication* _Null_unspecified NSApp;
 @property (class, readonly, strong) NSWorkspace* sharedWorkspace;
 @property (readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
 @property (nullable, readonly, strong) NSRunningApplication* frontmostApplication;
+- (BOOL)openURL:(NSURL*)url;
+- (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)fileURLs;
 @end
 
 NS_ASSUME_NONNULL_END

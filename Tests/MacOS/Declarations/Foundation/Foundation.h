@@ -45,7 +45,7 @@ typedef struct {
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSString;
+@class NSDictionary, NSString;
 
 @protocol NSObject
 - (BOOL)isEqual:(nullable id)object;
@@ -58,6 +58,19 @@ __attribute__((objc_root_class))
 + (Class)class;
 - (instancetype)init;
 - (void)dealloc;
+@end
+
+typedef NSUInteger NSKeyValueObservingOptions;
+@interface NSObject (NSKeyValueObserving)
+- (void)observeValueForKeyPath:(nullable NSString*)keyPath
+                      ofObject:(nullable id)object
+                        change:(nullable NSDictionary*)change
+                       context:(nullable void*)context;
+- (void)addObserver:(NSObject*)observer
+         forKeyPath:(NSString*)keyPath
+            options:(NSKeyValueObservingOptions)options
+            context:(nullable void*)context;
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
 @end
 
 @protocol NSCopying
@@ -128,13 +141,21 @@ typedef NSString* NSExceptionName;
 @end
 typedef void NSUncaughtExceptionHandler(NSException* exception);
 
+@interface NSURL : NSObject <NSCopying>
+@property (nullable, readonly, copy) NSString* path;
++ (nullable instancetype)URLWithString:(NSString*)URLString;
++ (NSURL*)fileURLWithPath:(NSString*)path;
+@end
+
 @interface NSError : NSObject <NSCopying>
+@property (readonly) NSInteger code;
 @property (readonly, copy) NSString* localizedDescription;
 @end
 
 @interface NSBundle : NSObject
 @property (class, readonly, strong) NSBundle* mainBundle;
 @property (nullable, readonly, copy) NSString* bundleIdentifier;
+- (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 @end
 
 @interface NSProcessInfo : NSObject
