@@ -32,8 +32,8 @@ OSStatus orvelloVPSilenceProc(void*, AudioUnitRenderActionFlags*, const AudioTim
 {
     if (!buffers)
         return noErr;
-    for (UInt32 i = 0; i < buffers->mNumberBuffers; ++i) {
-        const AudioBuffer& buffer = buffers->mBuffers[i];
+    // The list is longer than its type says.
+    for (const AudioBuffer& buffer : std::span(buffers->mBuffers + 0, buffers->mNumberBuffers)) {
         if (buffer.mData)
             std::memset(buffer.mData, 0, buffer.mDataByteSize);
     }
