@@ -1,0 +1,22 @@
+#include "Orvello/Platform/macOS/CocoaScreens.h"
+
+#include "Orvello/Platform/macOS/CocoaGeometry.h"
+
+#import <AppKit/AppKit.h>
+
+namespace Orvello {
+
+QList<QRectF> CocoaScreens::frames() const
+{
+    NSScreen* const main = NSScreen.mainScreen;
+    QList<QRectF> frames;
+    if (main)
+        frames.append(qRect(main.frame));
+    for (NSScreen* screen in NSScreen.screens) {
+        if (![screen isEqual:main])
+            frames.append(qRect(screen.frame));
+    }
+    return frames;
+}
+
+} // namespace Orvello

@@ -1,0 +1,8 @@
+#include "Orvello/Platform/macOS/AbsentUpdater.h"
+#include "Orvello/Platform/macOS/MacUpdater.h"
+
+namespace Orvello {
+
+std::unique_ptr<Updater> makeMacUpdater() { return std::make_unique<AbsentUpdater>(); }
+
+} // namespace Orvello

@@ -1,0 +1,70 @@
+#include "Orvello/Platform/macOS/SparkleUpdater.h"
+
+#include "Orvello/Platform/macOS/AbsentUpdater.h"
+#include "Orvello/Platform/macOS/CocoaText.h"
+#include "Orvello/Platform/macOS/ExceptionShield.h"
+#include "Orvello/Platform/macOS/MacUpdater.h"
+#include "Orvello/Platform/macOS/SparkleDelegate.h"
+
+#include <utility>
+
+namespace Orvello {
+
+bool SparkleUpdater::isPresent() { return [SPUStandardUpdaterController class] != nil; }
+
+SparkleUpdater::SparkleUpdater()
+    : m_delegate([[SparkleDelegate alloc] init])
+    , m_controller([[SPUStandardUpdaterController alloc] initWithStartingUpdater:NO
+                                                                 updaterDelegate:m_delegate
+                                                              userDriverDelegate:nil])
+{
+}
+
+SparkleUpdater::~SparkleUpdater()
+{
+    [m_delegate stopObserving];
+    m_delegate.target = nullptr;
+}
+
+void SparkleUpdater::startUpdater(UpdaterDelegate& delegate)
+{
+    m_delegate.target = &delegate;
+    shielded([&] { [m_controller startUpdater]; });
+}
+
+void SparkleUpdater::checkForUpdates()
+{
+    shielded([&] { [m_controller checkForUpdates:nil]; });
+}
+
+bool SparkleUpdater::automaticallyChecksForUpdates() const
+{
+    return m_controller.updater.automaticallyChecksForUpdates;
+}
+
+void SparkleUpdater::setAutomaticallyChecksForUpdates(bool on)
+{
+    m_controller.updater.automaticallyChecksForUpdates = on;
+}
+
+void SparkleUpdater::observeAutomaticChecks(std::function<void()> changed)
+{
+    [m_delegate observe:m_controller.updater changed:std::move(changed)];
+}
+
+std::optional<QString> SparkleUpdater::builtInFeed() const
+{
+    const id feed = [NSBundle.mainBundle objectForInfoDictionaryKey:@"SUFeedURL"];
+    if (![feed isKindOfClass:[NSString class]])
+        return std::nullopt;
+    return qString(feed);
+}
+
+std::unique_ptr<Updater> makeMacUpdater()
+{
+    if (SparkleUpdater::isPresent())
+        return std::make_unique<SparkleUpdater>();
+    return std::make_unique<AbsentUpdater>();
+}
+
+} // namespace Orvello

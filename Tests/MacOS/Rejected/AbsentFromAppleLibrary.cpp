@@ -1,0 +1,4 @@
+// rejects: no type named 'jthread' in namespace 'std'
+#include <thread>
+
+std::jthread start();

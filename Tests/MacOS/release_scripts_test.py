@@ -1,0 +1,307 @@
+"""The release scripts of tools/macos over stand-ins for Apple's tools, which record how they were called."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+SPARKLE = "Contents/Frameworks/Sparkle.framework"
+RECORD = 'printf "%s\\n" "$(basename "$0") $*" >> "$RECORD"\n'
+
+STAND_INS = {
+    "codesign": 'case "$*" in *--verify*) exit "${UNSIGNED:-0}" ;; esac\n',
+    "xcrun": 'case "$*" in "stapler "*) exit "${REFUSED:-0}" ;; esac\n',
+    "ditto": 'if [ "$1" = -c ]; then touch "${@: -1}"; else cp -R "$1" "$2"; fi\n',
+    "hdiutil": 'touch "${@: -1}"\n',
+    "spctl": "",
+    "macdeployqt": "",
+    "sips": 'touch "${@: -1}"\n',
+    "iconutil": 'ls "${@: -1}" > "$4"\n',
+    "plutil": 'sed -n "/<key>$2<.key>/{n;s/.*<string>\\(.*\\)<.string>.*/\\1/p;}" "${@: -1}"\n',
+}
+SIGN_UPDATE = "echo 'sparkle:edSignature=\"c2lnbmF0dXJl\" length=\"1234\"'\n"
+
+
+class ReleaseScriptsTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        # A tree of its own, so that nothing of a real build is touched.
+        for part in ("tools/macos", "Resources"):
+            shutil.copytree(ROOT / part, self.folder / part)
+        self.record = self.folder / "record"
+        self.record.touch()
+        for name, body in STAND_INS.items():
+            self.write_program(f"bin/{name}", RECORD + body)
+        self.app = self.folder / "build/Orvello.app"
+        self.environment = {
+            "PATH": f"{self.folder}/bin:/usr/bin:/bin",
+            "HOME": str(self.folder),
+            "TMPDIR": str(self.folder),
+            "RECORD": str(self.record),
+        }
+
+    def write_program(self, name, body):
+        path = self.folder / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text("#!/bin/bash\n" + body)
+        path.chmod(0o755)
+
+    def make_app(self, with_sparkle=True):
+        names = ["MacOS/Orvello", "PlugIns/platforms/libqcocoa.dylib",
+                 "Frameworks/QtCore.framework/Versions/A/QtCore", "Frameworks/libzip.5.dylib"]
+        if with_sparkle:
+            base = "Frameworks/Sparkle.framework/Versions/B"
+            names += [f"{base}/Sparkle", f"{base}/Autoupdate", f"{base}/Updater.app/Contents/Info.plist",
+                      f"{base}/XPCServices/Installer.xpc/Contents/Info.plist",
+                      f"{base}/XPCServices/Downloader.xpc/Contents/Info.plist"]
+        for name in names:
+            path = self.app / "Contents" / name
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.touch()
+        plist = (ROOT / "Resources/macOS/Info.plist.in").read_text()
+        for key, value in {"PROJECT_VERSION": "2.1", "ORVELLO_BUILD_NUMBER": "57",
+                           "CMAKE_OSX_DEPLOYMENT_TARGET": "13.0", "ORVELLO_UPDATE_KEYS": ""}.items():
+            plist = plist.replace(f"@{key}@", value)
+        (self.app / "Contents/Info.plist").write_text(plist)
+
+    def run_script(self, name, *arguments, **environment):
+        return subprocess.run([self.folder / "tools/macos" / name, *map(str, arguments)], capture_output=True,
+                              text=True, env=self.environment | environment, cwd=self.folder)
+
+    def calls(self, tool):
+        return [line for line in self.record.read_text().splitlines() if line.split()[0] == tool]
+
+    def signed(self):
+        """The signed paths inside the application, in order."""
+        paths = [call.split()[-1] for call in self.calls("codesign") if "--sign" in call]
+        return [path.removeprefix("build/Orvello.app").lstrip("/") for path in paths]
+
+    # sign
+
+    def test_signs_from_the_inside_out(self):
+        self.make_app()
+
+        result = self.run_script("sign", ORVELLO_SIGNING_IDENTITY="Developer_ID")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.signed(), [
+            "Contents/Frameworks/libzip.5.dylib",
+            "Contents/PlugIns/platforms/libqcocoa.dylib",
+            f"{SPARKLE}/Versions/B/XPCServices/Downloader.xpc",
+            f"{SPARKLE}/Versions/B/XPCServices/Installer.xpc",
+            f"{SPARKLE}/Versions/B/Autoupdate",
+            f"{SPARKLE}/Versions/B/Updater.app",
+            "Contents/Frameworks/QtCore.framework",
+            SPARKLE,
+            "",
+        ])
+
+    def test_gives_the_entitlements_to_the_application_alone(self):
+        self.make_app()
+
+        self.run_script("sign", ORVELLO_SIGNING_IDENTITY="Developer_ID")
+
+        with_entitlements = [call for call in self.calls("codesign") if "--entitlements" in call]
+        self.assertEqual(len(with_entitlements), 1)
+        self.assertTrue(with_entitlements[0].endswith("Resources/macOS/Orvello.entitlements build/Orvello.app"))
+
+    def test_signs_with_the_hardened_runtime_and_a_timestamp_and_never_deep(self):
+        self.make_app()
+
+        self.run_script("sign", ORVELLO_SIGNING_IDENTITY="Developer_ID")
+
+        for call in self.calls("codesign")[:-1]:
+            self.assertIn("--options runtime --timestamp", call)
+            self.assertNotIn("--deep", call)
+        self.assertIn("--verify --deep --strict", self.calls("codesign")[-1])
+
+    def test_an_ad_hoc_signature_has_no_timestamp_and_lets_other_frameworks_in(self):
+        self.make_app(with_sparkle=False)
+
+        result = self.run_script("sign", ORVELLO_SIGNING_IDENTITY="-")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertNotIn("--timestamp", self.record.read_text())
+        self.assertIn("Orvello-adhoc.entitlements", self.record.read_text())
+
+    def test_signing_says_that_it_needs_an_identity(self):
+        self.make_app()
+
+        result = self.run_script("sign")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("ORVELLO_SIGNING_IDENTITY is needed", result.stderr)
+        self.assertEqual(self.calls("codesign"), [])
+
+    def test_signing_says_that_there_is_no_application(self):
+        result = self.run_script("sign", ORVELLO_SIGNING_IDENTITY="-")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("there is no application at build/Orvello.app", result.stderr)
+
+    # bundle
+
+    def test_bundling_copies_sparkle_and_deploys_qt(self):
+        self.make_app(with_sparkle=False)
+        (self.folder / "third_party/Sparkle/Sparkle.framework").mkdir(parents=True)
+
+        result = self.run_script("bundle")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertTrue((self.app / SPARKLE).is_dir())
+        self.assertEqual(self.calls("macdeployqt"), [
+            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -no-codesign -always-overwrite"])
+
+    def test_bundling_without_sparkle_says_so_and_goes_on(self):
+        self.make_app(with_sparkle=False)
+
+        result = self.run_script("bundle")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertIn("no Sparkle", result.stderr)
+
+    def test_bundling_says_that_it_needs_macdeployqt(self):
+        self.make_app()
+        (self.folder / "bin/macdeployqt").unlink()
+
+        result = self.run_script("bundle")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("macdeployqt is needed", result.stderr)
+
+    # notarise
+
+    def test_an_application_is_submitted_as_an_archive_and_stapled_itself(self):
+        self.make_app()
+
+        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        submit, staple = self.calls("xcrun")
+        self.assertRegex(submit, r"^xcrun notarytool submit .*/Orvello\.app\.zip --keychain-profile profile --wait$")
+        self.assertEqual(staple, f"xcrun stapler staple {self.app}")
+
+    def test_notarising_fails_when_there_is_no_ticket(self):
+        self.make_app()
+
+        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile", REFUSED="65")
+
+        self.assertNotEqual(result.returncode, 0)
+
+    def test_notarising_says_that_it_needs_a_profile(self):
+        self.make_app()
+
+        result = self.run_script("notarise", self.app)
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("ORVELLO_NOTARY_PROFILE is needed", result.stderr)
+        self.assertEqual(self.calls("xcrun"), [])
+
+    # make-dmg, appcast-item, make-icons, release
+
+    def test_an_unsigned_application_is_not_packed(self):
+        self.make_app()
+
+        result = self.run_script("make-dmg", UNSIGNED="1")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("is not signed", result.stderr)
+        self.assertEqual(self.calls("hdiutil"), [])
+
+    def test_the_image_is_signed_with_a_certificate(self):
+        self.make_app()
+
+        result = self.run_script("make-dmg", ORVELLO_SIGNING_IDENTITY="Developer_ID")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.calls("codesign")[-1],
+                         "codesign --force --sign Developer_ID --timestamp build/Orvello.dmg")
+
+    def test_the_feed_entry_tells_what_the_updater_asks(self):
+        self.make_app()
+        (self.folder / "build/Orvello.dmg").touch()
+        self.write_program("third_party/Sparkle/bin/sign_update", SIGN_UPDATE)
+
+        result = self.run_script("appcast-item", "build/Orvello.dmg", "https://example.org/Orvello.dmg")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        namespace = "http://www.andymatuschak.org/xml-namespaces/sparkle"
+        item = xml.etree.ElementTree.fromstring(f'<rss xmlns:sparkle="{namespace}">{result.stdout}</rss>')[0]
+        self.assertEqual(item.findtext("title"), "Orvello 2.1")
+        self.assertEqual(item.findtext(f"{{{namespace}}}version"), "57")
+        self.assertEqual(item.findtext(f"{{{namespace}}}shortVersionString"), "2.1")
+        self.assertEqual(item.findtext(f"{{{namespace}}}minimumSystemVersion"), "13.0.0")
+        enclosure = item.find("enclosure")
+        self.assertEqual(enclosure.get("url"), "https://example.org/Orvello.dmg")
+        self.assertEqual(enclosure.get("length"), "1234")
+        self.assertEqual(enclosure.get(f"{{{namespace}}}edSignature"), "c2lnbmF0dXJl")
+
+    def test_the_feed_entry_needs_an_https_address_and_the_signer(self):
+        self.make_app()
+        (self.folder / "build/Orvello.dmg").touch()
+
+        without_signer = self.run_script("appcast-item", "build/Orvello.dmg", "https://example.org/Orvello.dmg")
+        self.write_program("third_party/Sparkle/bin/sign_update", SIGN_UPDATE)
+        with_http = self.run_script("appcast-item", "build/Orvello.dmg", "http://example.org/Orvello.dmg")
+
+        self.assertIn("sign_update is needed", without_signer.stderr)
+        self.assertIn("must be https", with_http.stderr)
+        self.assertEqual([without_signer.returncode, with_http.returncode], [1, 1])
+
+    def test_the_icon_set_has_every_size(self):
+        result = self.run_script("make-icons", "Resources/AppIcon-1024.png", self.folder / "icons")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        expected = [f"icon_{size}x{size}{scale}.png" for size in (16, 32, 128, 256, 512) for scale in ("", "@2x")]
+        self.assertEqual(sorted((self.folder / "icons").read_text().split()), sorted(expected))
+        self.assertIn("sips -z 1024 1024", self.record.read_text())
+
+    def test_a_release_asks_for_what_it_needs_before_it_starts(self):
+        self.make_app()
+
+        result = self.run_script("release", ORVELLO_SIGNING_IDENTITY="Developer_ID")
+
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("ORVELLO_NOTARY_PROFILE", result.stderr)
+        self.assertEqual(self.record.read_text(), "")
+
+    def test_a_release_deploys_signs_notarises_and_packs_in_order(self):
+        self.make_app()
+
+        result = self.run_script("release", ORVELLO_SIGNING_IDENTITY="Developer_ID", ORVELLO_NOTARY_PROFILE="profile")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        steps = [line.split()[0] + (" " + line.split()[1] if line.startswith("xcrun") else "")
+                 for line in self.record.read_text().splitlines() if line.split()[0] in
+                 ("macdeployqt", "xcrun", "hdiutil", "spctl")]
+        self.assertEqual(steps, ["macdeployqt", "xcrun notarytool", "xcrun stapler", "hdiutil",
+                                 "xcrun notarytool", "xcrun stapler", "spctl"])
+
+
+class PapersTest(unittest.TestCase):
+    def test_the_property_lists_are_well_formed_and_complete(self):
+        import plistlib
+
+        text = (ROOT / "Resources/macOS/Info.plist.in").read_text().replace("@ORVELLO_UPDATE_KEYS@", "")
+        info = plistlib.loads(text.encode())
+        self.assertIs(info["LSUIElement"], True)
+        self.assertEqual(info["CFBundleIdentifier"], "app.orvello.mac")
+        self.assertEqual(info["NSPrincipalClass"], "OrvelloApplication")
+        for key in ("NSMicrophoneUsageDescription", "NSAppleEventsUsageDescription", "LSMinimumSystemVersion",
+                    "CFBundleShortVersionString", "CFBundleVersion", "CFBundleURLTypes", "CFBundleIconFile"):
+            self.assertTrue(info[key], key)
+
+        rights = plistlib.loads((ROOT / "Resources/macOS/Orvello.entitlements").read_bytes())
+        self.assertEqual(rights, {"com.apple.security.device.audio-input": True,
+                                  "com.apple.security.automation.apple-events": True})
+        adhoc = plistlib.loads((ROOT / "Resources/macOS/Orvello-adhoc.entitlements").read_bytes())
+        self.assertEqual(adhoc, rights | {"com.apple.security.cs.disable-library-validation": True})
+
+
+if __name__ == "__main__":
+    unittest.main()
