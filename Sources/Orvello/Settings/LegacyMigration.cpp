@@ -1,0 +1,176 @@
+#include "Orvello/Settings/LegacyMigration.h"
+
+#include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Platform/AtomicFile.h"
+#include "Orvello/Platform/Folders.h"
+#include "Orvello/Platform/UserDefaults.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+namespace Orvello::LegacyMigration {
+
+using namespace Qt::StringLiterals;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* formerFolderName = "Drumlin";
+constexpr const char* currentFolderName = "Orvello";
+
+struct RenamedKey {
+    QStringView former;
+    QStringView current;
+};
+constexpr RenamedKey renamedKeys[] = { { u"ghostMode", u"stealthMode" } };
+
+QString currentKey(const QString& formerKey)
+{
+    const auto* const renamed = std::ranges::find(renamedKeys, formerKey, &RenamedKey::former);
+    return renamed != std::end(renamedKeys) ? renamed->current.toString() : formerKey;
+}
+
+void migratePreferences(UserDefaults& defaults, const UserDefaults& former)
+{
+    const QVariantMap values = former.storedValues();
+    if (values.isEmpty())
+        return;
+    for (auto entry = values.begin(); entry != values.end(); ++entry) {
+        const QString key = currentKey(entry.key());
+        if (!defaults.value(key).isValid())
+            defaults.setValue(key, entry.value());
+    }
+    // The size of the former domain on purpose, keys that were already set included.
+    AppLog::write("Orvello MIGRATE copied %ld preference keys from %@", values.size(),
+        formerDomain.toString());
+}
+
+/// The array with every welcome script of the former product made the current one's; nothing when
+/// there is none, or when this is no array of objects.
+std::optional<QJsonArray> withWelcomeScriptRefreshed(
+    const QJsonDocument& library, const QString& sampleText)
+{
+    QJsonArray scripts = library.array();
+    bool isChanged = false;
+    for (auto&& element : scripts) {
+        if (!element.isObject())
+            return std::nullopt;
+        QJsonObject script = element.toObject();
+        if (script.value("title"_L1) != "Welcome to Drumlin"_L1)
+            continue;
+        script.insert("title"_L1, "Welcome to Orvello"_L1);
+        script.insert("body"_L1, sampleText);
+        element = script;
+        isChanged = true;
+    }
+    return isChanged ? std::optional(scripts) : std::nullopt;
+}
+
+void refreshWelcomeScript(const QString& path, const QString& sampleText)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const auto scripts
+        = withWelcomeScriptRefreshed(QJsonDocument::fromJson(file.readAll()), sampleText);
+    if (!scripts)
+        return;
+    const QByteArray json = QJsonDocument(*scripts).toJson(QJsonDocument::Compact);
+    // Without the refresh the user keeps the former welcome text, which does no harm.
+    static_cast<void>(AtomicFile::replace(path, std::string_view(json.constData(), json.size())));
+}
+
+bool isThere(const fs::path& path)
+{
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+/// Whether the current folder holds the application log and nothing else. The log opens before
+/// anything else happens and makes its folder, so this is how the current folder of a user who
+/// never ran this product looks by now.
+bool holdsOnlyLogs(const fs::path& folder)
+{
+    std::error_code error;
+    if (!fs::is_directory(fs::symlink_status(folder, error)))
+        return false;
+    fs::directory_iterator entry(folder, error);
+    const bool isLogs = !error && entry != fs::directory_iterator()
+        && entry->path().filename() == "logs" && entry->is_directory(error);
+    return isLogs && entry.increment(error) == fs::directory_iterator() && !error;
+}
+
+/// Moves every log file from one folder to the other. The log that is open moves with its name, so
+/// whoever writes to it does not notice.
+void moveLogs(const fs::path& from, const fs::path& to, std::error_code& error)
+{
+    fs::create_directories(to, error);
+    for (fs::directory_iterator entry(from, error); !error && entry != fs::directory_iterator();
+         entry.increment(error))
+        fs::rename(entry->path(), to / entry->path().filename(), error);
+    if (!error)
+        fs::remove(from, error);
+}
+
+/// Copies `former` whole and makes the copy appear under `current` in one step, so that a copy cut
+/// short, by an error or by the end of the process, never looks like a library.
+std::error_code copyFolder(const fs::path& former, const fs::path& current)
+{
+    const fs::path staging = fs::path(current).concat(".migrating");
+    std::error_code error;
+    fs::remove_all(staging, error);
+    // A former folder that is a link is copied, not linked to once more.
+    fs::copy(fs::canonical(former, error), staging,
+        fs::copy_options::recursive | fs::copy_options::copy_symlinks, error);
+    if (error) {
+        std::error_code ignored;
+        fs::remove_all(staging, ignored);
+        return error;
+    }
+    if (isThere(current)) {
+        moveLogs(current / "logs", staging / "logs", error);
+        if (!error)
+            fs::remove(current, error);
+    }
+    if (!error)
+        fs::rename(staging, current, error);
+    return error;
+}
+
+void migrateSupportFolder(const Folders& folders, const QString& sampleText)
+{
+    const fs::path support = folders.applicationSupport().toStdString();
+    const fs::path former = support / formerFolderName;
+    const fs::path current = support / currentFolderName;
+    if (!isThere(former) || (isThere(current) && !holdsOnlyLogs(current)))
+        return;
+    if (const std::error_code error = copyFolder(former, current)) {
+        AppLog::write("Orvello MIGRATE support folder copy failed: %@", error.message());
+        return;
+    }
+    AppLog::write(
+        "Orvello MIGRATE copied Application Support/%@ -> %@", formerFolderName, currentFolderName);
+    refreshWelcomeScript(QString::fromStdString((current / "scripts.json").string()), sampleText);
+}
+
+} // namespace
+
+void runIfNeeded(const Accounts& accounts)
+{
+    const QString markerKey = u"migratedFromDrumlin"_s;
+    if (DefaultsValue::asBoolean(accounts.defaults.value(markerKey)) == true)
+        return;
+    migratePreferences(accounts.defaults, accounts.formerDefaults);
+    migrateSupportFolder(accounts.folders, accounts.sampleText);
+    accounts.defaults.setValue(markerKey, true);
+}
+
+} // namespace Orvello::LegacyMigration

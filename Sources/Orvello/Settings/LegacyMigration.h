@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace Orvello {
+
+class Folders;
+class UserDefaults;
+
+/// Carries preferences and scripts over from the product's former name, Drumlin, once for each user
+/// account. It must run before anything reads the preferences or the library.
+namespace LegacyMigration {
+
+struct Accounts {
+    UserDefaults& defaults; ///< The current standard user defaults.
+    const UserDefaults& formerDefaults; ///< The domain `formerDomain`.
+    const Folders& folders;
+    QString sampleText; ///< The body that a former welcome script is given.
+};
+
+/// The former product's preferences domain.
+inline constexpr QStringView formerDomain = u"app.drumlin.mac";
+
+/// Migrates what there is and sets the marker "migratedFromDrumlin", whatever was achieved; does
+/// nothing when the marker is set. Never fails: what cannot be carried over stays where it is.
+void runIfNeeded(const Accounts& accounts);
+
+} // namespace LegacyMigration
+} // namespace Orvello

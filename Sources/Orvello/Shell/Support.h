@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace Orvello::Support {
+
+/// The version and the build for people, as in "2.1 (57)"; an unknown one is a question mark.
+[[nodiscard]] QString versionText(const QString& version, const QString& build);
+
+/// A letter to the support address, begun. An empty address gives an empty link.
+[[nodiscard]] QUrl mailLink(
+    const QString& address, const QString& versionText, const QString& osVersion);
+
+} // namespace Orvello::Support

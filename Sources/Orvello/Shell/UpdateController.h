@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Orvello/Platform/Updater.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace Orvello {
+
+class UserDefaults;
+
+/// Starts the system's updater, forwards the user's wishes to it, and logs every step of the update
+/// cycle. Main thread.
+class UpdateController final : public QObject, private UpdaterDelegate {
+    Q_OBJECT
+    Q_PROPERTY(bool checksAutomatically READ checksAutomatically WRITE setChecksAutomatically NOTIFY
+            checksAutomaticallyChanged FINAL)
+
+public:
+    /// What the controller works with. Everything must outlive it.
+    struct Services {
+        Updater& updater;
+        const UserDefaults& defaults;
+        std::function<void()> activateApplication; ///< Ignoring whatever else is active.
+    };
+
+    explicit UpdateController(Services services, QObject* parent = nullptr);
+
+    void start(); ///< Once, at launch.
+
+    /// Checks at the user's wish, in front of everything else.
+    Q_INVOKABLE void checkForUpdates();
+
+    bool checksAutomatically() const;
+    void setChecksAutomatically(bool on);
+
+Q_SIGNALS:
+    void checksAutomaticallyChanged();
+
+private:
+    std::optional<QString> feedURLString() const override;
+    void didFindValidUpdate(const UpdateItem& item) override;
+    void didNotFindUpdate(const UpdateError& error) override;
+    void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) override;
+    void willInstallUpdate(const UpdateItem& item) override;
+    void failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error) override;
+    void didAbortWithError(const UpdateError& error) override;
+    void willScheduleUpdateCheckAfterDelay(double seconds) override;
+
+    const Services m_services;
+};
+
+} // namespace Orvello

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Orvello/Platform/Updater.h"
+
+#include <utility>
+
+namespace Orvello::Testing {
+
+/// An updater whose callbacks a test makes.
+class FakeUpdater final : public Updater {
+public:
+    void startUpdater(UpdaterDelegate& updaterDelegate) override { delegate = &updaterDelegate; }
+    void checkForUpdates() override { ++checks; }
+    bool automaticallyChecksForUpdates() const override { return isAutomatic; }
+    void setAutomaticallyChecksForUpdates(bool on) override
+    {
+        if (std::exchange(isAutomatic, on) != on && m_changed)
+            m_changed();
+    }
+    void observeAutomaticChecks(std::function<void()> changed) override
+    {
+        m_changed = std::move(changed);
+    }
+    std::optional<QString> builtInFeed() const override { return feed; }
+
+    UpdaterDelegate* delegate = nullptr; ///< Null until started.
+    int checks = 0;
+    bool isAutomatic = false;
+    std::optional<QString> feed;
+
+private:
+    std::function<void()> m_changed;
+};
+
+} // namespace Orvello::Testing
