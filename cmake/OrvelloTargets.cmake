@@ -48,14 +48,24 @@ function(orvello_add_benchmark name)
     set_property(GLOBAL APPEND PROPERTY ORVELLO_BENCHMARKS ${name})
 endfunction()
 
-# orvello_add_fuzzer(Name SOURCES ... DEPENDS ... SEEDS folder): one libFuzzer program with a short run as a test. A run
-# copies the seeds, so that what libFuzzer finds never lands in the source tree.
+# orvello_add_fuzzer(Name SOURCES ... DEPENDS ... SEEDS folder [OPTIONS ...]): one libFuzzer program, built by the fuzz
+# preset alone because it needs clang, and a short run of it as a test of the ordinary build, which builds it first. A
+# run copies the seeds, so that what libFuzzer finds never lands in the source tree.
 function(orvello_add_fuzzer name)
     cmake_parse_arguments(ARG "" "SEEDS" "SOURCES;DEPENDS;OPTIONS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} OrvelloWarnings)
-    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
-    add_test(NAME fuzz.${name}
-             COMMAND ${PROJECT_SOURCE_DIR}/tools/fuzz-run $<TARGET_FILE:${name}> ${ARG_SEEDS} ${ARG_OPTIONS})
-    set_tests_properties(fuzz.${name} PROPERTIES LABELS fuzz TIMEOUT 180)
+    if(ORVELLO_FUZZ)
+        add_executable(${name} ${ARG_SOURCES})
+        target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} OrvelloWarnings)
+        target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+        set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_SOURCE_DIR}/build/fuzz/fuzzers)
+        add_dependencies(fuzzers ${name})
+    elseif(NOT ORVELLO_SANITIZE)
+        add_test(NAME Fuzz.${name} COMMAND ${PROJECT_SOURCE_DIR}/tools/fuzz-run
+                                           ${PROJECT_SOURCE_DIR}/build/fuzz/fuzzers/${name} ${ARG_SEEDS} ${ARG_OPTIONS})
+        set_tests_properties(
+            Fuzz.${name}
+            PROPERTIES LABELS fuzz
+                       TIMEOUT 180
+                       FIXTURES_REQUIRED fuzzers)
+    endif()
 endfunction()

@@ -58,8 +58,7 @@ void LoopbackServer::serveRaw(const QString& path, const QByteArray& bytes, bool
 void LoopbackServer::redirect(const QString& path, const QUrl& target)
 {
     serveRaw(path,
-        "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + target.toEncoded()
-            + "\r\n\r\n",
+        "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + target.toEncoded() + "\r\n\r\n",
         false);
 }
 
