@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <utility>
 
 namespace Orvello {
 namespace {
@@ -36,6 +37,19 @@ TEST(JsonWriterTest, escapesWhatMustBeEscaped)
 {
     EXPECT_EQ(string(u"\"\\\b\t\n\f\r"), R"("\"\\\b\t\n\f\r")");
     EXPECT_EQ(string(u"\0\u0001\u000B\u001F"_s), R"("\u0000\u0001\u000B\u001F")");
+}
+
+TEST(JsonWriterTest, findsWhatMustBeEscapedAnywhereInPlainText)
+{
+    const QString plain = u"0123456789AB~"_s;
+    const std::pair<QString, QByteArray> specials[] = { { u"\""_s, R"(\")" }, { u"\\"_s, R"(\\)" },
+        { u"\n"_s, R"(\n)" }, { u"\0"_s, R"(\u0000)" }, { u"\u001F"_s, R"(\u001F)" },
+        { u"\u0080"_s, "\xC2\x80" }, { u"\u0122"_s, "\xC4\xA2" }, { u"\u225C"_s, "\xE2\x89\x9C" },
+        { u"😀"_s, "\xF0\x9F\x98\x80" } };
+    for (const auto& [special, written] : specials)
+        for (qsizetype i = 0; i <= plain.size(); ++i)
+            EXPECT_EQ(string(plain.first(i) + special + plain.sliced(i)),
+                '"' + plain.first(i).toLatin1() + written + plain.sliced(i).toLatin1() + '"');
 }
 
 TEST(JsonWriterTest, writesEveryBoundaryOfUtf8)
