@@ -330,6 +330,7 @@ TEST_F(AppLogTest, losesNoLineOfManyThreadsAcrossRotations)
     };
 
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int thread = 0; thread < threadCount; ++thread)
         threads.emplace_back(writeLines, thread);
     while (threadsAtWork > 0) // Reads the descriptor meanwhile, as a crash handler would.

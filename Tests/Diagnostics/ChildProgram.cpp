@@ -12,7 +12,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ; // POSIX leaves its declaration to the program.
+// POSIX leaves the declaration to the program, glibc does not.
+extern char** environ; // NOLINT(readability-redundant-declaration)
 
 namespace Orvello::Testing {
 
@@ -39,6 +40,7 @@ std::vector<std::string> childEnvironment()
 std::vector<char*> pointersTo(std::vector<std::string>& texts)
 {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);

@@ -86,9 +86,9 @@ ssize_t write(int descriptor, const void* bytes, std::size_t count)
     asm volatile("xorl %%ecx, %%ecx\n\tdivl %%ecx" ::: "eax", "ecx", "edx");
 }
 #else
-[[gnu::noinline]] void crashByIllegalInstruction() { ::raise(SIGILL); }
-[[gnu::noinline]] void crashByTrap() { ::raise(SIGTRAP); }
-[[gnu::noinline]] void crashByDivision() { ::raise(SIGFPE); }
+[[gnu::noinline]] void crashByIllegalInstruction() { static_cast<void>(::raise(SIGILL)); }
+[[gnu::noinline]] void crashByTrap() { static_cast<void>(::raise(SIGTRAP)); }
+[[gnu::noinline]] void crashByDivision() { static_cast<void>(::raise(SIGFPE)); }
 #endif
 
 namespace {
@@ -176,7 +176,7 @@ const std::map<std::string, Action> waysToEnd {
             Testing::refuseAllocation();
             crashByTrap();
         } },
-    { "raise", [] { ::raise(SIGSEGV); } },
+    { "raise", [] { static_cast<void>(::raise(SIGSEGV)); } },
     { "on-a-thread", [] { std::thread(crashBySegmentationFault).join(); } },
     { "after-half-a-line",
         [] {
@@ -218,7 +218,7 @@ const std::map<std::string, Action> waysToEnd {
             CrashGuard::recordUncaughtException("NSRangeException", "", "0 here\n1 there");
             std::abort();
         } },
-    { "user-signal", [] { ::raise(SIGUSR1); } },
+    { "user-signal", [] { static_cast<void>(::raise(SIGUSR1)); } },
     { "describe", describeSignals },
     { "log-before-start",
         [] {

@@ -57,7 +57,7 @@ void expectIntegersAsInC(const std::string& flags, const std::string& conversion
         Integer(-42), Integer(255), Integer(1234567) };
     forEachCombination(flags, [&](const std::string& start) {
         for (const Integer value : values) {
-            const std::string format = "<" + start + conversion + ">";
+            const std::string format = '<' + (start + conversion) + '>';
             ASSERT_EQ(formatted(format, value), formattedByTheCLibrary(format, value)) << format;
         }
     });
@@ -118,7 +118,7 @@ TEST(LogFormatTest, printsFloatingPointNumbersAsC)
     for (const char* conversion : { "f", "F", "e", "E", "g", "G", "lf" }) {
         forEachCombination("-+ 0", [&](const std::string& start) {
             for (const double value : values) {
-                const std::string format = "<" + start + conversion + ">";
+                const std::string format = '<' + (start + conversion) + '>';
                 ASSERT_EQ(formatted(format, value), formattedByTheCLibrary(format, value))
                     << format;
             }

@@ -44,18 +44,18 @@ LogArgument argumentFrom(std::string_view line, std::u16string& utf16)
     const std::string_view rest = line.substr(std::min<std::size_t>(line.size(), 1));
     switch (line.empty() ? '\0' : line.front()) {
     case 'd':
-        return numberFrom<std::int64_t>(rest);
+        return LogArgument(numberFrom<std::int64_t>(rest));
     case 'i':
-        return numberFrom<std::int32_t>(rest);
+        return LogArgument(numberFrom<std::int32_t>(rest));
     case 'u':
-        return numberFrom<std::uint64_t>(rest);
+        return LogArgument(numberFrom<std::uint64_t>(rest));
     case 'f':
-        return numberFrom<double>(rest);
+        return LogArgument(numberFrom<double>(rest));
     case 'w':
         utf16 = utf16From(rest);
-        return QStringView(utf16);
+        return LogArgument(QStringView(utf16));
     default:
-        return line;
+        return LogArgument(line);
     }
 }
 

@@ -75,8 +75,8 @@ extern "C" void crashSignalHandler(int signal)
         ::_exit(signal + 128);
     if (const int descriptor = AppLog::fd(); descriptor >= 0)
         writeCrashBlock(descriptor, signal);
-    std::signal(signal, SIG_DFL);
-    ::raise(signal);
+    static_cast<void>(std::signal(signal, SIG_DFL));
+    static_cast<void>(::raise(signal));
 }
 
 /// Runs on a normal thread, so the ordinary log call is safe. The abort that follows leaves a crash

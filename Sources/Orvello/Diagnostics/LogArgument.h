@@ -18,31 +18,31 @@ public:
     using Value = std::variant<std::string_view, QStringView, std::int64_t, std::uint64_t, double>;
 
     template <std::signed_integral Integer>
-    LogArgument(Integer value)
+    explicit LogArgument(Integer value)
         : m_value(static_cast<std::int64_t>(value))
         , m_integerBytes(promotedBytes<Integer>)
     {
     }
     template <std::unsigned_integral Integer>
-    LogArgument(Integer value)
+    explicit LogArgument(Integer value)
         : m_value(static_cast<std::uint64_t>(value))
         , m_integerBytes(promotedBytes<Integer>)
     {
     }
     template <std::floating_point Number>
-    LogArgument(Number value)
+    explicit LogArgument(Number value)
         : m_value(static_cast<double>(value))
     {
     }
-    LogArgument(const char* text)
+    explicit LogArgument(const char* text)
         : m_value(text ? std::string_view(text) : std::string_view("(null)"))
     {
     }
-    LogArgument(std::string_view text)
+    explicit LogArgument(std::string_view text)
         : m_value(text)
     {
     }
-    LogArgument(QStringView text) // A QString converts by itself.
+    explicit LogArgument(QStringView text) // A QString converts by itself.
         : m_value(text)
     {
     }

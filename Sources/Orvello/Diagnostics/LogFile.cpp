@@ -22,8 +22,8 @@ std::optional<std::int64_t> sizeOfFile(const std::string& path)
 /// The old generation goes in any case, also when there is nothing to take its place.
 void moveReplacing(const std::string& from, const std::string& to)
 {
-    ::unlink(to.c_str());
-    ::rename(from.c_str(), to.c_str());
+    static_cast<void>(::unlink(to.c_str()));
+    static_cast<void>(::rename(from.c_str(), to.c_str()));
 }
 
 } // namespace
