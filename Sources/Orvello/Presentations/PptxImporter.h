@@ -25,14 +25,14 @@ QString description(ImportError error);
 [[nodiscard]] Result<QList<SlideNote>, ImportError> importNotes(const QString& path);
 
 /// Far above any deck that people make, these limits are what a package made to do harm can cost:
-/// at worst a minute, and 256 MiB beyond the result itself. In an ordinary one the memory beyond
-/// the result is that of its directory, of the list of its slides' paths and of its largest part.
-/// XmlParser and RelsParser add limits for what is inside a part.
+/// at worst a minute or two, and 400 MB beyond the result itself. In an ordinary one the memory
+/// beyond the result is that of its directory, of the list of its slides' paths and of its largest
+/// part. XmlParser and RelsParser add limits for what is inside a part.
 namespace Limits {
 
 /// Entries of a package, and the bytes of its directory. One with more is Unreadable.
 inline constexpr qint64 entries = 65'535;
-inline constexpr qint64 directorySize = 32LL * 1024 * 1024;
+inline constexpr qint64 directorySize = 16LL * 1024 * 1024;
 
 /// Uncompressed size of an entry, whatever the directory says it is. A larger one counts as
 /// missing.
@@ -40,8 +40,8 @@ inline constexpr qint64 entrySize = 16LL * 1024 * 1024;
 
 /// Bytes read from the package, and bytes that come out of its entries, in one import. From the
 /// entry that goes past either, every entry counts as missing.
-inline constexpr qint64 totalRead = 512LL * 1024 * 1024;
-inline constexpr qint64 totalSize = 512LL * 1024 * 1024;
+inline constexpr qint64 totalRead = 256LL * 1024 * 1024;
+inline constexpr qint64 totalSize = 256LL * 1024 * 1024;
 
 /// Slides of a deck. Those after them are left out.
 inline constexpr qsizetype slides = 100'000;

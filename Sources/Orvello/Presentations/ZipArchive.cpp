@@ -19,9 +19,9 @@ constexpr qint64 chunkSize = 16'384;
 /// Of the buffer, from one entry to the next. The part that lists the slides may need far more.
 constexpr qsizetype keptCapacity = 1024 * 1024;
 
-/// libzip takes two reads for each entry of the directory, which makes this a limit on their
-/// number before it has taken them in. It matters because its versions before 1.8 keep names in
-/// a hash table that can be made to degenerate, so that many entries take hours.
+/// libzip takes two reads for each entry of the directory, which makes this a limit on their number
+/// before it has taken them in. It matters because the hash table for their names, as of libzip
+/// 1.7, can be made to degenerate, so that many entries take hours.
 constexpr DeviceZipSource::Allowance forOpening { .bytes = Limits::directorySize,
     .reads = 2 * Limits::entries + 1'000 };
 
@@ -72,8 +72,8 @@ bool ZipArchive::open()
     return true;
 }
 
-// libzip's own look-up compares names in UTF-8 that it makes of them, and in versions before 1.8 by
-// a hash table that can be made to degenerate.
+// libzip's own look-up compares names that it has converted to UTF-8, and relies on that hash
+// table.
 void ZipArchive::sortEntries(quint32 count)
 {
     m_entries.resize(count);
@@ -91,8 +91,10 @@ const char* ZipArchive::nameOf(quint32 index) const
 
 std::optional<quint32> ZipArchive::entryAt(const QByteArray& name) const
 {
-    const auto entry = std::lower_bound(m_entries.begin(), m_entries.end(), name,
-        [this](quint32 index, const QByteArray& wanted) { return nameOf(index) < wanted; });
+    const auto entry = std::lower_bound(
+        m_entries.begin(), m_entries.end(), name, [this](quint32 index, const QByteArray& wanted) {
+            return std::strcmp(nameOf(index), wanted.constData()) < 0;
+        });
     if (entry == m_entries.end() || nameOf(*entry) != name)
         return std::nullopt;
     return *entry;
