@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Orvello/Platform/Desktop.h"
+#include "Orvello/Platform/DesktopServices.h"
 
 namespace Orvello {
 
-class CocoaDesktop final : public Desktop {
+class CocoaDesktop final : public DesktopServices {
 public:
     void activateApplication() override;
     bool open(const QUrl& url) override;

@@ -1,13 +1,22 @@
 #include "Orvello/Platform/Platform.h"
 
 #include "Orvello/Platform/PosixProcessSignals.h"
+#include "Orvello/Platform/QtChildProcess.h"
 #include "Orvello/Platform/QtTimeSource.h"
+#include "Orvello/Platform/macOS/CapturePermission.h"
 #include "Orvello/Platform/macOS/CocoaFolders.h"
 #include "Orvello/Platform/macOS/CocoaPanel.h"
 #include "Orvello/Platform/macOS/CocoaScreens.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
+#include "Orvello/Platform/macOS/CocoaWorkspace.h"
+#include "Orvello/Platform/macOS/EngineMicrophone.h"
+#include "Orvello/Platform/macOS/HalAudioProcesses.h"
 #include "Orvello/Platform/macOS/OrvelloApplication.h"
+#include "Orvello/Platform/macOS/QuartzWindowServer.h"
 #include "Orvello/Platform/macOS/UnifiedLog.h"
+#include "Orvello/Platform/macOS/VoiceProcessingIO.h"
+
+#include <optional>
 
 namespace Orvello {
 
@@ -15,18 +24,33 @@ namespace {
 
 class MacPlatform final : public Platform {
 public:
-    TimeSource& time() override { return m_time; }
-    UserDefaults& userDefaults() override { return m_userDefaults; }
-    Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
-    ProcessSignals& processSignals() override { return m_processSignals; }
-    Screens& screens() override { return m_screens; }
-
     QString prepareApplication() override
     {
         makeApplicationObject();
         return {};
     }
+
+    TimeSource& time() override { return m_time; }
+    UserDefaults& userDefaults() override { return m_userDefaults; }
+    Folders& folders() override { return m_folders; }
+    SystemLog& systemLog() override { return m_systemLog; }
+    ProcessSignals& processSignals() override { return m_processSignals; }
+    ChildProcess& childProcess() override { return m_childProcess; }
+
+    Screens& screens() override { return m_screens; }
+    Workspace& workspace() override { return m_workspace; }
+    WindowServer& windowServer() override { return m_windowServer; }
+
+    /// Keynote and PowerPoint are the presenters here.
+    HelperProcess* impressHelper() override { return nullptr; }
+
+    MicrophonePermission& microphonePermission() override { return m_microphonePermission; }
+    VoiceProcessing& voiceProcessing() override { return m_voiceProcessing; }
+    RawMicrophone& rawMicrophone() override
+    {
+        return m_rawMicrophone ? *m_rawMicrophone : m_rawMicrophone.emplace();
+    }
+    AudioProcesses& audioProcesses() override { return m_audioProcesses; }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
@@ -39,7 +63,14 @@ private:
     CocoaUserDefaults m_userDefaults;
     UnifiedLog m_systemLog;
     PosixProcessSignals m_processSignals;
+    QtChildProcess m_childProcess;
     CocoaScreens m_screens;
+    CocoaWorkspace m_workspace;
+    QuartzWindowServer m_windowServer;
+    CapturePermission m_microphonePermission;
+    VoiceProcessingIO m_voiceProcessing;
+    std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.
+    HalAudioProcesses m_audioProcesses;
 };
 
 } // namespace

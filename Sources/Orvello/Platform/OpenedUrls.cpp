@@ -1,0 +1,29 @@
+#include "Orvello/Platform/OpenedUrls.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileOpenEvent>
+
+namespace Orvello {
+
+OpenedUrls::OpenedUrls(const QString& scheme, QObject* parent)
+    : QObject(parent)
+    , m_scheme(scheme)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+    QDesktopServices::setUrlHandler(m_scheme, this, "open");
+}
+
+OpenedUrls::~OpenedUrls() { QDesktopServices::unsetUrlHandler(m_scheme); }
+
+bool OpenedUrls::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != QCoreApplication::instance() || event->type() != QEvent::FileOpen)
+        return false;
+    open(static_cast<const QFileOpenEvent&>(*event).url());
+    return true;
+}
+
+void OpenedUrls::open(const QUrl& url) { Q_EMIT opened({ url }); }
+
+} // namespace Orvello
