@@ -193,7 +193,7 @@ class SlidesTest(unittest.TestCase):
         follower = self.start_following()
         slideshow = self.start_slideshow()
         follower.wait_for("state", 10, lambda state: state == "Denied")
-        follower.wait_for("advice", 1)
+        follower.wait_for("advice", 10)
         follower.tell("import")
         _, message = follower.wait_for("live", 10)
         self.assertIn("Let Orvello Follow Impress", message)

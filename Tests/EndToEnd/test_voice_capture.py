@@ -83,7 +83,8 @@ class VoiceCaptureTest(unittest.TestCase):
     def test_silence_is_not_speech(self):
         probe = self.listening(self.sound())
         time.sleep(3)
-        self.assertEqual(probe.messages(), ["VAD listening (VPIO, AEC on)"])
+        heard = [message for message in probe.messages() if message.startswith("VAD")]
+        self.assertEqual(heard, ["VAD listening (VPIO, AEC on)"])
 
     def test_the_gate_follows_speech_on_both_paths(self):
         sound = self.sound()

@@ -118,7 +118,8 @@ protected:
     template <typename Condition>
     static bool waitUntil(Condition condition)
     {
-        return QTest::qWaitFor(condition);
+        constexpr int longestWait = 30'000; // Milliseconds; a busy machine takes its time.
+        return QTest::qWaitFor(condition, longestWait);
     }
 
     Testing::LogCapture log;
