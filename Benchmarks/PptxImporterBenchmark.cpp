@@ -81,7 +81,7 @@ void inflateAndParse(zip_t* archive, const std::string& path)
     zip_file_t* const file = zip_fopen_index(archive, static_cast<zip_uint64_t>(index), 0);
     if (!file)
         std::exit(1);
-    const XML_Parser parser = XML_ParserCreate(nullptr);
+    XML_ParserStruct* const parser = XML_ParserCreate(nullptr);
     XML_SetElementHandler(parser, ignoreStart, ignoreEnd);
     XML_SetCharacterDataHandler(parser, ignoreText);
     std::array<char, 16'384> chunk;
@@ -144,11 +144,11 @@ double sizeOf(const QList<SlideNote>& slides)
 /// Runs in a process of its own and returns that process's peak memory, in the system's unit.
 double inChild(const std::function<void()>& action)
 {
-    std::fflush(stdout);
+    static_cast<void>(std::fflush(stdout));
     const pid_t child = fork();
     if (child == 0) {
         action();
-        std::fflush(stdout);
+        static_cast<void>(std::fflush(stdout));
         _exit(0);
     }
     int status = -1;
@@ -161,7 +161,7 @@ double inChild(const std::function<void()>& action)
 /// Peak memory of the action in bytes. Systems differ in the unit, so it is measured along.
 double peakMemory(const std::function<void()>& action)
 {
-    constexpr std::size_t yardstick = 64 * 1024 * 1024;
+    constexpr std::size_t yardstick = 67'108'864;
     const double base = inChild([] {});
     const double unit = yardstick / (inChild([] {
         std::vector<char> memory(yardstick, 1);

@@ -104,7 +104,7 @@ QString DeckReader::placeholderText(const QString& path, const std::set<std::str
         return {};
     PlaceholderTextParser parser(types, std::min(Limits::partText, m_textLeft));
     parser.parse(view(*part));
-    const QString text = parser.collected.join(u'\n').trimmed();
+    QString text = parser.collected.join(u'\n').trimmed();
     m_textLeft -= text.size();
     return text;
 }

@@ -48,8 +48,8 @@ inline constexpr qsizetype slides = 100'000;
 
 /// UTF-16 code units of text in one part, and in all titles and notes together. A part that
 /// goes past either contributes the placeholders before the one that does.
-inline constexpr qsizetype partText = 1024 * 1024;
-inline constexpr qsizetype totalText = 64 * 1024 * 1024;
+inline constexpr qsizetype partText = 1'048'576;
+inline constexpr qsizetype totalText = 64 * partText;
 
 } // namespace Limits
 

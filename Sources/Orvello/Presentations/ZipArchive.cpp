@@ -17,7 +17,7 @@ namespace {
 constexpr qint64 chunkSize = 16'384;
 
 /// Of the buffer, from one entry to the next. The part that lists the slides may need far more.
-constexpr qsizetype keptCapacity = 1024 * 1024;
+constexpr qsizetype keptCapacity = 1'048'576;
 
 /// libzip takes two reads for each entry of the directory, which makes this a limit on their number
 /// before it has taken them in. It matters because the hash table for their names, as of libzip
