@@ -34,7 +34,7 @@ class VoiceTest(unittest.TestCase):
 
     def launch(self, awaited=LISTENING):
         app = App(self.desktop, "--voice", "--autostart")
-        app.wait_for_log(awaited)
+        app.wait_for_log(awaited, seconds=60)
         app.window()
         time.sleep(1)
         return app

@@ -121,12 +121,12 @@ TEST(SpscRingTest, refusesWhatDoesNotFit)
 
 TEST(SpscRingTest, keepsOrderBetweenTwoThreads)
 {
-    constexpr int count = 200000;
+    constexpr int count = 50000;
     struct Stamped {
         int first;
         int second;
     };
-    SpscRing<Stamped, 64> ring;
+    SpscRing<Stamped, 1024> ring;
     std::thread producer([&ring] {
         for (int value = 0; value < count;)
             if (ring.tryPush({ value, -value }))

@@ -34,6 +34,7 @@ PulseConnection::PulseConnection()
     : m_loop(pa_threaded_mainloop_new())
     , m_survey([this](const PulseFacts& facts) { onFacts(facts); })
 {
+    pa_threaded_mainloop_set_name(m_loop.get(), "orvello-sound");
     connect();
     pa_threaded_mainloop_start(m_loop.get());
 }
