@@ -80,6 +80,8 @@ PortalHotKeys::PortalHotKeys(QDBusConnection bus, HotKeys& fallback)
 {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
+    // Qt looks the type up by name when it connects the slot, before it has met one on the bus.
+    qRegisterMetaType<QDBusObjectPath>();
     m_bus.connect(service, path, shortcutsInterface, u"Activated"_s, this,
         SLOT(activated(QDBusObjectPath, QString)));
 }
