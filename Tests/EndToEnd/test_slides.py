@@ -115,11 +115,11 @@ class SlidesTest(unittest.TestCase):
         follower = self.start_following()
         follower.wait_for("text", 10, lambda text: text == prompt(1))
 
-        began = time.monotonic()
         slideshow = self.start_slideshow()
+        began = time.monotonic()
         moment, presenting = follower.wait_for("presenting", 10)
         self.assertTrue(presenting)
-        self.assertLess(moment - began, 2.0 + (time.monotonic() - moment) + 8.0)
+        self.assertLess(moment - began, 2.0)
         follower.wait_for("state", 3, lambda state: state == "Live")
 
         slideshow.next()
@@ -192,8 +192,8 @@ class SlidesTest(unittest.TestCase):
         self.office.make_deck(self.deck)
         follower = self.start_following()
         slideshow = self.start_slideshow()
-        follower.wait_for("state", 10, lambda state: state == "Denied")
         follower.wait_for("advice", 10)
+        follower.wait_for("state", 1, lambda state: state == "Denied")
         follower.tell("import")
         _, message = follower.wait_for("live", 10)
         self.assertIn("Let Orvello Follow Impress", message)
@@ -206,9 +206,9 @@ class SlidesTest(unittest.TestCase):
         follower.wait_for("state", 5, lambda state: state == "Live")
 
         # It lasts: LibreOffice listens from its next start on, until the user takes it back.
+        slideshow.end()
         self.office.quit()
-        self.assertEqual(self.helper("slide").stderr, "LibreOffice isn't running. (-600)\n"
-                         if not self.others_run_office() else self.helper("slide").stderr)
+        self.assertEqual(self.helper("slide").returncode, 1)
         self.office.start()
         self.office.open(self.deck)
         wait_until(lambda: self.helper("deck").returncode == 0, what="the deck")
@@ -217,10 +217,6 @@ class SlidesTest(unittest.TestCase):
         self.office.start()
         self.assertIn("-1743", self.helper("deck").stderr)
         self.assertEqual(follower.stop(), 0)
-
-    @staticmethod
-    def others_run_office():
-        return bool(subprocess.run(["pgrep", "-x", "soffice.bin"], capture_output=True).stdout)
 
     def test_the_helper_says_when_no_presentation_is_open(self):
         self.start_office("--writer")
