@@ -4,10 +4,10 @@
 set(views
     Prompting/Capsule.qml
     Prompting/Countdown.qml
-    Prompting/DebugBadge.qml
     Prompting/FadingStrip.qml
     Prompting/PromptText.qml
     Prompting/PrompterView.qml
+    Prompting/RecordingBadge.qml
     Prompting/SmallLabel.qml
     Prompting/StatusBadge.qml)
 

@@ -243,6 +243,17 @@ TEST_F(PrompterViewTest, showsTheDebugBadgeOfACapturablePrompterOnly)
     EXPECT_EQ(badge->property("font").value<QFont>().weight(), QFont::Bold);
 }
 
+TEST_F(PrompterViewTest, saysThatRecordingsShowItWhereStealthModeCannotHideIt)
+{
+    EXPECT_EQ(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+
+    view->rootObject()->setProperty("visibleInRecordings", true);
+    EXPECT_NE(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+
+    view->rootObject()->setProperty("visibleInRecordings", false);
+    EXPECT_EQ(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+}
+
 TEST_F(PrompterViewTest, fitsIntoTheSmallestPanel)
 {
     settings.setCountdownSeconds(10);

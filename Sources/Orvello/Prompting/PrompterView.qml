@@ -14,6 +14,7 @@ Item {
     required property string promptText
     required property string fontFamily
     required property bool forceCapturable
+    property bool visibleInRecordings: false // Stealth Mode is wanted where nothing can hide the panel.
 
     readonly property double firstLineTop: 0.18 * height
     readonly property double textWidth: Math.max(width - 56, 100)
@@ -70,10 +71,11 @@ Item {
         status: root.status
     }
 
-    DebugBadge {
+    RecordingBadge {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: root.edge
-        visible: root.forceCapturable
+        visible: root.forceCapturable || root.visibleInRecordings
+        text: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
     }
 }

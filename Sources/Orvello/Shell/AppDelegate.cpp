@@ -89,6 +89,9 @@ void AppDelegate::showPanel()
 
 void AppDelegate::subscribe()
 {
+    observe(*m_panelController, &PrompterPanelController::isVisibleInRecordings,
+        &PrompterPanelController::visibleInRecordingsChanged, *this,
+        [this](bool isVisible) { m_prompterWindow->setVisibleInRecordings(isVisible); });
     observe(m_settings, &SettingsStore::stealthMode, &SettingsStore::stealthModeChanged, *this,
         [this](bool on) { m_panelController->applyStealthMode(on); });
     observe(m_settings, &SettingsStore::voiceFollow, &SettingsStore::voiceFollowChanged, *this,

@@ -27,7 +27,7 @@ Options:
   --voice          follow the voice: the text moves while you speak
   --help           show this text and exit
   --version        show the version and exit
-  -Key value       use this value for a preference, for this run only
+  -Key value       use this text for a preference, for this run only
 
 Environment:
   ORVELLO_IMPORT_PPTX   import the .pptx file at this path at launch

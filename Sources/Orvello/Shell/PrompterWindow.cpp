@@ -37,6 +37,11 @@ PrompterWindow::PrompterWindow(const Services& services)
 
 PrompterWindow::~PrompterWindow() = default;
 
+void PrompterWindow::setVisibleInRecordings(bool isVisible)
+{
+    m_view.rootObject()->setProperty("visibleInRecordings", isVisible);
+}
+
 void PrompterWindow::followDeck(const DeckController& deck, ScrollEngine& engine)
 {
     connect(&deck, &DeckController::promptTextChanged, this,

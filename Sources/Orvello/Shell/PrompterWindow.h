@@ -33,6 +33,9 @@ public:
 
     QWindow& window() { return m_view; }
 
+    /// Whether the card says that Stealth Mode cannot hide it here.
+    void setVisibleInRecordings(bool isVisible);
+
 private:
     void followDeck(const DeckController& deck, ScrollEngine& engine);
 

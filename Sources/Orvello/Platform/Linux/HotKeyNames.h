@@ -21,7 +21,7 @@ const HotKeyName* hotKeyName(std::uint32_t keyCode);
 /// The key with its modifiers for people, such as "Alt+Super+P".
 std::string hotKeyLabel(const HotKeyName& name, std::uint32_t modifiers);
 
-/// The same as the shortcuts specification of freedesktop.org writes it, such as "ALT+LOGO+p".
+/// The same as freedesktop.org writes shortcuts, such as "ALT+LOGO+p".
 std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers);
 
 } // namespace Orvello

@@ -2,6 +2,8 @@ import QtQuick
 
 // Says that others can see the prompter, so plainly that nobody believes it hidden.
 Rectangle {
+    property alias text: label.text
+
     implicitWidth: label.implicitWidth + 12
     implicitHeight: 16
     radius: 4
@@ -10,7 +12,6 @@ Rectangle {
     Text {
         id: label
         anchors.centerIn: parent
-        text: "DEBUG — VISIBLE IN RECORDINGS"
         textFormat: Text.PlainText
         renderType: Text.NativeRendering
         color: "white"
