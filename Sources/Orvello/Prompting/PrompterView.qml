@@ -76,6 +76,6 @@ Item {
         anchors.top: parent.top
         anchors.margins: root.edge
         visible: root.forceCapturable || root.visibleInRecordings
-        text: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
+        message: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 
 // Says that others can see the prompter, so plainly that nobody believes it hidden.
 Rectangle {
-    property alias text: label.text
+    property alias message: label.text
 
     implicitWidth: label.implicitWidth + 12
     implicitHeight: 16
