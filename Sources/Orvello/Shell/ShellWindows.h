@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace Orvello {
+
+/// One window of the program that the user opens and closes, and that keeps its content meanwhile.
+class ShellWindow {
+public:
+    virtual ~ShellWindow() = default;
+
+    /// Shows the window, in front of all others and with the keyboard. Centred at the first time.
+    virtual void makeKeyAndOrderFront() = 0;
+};
+
+/// Makes the windows that menus and the launch open, so that what decides when they open needs no
+/// window system. Each call makes a new window.
+class ShellWindows {
+public:
+    virtual ~ShellWindows() = default;
+
+    virtual std::unique_ptr<ShellWindow> makeLibrary() = 0;
+    virtual std::unique_ptr<ShellWindow> makeSettings() = 0;
+
+    /// The welcome tour. `onFinish` is called once, when the user has finished or closed it; it may
+    /// destroy the window.
+    virtual std::unique_ptr<ShellWindow> makeOnboarding(std::function<void()> onFinish) = 0;
+};
+
+} // namespace Orvello
