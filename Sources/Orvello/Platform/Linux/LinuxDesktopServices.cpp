@@ -37,17 +37,22 @@ bool LinuxDesktopServices::open(const QUrl& url) { return QDesktopServices::open
 
 void LinuxDesktopServices::reveal(const QString& path)
 {
+    const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).path());
+    if (!m_bus.isConnected()) {
+        open(folder);
+        return;
+    }
     const QString fileManager = u"org.freedesktop.FileManager1"_s;
     QDBusMessage call = QDBusMessage::createMethodCall(
         fileManager, u"/org/freedesktop/FileManager1"_s, fileManager, u"ShowItems"_s);
     call.setArguments(
         { QStringList { QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) }, QString() });
     auto* const reply = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, path] {
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, folder] {
         reply->deleteLater();
         // Without a file manager on the bus, at least the folder can be shown.
         if (reply->isError())
-            open(QUrl::fromLocalFile(QFileInfo(path).path()));
+            open(folder);
     });
 }
 

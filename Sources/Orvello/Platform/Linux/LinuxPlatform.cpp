@@ -57,7 +57,7 @@ struct Session {
     explicit Session(bool isWayland)
     {
         // Only the portal can be asked by a program that has no keyboard of its own there.
-        if (isWayland)
+        if (isWayland && bus.isConnected())
             portalKeys.emplace(bus, x11Keys);
     }
 

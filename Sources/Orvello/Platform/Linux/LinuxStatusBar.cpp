@@ -43,6 +43,10 @@ void LinuxStatusBar::observe(std::function<void(bool isThere)> changed)
 
 void LinuxStatusBar::askForHost()
 {
+    if (!m_bus.isConnected()) { // A call would never be answered.
+        m_hasHost = false;
+        return update();
+    }
     QDBusMessage question = QDBusMessage::createMethodCall(
         service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question.setArguments({ service, u"IsStatusNotifierHostRegistered"_s });
