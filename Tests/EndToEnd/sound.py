@@ -2,6 +2,7 @@
 
 import array
 import contextlib
+import ctypes
 import os
 import pathlib
 import shutil
@@ -102,6 +103,54 @@ class SoundServer(contextlib.ExitStack):
             write_wave(path, samples)
             commands.append(["paplay", f"--device={sink}", "--latency-msec=30", str(path)])
         return [self.start(command) for command in commands]
+
+
+class PausingRecorder:
+    """Another program on the microphone that can pause its recording, which the command line programs cannot. It
+    records in this process."""
+
+    RECORDING_PAUSED = 1  # PA_STREAM_START_CORKED
+    READY = {"context": 4, "stream": 2}  # PA_CONTEXT_READY, PA_STREAM_READY
+
+    class Format(ctypes.Structure):
+        _fields_ = [("format", ctypes.c_int), ("rate", ctypes.c_uint32), ("channels", ctypes.c_uint8)]
+
+    def __init__(self, sound, source):
+        self.pulse = ctypes.CDLL("libpulse.so.0")
+        self.loop = ctypes.c_void_p(self._new("pa_threaded_mainloop_new"))
+        self.call("pa_threaded_mainloop_start", self.loop)
+        sound.callback(self.call, "pa_threaded_mainloop_stop", self.loop)
+        api = ctypes.c_void_p(self._new("pa_threaded_mainloop_get_api", self.loop))
+        self.context = ctypes.c_void_p(self._new("pa_context_new", api, b"Recorder"))
+        server = f"unix:{sound.environment['XDG_RUNTIME_DIR']}/pulse/native".encode()
+        self.call("pa_context_connect", self.context, server, 0, None)
+        self._wait_until_ready("context", self.context)
+        mono = self.Format(3, RATE, 1)  # PA_SAMPLE_S16LE
+        self.stream = ctypes.c_void_p(
+            self._new("pa_stream_new", self.context, b"Paused recording", ctypes.byref(mono), None))
+        self.call("pa_stream_connect_record", self.stream, source.encode(), None, self.RECORDING_PAUSED)
+        self._wait_until_ready("stream", self.stream)
+
+    def record(self, on):
+        self.call("pa_stream_cork", self.stream, 0 if on else 1, None, None)
+
+    def call(self, name, *arguments):
+        """A function of the library, kept apart from its thread unless it is about that thread."""
+        function = getattr(self.pulse, name)
+        if name.startswith("pa_threaded_mainloop_"):
+            return function(*arguments)
+        self.pulse.pa_threaded_mainloop_lock(self.loop)
+        try:
+            return function(*arguments)
+        finally:
+            self.pulse.pa_threaded_mainloop_unlock(self.loop)
+
+    def _new(self, name, *arguments):
+        getattr(self.pulse, name).restype = ctypes.c_void_p
+        return self.call(name, *arguments)
+
+    def _wait_until_ready(self, kind, thing):
+        wait_until(lambda: self.call(f"pa_{kind}_get_state", thing) == self.READY[kind], what=f"the recorder's {kind}")
 
 
 class Probe:

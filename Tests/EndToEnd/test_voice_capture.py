@@ -2,13 +2,14 @@
 
 import os
 import pathlib
+import re
 import signal
 import subprocess
 import threading
 import time
 import unittest
 
-from sound import RATE, Probe, SoundServer, mixed, scaled, silence, speech, wait_until
+from sound import RATE, PausingRecorder, Probe, SoundServer, mixed, scaled, silence, speech, wait_until
 
 FAR_END = ("The quick brown fox jumps over the lazy dog, while the band plays a slow song in the garden behind the "
            "house. Nobody had expected that so many people would come, and yet the chairs were not enough for half "
@@ -181,13 +182,64 @@ class VoiceCaptureTest(unittest.TestCase):
         self.assertIn("aec=1", probe.answer("state"))
         self.assert_hears(sound, probe)
 
-    def test_recorders_of_sinks_and_corked_recorders_do_not_count(self):
+    def test_recorders_of_sinks_do_not_count(self):
         sound = self.sound()
         probe = self.listening(sound)
         self.record(sound, "speakers.monitor")
         self.record(sound, "air.monitor")
         time.sleep(3)
         self.assertIn("aec=1", probe.answer("state"))
+
+    def test_a_recorder_counts_only_while_it_is_not_paused(self):
+        sound = self.sound()
+        probe = self.listening(sound)
+        recorder = PausingRecorder(sound, "microphone")
+        self.assertEqual(self.recorders(sound)[os.getpid()], ["yes"])
+        time.sleep(3)
+        self.assertIn("aec=1", probe.answer("state"))
+
+        recorder.record(True)
+        recording = time.monotonic()
+        dropped = probe.wait_for("VAD: dropping AEC (another app is using the microphone)", since=recording)
+        self.assertLess(dropped - recording, 2.0)
+
+        recorder.record(False)
+        probe.wait_for("VAD: environment clear — re-engaging AEC", seconds=10)
+
+    def test_its_own_recording_does_not_count(self):
+        sound = self.sound()
+        probe = self.listening(sound)
+        time.sleep(3)
+        self.assertEqual(self.recorders(sound), {probe.process.pid: ["no", "no"]})
+        self.assertIn("aec=1", probe.answer("state"))
+
+        probe.command("app us.zoom.xos Zoom")
+        probe.wait_for("VAD listening (raw mic, no AEC — Zoom is open)")
+        probe.command("noapp")
+        probe.wait_for("VAD: environment clear — re-engaging AEC", seconds=10)
+        self.assertNotIn("another app", "".join(probe.messages()))
+
+    @staticmethod
+    def recorders(sound):
+        """For each process that the server knows to record: whether its streams are paused."""
+        outputs = sound.control("list", "source-outputs").split("Source Output #")
+        paused = [re.search(r"Corked: (\w+)", output) for output in outputs]
+        processes = [re.search(r'application.process.id = "(\d+)"', output) for output in outputs]
+        result = {}
+        for process, is_paused in zip(processes, paused):
+            if process:
+                result.setdefault(int(process[1]), []).append(is_paused[1])
+        return result
+
+    def test_a_microphone_that_is_a_monitor_can_be_in_use_too(self):
+        sound = self.sound(default_source="air.monitor")
+        probe = self.listening(sound)
+        self.record(sound, "speakers.monitor")
+        time.sleep(3)
+        self.assertIn("aec=1", probe.answer("state"))
+
+        self.record(sound, "air.monitor")
+        probe.wait_for("VAD: dropping AEC (another app is using the microphone)")
 
     def test_nothing_but_two_record_streams_is_added_to_the_server(self):
         sound = self.sound()
@@ -314,9 +366,15 @@ class VoiceCaptureTest(unittest.TestCase):
         for rate, channels, form in ((8000, 1, "s16le"), (192000, 2, "s16le"), (44100, 2, "u8"), (96000, 6, "float32le")):
             with self.subTest(f"{rate} Hz, {channels} channels, {form}"):
                 air = f"module-null-sink sink_name=air rate={rate} channels={channels} format={form}"
-                modules = [SoundServer.MODULES[0], SoundServer.MODULES[1], air, SoundServer.MODULES[3]]
-                sound = self.sound(modules=modules)
-                self.assert_hears(sound, self.listening(sound))
+                microphone = "module-remap-source master=air.monitor source_name=microphone"  # In the air's own format.
+                sound = self.sound(modules=[*SoundServer.MODULES[:2], air, microphone])
+                self.assertRegex(sound.control("list", "short", "sources"),
+                                 rf"\tmicrophone\t.*\t{form} {channels}ch {rate}Hz")
+                probe = self.listening(sound)
+                self.assert_hears(sound, probe)
+                probe.command("app us.zoom.xos Zoom")
+                probe.wait_for("VAD listening (raw mic")
+                self.assert_hears(sound, probe)
 
     def test_samples_that_are_no_numbers_do_not_poison_the_detector(self):
         air = "module-null-sink sink_name=air rate=48000 channels=1 format=float32le"

@@ -157,12 +157,18 @@ TEST(X11WindowsTest, findsNothingWithoutADisplay)
 /// Over a process table made of files.
 class RunningApplicationsTest : public ::testing::Test {
 protected:
-    void addProcess(const QString& id, const QByteArray& name)
+    void addProcess(const QString& id, const QByteArray& name, char state = 'S')
     {
         ASSERT_TRUE(QDir(folder.path()).mkpath(id));
-        QFile file(folder.filePath(id + u"/comm"_s));
+        write(id + u"/comm"_s, name + '\n');
+        write(id + u"/stat"_s, id.toUtf8() + " (" + name + ") " + state + " 1 1 1 0\n");
+    }
+
+    void write(const QString& path, const QByteArray& content)
+    {
+        QFile file(folder.filePath(path));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(name + '\n');
+        file.write(content);
     }
 
     QStringList runningIdentifiers() const
@@ -260,6 +266,30 @@ TEST_F(RunningApplicationsTest, forgetsAProcessThatEnds)
 
     ASSERT_TRUE(QDir(folder.filePath(u"10"_s)).removeRecursively());
     EXPECT_TRUE(workspace.runningApplications().isEmpty());
+    addProcess(u"10"_s, "bash");
+    EXPECT_TRUE(workspace.runningApplications().isEmpty());
+}
+
+TEST_F(RunningApplicationsTest, leavesOutAProcessThatHasEndedUnnoticedByItsParent)
+{
+    addProcess(u"10"_s, "zoom");
+    const LinuxWorkspace workspace(windows, folder.path().toStdString());
+    for (unsigned scan = 0; scan < 10; ++scan)
+        EXPECT_EQ(workspace.runningApplications().size(), 1);
+
+    addProcess(u"10"_s, "zoom", 'Z');
+    EXPECT_TRUE(workspace.runningApplications().isEmpty());
+    addProcess(u"11"_s, "slack", 'Z');
+    EXPECT_TRUE(workspace.runningApplications().isEmpty());
+}
+
+TEST_F(RunningApplicationsTest, noticesAtOnceThatAKnownProcessExecutesAnotherProgram)
+{
+    addProcess(u"10"_s, "zoom");
+    const LinuxWorkspace workspace(windows, folder.path().toStdString());
+    for (unsigned scan = 0; scan < 10; ++scan)
+        EXPECT_EQ(workspace.runningApplications().size(), 1);
+
     addProcess(u"10"_s, "bash");
     EXPECT_TRUE(workspace.runningApplications().isEmpty());
 }

@@ -80,12 +80,24 @@ TEST(LoudnessTest, thresholdFallsByThirtyDecibels)
     }
 }
 
-TEST(LoudnessTest, thresholdIsComputedInSinglePrecision)
+TEST(LoudnessTest, thresholdIsRoundedToSinglePrecisionAtEveryStep)
 {
-    const float sensitivity = 0.6f;
-    const float expected = std::pow(10.0f, (1.0f - sensitivity) * 1.5f - 2.8f);
+    for (int percent = 0; percent <= 100; ++percent) {
+        const double sensitivity = percent / 100.0;
+        // Volatile, so that no compiler joins multiplication and subtraction into one rounding.
+        const volatile float steps = (1.0f - static_cast<float>(sensitivity)) * 1.5f;
+        const volatile float exponent = steps - 2.8f;
 
-    EXPECT_EQ(speechThreshold(0.6), expected);
+        EXPECT_EQ(speechThreshold(sensitivity), std::pow(10.0f, exponent)) << percent;
+    }
+}
+
+TEST(LoudnessTest, thresholdExistsForEverySensitivity)
+{
+    EXPECT_EQ(speechThreshold(1e300), 0.0f);
+    EXPECT_EQ(speechThreshold(-1e300), infinity);
+    EXPECT_GT(speechThreshold(-0.5), speechThreshold(0.0));
+    EXPECT_LT(speechThreshold(1.5), speechThreshold(1.0));
 }
 
 TEST(LoudnessTest, levelTargetIsFullFromFourHundredthsOn)

@@ -2,6 +2,8 @@
 
 #include <QSignalSpy>
 
+#include <algorithm>
+#include <ostream>
 #include <thread>
 
 namespace Orvello {
@@ -83,6 +85,52 @@ TEST_F(VoiceActivityEngineTest, anAnswerAfterItsEndIsOnlyLogged)
 
     EXPECT_THAT(journal, IsEmpty());
     EXPECT_THAT(log.lines(), ElementsAre("requesting mic permission", "mic permission granted=1"));
+}
+
+TEST_F(VoiceActivityEngineTest, startsOnAPermissionThatIsGrantedAfterStopping)
+{
+    permission.currentStatus = Status::NotDetermined;
+    engine->requestPermissionAndStart();
+    engine->stop();
+
+    permission.requests.front()(true);
+    Testing::drainEvents();
+
+    EXPECT_EQ(engine->micAuthorized(), true);
+    EXPECT_TRUE(engine->isListening());
+    EXPECT_EQ(time.pendingCalls(), 1u);
+}
+
+TEST_F(VoiceActivityEngineTest, startsOnceHoweverManyAnswersCome)
+{
+    permission.currentStatus = Status::NotDetermined;
+    engine->requestPermissionAndStart();
+    engine->requestPermissionAndStart();
+    ASSERT_EQ(permission.requests.size(), 2u);
+
+    permission.requests[0](true);
+    permission.requests[1](true);
+    Testing::drainEvents();
+
+    EXPECT_EQ(std::count(journal.begin(), journal.end(), "unit instantiate"), 1);
+    EXPECT_THAT(log.lines(),
+        ElementsAre("requesting mic permission", "requesting mic permission",
+            "mic permission granted=1", "VAD listening (VPIO, AEC on)",
+            "mic permission granted=1"));
+}
+
+TEST_F(VoiceActivityEngineTest, aRefusalWhileListeningIsOnlyPublished)
+{
+    permission.currentStatus = Status::NotDetermined;
+    engine->requestPermissionAndStart();
+    permission.currentStatus = Status::Authorized;
+    engine->requestPermissionAndStart();
+
+    permission.requests.front()(false);
+    Testing::drainEvents();
+
+    EXPECT_EQ(engine->micAuthorized(), false);
+    EXPECT_TRUE(engine->isListening());
 }
 
 TEST_F(VoiceActivityEngineTest, startsAtOnceWhenAuthorized)
@@ -220,8 +268,10 @@ TEST_F(VoiceActivityEngineTest, startingWhileListeningChangesNothing)
 // Voice processing that fails
 
 struct FailingStep {
-    const char* name; ///< In the fake's journal.
-    const char* line;
+    std::string name; ///< In the fake's journal.
+    std::string line;
+
+    friend void PrintTo(const FailingStep& step, std::ostream* stream) { *stream << step.name; }
 };
 
 class VoiceProcessingFailureTest : public VoiceFixture,
@@ -238,8 +288,7 @@ TEST_P(VoiceProcessingFailureTest, leavesNoUnitAndFallsBackForGood)
     EXPECT_FALSE(engine->aecActive());
     EXPECT_EQ(engine->aecHoldReason(), std::nullopt);
     EXPECT_THAT(log.lines(), ElementsAre(GetParam().line, "VAD listening (raw mic, no AEC)"));
-    const auto failed
-        = std::find(journal.begin(), journal.end(), std::string("unit ") + GetParam().name);
+    const auto failed = std::find(journal.begin(), journal.end(), "unit " + GetParam().name);
     ASSERT_NE(failed, journal.end());
     EXPECT_THAT(std::vector<std::string>(failed + 1, journal.end()),
         ElementsAre("unit stop", "unit uninitialize", "unit dispose", "raw removeTap",
@@ -488,6 +537,39 @@ TEST_F(VoiceActivityEngineTest, aChangedReasonIsPublishedAndRestartsTheCount)
     EXPECT_THAT(later.lines(), IsEmpty());
     workspace.running.clear();
     time.advance(4);
+    EXPECT_FALSE(engine->aecActive());
+    time.advance(1);
+    EXPECT_TRUE(engine->aecActive());
+}
+
+TEST_F(VoiceActivityEngineTest, anAppOnTheMicrophoneTakesOverTheHoldOfAMeetingApplication)
+{
+    runZoom();
+    engine->requestPermissionAndStart();
+    journal.clear();
+    micActivity.otherProcessCaptures = true;
+
+    time.advance(1);
+    EXPECT_EQ(engine->aecHoldReason(), u"another app is using the microphone"_s);
+    micActivity.otherProcessCaptures = false;
+    time.advance(1);
+
+    EXPECT_EQ(engine->aecHoldReason(), u"Zoom is open"_s);
+    EXPECT_THAT(journal, IsEmpty());
+}
+
+TEST_F(VoiceActivityEngineTest, theCountOfClearTicksOutlivesStopping)
+{
+    runZoom();
+    engine->requestPermissionAndStart();
+    workspace.running.clear();
+    time.advance(3);
+    engine->stop();
+    runZoom();
+    engine->requestPermissionAndStart();
+    workspace.running.clear();
+
+    time.advance(1);
     EXPECT_FALSE(engine->aecActive());
     time.advance(1);
     EXPECT_TRUE(engine->aecActive());

@@ -212,6 +212,27 @@ TEST_F(VoiceGateTest, blocksHeardAfterARestartTakeEffectAfterTheReset)
     EXPECT_FLOAT_EQ(engine->level(), 0.3f);
 }
 
+TEST_F(VoiceGateTest, stoppingWhileDeadOnlyEndsTheWatchdog)
+{
+    speak();
+    const float level = engine->level();
+    microphone.rate = 0;
+    runZoom();
+    time.advance(1);
+    ASSERT_FALSE(engine->isListening());
+    ASSERT_EQ(time.pendingCalls(), 1u);
+    journal.clear();
+
+    engine->stop();
+    Testing::drainEvents();
+
+    EXPECT_EQ(time.pendingCalls(), 0u);
+    EXPECT_TRUE(engine->isSpeaking());
+    EXPECT_EQ(engine->level(), level);
+    EXPECT_TRUE(engine->aecActive());
+    EXPECT_THAT(journal, IsEmpty());
+}
+
 TEST_F(VoiceGateTest, aRestartWithinALoudRunSpeaksAtItsFirstBlock)
 {
     speak();

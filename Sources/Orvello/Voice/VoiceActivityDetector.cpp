@@ -4,18 +4,9 @@
 
 namespace Orvello {
 
-BlockReport VoiceActivityDetector::process(
-    std::span<const float> samples, double sensitivity, double now) noexcept
-{
-    const float rootMeanSquare = Loudness::rootMeanSquare(samples);
-    const float threshold = thresholdAt(sensitivity);
-    const bool isLoud = rootMeanSquare > threshold;
-    m_speakingInternal = isLoud ? speakingAfterLoudBlock(now) : speakingAfterQuietBlock(now);
-    return BlockReport::ofBlock(
-        Loudness::levelTarget(rootMeanSquare), m_speakingInternal, rootMeanSquare, threshold);
-}
+// The steps of a block, inline because the calls would be dearer than a short block's samples.
 
-float VoiceActivityDetector::thresholdAt(double sensitivity) noexcept
+inline float VoiceActivityDetector::thresholdAt(double sensitivity) noexcept
 {
     if (sensitivity != m_sensitivity) {
         m_sensitivity = sensitivity;
@@ -24,7 +15,7 @@ float VoiceActivityDetector::thresholdAt(double sensitivity) noexcept
     return m_threshold;
 }
 
-bool VoiceActivityDetector::speakingAfterLoudBlock(double now) noexcept
+inline bool VoiceActivityDetector::speakingAfterLoudBlock(double now) noexcept
 {
     if (!m_aboveSince)
         m_aboveSince = now;
@@ -34,10 +25,21 @@ bool VoiceActivityDetector::speakingAfterLoudBlock(double now) noexcept
     return true;
 }
 
-bool VoiceActivityDetector::speakingAfterQuietBlock(double now) noexcept
+inline bool VoiceActivityDetector::speakingAfterQuietBlock(double now) noexcept
 {
     m_aboveSince.reset();
     return m_speakingInternal && m_silenceDeadline >= now;
+}
+
+BlockReport VoiceActivityDetector::process(
+    std::span<const float> samples, double sensitivity, double now) noexcept
+{
+    const float rootMeanSquare = Loudness::rootMeanSquare(samples);
+    const float threshold = thresholdAt(sensitivity);
+    const bool isLoud = rootMeanSquare > threshold;
+    m_speakingInternal = isLoud ? speakingAfterLoudBlock(now) : speakingAfterQuietBlock(now);
+    return BlockReport::ofBlock(
+        Loudness::levelTarget(rootMeanSquare), m_speakingInternal, rootMeanSquare, threshold);
 }
 
 } // namespace Orvello

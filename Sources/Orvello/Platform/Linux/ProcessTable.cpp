@@ -28,24 +28,35 @@ bool isProcess(std::string_view name)
         && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// The name of a process in the table; empty when it is gone.
-QByteArray processName(int table, const char* process)
+/// The beginning of what the table tells about a process in a file; empty when it is gone.
+QByteArray factsFrom(std::string_view file, int table, std::string_view process)
 {
     std::array<char, 32> path {};
-    const std::string_view id(process);
-    if (id.size() > 20)
+    if (process.size() > 20)
         return {};
-    constexpr std::string_view file = "/comm";
-    std::copy(file.begin(), file.end(), std::copy(id.begin(), id.end(), path.begin()));
+    std::copy(file.begin(), file.end(), std::copy(process.begin(), process.end(), path.begin()));
 
     const int descriptor = ::openat(table, path.data(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
         return {};
-    std::array<char, 64> bytes; // The kernel writes at most 16.
+    std::array<char, 64> bytes; // More than a number and a name of 16 bytes.
     const ssize_t size = ::read(descriptor, bytes.data(), bytes.size());
     ::close(descriptor);
-    const QByteArrayView text(bytes.data(), std::max<ssize_t>(size, 0));
-    return (text.endsWith('\n') ? text.chopped(1) : text).toByteArray();
+    return { bytes.data(), static_cast<qsizetype>(std::max<ssize_t>(size, 0)) };
+}
+
+QByteArray processName(int table, const char* process)
+{
+    const QByteArray name = factsFrom("/comm", table, process);
+    return name.endsWith('\n') ? name.chopped(1) : name;
+}
+
+/// Whether a process has ended and only waits for its parent to hear of it. Its state follows the
+/// name, which may have any character in it.
+bool isZombie(int table, const char* process)
+{
+    const QByteArray status = factsFrom("/stat", table, process);
+    return status.sliced(status.lastIndexOf(')') + 1).startsWith(" Z");
 }
 
 bool isOwn(int table, const char* process)
@@ -91,11 +102,12 @@ void ProcessTable::look(int table, const char* id, Process& process) const
     process.lastScan = m_scan;
     ++process.scans;
     const bool isTurn = (std::hash<std::string_view> {}(id) + m_scan) % scansPerRound == 0;
-    if (process.scans > youngScans && !isTurn)
+    if (process.scans > youngScans && !isTurn && !process.application)
         return;
     process.application = KnownApplications::withProcessName(processName(table, id));
-    if (process.application && !isOwn(table, id))
-        process.application.reset(); // Another user's programs are none of ours.
+    // Another user's programs are none of ours.
+    if (process.application && (!isOwn(table, id) || isZombie(table, id)))
+        process.application.reset();
 }
 
 } // namespace Orvello

@@ -12,7 +12,8 @@ namespace Orvello {
 ///
 /// Opening a file of every process each second would cost a small machine a percent of its
 /// processor, so names are remembered. A new process is looked at in its first scans, as it may
-/// still be about to execute its program; an old one again every `scansPerRound` scans.
+/// still be about to execute its program; an old one again every `scansPerRound` scans, and one of
+/// the few known applications in every scan.
 class ProcessTable {
 public:
     static constexpr unsigned scansPerRound = 16;

@@ -103,10 +103,12 @@ void PulseSurvey::take(const pa_server_info& server)
 
 void PulseSurvey::take(const pa_source_info& source)
 {
-    if (source.monitor_of_sink != PA_INVALID_INDEX)
-        m_monitors.push_back(source.index);
-    if (m_draft.defaultSource == source.name)
+    // The user may have made a monitor their microphone.
+    const bool isMicrophone = m_draft.defaultSource == source.name;
+    if (isMicrophone)
         m_draft.defaultSourceRate = source.sample_spec.rate;
+    else if (source.monitor_of_sink != PA_INVALID_INDEX)
+        m_monitors.push_back(source.index);
 }
 
 void PulseSurvey::take(const pa_source_output_info& output)
