@@ -31,10 +31,10 @@ def value(name, content):
 class Office:
     """LibreOffice with a profile of its own; `pipe` is the connection that Orvello's helper uses."""
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, name="office"):
         self.desktop = desktop
-        self.pipe = f"orvello-test-{os.getpid()}"
-        self.profile = (desktop.scratch / "office-profile").as_uri()
+        self.pipe = f"orvello-test-{os.getpid()}-{name}"
+        self.profile = (desktop.scratch / f"{name}-profile").as_uri()
         self.own_pipe = self.pipe + "-own"
         self.context = None
 

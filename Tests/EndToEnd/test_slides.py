@@ -218,6 +218,12 @@ class SlidesTest(unittest.TestCase):
         self.assertIn("-1743", self.helper("deck").stderr)
         self.assertEqual(follower.stop(), 0)
 
+    def test_it_is_allowed_and_taken_back_without_a_running_libreoffice(self):
+        for command in ("allow", "disallow"):
+            answer = self.helper(command)
+            self.assertEqual((answer.returncode, answer.stderr), (0, ""))
+            self.assertEqual(self.office.process_ids(), [])
+
     def test_the_helper_says_when_no_presentation_is_open(self):
         self.start_office("--writer")
         wait_until(lambda: "NO_DOCUMENT" in self.helper("deck").stderr, what="NO_DOCUMENT")
