@@ -21,6 +21,7 @@
 
 namespace Orvello {
 
+class ImpressPresenter;
 class Platform;
 class PrompterWindow;
 
@@ -60,6 +61,7 @@ private:
     PresenterTable m_presenters;
     ProcessMicActivity m_micActivity;
     PresentationMonitor m_presentation;
+    std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
     ScrollEngine m_engine;
     VoiceActivityEngine m_voice;
     SlideSyncService m_slideSync;
