@@ -60,7 +60,7 @@ class SlideFollower final : public QObject {
 public:
     explicit SlideFollower(const QString& helperPath)
         : m_helper(u"/usr/bin/python3"_s, { helperPath, u"serve"_s })
-        , m_impress(m_presenters.add(ImpressPresenter::row(m_helper)))
+        , m_impressRow(m_presenters.add(m_impress.row()))
     {
         connect(&m_monitor, &PresentationMonitor::isPresentingChanged, this,
             [this] { say(u"presenting"_s, m_monitor.isPresenting()); });
@@ -68,8 +68,7 @@ public:
             [this] { say(u"state"_s, stateName(m_sync.state())); });
         connect(&m_deck, &DeckController::slideChangeTokenChanged, this,
             [this] { say(u"text"_s, m_deck.promptText()); });
-        connect(&m_access, &ImpressAccess::adviceNeeded, this,
-            [](const QString& advice) { say(u"advice"_s, advice); });
+        connect(&m_impress, &ImpressPresenter::adviceNeeded, this, [] { say(u"advice"_s, true); });
         connect(&m_input, &QSocketNotifier::activated, this, &SlideFollower::obey);
     }
 
@@ -90,13 +89,14 @@ private:
             QCoreApplication::quit();
         if (command == "import")
             m_import.importFromOpenDeck(
-                m_impress, [this](const LiveDeckImport::Imported& imported) {
+                m_impressRow, [this](const LiveDeckImport::Imported& imported) {
                     say(u"live"_s,
                         imported ? QJsonValue(notesOf(*m_library.activeScript()))
                                  : QJsonValue(imported.error().description()));
                 });
         else if (command == "allow")
-            m_access.allow([](const QString& message) { say(u"allowed"_s, message); });
+            m_impress.allow(
+                [](const ImpressPresenter::Change& change) { say(u"allowed"_s, change.message); });
     }
 
     QtTimeSource m_time;
@@ -107,7 +107,6 @@ private:
     AppleScriptRunner m_appleScript { m_childProcess };
     QtHelperProcess m_helper;
     PresenterTable m_presenters;
-    const PresenterApp& m_impress;
     X11Windows m_windows;
     LinuxWorkspace m_workspace { m_windows };
     X11WindowServer m_windowServer { m_windows };
@@ -115,10 +114,11 @@ private:
     LibraryStore m_library { m_defaults, m_folders, m_time };
     PresentationMonitor m_monitor { { m_presenters, m_workspace, m_windowServer, m_microphone,
         m_time } };
+    ImpressPresenter m_impress { m_helper, m_monitor };
+    const PresenterApp& m_impressRow;
     SlideSyncService m_sync { m_monitor, m_presenters, m_time };
     DeckController m_deck { m_library, m_settings, m_sync };
     LiveDeckImport m_import { m_library, m_workspace, m_appleScript };
-    ImpressAccess m_access { m_sync, m_helper };
     QSocketNotifier m_input { STDIN_FILENO, QSocketNotifier::Read };
 };
 

@@ -31,10 +31,10 @@ def value(name, content):
 class Office:
     """LibreOffice with a profile of its own; `pipe` is the connection that Orvello's helper uses."""
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, name="office"):
         self.desktop = desktop
-        self.pipe = f"orvello-test-{os.getpid()}"
-        self.profile = (desktop.scratch / "office-profile").as_uri()
+        self.pipe = f"orvello-test-{os.getpid()}-{name}"
+        self.profile = (desktop.scratch / f"{name}-profile").as_uri()
         self.own_pipe = self.pipe + "-own"
         self.context = None
 
@@ -86,7 +86,7 @@ class Office:
 
     # Documents
 
-    def make_deck(self, path):
+    def make_deck(self, path, notes_of=notes):
         """A deck of twelve slides as a .pptx file, one without notes and one hidden."""
         document = self._desktop().loadComponentFromURL(
             "private:factory/simpress", "_blank", 0, (value("Hidden", True),))
@@ -97,7 +97,7 @@ class Office:
             page = pages.getByIndex(number - 1)
             page.Layout = 1  # Title and text.
             self._fill(page, "com.sun.star.presentation.TitleTextShape", title(number))
-            self._fill(page.getNotesPage(), "com.sun.star.presentation.NotesShape", notes(number))
+            self._fill(page.getNotesPage(), "com.sun.star.presentation.NotesShape", notes_of(number))
         pages.getByIndex(HIDDEN - 1).Visible = False
         document.storeToURL(path.as_uri(), (value("FilterName", "Impress MS PowerPoint 2007 XML"),))
         document.close(True)

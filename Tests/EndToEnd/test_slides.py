@@ -192,16 +192,17 @@ class SlidesTest(unittest.TestCase):
         self.office.make_deck(self.deck)
         follower = self.start_following()
         slideshow = self.start_slideshow()
-        follower.wait_for("advice", 10)
-        follower.wait_for("state", 1, lambda state: state == "Denied")
+        follower.wait_for("state", 10, lambda state: state == "Denied")
+        slideshow.end()
+        follower.wait_for("presenting", 5, lambda presenting: not presenting)
+        follower.wait_for("advice", 1)
         follower.tell("import")
         _, message = follower.wait_for("live", 10)
-        self.assertIn("Let Orvello Follow Impress", message)
+        self.assertIn("permission denied", message)
+        follower.wait_for("advice", 1)
 
         follower.tell("allow")
         follower.wait_for("allowed", 30, lambda message: "may now follow" in message)
-        slideshow.end()
-        follower.wait_for("presenting", 5, lambda presenting: not presenting)
         slideshow.start()
         follower.wait_for("state", 5, lambda state: state == "Live")
 
@@ -217,6 +218,11 @@ class SlidesTest(unittest.TestCase):
         self.office.start()
         self.assertIn("-1743", self.helper("deck").stderr)
         self.assertEqual(follower.stop(), 0)
+
+    def test_it_is_allowed_and_taken_back_without_a_running_libreoffice(self):
+        for command in ("allow", "disallow"):
+            answer = self.helper(command)
+            self.assertEqual((answer.returncode, answer.stderr), (0, ""))
 
     def test_the_helper_says_when_no_presentation_is_open(self):
         self.start_office("--writer")

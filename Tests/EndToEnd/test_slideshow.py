@@ -1,71 +1,209 @@
 """The prompter follows a real slideshow in LibreOffice Impress."""
 
+import subprocess
 import time
 import unittest
 
-from desktop import App, Desktop, wait_until
-from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office
+from desktop import App, Desktop, SOURCES, upward_shift, wait_until
+from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office, notes
+
+# The dots of the slide chip.
+GREEN = (48, 209, 88)
+RED = (255, 69, 58)
+HAS_CHIP = (SOURCES / "Sources/Orvello/Prompting/SlideChip.qml").exists()
+
+
+def is_other(card, before):
+    """Whether the card shows another text: more than what a pixel's rounding makes of the same one."""
+    return sum(abs(a - b) for a, b in zip(card, before)) > sum(before) / 50
 
 
 class SlideshowTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop()
         self.addCleanup(self.desktop.close)
-        App.set_defaults(self.desktop, onboardingSeenVersion=1)
+        # On an opaque card only the prompter itself changes what is seen of it.
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0)
         self.office = Office(self.desktop)
         self.addCleanup(self.office.kill)
-        self.office.start(f"--accept=pipe,name={self.office.pipe};urp;")
         self.deck = self.desktop.scratch / "Quarterly talk.pptx"
-        self.office.make_deck(self.deck)
-        self.app = App(self.desktop, environment=self.office.environment()
+
+    def start(self, *arguments, notes_of=notes):
+        """LibreOffice that lets itself be asked, and the prompter with the deck's notes."""
+        self.office.start(f"--accept=pipe,name={self.office.pipe};urp;")
+        self.office.make_deck(self.deck, notes_of)
+        self.start_prompter(*arguments)
+
+    def start_prompter(self, *arguments):
+        self.app = App(self.desktop, *arguments, environment=self.office.environment()
                        | {"ORVELLO_IMPORT_PPTX": str(self.deck)})
         self.app.wait_for_log(f"IMPORT_PPTX ok slides={SLIDES}")
         self.app.wait_for_log("SYNC active=1")
+        self.area = self.app.shown()
 
     def start_slideshow(self):
         slideshow = self.office.open(self.deck)
+        self.log_before = App.log_text(self.desktop)
         slideshow.start()
-        began = time.monotonic()
-        self.app.wait_for_log("PRESENTING=1 app=LibreOffice Impress")
-        self.assertLess(time.monotonic() - began, 2.0)
-        self.app.wait_for_log("SYNC slide=1", 3)
+        self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 2.0)
+        self.wait_for_news("SYNC slide=1", 3)
         return slideshow
 
-    def card(self):
-        """The panel's text as it is on the screen."""
-        x, y, width, height = self.app.geometry()
-        return self.desktop.screenshot().rows(x, y, width, height)
+    def wait_for_news(self, text, seconds):
+        """Waits for a line that was not there before; what follows it are the next news."""
+        wait_until(lambda: text in App.log_text(self.desktop)[len(self.log_before):], seconds,
+                   f"the log line {text!r}")
+        self.log_before = App.log_text(self.desktop)
 
-    def assert_follows(self, slide, before):
-        """The slide is known within a second, and another text is on the card."""
-        self.app.wait_for_log(f"SYNC slide={slide}", 1.0)
-        wait_until(lambda: self.card() != before, 1.0, f"the notes of slide {slide}")
+    def card(self):
+        """The panel's text as it is on the screen: without its edges, where the status stands."""
+        x, y, width, height = self.area
+        return self.desktop.screenshot().rows(x + 40, y + 10, width - 80, height - 50)
+
+    def dot(self):
+        """The colour of the chip's dot, if there is one."""
+        x, y, width, height = self.area
+        screen = self.desktop.screenshot()
+        for row in range(y + height - 50, y + height):
+            for column in range(x + width // 2, x + width):
+                pixel = screen.pixel(column, row)
+                for color in (GREEN, RED):
+                    if max(abs(a - b) for a, b in zip(pixel, color)) < 24:
+                        return color
+        return None
+
+    def assert_chip(self, color):
+        if HAS_CHIP:
+            wait_until(lambda: self.dot() == color, 3.0, f"the chip's dot in {color}")
+
+    def change(self, step, slide):
+        """Changes the slide: it is known within a second, and its notes are on the card. Returns the card."""
+        before = self.card()
+        step()
+        self.wait_for_news(f"SYNC slide={slide}", 1.0)
+        wait_until(lambda: is_other(self.card(), before), 1.0, f"the notes of slide {slide}")
+        time.sleep(0.2)
+        return self.card()
+
+    def assert_same(self, card, before):
+        self.assertFalse(is_other(card, before))
 
     def test_the_notes_flip_with_the_slides(self):
+        self.start()
+        self.assert_chip(None)
         slideshow = self.start_slideshow()
-        for step, slide in ((slideshow.next, 2), (lambda: slideshow.show(9), 9),
-                            (lambda: slideshow.show(WITHOUT_NOTES), WITHOUT_NOTES),
-                            (slideshow.previous, WITHOUT_NOTES - 1),
-                            (lambda: slideshow.show(HIDDEN - 1), HIDDEN - 1)):
-            before = self.card()
-            step()
-            self.assert_follows(slide, before)
+        self.assert_chip(GREEN)
 
+        first = self.card()
+        second = self.change(slideshow.next, 2)
+        ninth = self.change(lambda: slideshow.show(9), 9)
+        empty = self.change(lambda: slideshow.show(WITHOUT_NOTES), WITHOUT_NOTES)
+        self.change(slideshow.previous, WITHOUT_NOTES - 1)
+        self.change(lambda: slideshow.show(HIDDEN - 1), HIDDEN - 1)
+        self.assert_same(self.change(slideshow.next, HIDDEN + 1), ninth)  # Past the hidden one.
+        self.assert_same(self.change(lambda: slideshow.show(2), 2), second)
+        self.assert_same(self.change(slideshow.previous, 1), first)
+        self.assertTrue(is_other(empty, second) and is_other(empty, ninth))
+
+        # The end keeps the last slide's notes.
+        last = self.change(lambda: slideshow.show(9), 9)
         slideshow.end()
-        self.app.wait_for_log("PRESENTING=0 app=-", 3)
+        self.wait_for_news("PRESENTING=0 app=-", 3)
+        self.assert_chip(None)
+        time.sleep(1.0)
+        self.assert_same(self.card(), last)
         self.assertEqual(self.app.quit(), 0)
 
-    def test_the_death_of_libreoffice_leaves_the_prompter_usable(self):
+    def test_every_slide_starts_at_the_top(self):
+        # More lines than the card shows, no two alike.
+        self.start("--autostart", notes_of=lambda slide: "\n".join(
+            " ".join(["now"] * (1 + (slide * line) % 11)) for line in range(1, 30)))
+        self.point(onto_card=True)  # The text holds.
         slideshow = self.start_slideshow()
-        before = self.card()
-        slideshow.show(3)
-        self.assert_follows(3, before)
+        top = self.change(lambda: slideshow.show(9), 9)
+
+        self.point(onto_card=False)
+        time.sleep(1.0)
+        self.point(onto_card=True)
+        time.sleep(0.3)
+        self.assertGreater(upward_shift(top, self.card(), 60), 10)
+
+        self.change(lambda: slideshow.show(2), 2)
+        self.assert_same(self.change(lambda: slideshow.show(9), 9), top)
+        self.assertEqual(self.app.quit(), 0)
+
+    def point(self, onto_card):
+        x, y, width, height = self.area
+        self.desktop.run("xdotool", "mousemove", str(x + width // 2),
+                         str(y + height // 2 if onto_card else y + height + 200))
+
+    def test_another_window_in_front_stops_it(self):
+        self.start()
+        slideshow = self.start_slideshow()
+        third = self.change(lambda: slideshow.show(3), 3)
+        window = self.desktop.run("xdotool", "getactivewindow").strip()
+
+        self.desktop.start(["xmessage", "-geometry", "300x100+50+600", "Another window"])
+        other = wait_until(self.find_other_window, what="the other window")
+        self.desktop.run("xdotool", "windowactivate", other)
+        self.wait_for_news("PRESENTING=0 app=-", 3)
+        self.assert_chip(None)
+        slideshow.show(6)
+        time.sleep(1.5)
+        self.assert_same(self.card(), third)
+
+        self.desktop.run("xdotool", "windowactivate", window)
+        self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 3)
+        self.wait_for_news("SYNC slide=6", 2)
+        self.assert_chip(GREEN)
+        self.assertEqual(self.app.quit(), 0)
+
+    def find_other_window(self):
+        result = subprocess.run(["xdotool", "search", "--onlyvisible", "--classname", "xmessage"],
+                                env=self.desktop.environment, capture_output=True, text=True)
+        return result.stdout.split()[0] if result.stdout.split() else None
+
+    def test_the_death_of_libreoffice_leaves_the_prompter_usable(self):
+        self.start()
+        # Another LibreOffice, which does not let itself be asked, has nothing to do with it.
+        other = Office(self.desktop, "other-office")
+        self.addCleanup(other.kill)
+        other.start("--headless")
+        slideshow = self.start_slideshow()
+        third = self.change(lambda: slideshow.show(3), 3)
 
         self.office.kill()
-        self.app.wait_for_log("PRESENTING=0 app=-", 3)
-
+        self.wait_for_news("PRESENTING=0 app=-", 3)
+        time.sleep(4.0)
         self.assertNotIn("SYNC denied", App.log_text(self.desktop))
         self.assertTrue(self.app.is_window_visible())
+        self.assert_same(self.card(), third)
+        self.assert_chip(None)
+
+        # The next slideshow is followed again.
+        self.office.start(f"--accept=pipe,name={self.office.pipe};urp;")
+        slideshow = self.start_slideshow()
+        self.change(lambda: slideshow.show(9), 9)
+        self.assert_chip(GREEN)
+        self.assertEqual(self.app.quit(), 0)
+
+    def test_a_refusal_is_told_as_one(self):
+        self.office.start()
+        self.office.make_deck(self.deck)
+        self.start_prompter()
+        slideshow = self.office.open(self.deck)
+        slideshow.start()
+        self.app.wait_for_log("SYNC denied (Automation permission for Impress)", 10)
+        self.assert_chip(RED)
+        time.sleep(1.0)
+        self.assertEqual(App.log_text(self.desktop).count("SYNC denied"), 1)
+        self.assertEqual(self.app.quit(), 0)
+
+    def test_the_file_gives_the_deck_s_notes(self):
+        self.start()
+        imported = App.library(self.desktop)[0]
+        self.assertEqual([slide["notes"] for slide in imported["slides"]],
+                         [notes(slide) for slide in range(1, SLIDES + 1)])
         self.assertEqual(self.app.quit(), 0)
 
 

@@ -40,48 +40,47 @@ protected:
 
     void importKeynote()
     {
-        import->importFromOpenDeck(
-            keynote, [this](const LiveDeckImport::Imported& result) { imported = result;
-    });
-} void importPowerPoint()
-{
-        import->importFromOpenPowerPointDeck(powerPoint,
-            [this](const LiveDeckImport::PowerPointImported& result) { importedPpt = result;
-});
-}
+        importer->importFromOpenDeck(
+            keynote, [this](const LiveDeckImport::Imported& result) { imported = result; });
+    }
+    void importPowerPoint()
+    {
+        importer->importFromOpenPowerPointDeck(powerPoint,
+            [this](const LiveDeckImport::PowerPointImported& result) { importedPpt = result; });
+    }
 
-/// PowerPoint's answer to where its presentation is.
-void locate(const QString& saved, const QString& path)
-{
-    process.finish(0, 0, u"Open deck\u001f%1\u001f%2\n"_s.arg(saved, path).toUtf8());
-}
+    /// PowerPoint's answer to where its presentation is.
+    void locate(const QString& saved, const QString& path)
+    {
+        process.finish(0, 0, u"Open deck\u001f%1\u001f%2\n"_s.arg(saved, path).toUtf8());
+    }
 
-/// A real deck of two slides, or a file that is none.
-QString savedDeck() const { return QStringLiteral(ORVELLO_TEST_DECKS "/Saved deck.pptx"); }
-QString brokenDeck() const
-{
-    QFile file(folders.path + u"/Broken.pptx"_s);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("not a package");
-    return file.fileName();
-}
+    /// A real deck of two slides, or a file that is none.
+    QString savedDeck() const { return QStringLiteral(ORVELLO_TEST_DECKS "/Saved deck.pptx"); }
+    QString brokenDeck() const
+    {
+        QFile file(folders.path + u"/Broken.pptx"_s);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("not a package");
+        return file.fileName();
+    }
 
-void expectNothingImported() const { EXPECT_EQ(library.scripts().size(), 1); }
+    void expectNothingImported() const { EXPECT_EQ(library.scripts().size(), 1); }
 
-Testing::ManualTimeSource time;
-Testing::FakeUserDefaults defaults;
-Testing::FakeFolders folders;
-Testing::FakeWorkspace workspace;
-Testing::FakeChildProcess process;
-AppleScriptRunner runner { process };
-const PresenterApp keynote = AppleScriptPresenters::keynote(runner);
-const PresenterApp powerPoint = AppleScriptPresenters::powerPoint(runner);
-LibraryStore library { defaults, folders, time };
-std::unique_ptr<LiveDeckImport> import
-    = std::make_unique<LiveDeckImport>(library, workspace, runner);
-std::optional<LiveDeckImport::Imported> imported;
-std::optional<LiveDeckImport::PowerPointImported> importedPpt;
-Testing::LogCapture log;
+    Testing::ManualTimeSource time;
+    Testing::FakeUserDefaults defaults;
+    Testing::FakeFolders folders;
+    Testing::FakeWorkspace workspace;
+    Testing::FakeChildProcess process;
+    AppleScriptRunner runner { process };
+    const PresenterApp keynote = AppleScriptPresenters::keynote(runner);
+    const PresenterApp powerPoint = AppleScriptPresenters::powerPoint(runner);
+    LibraryStore library { defaults, folders, time };
+    std::unique_ptr<LiveDeckImport> importer
+        = std::make_unique<LiveDeckImport>(library, workspace, runner);
+    std::optional<LiveDeckImport::Imported> imported;
+    std::optional<LiveDeckImport::PowerPointImported> importedPpt;
+    Testing::LogCapture log;
 };
 
 TEST_F(LiveDeckImportTest, needsARunningKeynote)
@@ -416,7 +415,7 @@ TEST_F(LiveDeckImportTest, mayBeGoneWhenTheAnswerComes)
 {
     importKeynote();
     importPowerPoint();
-    import.reset();
+    importer.reset();
     process.finish(0, 0, threeSlides);
     locate(u"true"_s, savedDeck());
 
@@ -431,19 +430,19 @@ TEST_F(LiveDeckImportTest, importsFromAPresenterThatTheEditionAdds)
         u"LibreOffice Impress"_s, u"Impress"_s, u"libreoffice-impress"_s);
     const PresenterApp impress = presenter.row();
     const auto importImpress = [&] {
-        import->importFromOpenDeck(
+        importer->importFromOpenDeck(
             impress, [this](const LiveDeckImport::Imported& result) { imported = result; });
-};
+    };
 
-importImpress();
-EXPECT_EQ(imported->error().description(),
-    u"Impress isn't running. Open your presentation in Impress first."_s);
+    importImpress();
+    EXPECT_EQ(imported->error().description(),
+        u"Impress isn't running. Open your presentation in Impress first."_s);
 
-workspace.running.append(Testing::FakeWorkspace::application(u"libreoffice-impress"_s));
-importImpress();
-presenter.answer(QString::fromUtf8(threeSlides));
-EXPECT_EQ(library.scripts().first().deckSource, u"Impress"_s);
-EXPECT_THAT(log.lines(), ElementsAre("IMPORT_IMPRESS ok slides=3 doc=My talk"));
+    workspace.running.append(Testing::FakeWorkspace::application(u"libreoffice-impress"_s));
+    importImpress();
+    presenter.answer(QString::fromUtf8(threeSlides));
+    EXPECT_EQ(library.scripts().first().deckSource, u"Impress"_s);
+    EXPECT_THAT(log.lines(), ElementsAre("IMPORT_IMPRESS ok slides=3 doc=My talk"));
 }
 
 } // namespace

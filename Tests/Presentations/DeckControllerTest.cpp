@@ -267,6 +267,29 @@ TEST_F(DeckControllerTest, doesNotJumpWhenTheTextIsEdited)
     EXPECT_EQ(controller.slideChangeToken(), token);
 }
 
+TEST_F(DeckControllerTest, doesNotJumpWhenAnUntrackedDeckIsEdited)
+{
+    setTracking(false);
+    const qint64 token = controller.slideChangeToken();
+
+    library.updateActive({}, u"Another body"_s);
+    Testing::drainEvents();
+
+    EXPECT_EQ(controller.promptText(), u"Another body"_s);
+    EXPECT_EQ(controller.slideChangeToken(), token);
+}
+
+TEST_F(DeckControllerTest, keepsATrackedSlideWhenTheBodyIsEdited)
+{
+    const qint64 token = controller.slideChangeToken();
+
+    library.updateActive(u"Another title"_s, u"Another body"_s);
+    Testing::drainEvents();
+
+    EXPECT_EQ(controller.promptText(), u"First notes"_s);
+    EXPECT_EQ(controller.slideChangeToken(), token);
+}
+
 TEST_F(DeckControllerTest, startsAnotherScriptAtItsFirstSlide)
 {
     controller.showNextSlide();
@@ -336,6 +359,27 @@ TEST_F(DeckControllerTest, announcesAConsistentState)
 
     EXPECT_EQ(indexSeen, 2);
     EXPECT_EQ(textSeen, u"Last notes"_s);
+}
+
+TEST_F(DeckControllerTest, announcesTheChangeOfSlideBeforeWhatItShows)
+{
+    QStringList announced;
+    const auto note
+        = [&](const QString& name) { return [&announced, name] { announced += name; }; };
+    QObject::connect(
+        &controller, &DeckController::promptTextChanged, &controller, note(u"promptText"_s));
+    QObject::connect(&controller, &DeckController::slideChangeTokenChanged, &controller,
+        note(u"slideChangeToken"_s));
+    QObject::connect(
+        &controller, &DeckController::displayIndexChanged, &controller, note(u"displayIndex"_s));
+    QObject::connect(
+        &controller, &DeckController::slideTitleChanged, &controller, note(u"slideTitle"_s));
+
+    showLive(3);
+
+    EXPECT_EQ(announced,
+        QStringList(
+            { u"slideChangeToken"_s, u"promptText"_s, u"displayIndex"_s, u"slideTitle"_s }));
 }
 
 TEST_F(DeckControllerTest, announcesOnlyWhatChanges)

@@ -1,5 +1,6 @@
 #include "Orvello/Presentations/ImpressPresenter.h"
 
+#include "Orvello/Presentations/SlideSyncService.h"
 #include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/SlideshowStage.h"
 
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 
 namespace Orvello {
 namespace {
@@ -21,21 +23,37 @@ class ImpressPresenterTest : public ::testing::Test {
 protected:
     ImpressPresenterTest()
     {
-        stage.presenters.add(ImpressPresenter::row(helper));
+        stage.presenters.add(impress->row());
         stage.monitor.start();
         sync.setActive(true);
     }
 
     void presentImpress()
     {
-        stage.present(ImpressPresenter::row(helper));
+        stage.present(impress->row());
         stage.time.advance(1.5);
+    }
+    void endSlideshow()
+    {
+        stage.endSlideshow();
+        stage.time.advance(1.5);
+    }
+
+    void answer(const ScriptResult& result) { helper.questions.last().completion(result); }
+    void refuse() { answer({ 1, {}, refusal }); }
+
+    void import()
+    {
+        impress->row().askOpenDeck([this](const ScriptResult& result) { imported = result; });
     }
 
     Testing::FakeHelperProcess helper;
     Testing::SlideshowStage stage;
+    std::unique_ptr<ImpressPresenter> impress
+        = std::make_unique<ImpressPresenter>(helper, stage.monitor);
     SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
-    std::unique_ptr<ImpressAccess> access = std::make_unique<ImpressAccess>(sync, helper);
+    QSignalSpy advices { impress.get(), &ImpressPresenter::adviceNeeded };
+    std::optional<ScriptResult> imported;
 };
 
 TEST_F(ImpressPresenterTest, isFollowedLikeTheOthers)
@@ -44,73 +62,139 @@ TEST_F(ImpressPresenterTest, isFollowedLikeTheOthers)
     ASSERT_EQ(helper.questions.size(), 1);
     EXPECT_EQ(helper.questions[0].text, u"slide"_s);
 
-    helper.questions[0].completion({ 0, u"4\n"_s, {} });
+    answer({ 0, u"4\n"_s, {} });
 
     EXPECT_EQ(sync.state(), State::Live);
     EXPECT_EQ(sync.liveSlide(), 4);
     EXPECT_EQ(sync.app()->logName, u"Impress"_s);
+    EXPECT_EQ(advices.count(), 0);
 }
 
 TEST_F(ImpressPresenterTest, isAskedForItsDeck)
 {
-    ImpressPresenter::row(helper).askOpenDeck([](const ScriptResult&) {});
-
+    import();
     EXPECT_EQ(helper.questions.last().text, u"deck"_s);
+
+    answer({ 0, u"record"_s, {} });
+
+    EXPECT_EQ(imported->standardOutput, u"record"_s);
 }
 
-TEST_F(ImpressPresenterTest, isDeniedAndAdvisesOncePerRun)
+TEST_F(ImpressPresenterTest, advisesAfterTheSlideshowAndOncePerRun)
 {
-    const QSignalSpy advices(access.get(), &ImpressAccess::adviceNeeded);
-
     presentImpress();
-    helper.questions.last().completion({ 1, {}, refusal });
+    refuse();
     EXPECT_EQ(sync.state(), State::Denied);
-    ASSERT_EQ(advices.count(), 1);
-    EXPECT_TRUE(advices[0][0].toString().contains(ImpressPresenter::allowTitle()));
+    EXPECT_EQ(advices.count(), 0);
 
-    stage.endSlideshow();
-    stage.time.advance(2.0);
-    presentImpress();
-    helper.questions.last().completion({ 1, {}, refusal });
-    EXPECT_EQ(sync.state(), State::Denied);
+    endSlideshow();
     EXPECT_EQ(advices.count(), 1);
+
+    presentImpress();
+    refuse();
+    endSlideshow();
+    EXPECT_EQ(advices.count(), 1);
+}
+
+TEST_F(ImpressPresenterTest, advisesAtOnceWhenTheSlideshowIsOverBeforeTheRefusal)
+{
+    presentImpress();
+    endSlideshow();
+
+    refuse();
+
+    EXPECT_EQ(advices.count(), 1);
+}
+
+TEST_F(ImpressPresenterTest, advisesAtEveryImport)
+{
+    import();
+    refuse();
+    EXPECT_EQ(imported->status, 1);
+    EXPECT_EQ(advices.count(), 1);
+
+    import();
+    refuse();
+    EXPECT_EQ(advices.count(), 2);
+
+    presentImpress();
+    refuse();
+    endSlideshow();
+    EXPECT_EQ(advices.count(), 2);
+}
+
+TEST_F(ImpressPresenterTest, doesNotAdviseAboutOtherFailures)
+{
+    presentImpress();
+    answer({ 1, {}, u"LibreOffice isn't running. (-600)"_s });
+    stage.time.advance(0.5);
+    answer({ ScriptResult::notStarted, {}, u"/opt/-1743/python3: No such file"_s });
+    import();
+    answer({ 1, {}, u"NO_DOCUMENT"_s });
+    import();
+    answer({ 0, u"-1743"_s, u"-1743"_s });
+    endSlideshow();
+
+    EXPECT_EQ(sync.state(), State::Manual);
+    EXPECT_EQ(advices.count(), 0);
 }
 
 TEST_F(ImpressPresenterTest, doesNotAdviseForTheOthers)
 {
-    const QSignalSpy advices(access.get(), &ImpressAccess::adviceNeeded);
-
     stage.presentKeynote();
     stage.time.advance(1.5);
     stage.keynote.fail(u"-1743"_s);
+    endSlideshow();
 
     EXPECT_EQ(sync.state(), State::Denied);
     EXPECT_EQ(advices.count(), 0);
 }
 
+TEST_F(ImpressPresenterTest, doesNotAdviseWhatTheUserHasFoundMeanwhile)
+{
+    presentImpress();
+    refuse();
+    impress->allow([](const ImpressPresenter::Change&) {});
+    answer({ 0, u"Done."_s, {} });
+    endSlideshow();
+
+    EXPECT_EQ(advices.count(), 0);
+}
+
 TEST_F(ImpressPresenterTest, isLetInAtTheUsersCommand)
 {
-    QString message;
-    access->allow([&](const QString& text) { message = text; });
-    EXPECT_EQ(helper.questions.last().text, u"allow"_s);
-    helper.questions.last().completion({ 0, u"Orvello may now follow Impress.\n"_s, {} });
-    EXPECT_EQ(message, u"Orvello may now follow Impress."_s);
+    std::optional<ImpressPresenter::Change> change;
+    const auto receive = [&](const ImpressPresenter::Change& result) { change = result; };
+    const QSignalSpy changing(impress.get(), &ImpressPresenter::isChangingChanged);
 
-    access->disallow([&](const QString& text) { message = text; });
+    impress->allow(receive);
+    EXPECT_EQ(helper.questions.last().text, u"allow"_s);
+    EXPECT_TRUE(impress->isChanging());
+    answer({ 0, u"Orvello may now follow Impress.\n"_s, {} });
+    EXPECT_TRUE(change->isDone);
+    EXPECT_EQ(change->message, u"Orvello may now follow Impress."_s);
+    EXPECT_FALSE(impress->isChanging());
+
+    impress->disallow(receive);
     EXPECT_EQ(helper.questions.last().text, u"disallow"_s);
-    helper.questions.last().completion({ 1, {}, u"LibreOffice isn't installed."_s });
-    EXPECT_EQ(message, u"LibreOffice isn't installed."_s);
+    answer({ 1, {}, u"LibreOffice isn't installed."_s });
+    EXPECT_FALSE(change->isDone);
+    EXPECT_EQ(change->message, u"LibreOffice isn't installed."_s);
+    EXPECT_EQ(changing.count(), 4);
 }
 
 TEST_F(ImpressPresenterTest, mayBeGoneWhenLibreOfficeHasAnswered)
 {
     bool isCalled = false;
-    access->allow([&](const QString&) { isCalled = true; });
-    access.reset();
+    impress->allow([&](const ImpressPresenter::Change&) { isCalled = true; });
+    import();
+    impress.reset();
 
-    helper.questions.last().completion({ 0, {}, {} });
+    helper.questions[0].completion({ 0, {}, {} });
+    refuse();
 
     EXPECT_FALSE(isCalled);
+    EXPECT_TRUE(imported.has_value());
 }
 
 } // namespace

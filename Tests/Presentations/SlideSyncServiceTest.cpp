@@ -209,6 +209,20 @@ TEST_F(SlideSyncServiceTest, asksAgainAfterAFailedLaunch)
     EXPECT_EQ(sync->state(), State::Manual);
 }
 
+TEST_F(SlideSyncServiceTest, isNotDeniedByAFailedLaunchWhateverItSays)
+{
+    followKeynote();
+    keynote.answer(u"3"_s);
+    stage.time.advance(0.5);
+    log.clear();
+
+    keynote.questions.back()({ -1, {}, u"/opt/build-1743/osascript: No such file"_s });
+
+    EXPECT_EQ(sync->state(), State::Live);
+    EXPECT_EQ(sync->liveSlide(), 3);
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
 TEST_F(SlideSyncServiceTest, isDeniedOnceAndStopsAsking)
 {
     followKeynote();
@@ -287,6 +301,56 @@ TEST_F(SlideSyncServiceTest, keepsTheSlideWhileTheApplicationChanges)
     EXPECT_EQ(sync->state(), State::Live);
     EXPECT_EQ(sync->app(), stage.presenters.named(u"Microsoft PowerPoint"_s));
     EXPECT_THAT(log.lines(), ElementsAre("SYNC following PowerPoint"));
+
+    powerPoint.fail(u"Invalid index. (-1719)"_s);
+    stage.time.advance(0.5);
+    EXPECT_EQ(sync->liveSlide(), 3);
+    powerPoint.answer(u"5\n"_s);
+    EXPECT_EQ(sync->liveSlide(), 5);
+    EXPECT_THAT(log.lines(), ElementsAre("SYNC following PowerPoint", "SYNC slide=5"));
+}
+
+TEST_F(SlideSyncServiceTest, asksTheNextApplicationOnlyAfterTheOldOneHasAnswered)
+{
+    followKeynote();
+
+    stage.presentPowerPoint();
+    stage.time.advance(2.0);
+    EXPECT_TRUE(powerPoint.questions.empty());
+
+    keynote.answer(u"3"_s);
+    EXPECT_EQ(sync->liveSlide(), 3);
+    stage.time.advance(0.5);
+    EXPECT_EQ(powerPoint.questions.size(), 1u);
+}
+
+TEST_F(SlideSyncServiceTest, namesTheApplicationThatRefusedAlsoWhenAnotherOneIsFollowed)
+{
+    followKeynote();
+    stage.presentPowerPoint();
+    stage.time.advance(2.0);
+    log.clear();
+
+    keynote.fail(u"-1743"_s);
+    stage.time.advance(2.0);
+
+    EXPECT_EQ(sync->state(), State::Denied);
+    EXPECT_TRUE(powerPoint.questions.empty());
+    EXPECT_THAT(log.lines(), ElementsAre("SYNC denied (Automation permission for Keynote)"));
+}
+
+TEST_F(SlideSyncServiceTest, dropsAnAnswerThatComesAfterTheSlideshowAtTheNextTick)
+{
+    followKeynote();
+    stage.endSlideshow();
+    stage.time.advance(1.5);
+
+    keynote.answer(u"3"_s);
+    EXPECT_EQ(sync->liveSlide(), 3);
+    stage.time.advance(0.5);
+
+    EXPECT_EQ(sync->liveSlide(), std::nullopt);
+    EXPECT_EQ(sync->state(), State::Manual);
 }
 
 TEST_F(SlideSyncServiceTest, turnsManualWhenTheSlideshowEnds)
@@ -337,7 +401,9 @@ TEST_F(SlideSyncServiceTest, asksAfreshWhenSwitchedOnAgainDuringAPoll)
     followKeynote();
     sync->setActive(false);
     sync->setActive(true);
-    stage.time.advance(0.5);
+    stage.time.advance(0.49);
+    EXPECT_EQ(keynote.questions.size(), 1u);
+    stage.time.advance(0.01);
 
     EXPECT_EQ(keynote.questions.size(), 2u);
 }

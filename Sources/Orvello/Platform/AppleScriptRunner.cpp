@@ -21,7 +21,7 @@ void AppleScriptRunner::run(const QString& source, ScriptCompletion completion) 
 {
     const auto complete = [completion = std::move(completion)](const ChildProcessOutcome& outcome) {
         if (!outcome.isLaunched) {
-            completion({ -1, {}, outcome.launchError });
+            completion({ ScriptResult::notStarted, {}, outcome.launchError });
             return;
         }
         completion({ outcome.status, Utf8::decodedOrEmpty(outcome.standardOutput),

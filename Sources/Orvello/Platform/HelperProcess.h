@@ -14,7 +14,8 @@ public:
     /// running. `completion` is called exactly once, on the main loop and never from inside this
     /// call, in the order of the questions, with what the program would print if it were a script
     /// run for this question alone. A program that cannot be started, or ends before it answers,
-    /// gives status -1. Destroying the helper ends the program and drops its completions.
+    /// gives the status of a script that could not be started. Destroying the helper ends the
+    /// program and drops its completions.
     virtual void ask(const QString& question, ScriptCompletion completion) = 0;
 };
 

@@ -17,7 +17,7 @@ constexpr int killMilliseconds = 1000;
 ScriptResult parsedAnswer(const QByteArray& line)
 {
     const QJsonObject answer = QJsonDocument::fromJson(line).object();
-    return { answer["status"_L1].toInt(-1), answer["output"_L1].toString(),
+    return { answer["status"_L1].toInt(ScriptResult::notStarted), answer["output"_L1].toString(),
         answer["error"_L1].toString() };
 }
 
@@ -76,7 +76,7 @@ void QtHelperProcess::failAll()
     // Queued, because a launch may fail from inside ask().
     const auto fail = [failed = std::exchange(m_waiting, {}), error = m_process.errorString()] {
         for (const ScriptCompletion& completion : failed)
-            completion({ -1, {}, error });
+            completion({ ScriptResult::notStarted, {}, error });
     };
     QMetaObject::invokeMethod(this, fail, Qt::QueuedConnection);
 }

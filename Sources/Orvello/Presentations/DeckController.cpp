@@ -135,10 +135,10 @@ void DeckController::publish(const Script* script, const Unit& unit)
     const bool isOtherCount = assign(m_slideCount, slideCountOf(script));
     const bool isOtherTitle = assign(m_slideTitle, unit.title);
 
-    if (isOtherText)
-        Q_EMIT promptTextChanged();
     if (isOtherUnit)
         Q_EMIT slideChangeTokenChanged();
+    if (isOtherText)
+        Q_EMIT promptTextChanged();
     if (isOtherTracking)
         Q_EMIT trackingActiveChanged();
     if (isOtherIndex)

@@ -1,5 +1,7 @@
 #include "Orvello/Presentations/ImpressPresenter.h"
 
+#include "Orvello/Presentations/PresentationMonitor.h"
+
 #include <QPointer>
 
 #include <utility>
@@ -8,78 +10,106 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-namespace ImpressPresenter {
-
 namespace {
 
-const QString identifier = u"libreoffice-impress"_s; ///< Of its desktop file.
+/// The error number that stands for a refusal, as with the other presenters.
+constexpr QStringView notAuthorised = u"-1743";
 
-QString advice()
+bool isRefused(const ScriptResult& result)
 {
-    return u"LibreOffice does not let Orvello in yet. Choose “%1” in Orvello's menu, then "
-           "start the slideshow or the import again"_s.arg(allowTitle());
-}
-
-PresenterApp::Query asking(HelperProcess& helper, const QString& question)
-{
-    return [&helper, question](
-               ScriptCompletion completion) { helper.ask(question, std::move(completion)); };
+    return result.status != 0 && result.status != ScriptResult::notStarted
+        && result.standardError.contains(notAuthorised);
 }
 
 } // namespace
 
-PresenterApp row(HelperProcess& helper)
+ImpressPresenter::ImpressPresenter(
+    HelperProcess& helper, const PresentationMonitor& presentation, QObject* parent)
+    : QObject(parent)
+    , m_helper(helper)
+    , m_presentation(presentation)
+{
+    connect(&presentation, &PresentationMonitor::isPresentingChanged, this,
+        &ImpressPresenter::adviseAfterSlideshow);
+}
+
+PresenterApp ImpressPresenter::row()
 {
     return {
         .displayName = u"LibreOffice Impress"_s,
         .logName = u"Impress"_s,
-        .bundleIdentifier = identifier,
+        .bundleIdentifier = u"libreoffice-impress"_s, // Of its desktop file.
         .notesName = u"notes"_s,
-        .permissionAdvice = advice(),
-        .askCurrentSlide = asking(helper, u"slide"_s),
-        .askOpenDeck = asking(helper, u"deck"_s),
+        .permissionAdvice
+        = u"permission denied — LibreOffice answers other programs only once you allow it"_s,
+        .askCurrentSlide = asking(u"slide"_s, &ImpressPresenter::slideRefused),
+        .askOpenDeck = asking(u"deck"_s, &ImpressPresenter::importRefused),
     };
 }
 
-QString allowTitle() { return u"Let Orvello Follow Impress"_s; }
-
-QString disallowTitle() { return u"Stop Following Impress"_s; }
-
-} // namespace ImpressPresenter
-
-ImpressAccess::ImpressAccess(const SlideSyncService& sync, HelperProcess& helper, QObject* parent)
-    : QObject(parent)
-    , m_sync(sync)
-    , m_helper(helper)
+PresenterApp::Query ImpressPresenter::asking(const QString& question, Refused refused)
 {
-    connect(&sync, &SlideSyncService::stateChanged, this, &ImpressAccess::adviseOnce);
+    return [this, question, refused](ScriptCompletion completion) {
+        const auto receive = [self = QPointer(this), refused, completion = std::move(completion)](
+                                 const ScriptResult& result) {
+            completion(result);
+            if (self && isRefused(result))
+                (self->*refused)();
+        };
+        m_helper.ask(question, receive);
+    };
 }
 
-void ImpressAccess::allow(Completion completion) { change(u"allow"_s, std::move(completion)); }
+void ImpressPresenter::slideRefused()
+{
+    m_isAdviceDue = !m_hasAdvised;
+    adviseAfterSlideshow();
+}
 
-void ImpressAccess::disallow(Completion completion)
+void ImpressPresenter::adviseAfterSlideshow()
+{
+    if (!m_isAdviceDue || m_presentation.isPresenting())
+        return;
+    m_isAdviceDue = false;
+    m_hasAdvised = true;
+    Q_EMIT adviceNeeded();
+}
+
+void ImpressPresenter::importRefused()
+{
+    m_isAdviceDue = false;
+    m_hasAdvised = true;
+    Q_EMIT adviceNeeded();
+}
+
+void ImpressPresenter::allow(Completion completion) { change(u"allow"_s, std::move(completion)); }
+
+void ImpressPresenter::disallow(Completion completion)
 {
     change(u"disallow"_s, std::move(completion));
 }
 
-void ImpressAccess::adviseOnce()
+void ImpressPresenter::change(const QString& question, Completion completion)
 {
-    const PresenterApp* app = m_sync.app();
-    if (m_hasAdvised || m_sync.state() != SlideSyncService::State::Denied || !app
-        || app->bundleIdentifier != ImpressPresenter::identifier)
-        return;
-    m_hasAdvised = true;
-    Q_EMIT adviceNeeded(app->permissionAdvice);
-}
-
-void ImpressAccess::change(const QString& question, Completion completion)
-{
+    m_isAdviceDue = false; // The user has found the way.
+    setChanging(true);
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {
-            if (self)
-                completion(
-                    (result.status == 0 ? result.standardOutput : result.standardError).trimmed());
+            if (!self)
+                return;
+            self->setChanging(false);
+            const bool isDone = result.status == 0;
+            completion(
+                { isDone, (isDone ? result.standardOutput : result.standardError).trimmed() });
         });
+}
+
+void ImpressPresenter::setChanging(bool isChanging)
+{
+    if (isChanging == m_isChanging)
+        return;
+    m_isChanging = isChanging;
+    Q_EMIT isChangingChanged();
 }
 
 } // namespace Orvello

@@ -2,7 +2,6 @@
 
 #include "Orvello/Platform/HelperProcess.h"
 #include "Orvello/Presentations/PresenterApp.h"
-#include "Orvello/Presentations/SlideSyncService.h"
 
 #include <QObject>
 #include <QString>
@@ -11,46 +10,60 @@
 
 namespace Orvello {
 
+class PresentationMonitor;
+
 /// LibreOffice Impress, which is asked through a helper program. It answers the helper like the
-/// other presenters answer their scripts.
-namespace ImpressPresenter {
-
-/// `helper` must outlive the row.
-[[nodiscard]] PresenterApp row(HelperProcess& helper);
-
-/// The command that lets LibreOffice be asked, as a menu shows it.
-[[nodiscard]] QString allowTitle();
-/// The command that takes that back.
-[[nodiscard]] QString disallowTitle();
-
-} // namespace ImpressPresenter
-
-/// Lets LibreOffice be asked, at the user's command: it listens only after that is set in its
-/// profile.
-class ImpressAccess final : public QObject {
+/// other presenters answer their scripts, but only once the user has set LibreOffice up for that.
+class ImpressPresenter final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(bool isChanging READ isChanging NOTIFY isChangingChanged FINAL)
 
 public:
-    /// What to tell the user about how it went.
-    using Completion = std::function<void(const QString& message)>;
+    /// How LibreOffice's setting was changed.
+    struct Change {
+        bool isDone = false;
+        QString message; ///< What to tell the user about it.
+    };
+    using Completion = std::function<void(const Change&)>;
 
-    /// Everything must outlive the object.
-    ImpressAccess(const SlideSyncService& sync, HelperProcess& helper, QObject* parent = nullptr);
+    /// Everything must outlive the presenter.
+    ImpressPresenter(
+        HelperProcess& helper, const PresentationMonitor& presentation, QObject* parent = nullptr);
 
+    PresenterApp row(); ///< Of the presenter table.
+
+    /// Sets LibreOffice up to be asked, in the user's profile, for good; it may have to be started
+    /// for that. The completion is called on the main loop, unless the presenter is destroyed
+    /// first.
     void allow(Completion completion);
+    /// Takes that back.
     void disallow(Completion completion);
 
+    /// A change is on its way, which may take some seconds.
+    bool isChanging() const { return m_isChanging; }
+
 Q_SIGNALS:
-    /// LibreOffice refused to be asked about its slideshow. Once per run, so that a user who does
-    /// not want it is left alone.
-    void adviceNeeded(const QString& advice);
+    /// LibreOffice refuses to be asked: tell the user how to allow it. Once per run for slideshows,
+    /// so that a user who does not want it is left alone, and only after the slideshow, so that
+    /// nothing appears before the audience; at once for each import, which the user asked for.
+    void adviceNeeded();
+
+    void isChangingChanged();
 
 private:
-    void adviseOnce();
-    void change(const QString& question, Completion completion);
+    using Refused = void (ImpressPresenter::*)();
 
-    const SlideSyncService& m_sync;
+    PresenterApp::Query asking(const QString& question, Refused refused);
+    void slideRefused();
+    void importRefused();
+    void adviseAfterSlideshow();
+    void change(const QString& question, Completion completion);
+    void setChanging(bool isChanging);
+
     HelperProcess& m_helper;
+    const PresentationMonitor& m_presentation;
+    bool m_isChanging = false;
+    bool m_isAdviceDue = false;
     bool m_hasAdvised = false;
 };
 

@@ -109,7 +109,7 @@ void SlideSyncService::poll(const PresenterApp& app)
 void SlideSyncService::complete(const PresenterApp& app, const ScriptResult& result)
 {
     m_isInFlight = false;
-    if (!m_isActive)
+    if (!m_isActive || result.status == ScriptResult::notStarted)
         return;
     const auto slide = result.status == 0 ? slideNumber(result.standardOutput) : std::nullopt;
     if (slide) {

@@ -71,8 +71,10 @@ void AppDelegate::addPresenters()
 {
     m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
     m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
-    if (HelperProcess* helper = m_platform.impressHelper())
-        m_presenters.add(ImpressPresenter::row(*helper));
+    if (HelperProcess* helper = m_platform.impressHelper()) {
+        m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
+        m_presenters.add(m_impress->row());
+    }
 }
 
 void AppDelegate::applicationDidFinishLaunching()

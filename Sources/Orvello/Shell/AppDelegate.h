@@ -28,6 +28,7 @@
 
 namespace Orvello {
 
+class ImpressPresenter;
 class PlainPKey;
 class Platform;
 class PrompterWindow;
@@ -90,6 +91,7 @@ private:
     Lazy<ScrollEngine> m_engine;
     Lazy<VoiceActivityEngine> m_voice;
     PresentationMonitor m_presentation;
+    std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
     Lazy<SlideSyncService> m_slideSync;
     Lazy<DeckController> m_deck;
     UpdateController m_updates;

@@ -16,13 +16,16 @@ ORVELLO_IMPRESS_PROFILE (a file URL) another LibreOffice profile than the user's
 """
 
 import json
+import math
 import os
 import pathlib
+import shlex
 import shutil
 import subprocess
 import sys
 import time
 
+PROCESSES = pathlib.Path("/proc")
 PIPE = os.environ.get("ORVELLO_IMPRESS_PIPE", "orvello")
 ACCEPT = f"pipe,name={PIPE};urp;"
 RECORD_SEPARATOR = "\x1e"
@@ -30,7 +33,11 @@ UNIT_SEPARATOR = "\x1f"
 
 # While LibreOffice starts, its windows may be there before it listens.
 CONNECT_SECONDS = 3.0
-START_SECONDS = 60
+START_SECONDS = 60.0
+HAND_OVER_SECONDS = 2.0
+# When LibreOffice dies, its slideshow seems to go on until the next look at the screen; and its process may take
+# a while to end, or another LibreOffice may run that has nothing to do with it.
+LOSS_SECONDS = 5.0
 RETRY_SECONDS = 0.1
 
 PRESENTATION = "com.sun.star.presentation.PresentationDocument"
@@ -40,13 +47,27 @@ CONNECTION_SETTING = "ooSetupConnectionURL"
 
 
 class Failure(Exception):
-    """What went wrong, in the words that are printed."""
+    """What went wrong: words for the user, and the error number that a script would print."""
+
+    def __init__(self, text, number=None):
+        super().__init__(text if number is None else f"{text} ({number})")
+        self.text = text
 
 
-NO_DOCUMENT = Failure("NO_DOCUMENT")
-NO_SLIDESHOW = Failure("No slideshow is running. (-1728)")
-NOT_RUNNING = Failure("LibreOffice isn't running. (-600)")
-NOT_ALLOWED = Failure("LibreOffice does not let Orvello ask it. (-1743)")
+def no_document():
+    return Failure("NO_DOCUMENT")
+
+
+def no_slideshow():
+    return Failure("No slideshow is running.", -1728)
+
+
+def not_running():
+    return Failure("LibreOffice isn't running.", -600)
+
+
+def not_allowed():
+    return Failure("LibreOffice does not let Orvello ask it.", -1743)
 
 
 def load_uno():
@@ -54,24 +75,49 @@ def load_uno():
     try:
         import uno
     except ImportError:
-        raise Failure("The package python3-uno is missing. (-1743)") from None
+        raise Failure("To follow Impress, Orvello needs the package python3-uno. Install it and try again.",
+                      -1743) from None
     return uno
 
 
 def is_office_running():
     """Whether this user runs a LibreOffice that is alive."""
-    for process in pathlib.Path("/proc").iterdir():
+    for process in PROCESSES.iterdir():
         if not process.name.isdigit():
             continue
         try:
             if process.stat().st_uid != os.geteuid():
                 continue
             name, _, rest = (process / "stat").read_text().partition("(")[2].rpartition(")")
-            if name == "soffice.bin" and rest.split()[0] != "Z":
+            if name == "soffice.bin" and rest.split()[0] not in "ZX":
                 return True
         except OSError:
             continue  # It ended meanwhile.
     return False
+
+
+def connect():
+    """LibreOffice's component context, or nothing when it does not listen."""
+    local = load_uno().getComponentContext()
+    resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
+    try:
+        return resolver.resolve(f"uno:pipe,name={PIPE};urp;StarOffice.ComponentContext")
+    except Exception:
+        return None
+
+
+def wait_for_connection(seconds, is_worthwhile):
+    """Tries for so many seconds, as long as there is something to wait for."""
+    deadline = time.monotonic() + seconds
+    while True:
+        context = connect()
+        if context is not None or not is_worthwhile() or time.monotonic() > deadline:
+            return context
+        time.sleep(RETRY_SECONDS)
+
+
+def desktop_of(context):
+    return context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
 
 
 class Office:
@@ -79,30 +125,24 @@ class Office:
 
     def __init__(self):
         self._desktop = None
-
-    def context(self, seconds):
-        """Connects, trying for so many seconds."""
-        uno = load_uno()
-        local = uno.getComponentContext()
-        resolver = local.ServiceManager.createInstanceWithContext(
-            "com.sun.star.bridge.UnoUrlResolver", local)
-        deadline = time.monotonic() + seconds
-        while True:
-            try:
-                return resolver.resolve(f"uno:pipe,name={PIPE};urp;StarOffice.ComponentContext")
-            except Exception:
-                if not is_office_running() and seconds <= CONNECT_SECONDS:
-                    raise NOT_RUNNING from None
-                if time.monotonic() > deadline:
-                    raise NOT_ALLOWED from None
-            time.sleep(RETRY_SECONDS)
+        self._lost_at = -math.inf
 
     def desktop(self):
         if self._desktop is None:
-            context = self.context(CONNECT_SECONDS)
-            self._desktop = context.ServiceManager.createInstanceWithContext(
-                "com.sun.star.frame.Desktop", context)
+            self._desktop = desktop_of(self._context())
         return self._desktop
+
+    def forget(self):
+        """Ends the connection, as if there had been none."""
+        self._desktop = None
+
+    def _context(self):
+        # Who let itself be asked and is gone has died, and refuses nothing.
+        was_lost = time.monotonic() - self._lost_at < LOSS_SECONDS
+        context = connect() if was_lost else wait_for_connection(CONNECT_SECONDS, is_office_running)
+        if context is None:
+            raise not_allowed() if is_office_running() and not was_lost else not_running()
+        return context
 
     def presentations(self):
         """The open presentations, the one in front first."""
@@ -123,6 +163,7 @@ class Office:
             raise
         except Exception:
             self._desktop = None
+            self._lost_at = time.monotonic()
             if not had_connection:
                 raise
         return QUESTIONS[question](self)
@@ -134,7 +175,7 @@ def current_slide(office):
         slide = controller.getCurrentSlide() if controller else None
         if slide:
             return str(slide.Number)
-    raise NO_SLIDESHOW
+    raise no_slideshow()
 
 
 def text_of(page, kind):
@@ -160,7 +201,7 @@ def clean(text):
 def open_deck(office):
     documents = office.presentations()
     if not documents:
-        raise NO_DOCUMENT
+        raise no_document()
     document = documents[0]
     record = [clean(deck_name(document))]
     pages = document.getDrawPages()
@@ -187,33 +228,45 @@ def soffice(*arguments):
         stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
-def has_windows(desktop):
-    return desktop.getFrames().getCount() > 0
-
-
 def change_setting(change):
-    """Lets LibreOffice itself change its profile: the running one, or one that runs for this alone."""
-    soffice(f"--accept={ACCEPT}")
-    context = Office().context(START_SECONDS)
+    """Lets LibreOffice itself change its profile: the running one, or one that runs for this alone.
+
+    Returns whether it goes on running.
+    """
     uno = load_uno()
+    process = soffice(f"--accept={ACCEPT}")
+    context = wait_for_connection(START_SECONDS, lambda: True)
+    if context is None:
+        raise Failure("LibreOffice did not answer. Close it and try again.")
     node = uno.createUnoStruct("com.sun.star.beans.PropertyValue")
     node.Name, node.Value = "nodepath", "/org.openoffice.Setup/Office"
     provider = context.ServiceManager.createInstanceWithContext(
         "com.sun.star.configuration.ConfigurationProvider", context)
     settings = provider.createInstanceWithArguments(
         "com.sun.star.configuration.ConfigurationUpdateAccess", (node,))
-    desktop = context.ServiceManager.createInstanceWithContext("com.sun.star.frame.Desktop", context)
     try:
         change(settings)
         settings.commitChanges()
     finally:
-        if not has_windows(desktop):
-            terminate(desktop)
+        # Who hands its arguments over ends by itself; who goes on is the LibreOffice that runs for this alone.
+        was_running = has_ended(process, HAND_OVER_SECONDS)
+        if not was_running:
+            terminate(context)
+            has_ended(process, START_SECONDS)
+    return was_running
 
 
-def terminate(desktop):
+def has_ended(process, seconds):
     try:
-        desktop.terminate()
+        process.wait(seconds)
+        return True
+    except subprocess.TimeoutExpired:
+        return False
+
+
+def terminate(context):
+    try:
+        desktop_of(context).terminate()
     except Exception:
         pass  # The connection ends with LibreOffice.
 
@@ -226,22 +279,26 @@ def allow(_office):
         settings.replaceByName(CONNECTION_SETTING, ACCEPT)
 
     change_setting(change)
-    return "Orvello may now follow Impress. `impress-helper.py disallow` takes that back."
+    command = shlex.join([os.path.abspath(__file__), "disallow"])
+    return f"Orvello may now follow Impress. Start the slideshow or the import again.\n\nTo take this back later: {command}"
 
 
-def disallow(_office):
+def disallow(office):
     def change(settings):
         if settings.getByName(CONNECTION_SETTING) == ACCEPT:
             settings.replaceByName(CONNECTION_SETTING, "")
 
-    change_setting(change)
-    soffice(f"--unaccept={ACCEPT}").wait()
+    goes_on = change_setting(change)
+    if goes_on:
+        has_ended(soffice(f"--unaccept={ACCEPT}"), START_SECONDS)
+    office.forget()
     return "Orvello may no longer follow Impress."
 
 
 # Questions and answers
 
 QUESTIONS = {"slide": current_slide, "deck": open_deck, "allow": allow, "disallow": disallow}
+FOR_THE_USER = ("allow", "disallow")
 
 
 def reply(office, question):
@@ -251,7 +308,8 @@ def reply(office, question):
             raise Failure(f"Unknown question: {question}")
         return {"status": 0, "output": office.ask(question) + "\n", "error": ""}
     except Failure as failure:
-        return {"status": 1, "output": "", "error": str(failure)}
+        error = failure.text if question in FOR_THE_USER else str(failure)
+        return {"status": 1, "output": "", "error": error}
     except Exception as error:  # Whatever LibreOffice throws while a document closes.
         return {"status": 1, "output": "", "error": f"{type(error).__name__}: {error}"}
 
