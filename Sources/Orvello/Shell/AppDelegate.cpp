@@ -126,10 +126,10 @@ void AppDelegate::applicationStartedAgain()
 void AppDelegate::makePanel()
 {
     ScrollEngine& engine = m_engine();
-    m_voice();
+    VoiceActivityEngine& voice = m_voice();
     DeckController& deck = m_deck();
     m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services {
-        engine, m_settings, deck, m_platform.time(), m_options.noStealth });
+        engine, m_settings, voice, m_presentation, deck, m_platform.time(), m_options.noStealth });
     m_panel = m_platform.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
         PrompterPanelController::Services { *m_panel, engine, m_settings, m_presentation,

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Prompting/ShareWarning.h"
+#include "Orvello/Prompting/SlideStatus.h"
+#include "Orvello/Prompting/Symbol.h"
 #include "Orvello/Settings/SettingsStore.h"
 
 #include <QtQml/qqml.h>
@@ -36,6 +40,33 @@ struct PrompterStatusType {
     QML_FOREIGN(Orvello::PrompterStatus)
     QML_NAMED_ELEMENT(PrompterStatus)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct LevelMeterType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::LevelMeter)
+    QML_NAMED_ELEMENT(LevelMeter)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SlideStatusType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SlideStatus)
+    QML_NAMED_ELEMENT(SlideStatus)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ShareWarningType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ShareWarning)
+    QML_NAMED_ELEMENT(ShareWarning)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SymbolType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Symbol)
+    QML_NAMED_ELEMENT(Symbol)
 };
 
 } // namespace Orvello::QmlTypes
