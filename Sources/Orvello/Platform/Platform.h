@@ -15,6 +15,7 @@ class Folders;
 class HelperProcess;
 class MicrophonePermission;
 class NativePanel;
+class OpenPanel;
 class ProcessSignals;
 class RawMicrophone;
 class Screens;
@@ -47,6 +48,7 @@ public:
     virtual Screens& screens() = 0;
     virtual Workspace& workspace() = 0;
     virtual WindowServer& windowServer() = 0;
+    virtual OpenPanel& openPanel() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     /// Needs the application object.

@@ -5,6 +5,7 @@
 #include "Orvello/Platform/QtTimeSource.h"
 #include "Orvello/Platform/macOS/CapturePermission.h"
 #include "Orvello/Platform/macOS/CocoaFolders.h"
+#include "Orvello/Platform/macOS/CocoaOpenPanel.h"
 #include "Orvello/Platform/macOS/CocoaPanel.h"
 #include "Orvello/Platform/macOS/CocoaScreens.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
@@ -40,6 +41,7 @@ public:
     Screens& screens() override { return m_screens; }
     Workspace& workspace() override { return m_workspace; }
     WindowServer& windowServer() override { return m_windowServer; }
+    OpenPanel& openPanel() override { return m_openPanel; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -67,6 +69,7 @@ private:
     CocoaScreens m_screens;
     CocoaWorkspace m_workspace;
     QuartzWindowServer m_windowServer;
+    CocoaOpenPanel m_openPanel;
     CapturePermission m_microphonePermission;
     VoiceProcessingIO m_voiceProcessing;
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.
