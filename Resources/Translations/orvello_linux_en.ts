@@ -11,7 +11,7 @@
     </message>
 </context>
 <context>
-    <name>Orvello::LibraryViewModel</name>
+    <name>Orvello::DeckImports</name>
     <message>
         <source>The deck was imported, but no slide has speaker notes. Add notes in PowerPoint&apos;s notes pane and re-import.</source>
         <translation>The deck was imported, but no slide has speaker notes. Add notes in your presentation program&apos;s notes pane and re-import.</translation>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/LibraryViewModel.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
@@ -35,6 +36,41 @@ struct PrompterStatusType {
     Q_GADGET
     QML_FOREIGN(Orvello::PrompterStatus)
     QML_NAMED_ELEMENT(PrompterStatus)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct DeckImportsType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::DeckImports)
+    QML_NAMED_ELEMENT(DeckImports)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct LibraryViewModelType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::LibraryViewModel)
+    QML_NAMED_ELEMENT(LibraryViewModel)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct OpenScriptsType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::OpenScripts)
+    QML_NAMED_ELEMENT(OpenScripts)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ScriptEditorType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScriptEditor)
+    QML_NAMED_ELEMENT(ScriptEditor)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ScriptListModelType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScriptListModel)
+    QML_NAMED_ELEMENT(ScriptListModel)
     QML_UNCREATABLE("The program makes it.")
 };
 
