@@ -2,6 +2,14 @@
 # (Shell/QmlTypes.h). Link Orvello::Views, add the import path "qrc:/qt/qml", load "qrc:/qt/qml/Orvello/<View>.qml".
 
 set(views
+    Library/DeckNotice.qml
+    Library/EditorPage.qml
+    Library/ImportMenu.qml
+    Library/LibraryAlert.qml
+    Library/LibraryView.qml
+    Library/ScriptRow.qml
+    Library/ScriptSidebar.qml
+    Library/ToolbarButton.qml
     Prompting/Capsule.qml
     Prompting/Countdown.qml
     Prompting/FadingStrip.qml
@@ -28,11 +36,11 @@ qt_add_qml_module(
     URI Orvello
     VERSION 1.0
     RESOURCE_PREFIX /qt/qml
-    DEPENDENCIES QtQuick QtQml.Models
+    DEPENDENCIES QtQuick QtQuick.Controls QtQuick.Layouts QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Prompting/Symbol.cpp Prompting/Symbol.h Shell/QmlTypes.h
+    SOURCES Shell/QmlTypes.h Views/Symbol.cpp Views/Symbol.h
     QML_FILES ${views})
-target_include_directories(OrvelloViews PRIVATE Shell) # The generated registration includes by name alone.
+target_include_directories(OrvelloViews PRIVATE Shell Views) # The generated registration includes by name alone.
 qt_add_shaders(
     OrvelloViews OrvelloShaders
     BATCHABLE PRECOMPILE OPTIMIZED
@@ -40,7 +48,7 @@ qt_add_shaders(
     BASE Prompting
     FILES Prompting/Fade.frag
     OUTPUTS Fade.frag.qsb)
-target_link_libraries(OrvelloViews PUBLIC OrvelloBase Orvello::Prompting Orvello::Settings Qt6::Quick)
+target_link_libraries(OrvelloViews PUBLIC OrvelloBase Orvello::LibraryView Orvello::Prompting Orvello::Settings Qt6::Quick)
 
 # A static QML module needs its plugin linked as well.
 add_library(OrvelloViewsAndPlugin INTERFACE)

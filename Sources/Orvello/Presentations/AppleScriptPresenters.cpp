@@ -112,6 +112,7 @@ PresenterApp powerPoint(const AppleScriptRunner& runner)
         .permissionAdvice = automationAdvice(u"Microsoft PowerPoint"_s),
         .askCurrentSlide = running(runner, powerPointCurrentSlide),
         .askOpenDeck = running(runner, powerPointOpenDeck),
+        .hasDeckFiles = true,
     };
 }
 

@@ -22,6 +22,7 @@ struct PresenterApp {
     QString permissionAdvice; ///< What to tell a user whose system refuses to let it be asked.
     Query askCurrentSlide; ///< Prints the number of the slide on screen, 1-based.
     Query askOpenDeck; ///< Prints the deck record of the front document, or fails with NO_DOCUMENT.
+    bool hasDeckFiles = false; ///< Its decks are files that the importer reads by itself.
 };
 
 /// The presentation applications of this edition, in the order in which names are tried. Rows are
@@ -29,6 +30,8 @@ struct PresenterApp {
 class PresenterTable {
 public:
     const PresenterApp& add(PresenterApp app) { return m_apps.emplace_back(std::move(app)); }
+
+    const std::deque<PresenterApp>& apps() const { return m_apps; }
 
     /// The application with exactly this display name; null for any other name or none.
     const PresenterApp* named(const std::optional<QString>& displayName) const;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Orvello/Library/LibraryViewModel.h"
 #include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Prompting/ShareWarning.h"
 #include "Orvello/Prompting/SlideStatus.h"
-#include "Orvello/Prompting/Symbol.h"
 #include "Orvello/Settings/SettingsStore.h"
 
 #include <QtQml/qqml.h>
@@ -63,10 +63,39 @@ struct ShareWarningType {
     QML_UNCREATABLE("The program makes it.")
 };
 
-struct SymbolType {
+struct DeckImportsType {
     Q_GADGET
-    QML_FOREIGN(Orvello::Symbol)
-    QML_NAMED_ELEMENT(Symbol)
+    QML_FOREIGN(Orvello::DeckImports)
+    QML_NAMED_ELEMENT(DeckImports)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct LibraryViewModelType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::LibraryViewModel)
+    QML_NAMED_ELEMENT(LibraryViewModel)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct OpenScriptsType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::OpenScripts)
+    QML_NAMED_ELEMENT(OpenScripts)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ScriptEditorType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScriptEditor)
+    QML_NAMED_ELEMENT(ScriptEditor)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ScriptListModelType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScriptListModel)
+    QML_NAMED_ELEMENT(ScriptListModel)
+    QML_UNCREATABLE("The program makes it.")
 };
 
 } // namespace Orvello::QmlTypes

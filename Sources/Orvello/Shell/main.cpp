@@ -12,6 +12,7 @@
 #include "Orvello/Shell/MainMenu.h"
 #include "Orvello/Shell/OrvelloApplication.h"
 #include "Orvello/Shell/QtShellWindows.h"
+#include "Orvello/Shell/Translation.h"
 
 #include "Version.h"
 
@@ -91,6 +92,7 @@ int main(int argc, char** argv)
         return 1;
     }
     OrvelloApplication application(argc, argv);
+    installTranslation(application);
     const std::unique_ptr<Platform> platform = std::move(earlyPlatform); // Ends before it.
     if (platform->statusBar().isPartOfMenuBar())
         application.setMainMenu(makeMainMenu(&sendToFocusObject));

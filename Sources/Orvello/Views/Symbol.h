@@ -3,18 +3,21 @@
 #include <QColor>
 #include <QQuickPaintedItem>
 #include <QString>
+#include <QtQml/qqml.h>
 
 namespace Orvello {
 
-/// One of the small symbols on the views, drawn sharp at any size and scale. The names are those of
-/// the macOS symbols that they look like. QML derives from it.
+/// One of the small line drawings of the views, sharp at any size and scale, as large as fits and
+/// in the middle. The names are those of the macOS symbols that they look like.
 class Symbol : public QQuickPaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    QML_ELEMENT
 
 public:
     explicit Symbol(QQuickItem* parent = nullptr);
+    ~Symbol() override;
 
     const QString& name() const { return m_name; }
     void setName(const QString& name); ///< Nothing is drawn for an unknown one.

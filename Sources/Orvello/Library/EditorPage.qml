@@ -1,0 +1,116 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Orvello
+
+// One open script: title, body, what is to be said about them. Each has its own, so that undoing,
+// the cursor and the scrolled place belong to the script.
+Pane {
+    id: root
+
+    required property ScriptEditor editor
+    property bool isActive: false
+
+    function editTitle(): void {
+        title.forceActiveFocus(Qt.OtherFocusReason);
+        title.selectAll();
+    }
+
+    padding: 0
+    background: Rectangle {
+        color: root.palette.base
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        TextField {
+            id: title
+
+            Layout.fillWidth: true
+            leftPadding: 14
+            rightPadding: 14
+            topPadding: 12
+            bottomPadding: 10
+            background: null
+            font.pixelSize: 18
+            font.weight: Font.DemiBold
+            placeholderText: qsTr("Title")
+            text: root.editor.title
+            readOnly: !root.editor.isEditable
+            selectByMouse: true
+            onTextEdited: root.editor.title = text
+            onAccepted: body.forceActiveFocus(Qt.TabFocusReason)
+
+            Accessible.name: qsTr("Title")
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 1
+            color: root.palette.mid
+        }
+
+        DeckNotice {
+            Layout.fillWidth: true
+            visible: root.editor.isDeck
+            text: root.editor.deckNotice
+        }
+
+        ScrollView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            TextArea {
+                id: body
+
+                leftPadding: 14
+                rightPadding: 14
+                topPadding: 10
+                bottomPadding: 10
+                background: null
+                font.pixelSize: 14
+                textFormat: TextEdit.PlainText
+                wrapMode: TextEdit.Wrap
+                readOnly: root.editor.isDeck || !root.editor.isEditable
+                selectByMouse: true
+                selectByKeyboard: true
+                persistentSelection: true
+
+                Accessible.name: root.editor.isDeck ? qsTr("Speaker notes") : qsTr("Script text")
+
+                Component.onCompleted: {
+                    text = root.editor.body;
+                    root.editor.follow(textDocument);
+                }
+            }
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 1
+            color: root.palette.mid
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.margins: 8
+            Layout.leftMargin: 14
+            Layout.rightMargin: 14
+            spacing: 16
+
+            Label {
+                text: root.editor.wordCount
+                font.pixelSize: 11
+            }
+            Label {
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignRight
+                elide: Text.ElideRight
+                text: qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
+                font.pixelSize: 11
+            }
+        }
+    }
+}

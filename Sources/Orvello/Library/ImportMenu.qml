@@ -1,0 +1,37 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import QtQml.Models
+import Orvello
+
+// The button that drops the menu of the ways to import a deck.
+ToolbarButton {
+    id: root
+
+    required property DeckImports imports
+
+    symbol: "square.and.arrow.down"
+    help: qsTr("Import speaker notes from a deck")
+    ToolTip.visible: (hovered || visualFocus) && !menu.visible
+    Accessible.role: Accessible.ButtonMenu
+    onClicked: menu.popup(root, 0, -menu.height)
+
+    Menu {
+        id: menu
+
+        width: 250
+
+        Instantiator {
+            model: root.imports.titles
+            delegate: MenuItem {
+                required property string modelData
+                required property int index
+
+                text: modelData
+                onTriggered: root.imports.run(index)
+            }
+            onObjectAdded: (index, object) => menu.insertItem(index, object as MenuItem)
+            onObjectRemoved: (index, object) => menu.removeItem(object as MenuItem)
+        }
+    }
+}

@@ -1,0 +1,94 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Controls
+import Orvello
+
+// The scripts on the left, the active one with its editor on the right.
+Pane {
+    id: root
+
+    required property LibraryViewModel library
+
+    function addScript(): void {
+        library.addScript();
+        activePage()?.editTitle();
+    }
+
+    function activePage(): EditorPage {
+        for (let i = 0; i < pages.count; ++i) {
+            const page = pages.itemAt(i) as EditorPage;
+            if (page?.isActive)
+                return page;
+        }
+        return null;
+    }
+
+    padding: 0
+    focus: true
+
+    Shortcut {
+        sequences: ["Ctrl+N"]
+        onActivated: root.addScript()
+    }
+    Shortcut {
+        sequences: ["Ctrl+O"]
+        onActivated: root.library.imports.chooseFile()
+    }
+    Shortcut {
+        sequences: ["Ctrl+W"]
+        onActivated: root.Window.window.close()
+    }
+
+    SplitView {
+        anchors.fill: parent
+
+        ScriptSidebar {
+            SplitView.minimumWidth: 180
+            SplitView.preferredWidth: 210
+            SplitView.maximumWidth: 280
+            library: root.library
+            onAddRequested: root.addScript()
+            onEditRequested: root.activePage()?.editTitle()
+        }
+
+        Item {
+            SplitView.minimumWidth: 400
+            SplitView.fillWidth: true
+
+            Repeater {
+                id: pages
+
+                model: root.library.open
+                delegate: EditorPage {
+                    isActive: editor === root.library.open.active
+                    visible: isActive
+                    // A long text out of sight is not worth setting anew at each size of the window.
+                    anchors.fill: isActive ? parent : undefined
+                }
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        visible: drop.containsDrag
+        color: "transparent"
+        border.color: root.palette.highlight
+        border.width: 3
+    }
+
+    DropArea {
+        id: drop
+
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = root.library.imports.canImport(drag.urls)
+        onDropped: drop => {
+            drop.accept(Qt.CopyAction);
+            root.library.imports.importFiles(drop.urls);
+        }
+    }
+
+    LibraryAlert {
+        imports: root.library.imports
+    }
+}

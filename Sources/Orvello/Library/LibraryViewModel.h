@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Orvello/Library/DeckImports.h"
+#include "Orvello/Library/OpenScripts.h"
+#include "Orvello/Library/ScriptListModel.h"
+
+namespace Orvello {
+
+/// What the scripts window shows, and its commands on the library.
+class LibraryViewModel final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(Orvello::ScriptListModel* scripts READ scripts CONSTANT FINAL)
+    Q_PROPERTY(Orvello::OpenScripts* open READ open CONSTANT FINAL)
+    Q_PROPERTY(Orvello::DeckImports* imports READ imports CONSTANT FINAL)
+
+public:
+    explicit LibraryViewModel(const DeckImports::Services& services);
+    ~LibraryViewModel() override;
+
+    ScriptListModel* scripts() { return &m_scripts; }
+    OpenScripts* open() { return &m_open; }
+    DeckImports* imports() { return &m_imports; }
+
+    Q_INVOKABLE void addScript();
+    Q_INVOKABLE void removeActive(); ///< Does nothing when no script is active.
+
+private:
+    LibraryStore& m_library;
+    ScriptListModel m_scripts;
+    OpenScripts m_open;
+    DeckImports m_imports;
+};
+
+} // namespace Orvello

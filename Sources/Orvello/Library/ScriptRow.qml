@@ -1,0 +1,74 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Orvello
+
+// One script in the list: its title, and for a deck its sign and the number of its slides.
+ItemDelegate {
+    id: root
+
+    required property int index
+    required property string title
+    required property bool isDeck
+    required property string slides
+    required property bool isActive
+    required property bool listHasFocus
+    readonly property color textColor: isActive && listHasFocus ? palette.highlightedText : palette.windowText
+
+    focusPolicy: Qt.NoFocus // The list has it.
+    highlighted: isActive
+    topPadding: 5
+    bottomPadding: 5
+    leftPadding: 16
+    rightPadding: 16
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: isDeck ? qsTr("%1, %2").arg(title).arg(slides) : title
+    Accessible.selectable: true
+    Accessible.selected: isActive
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.leftMargin: 6
+            anchors.rightMargin: 6
+            radius: 5
+            visible: root.isActive
+            color: root.listHasFocus ? root.palette.highlight : Qt.alpha(root.palette.windowText, 0.14)
+        }
+    }
+
+    contentItem: RowLayout {
+        spacing: 6
+
+        Symbol {
+            Layout.preferredWidth: 14
+            Layout.preferredHeight: 14
+            visible: root.isDeck
+            name: "rectangle.on.rectangle"
+            color: root.textColor
+        }
+
+        ColumnLayout {
+            spacing: 0
+
+            Label {
+                Layout.fillWidth: true
+                text: root.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                maximumLineCount: 1
+                color: root.textColor
+            }
+            Label {
+                Layout.fillWidth: true
+                visible: root.isDeck
+                text: root.slides
+                elide: Text.ElideRight
+                font.pixelSize: 11
+                color: root.textColor
+                opacity: 0.8
+            }
+        }
+    }
+}

@@ -1,0 +1,50 @@
+#include "Orvello/Shell/LibraryWindow.h"
+
+#include <QCoreApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QScreen>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize firstSize(720, 480);
+constexpr QSize smallestSize(660, 440);
+
+} // namespace
+
+LibraryWindow::LibraryWindow(const Services& services)
+    : m_library(services)
+{
+    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+    m_view.setTitle(QCoreApplication::translate("LibraryWindow", "Scripts"));
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.setMinimumSize(smallestSize);
+    m_view.setInitialProperties({ { u"library"_s, QVariant::fromValue(&m_library) } });
+    m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/LibraryView.qml"_s));
+    Q_ASSERT(m_view.rootObject()); // The view is part of the program.
+    m_view.resize(firstSize);
+}
+
+LibraryWindow::~LibraryWindow() = default;
+
+void LibraryWindow::makeKeyAndOrderFront()
+{
+    if (!std::exchange(m_wasShown, true))
+        centre();
+    m_view.show();
+    m_view.raise();
+    m_view.requestActivate();
+}
+
+void LibraryWindow::centre()
+{
+    QRect frame(QPoint(), m_view.size());
+    frame.moveCenter(m_view.screen()->availableGeometry().center());
+    m_view.setFramePosition(frame.topLeft());
+}
+
+} // namespace Orvello
