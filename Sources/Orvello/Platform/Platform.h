@@ -22,6 +22,7 @@ class SystemLog;
 class TimeSource;
 class UserDefaults;
 class VoiceProcessing;
+class WindowChrome;
 class WindowServer;
 class Workspace;
 
@@ -47,6 +48,7 @@ public:
     virtual Screens& screens() = 0;
     virtual Workspace& workspace() = 0;
     virtual WindowServer& windowServer() = 0;
+    virtual WindowChrome& windowChrome() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     /// Needs the application object.

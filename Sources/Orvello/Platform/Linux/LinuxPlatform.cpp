@@ -1,3 +1,4 @@
+#include "Orvello/Platform/Linux/FramelessChrome.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
 #include "Orvello/Platform/Linux/LinuxWorkspace.h"
@@ -67,6 +68,7 @@ public:
     Screens& screens() override { return desktop().screens; }
     Workspace& workspace() override { return desktop().workspace; }
     WindowServer& windowServer() override { return desktop().windowServer; }
+    WindowChrome& windowChrome() override { return m_windowChrome; }
 
     MicrophonePermission& microphonePermission() override { return sound().permission; }
     VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
@@ -95,6 +97,7 @@ private:
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
+    FramelessChrome m_windowChrome;
     std::optional<Desktop> m_desktop;
     std::optional<PulseSound> m_sound;
     std::unique_ptr<HelperProcess> m_impressHelper;

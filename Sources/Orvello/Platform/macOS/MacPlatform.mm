@@ -8,6 +8,7 @@
 #include "Orvello/Platform/macOS/CocoaPanel.h"
 #include "Orvello/Platform/macOS/CocoaScreens.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
+#include "Orvello/Platform/macOS/CocoaWindowChrome.h"
 #include "Orvello/Platform/macOS/CocoaWorkspace.h"
 #include "Orvello/Platform/macOS/EngineMicrophone.h"
 #include "Orvello/Platform/macOS/HalAudioProcesses.h"
@@ -40,6 +41,7 @@ public:
     Screens& screens() override { return m_screens; }
     Workspace& workspace() override { return m_workspace; }
     WindowServer& windowServer() override { return m_windowServer; }
+    WindowChrome& windowChrome() override { return m_windowChrome; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -67,6 +69,7 @@ private:
     CocoaScreens m_screens;
     CocoaWorkspace m_workspace;
     QuartzWindowServer m_windowServer;
+    CocoaWindowChrome m_windowChrome;
     CapturePermission m_microphonePermission;
     VoiceProcessingIO m_voiceProcessing;
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.
