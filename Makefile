@@ -3,12 +3,13 @@
 #   make run [DECK=talk.pptx]   build and open the prompter, with that deck's notes
 #   make test                   build and run every test
 #   make bench                  print the measured speed and memory
+#   make gallery               every window in every state on one picture, build/gallery.png
 #   make sanitize               the unit tests under AddressSanitizer, UBSan and ThreadSanitizer
 #   make format                 lay the sources out;  make tidy: static analysis
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test bench sanitize format tidy build clean
+.PHONY: run test bench gallery sanitize format tidy build clean
 
 run:
 	@tools/setup build
@@ -29,6 +30,11 @@ bench:
 	@tools/setup test
 	@$(MAKE) --no-print-directory build
 	@tools/bench
+
+gallery:
+	@tools/setup test
+	@$(MAKE) --no-print-directory build ORVELLO_TARGET=orvello-gallery
+	@tools/gallery build/Tests/Gallery/orvello-gallery build/gallery.png
 
 sanitize:
 	@tools/setup test

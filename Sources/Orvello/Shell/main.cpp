@@ -5,6 +5,7 @@
 #include "Orvello/Shell/AppDelegate.h"
 #include "Orvello/Shell/LaunchOptions.h"
 #include "Orvello/Shell/OrvelloApplication.h"
+#include "Orvello/Shell/Translation.h"
 
 #include "Version.h"
 
@@ -66,6 +67,7 @@ int main(int argc, char** argv)
         return 1;
     }
     OrvelloApplication application(argc, argv);
+    installTranslation(application);
 
     AppDelegate delegate(*platform, options);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
