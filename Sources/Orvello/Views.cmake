@@ -5,11 +5,16 @@ set(views
     Prompting/Capsule.qml
     Prompting/Countdown.qml
     Prompting/FadingStrip.qml
+    Prompting/LevelBeam.qml
+    Prompting/OneOfSeveralLabels.qml
     Prompting/PromptText.qml
     Prompting/PrompterView.qml
     Prompting/RecordingBadge.qml
+    Prompting/ShareNotice.qml
+    Prompting/SlideChip.qml
     Prompting/SmallLabel.qml
     Prompting/StatusBadge.qml
+    Prompting/SymbolButton.qml
     Settings/PrivacySettings.qml
     Settings/PrompterSettings.qml
     Settings/SessionSettings.qml
@@ -40,7 +45,7 @@ qt_add_qml_module(
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES QtQuick QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Shell/QmlTypes.h
+    SOURCES Prompting/Symbol.cpp Prompting/Symbol.h Shell/QmlTypes.h
     QML_FILES ${views})
 target_include_directories(OrvelloViews PRIVATE Shell) # The generated registration includes by name alone.
 qt_add_shaders(

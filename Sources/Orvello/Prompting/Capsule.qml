@@ -6,15 +6,18 @@ Rectangle {
 
     default property alias content: row.data
 
-    implicitWidth: row.implicitWidth + 2 * row.x
+    readonly property int padding: 8
+    readonly property int spacing: 6
+
+    implicitWidth: row.implicitWidth + 2 * padding
     implicitHeight: 18
     radius: height / 2
     color: Qt.rgba(0, 0, 0, 0.8)
 
     Row {
         id: row
-        x: 8
+        x: root.padding
         height: parent.height
-        spacing: 6
+        spacing: root.spacing
     }
 }

@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/PrompterStatus.h"
 
 #include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Prompting/SignalColors.h"
 
 #include <array>
 #include <utility>
@@ -8,15 +9,6 @@
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The system colours of the macOS dark appearance, as in the text's colour presets.
-constexpr QColor yellow(255, 214, 10);
-constexpr QColor orange(255, 159, 10);
-constexpr QColor green(48, 209, 88);
-
-} // namespace
 
 PrompterStatus::PrompterStatus(const ScrollEngine& engine, QObject* parent)
     : QObject(parent)
@@ -45,11 +37,11 @@ QStringList PrompterStatus::labels()
 const PrompterStatus::Appearance& PrompterStatus::appearance(State state)
 {
     static const std::array<Appearance, 5> appearances { {
-        { u"get ready"_s, yellow },
-        { u"hover pause"_s, orange },
-        { u"paused"_s, orange },
-        { u"listening…"_s, yellow },
-        { u"scrolling"_s, green },
+        { u"get ready"_s, SignalColors::yellow },
+        { u"hover pause"_s, SignalColors::orange },
+        { u"paused"_s, SignalColors::orange },
+        { u"listening…"_s, SignalColors::yellow },
+        { u"scrolling"_s, SignalColors::green },
     } };
     return appearances[static_cast<std::size_t>(state)];
 }

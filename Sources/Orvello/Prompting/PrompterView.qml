@@ -11,6 +11,9 @@ Item {
     required property SettingsStore settings
     required property PromptLines lines
     required property PrompterStatus status
+    required property LevelMeter levelMeter
+    required property SlideStatus slideStatus
+    required property ShareWarning shareWarning
     required property string promptText
     required property string fontFamily
     required property bool forceCapturable
@@ -64,11 +67,30 @@ Item {
         fontFamily: root.fontFamily
     }
 
+    ShareNotice {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: statusBadge.top
+        anchors.margins: root.edge
+        warning: root.shareWarning
+    }
+
     StatusBadge {
+        id: statusBadge
         anchors.left: parent.left
         anchors.bottom: parent.bottom
         anchors.margins: root.edge
         status: root.status
+        meter: root.levelMeter
+    }
+
+    SlideChip {
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: root.edge
+        maximumWidth: parent.width - statusBadge.width - 3 * root.edge
+        visible: root.slideStatus.isShown
+        status: root.slideStatus
     }
 
     RecordingBadge {

@@ -1,13 +1,12 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Orvello
 
-// What the prompter is doing. The labels lie above each other, all but one of them clear: the badge
-// is as wide as the widest, and nothing moves when they change.
+// What the prompter is doing, and how loud it hears the speaker.
 Capsule {
     id: root
 
     required property PrompterStatus status
+    required property LevelMeter meter
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
@@ -17,19 +16,14 @@ Capsule {
         color: root.status.color
     }
 
-    Item {
+    OneOfSeveralLabels {
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.ceil(childrenRect.width)
-        height: childrenRect.height
+        labels: root.status.labels
+        label: root.status.label
+    }
 
-        Repeater {
-            model: root.status.labels
-            delegate: SmallLabel {
-                required property string modelData
-
-                text: modelData
-                opacity: modelData === root.status.label ? 1 : 0
-            }
-        }
+    LevelBeam {
+        anchors.verticalCenter: parent.verticalCenter
+        meter: root.meter
     }
 }

@@ -72,8 +72,8 @@ void AppDelegate::togglePanel()
 
 void AppDelegate::makePanel()
 {
-    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services {
-        m_engine, m_settings, m_deck, m_platform.time(), m_options.noStealth });
+    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services { m_engine,
+        m_settings, m_voice, m_presentation, m_deck, m_platform.time(), m_options.noStealth });
     m_panel = m_platform.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
         PrompterPanelController::Services { *m_panel, m_engine, m_settings, m_presentation,

@@ -15,6 +15,9 @@ using namespace Qt::StringLiterals;
 PrompterWindow::PrompterWindow(const Services& services)
     : m_lines(services.time)
     , m_status(services.engine)
+    , m_levelMeter(services.voice)
+    , m_slideStatus(services.deck)
+    , m_shareWarning(services.presentation, services.settings, services.engine)
 {
     m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setTitle(u"Orvello"_s);
@@ -25,6 +28,9 @@ PrompterWindow::PrompterWindow(const Services& services)
         { u"settings"_s, QVariant::fromValue(&services.settings) },
         { u"lines"_s, QVariant::fromValue(&m_lines) },
         { u"status"_s, QVariant::fromValue(&m_status) },
+        { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+        { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
+        { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
         { u"promptText"_s, services.deck.promptText() },
         { u"fontFamily"_s, PromptFont::family() },
         { u"forceCapturable"_s, services.forceCapturable },

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
+#include "Orvello/Prompting/ShareWarning.h"
+#include "Orvello/Prompting/SlideStatus.h"
 
 #include <QObject>
 #include <QQuickView>
@@ -9,9 +12,11 @@
 namespace Orvello {
 
 class DeckController;
+class PresentationMonitor;
 class ScrollEngine;
 class SettingsStore;
 class TimeSource;
+class VoiceActivityEngine;
 
 /// The content of the prompter panel: a window with the prompter's view over the services that it
 /// shows. What kind of window it is, is the native panel's business.
@@ -23,6 +28,8 @@ public:
     struct Services {
         ScrollEngine& engine;
         SettingsStore& settings;
+        const VoiceActivityEngine& voice;
+        const PresentationMonitor& presentation;
         DeckController& deck;
         TimeSource& time;
         bool forceCapturable;
@@ -41,6 +48,9 @@ private:
 
     PromptLines m_lines;
     PrompterStatus m_status;
+    LevelMeter m_levelMeter;
+    SlideStatus m_slideStatus;
+    ShareWarning m_shareWarning;
     QQuickView m_view;
 };
 

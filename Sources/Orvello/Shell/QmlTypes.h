@@ -1,10 +1,17 @@
 #pragma once
 
+#include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
+<<<<<<< HEAD
 #include "Orvello/Settings/OnboardingTour.h"
 #include "Orvello/Settings/SettingsForm.h"
+=======
+#include "Orvello/Prompting/ShareWarning.h"
+#include "Orvello/Prompting/SlideStatus.h"
+#include "Orvello/Prompting/Symbol.h"
+>>>>>>> 4bb137a
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
@@ -42,6 +49,7 @@ struct PrompterStatusType {
     QML_UNCREATABLE("The program makes it.")
 };
 
+<<<<<<< HEAD
 struct OnboardingTourType {
     Q_GADGET
     QML_FOREIGN(Orvello::OnboardingTour)
@@ -68,6 +76,33 @@ struct VoiceActivityEngineType {
     QML_FOREIGN(Orvello::VoiceActivityEngine)
     QML_NAMED_ELEMENT(VoiceActivityEngine)
     QML_UNCREATABLE("The program makes it.")
+=======
+struct LevelMeterType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::LevelMeter)
+    QML_NAMED_ELEMENT(LevelMeter)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SlideStatusType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SlideStatus)
+    QML_NAMED_ELEMENT(SlideStatus)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ShareWarningType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ShareWarning)
+    QML_NAMED_ELEMENT(ShareWarning)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SymbolType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Symbol)
+    QML_NAMED_ELEMENT(Symbol)
+>>>>>>> 4bb137a
 };
 
 } // namespace Orvello::QmlTypes

@@ -175,9 +175,8 @@ bool X11Panel::pressed(QMouseEvent& event)
     const Qt::Edges edges = edgesAt(event.position(), m_window.size());
     if (!edges) {
         // The background is whatever the view does not want for itself.
-        event.setAccepted(false);
         static_cast<QObject&>(m_window).event(&event);
-        if (event.isAccepted())
+        if (event.exclusiveGrabber(event.point(0)))
             return true;
     }
     m_gesture = { true, edges, event.globalPosition().toPoint(), m_window.geometry() };

@@ -155,9 +155,8 @@ bool CocoaPanel::pressed(QMouseEvent& event)
     NSEvent* const press = NSApp.currentEvent;
     if (event.button() != Qt::LeftButton || press.type != NSEventTypeLeftMouseDown)
         return false;
-    event.setAccepted(false);
     static_cast<QObject&>(m_view).event(&event);
-    if (!event.isAccepted()) {
+    if (!event.exclusiveGrabber(event.point(0))) {
         shielded([&] { [m_panel performWindowDragWithEvent:press]; });
         QMetaObject::invokeMethod(
             this, [this, press] { releaseInView(press); }, Qt::QueuedConnection);

@@ -1,0 +1,45 @@
+import QtQuick
+import Orvello
+
+// Warns of switching Stealth Mode while others see the screen.
+Rectangle {
+    id: root
+
+    required property ShareWarning warning
+
+    radius: 9
+    implicitHeight: Math.max(18, message.implicitHeight + 6)
+    color: Qt.rgba(0, 0, 0, 0.8)
+    visible: warning.isShown
+
+    Symbol {
+        id: eye
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: 13
+        height: 13
+        name: "eye.trianglebadge.exclamationmark"
+        color: root.warning.color
+    }
+
+    SmallLabel {
+        id: message
+        anchors.left: eye.right
+        anchors.leftMargin: 6
+        anchors.right: dismissal.left
+        anchors.verticalCenter: parent.verticalCenter
+        text: "Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it."
+        color: Qt.rgba(1, 1, 1, 0.7)
+        wrapMode: Text.Wrap
+    }
+
+    SymbolButton {
+        id: dismissal
+        anchors.right: parent.right
+        anchors.rightMargin: 2
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "xmark"
+        description: "Dismiss"
+        onPressed: root.warning.dismiss()
+    }
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+#include <QString>
+
+namespace Orvello {
+
+/// One of the small symbols on the views, drawn sharp at any size and scale. The names are those of
+/// the macOS symbols that they look like. QML derives from it.
+class Symbol : public QQuickPaintedItem {
+    Q_OBJECT
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+
+public:
+    explicit Symbol(QQuickItem* parent = nullptr);
+
+    const QString& name() const { return m_name; }
+    void setName(const QString& name); ///< Nothing is drawn for an unknown one.
+
+    QColor color() const { return m_color; }
+    void setColor(const QColor& color);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void nameChanged();
+    void colorChanged();
+
+private:
+    QString m_name;
+    QColor m_color = Qt::white;
+};
+
+} // namespace Orvello

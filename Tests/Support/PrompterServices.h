@@ -1,0 +1,119 @@
+#pragma once
+
+#include "Orvello/Library/LibraryStore.h"
+#include "Orvello/Presentations/DeckController.h"
+#include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/PrompterWindow.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
+#include "Tests/Support/EventLoop.h"
+#include "Tests/Support/FakeFolders.h"
+#include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeRawMicrophone.h"
+#include "Tests/Support/FakeUserDefaults.h"
+#include "Tests/Support/FakeVoiceProcessing.h"
+#include "Tests/Support/SlideshowStage.h"
+
+#include <string>
+#include <vector>
+
+namespace Orvello::Testing {
+
+/// Every service that the prompter shows, over fakes, and what may happen to them.
+class PrompterServices {
+public:
+    PrompterServices()
+    {
+        stage.monitor.start();
+        drainEvents();
+    }
+
+    PrompterWindow::Services ofWindow(bool forceCapturable = false)
+    {
+        return { engine, settings, voice, stage.monitor, deck, stage.time, forceCapturable };
+    }
+
+    void prompt(const QString& text)
+    {
+        library.updateActive(std::nullopt, text);
+        drainEvents();
+    }
+
+    /// A deck of which slide tracking shows the first slide.
+    void openDeck(const QList<SlideNote>& slides)
+    {
+        library.addDeck(QStringLiteral("Deck"), slides, QStringLiteral("Keynote"));
+        sync.setActive(true);
+        drainEvents();
+    }
+
+    void startSlideshow()
+    {
+        stage.presentKeynote();
+        stage.time.advance(1.0);
+        drainEvents();
+    }
+
+    /// Answers the question after the current slide, which is asked half a second from now.
+    void showLiveSlide(int number)
+    {
+        stage.time.advance(0.5);
+        stage.keynote.answer(QString::number(number));
+        drainEvents();
+    }
+    void refuseToTellTheSlide()
+    {
+        stage.time.advance(0.5);
+        stage.keynote.fail(QStringLiteral("Not authorized to send Apple events. (-1743)"));
+        drainEvents();
+    }
+
+    void setInCall(bool inCall)
+    {
+        stage.microphone.otherProcessCaptures = inCall;
+        stage.time.advance(1.0);
+        drainEvents();
+    }
+
+    void openMeetingApp()
+    {
+        stage.workspace.running = { { QStringLiteral("us.zoom.xos"), QStringLiteral("Zoom") } };
+        stage.time.advance(1.0);
+        drainEvents();
+    }
+
+    /// Turns Voice-Follow on and hears a sound until its level has settled.
+    void hear(float amplitude)
+    {
+        engine.setVoiceFollowActive(true);
+        voice.requestPermissionAndStart();
+        drainEvents();
+        const std::vector<float> samples(480, amplitude);
+        constexpr int untilSettled = 100;
+        for (int i = 0; i < untilSettled; ++i) {
+            voiceProcessing.hear(samples);
+            drainEvents();
+        }
+    }
+
+    SlideshowStage stage;
+    FakeUserDefaults defaults;
+    FakeFolders folders;
+    SettingsStore settings { defaults };
+    LibraryStore library { defaults, folders, stage.time };
+    SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
+    DeckController deck { library, settings, sync };
+    ScrollEngine engine { settings, stage.time };
+
+    std::vector<std::string> journal;
+    FakeMicrophonePermission permission;
+    FakeVoiceProcessing voiceProcessing { journal };
+    FakeRawMicrophone rawMicrophone { journal };
+    FakeMicActivity otherMicrophoneUse;
+    FakeWorkspace quietWorkspace;
+    VoiceActivityEngine voice { settings,
+        { stage.time, permission, voiceProcessing, rawMicrophone, otherMicrophoneUse,
+            quietWorkspace } };
+};
+
+} // namespace Orvello::Testing
