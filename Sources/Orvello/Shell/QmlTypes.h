@@ -4,14 +4,11 @@
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
-<<<<<<< HEAD
-#include "Orvello/Settings/OnboardingTour.h"
-#include "Orvello/Settings/SettingsForm.h"
-=======
 #include "Orvello/Prompting/ShareWarning.h"
 #include "Orvello/Prompting/SlideStatus.h"
 #include "Orvello/Prompting/Symbol.h"
->>>>>>> 4bb137a
+#include "Orvello/Settings/OnboardingTour.h"
+#include "Orvello/Settings/SettingsForm.h"
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
@@ -49,7 +46,6 @@ struct PrompterStatusType {
     QML_UNCREATABLE("The program makes it.")
 };
 
-<<<<<<< HEAD
 struct OnboardingTourType {
     Q_GADGET
     QML_FOREIGN(Orvello::OnboardingTour)
@@ -76,7 +72,8 @@ struct VoiceActivityEngineType {
     QML_FOREIGN(Orvello::VoiceActivityEngine)
     QML_NAMED_ELEMENT(VoiceActivityEngine)
     QML_UNCREATABLE("The program makes it.")
-=======
+};
+
 struct LevelMeterType {
     Q_GADGET
     QML_FOREIGN(Orvello::LevelMeter)
@@ -102,7 +99,6 @@ struct SymbolType {
     Q_GADGET
     QML_FOREIGN(Orvello::Symbol)
     QML_NAMED_ELEMENT(Symbol)
->>>>>>> 4bb137a
 };
 
 } // namespace Orvello::QmlTypes
