@@ -22,7 +22,22 @@ set(views
     Prompting/SlideChip.qml
     Prompting/SmallLabel.qml
     Prompting/StatusBadge.qml
-    Prompting/SymbolButton.qml)
+    Prompting/SymbolButton.qml
+    Settings/PrivacySettings.qml
+    Settings/PrompterSettings.qml
+    Settings/SessionSettings.qml
+    Settings/SettingsNote.qml
+    Settings/SettingsPicker.qml
+    Settings/SettingsRow.qml
+    Settings/SettingsSection.qml
+    Settings/SettingsShortcut.qml
+    Settings/SettingsSlider.qml
+    Settings/SettingsToggle.qml
+    Settings/SettingsView.qml
+    Settings/ShortcutSettings.qml
+    Settings/SlidesSettings.qml
+    Settings/UpdateSettings.qml
+    Settings/VoiceSettings.qml)
 
 # The module is flat, whatever folder a view lies in.
 foreach(view ${views})
@@ -48,7 +63,9 @@ qt_add_shaders(
     BASE Prompting
     FILES Prompting/Fade.frag
     OUTPUTS Fade.frag.qsb)
-target_link_libraries(OrvelloViews PUBLIC OrvelloBase Orvello::LibraryView Orvello::Prompting Orvello::Settings Qt6::Quick)
+target_link_libraries(
+    OrvelloViews PUBLIC OrvelloBase Orvello::Commands Orvello::LibraryView Orvello::Prompting Orvello::Settings
+                        Orvello::Voice Qt6::Quick)
 
 # A static QML module needs its plugin linked as well.
 add_library(OrvelloViewsAndPlugin INTERFACE)

@@ -294,6 +294,60 @@ TEST_F(RunningApplicationsTest, noticesAtOnceThatAKnownProcessExecutesAnotherPro
     EXPECT_TRUE(workspace.runningApplications().isEmpty());
 }
 
+/// Over folders with desktop entries.
+class InstalledApplicationsTest : public ::testing::Test {
+protected:
+    void addFile(const QString& name)
+    {
+        const QString path = folder.filePath(name);
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+        ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly));
+    }
+
+    bool hasZoom() const
+    {
+        const LinuxWorkspace workspace(
+            windows, "/proc", { folder.filePath(u"system"_s), folder.filePath(u"user"_s) });
+        return workspace.isInstalled(u"us.zoom.xos"_s);
+    }
+
+    X11Windows windows;
+    QTemporaryDir folder;
+};
+
+TEST_F(InstalledApplicationsTest, knowsZoomByTheDesktopEntryOfItsPackage)
+{
+    EXPECT_FALSE(hasZoom());
+
+    addFile(u"user/zoom.txt"_s);
+    EXPECT_FALSE(hasZoom());
+    addFile(u"user/Zoom.desktop"_s);
+    EXPECT_TRUE(hasZoom());
+}
+
+TEST_F(InstalledApplicationsTest, knowsZoomByItsFlatpak)
+{
+    addFile(u"system/us.zoom.Zoom.desktop"_s);
+
+    EXPECT_TRUE(hasZoom());
+}
+
+TEST_F(InstalledApplicationsTest, knowsNoOtherApplicationByDesktopEntries)
+{
+    addFile(u"system/Zoom.desktop"_s);
+    const LinuxWorkspace workspace(windows, "/proc", { folder.filePath(u"system"_s) });
+
+    EXPECT_FALSE(workspace.isInstalled(u"com.example.other"_s));
+    EXPECT_FALSE(workspace.isInstalled(QString()));
+}
+
+TEST_F(InstalledApplicationsTest, looksWhereFlatpakPutsItsEntries)
+{
+    EXPECT_TRUE(LinuxWorkspace::desktopEntryFolders().contains(
+        u"/var/lib/flatpak/exports/share/applications"_s));
+    EXPECT_TRUE(LinuxWorkspace::desktopEntryFolders().contains(u"/usr/share/applications"_s));
+}
+
 TEST_F(RunningApplicationsTest, seesARealProcess)
 {
     const QString program = folder.filePath(u"teams-for-linux"_s);

@@ -5,6 +5,8 @@
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/LogCapture.h"
 
+#include <QDateTime>
+#include <QLocale>
 #include <QSignalSpy>
 
 #include <gmock/gmock.h>
@@ -110,6 +112,42 @@ TEST_F(UpdateControllerTest, announcesAChangeThatTheUpdaterMade)
     Testing::drainEvents();
     EXPECT_EQ(changed.count(), 1);
     EXPECT_TRUE(controller.checksAutomatically());
+}
+
+TEST_F(UpdateControllerTest, announcesThatACheckBeginsAndEnds)
+{
+    controller.start();
+    Testing::drainEvents();
+    const QSignalSpy changed(&controller, &UpdateController::checksChanged);
+    EXPECT_FALSE(controller.canCheckForUpdates());
+
+    std::thread([this] { updater.setChecks(true, std::nullopt); }).join();
+    Testing::drainEvents();
+
+    EXPECT_TRUE(controller.canCheckForUpdates());
+    EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(UpdateControllerTest, wordsTheLastCheckInTheUsersTime)
+{
+    controller.start();
+    EXPECT_EQ(controller.lastCheckText(), QString());
+
+    const QDateTime noon(QDate(2026, 3, 14), QTime(12, 0));
+    updater.setChecks(
+        true, Date::fromUnixSeconds(static_cast<double>(noon.toSecsSinceEpoch()) + 0.5));
+
+    EXPECT_EQ(controller.lastCheckText(), QLocale::system().toString(noon, QLocale::ShortFormat));
+}
+
+TEST_F(UpdateControllerTest, announcesItsStateOnceItIsStarted)
+{
+    const QSignalSpy changed(&controller, &UpdateController::checksChanged);
+    updater.setChecks(true, std::nullopt);
+
+    controller.start();
+
+    EXPECT_EQ(changed.count(), 1);
 }
 
 TEST_F(UpdateControllerTest, logsEveryStep)

@@ -21,7 +21,22 @@ public:
     {
         m_changed = std::move(changed);
     }
+    bool canCheckForUpdates() const override { return m_canCheck; }
+    std::optional<Date> lastUpdateCheckDate() const override { return m_lastCheck; }
+    void observeChecks(std::function<void()> changed) override
+    {
+        m_checksChanged = std::move(changed);
+    }
     std::optional<QString> builtInFeed() const override { return feed; }
+
+    /// What a check changes, announced as an updater would.
+    void setChecks(bool canCheck, std::optional<Date> lastCheck)
+    {
+        m_canCheck = canCheck;
+        m_lastCheck = lastCheck;
+        if (m_checksChanged)
+            m_checksChanged();
+    }
 
     UpdaterDelegate* delegate = nullptr; ///< Null until started.
     int checks = 0;
@@ -30,6 +45,9 @@ public:
 
 private:
     std::function<void()> m_changed;
+    bool m_canCheck = false;
+    std::optional<Date> m_lastCheck;
+    std::function<void()> m_checksChanged;
 };
 
 } // namespace Orvello::Testing

@@ -2,13 +2,19 @@
 
 #include "Orvello/Platform/Workspace.h"
 
+#include <QStringList>
+
 namespace Orvello::Testing {
 
-/// Runs what a test says it runs.
+/// Has and runs what a test says it does.
 class FakeWorkspace final : public Workspace {
 public:
     QList<RunningApplication> runningApplications() const override { return running; }
     std::optional<RunningApplication> frontmostApplication() const override { return frontmost; }
+    bool isInstalled(const QString& bundleIdentifier) const override
+    {
+        return installed.contains(bundleIdentifier);
+    }
 
     /// An application known by its identifier alone.
     static RunningApplication application(const QString& bundleIdentifier)
@@ -18,6 +24,7 @@ public:
 
     QList<RunningApplication> running;
     std::optional<RunningApplication> frontmost;
+    QStringList installed; ///< Bundle identifiers.
 };
 
 } // namespace Orvello::Testing

@@ -34,6 +34,7 @@ AppcastUpdater::~AppcastUpdater() = default;
 void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
 {
     m_delegate = &delegate;
+    announceChecks();
     askPermissionOnce();
     schedule();
 }
@@ -77,6 +78,32 @@ void AppcastUpdater::observeAutomaticChecks(std::function<void()> changed)
     m_observers.push_back(std::move(changed));
 }
 
+bool AppcastUpdater::canCheckForUpdates() const { return m_delegate && m_phase != Phase::Loading; }
+
+std::optional<Date> AppcastUpdater::lastUpdateCheckDate() const
+{
+    const std::optional<double> last
+        = DefaultsValue::asNumber(m_services.defaults.value(lastCheckKey));
+    return last ? std::optional(Date::fromUnixSeconds(*last)) : std::nullopt;
+}
+
+void AppcastUpdater::observeChecks(std::function<void()> changed)
+{
+    m_checkObservers.push_back(std::move(changed));
+}
+
+void AppcastUpdater::announceChecks() const
+{
+    for (const auto& changed : m_checkObservers)
+        changed();
+}
+
+void AppcastUpdater::enter(Phase phase)
+{
+    m_phase = phase;
+    announceChecks();
+}
+
 void AppcastUpdater::schedule()
 {
     m_nextCheck.reset();
@@ -90,11 +117,10 @@ void AppcastUpdater::schedule()
 
 double AppcastUpdater::secondsUntilNextCheck() const
 {
-    const std::optional<double> last
-        = DefaultsValue::asNumber(m_services.defaults.value(lastCheckKey));
+    const std::optional<Date> last = lastUpdateCheckDate();
     if (!last)
         return 0;
-    const double elapsed = m_services.time.date().unixSeconds() - *last;
+    const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
     // A check in the future is a clock that was set back since.
     return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
 }
@@ -111,8 +137,8 @@ void AppcastUpdater::check(Origin origin)
         return; // Its outcome will answer this check too.
 
     m_origin = origin;
-    m_phase = Phase::Loading;
     m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
+    enter(Phase::Loading);
     const QUrl url(feed(), QUrl::StrictMode);
     if (feed().isEmpty() || !url.isValid())
         return abort({ u"There is no valid update feed."_s, UpdateError::invalidFeed });
@@ -142,7 +168,7 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
 
 void AppcastUpdater::offer(const AppcastItem& item)
 {
-    m_phase = Phase::Asking;
+    enter(Phase::Asking);
     m_delegate->didFindValidUpdate(updateItem(item));
     m_services.user.showUpdate(
         updateItem(item), [this, item](UpdateChoice choice) { chosen(choice, item); });
@@ -189,7 +215,7 @@ void AppcastUpdater::abort(const UpdateError& error)
 
 void AppcastUpdater::finish(const QString& outcome)
 {
-    m_phase = Phase::Idle;
+    enter(Phase::Idle);
     if (m_origin == Origin::User && !outcome.isEmpty())
         m_services.user.showOutcome(outcome);
     m_origin = Origin::Schedule;

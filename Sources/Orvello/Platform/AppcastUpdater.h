@@ -42,6 +42,9 @@ public:
     bool automaticallyChecksForUpdates() const override;
     void setAutomaticallyChecksForUpdates(bool on) override;
     void observeAutomaticChecks(std::function<void()> changed) override;
+    bool canCheckForUpdates() const override;
+    std::optional<Date> lastUpdateCheckDate() const override;
+    void observeChecks(std::function<void()> changed) override;
     std::optional<QString> builtInFeed() const override;
 
 private:
@@ -53,6 +56,8 @@ private:
     void schedule();
     double secondsUntilNextCheck() const;
     void check(Origin origin);
+    void enter(Phase phase);
+    void announceChecks() const;
     void loaded(const Result<QByteArray, QString>& document);
     void offer(const AppcastItem& item);
     void chosen(UpdateChoice choice, const AppcastItem& item);
@@ -67,6 +72,7 @@ private:
     FeedLoader m_loader;
     UpdaterDelegate* m_delegate = nullptr; ///< Null until started.
     std::vector<std::function<void()>> m_observers;
+    std::vector<std::function<void()>> m_checkObservers;
     std::unique_ptr<TimeSource::Ticket> m_nextCheck;
     Phase m_phase = Phase::Idle;
     Origin m_origin = Origin::Schedule;

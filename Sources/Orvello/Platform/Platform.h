@@ -28,6 +28,7 @@ class TimeSource;
 class Updater;
 class UserDefaults;
 class VoiceProcessing;
+class WindowChrome;
 class WindowServer;
 class Workspace;
 
@@ -65,6 +66,7 @@ public:
     virtual StatusBar& statusBar() = 0;
     virtual HotKeys& hotKeys() = 0;
     virtual Updater& updater() = 0;
+    virtual WindowChrome& windowChrome() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     /// Needs the application object.

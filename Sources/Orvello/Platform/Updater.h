@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Orvello/Platform/Date.h"
+
 #include <QString>
 
 #include <functional>
@@ -66,6 +68,15 @@ public:
 
     /// `changed` runs after every change of the above, whoever made it, on any thread.
     virtual void observeAutomaticChecks(std::function<void()> changed) = 0;
+
+    /// Whether the user may ask for a check: the updater runs and is not reading the feed already.
+    virtual bool canCheckForUpdates() const = 0;
+
+    /// When the feed was last asked for, if ever.
+    virtual std::optional<Date> lastUpdateCheckDate() const = 0;
+
+    /// `changed` runs after every change of one of these two, on any thread.
+    virtual void observeChecks(std::function<void()> changed) = 0;
 
     /// The feed address that this program was built with, if any.
     virtual std::optional<QString> builtInFeed() const = 0;

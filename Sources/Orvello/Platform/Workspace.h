@@ -16,7 +16,7 @@ struct RunningApplication {
     friend bool operator==(const RunningApplication&, const RunningApplication&) = default;
 };
 
-/// The user's running applications. Main thread. What the system does not tell is left out.
+/// The user's applications. Main thread. What the system does not tell is left out.
 class Workspace {
 public:
     virtual ~Workspace() = default;
@@ -26,6 +26,9 @@ public:
 
     /// The one that receives the user's key presses, if any.
     virtual std::optional<RunningApplication> frontmostApplication() const = 0;
+
+    /// Whether the user could start this application, running or not.
+    virtual bool isInstalled(const QString& bundleIdentifier) const = 0;
 };
 
 } // namespace Orvello

@@ -7,7 +7,11 @@
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Prompting/ShareWarning.h"
 #include "Orvello/Prompting/SlideStatus.h"
+#include "Orvello/Settings/OnboardingTour.h"
+#include "Orvello/Settings/SettingsForm.h"
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/UpdateController.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QtQml/qqml.h>
 
@@ -39,6 +43,34 @@ struct PrompterStatusType {
     Q_GADGET
     QML_FOREIGN(Orvello::PrompterStatus)
     QML_NAMED_ELEMENT(PrompterStatus)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct OnboardingTourType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::OnboardingTour)
+    QML_NAMED_ELEMENT(OnboardingTour)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct SettingsFormType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SettingsForm)
+    QML_NAMED_ELEMENT(SettingsForm)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct UpdateControllerType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::UpdateController)
+    QML_NAMED_ELEMENT(UpdateController)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct VoiceActivityEngineType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::VoiceActivityEngine)
+    QML_NAMED_ELEMENT(VoiceActivityEngine)
     QML_UNCREATABLE("The program makes it.")
 };
 

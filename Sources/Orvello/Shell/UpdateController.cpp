@@ -3,6 +3,9 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Platform/UserDefaults.h"
 
+#include <QDateTime>
+#include <QLocale>
+
 #include <utility>
 
 namespace Orvello {
@@ -35,14 +38,19 @@ UpdateController::UpdateController(Services services, QObject* parent)
 void UpdateController::start()
 {
     m_services.updater.startUpdater(*this);
-    m_services.updater.observeAutomaticChecks([this] {
-        // The change may come on any thread, and views listen on the main one.
-        QMetaObject::invokeMethod(
-            this, &UpdateController::checksAutomaticallyChanged, Qt::QueuedConnection);
-    });
+    m_services.updater.observeAutomaticChecks(
+        onMainThread(&UpdateController::checksAutomaticallyChanged));
+    m_services.updater.observeChecks(onMainThread(&UpdateController::checksChanged));
+    Q_EMIT checksChanged(); // The updater has begun to answer.
     const QString feed
         = feedURLString().value_or(m_services.updater.builtInFeed().value_or(u"?"_s));
     AppLog::write("UPDATES started auto=%d feed=%@", static_cast<int>(checksAutomatically()), feed);
+}
+
+/// The updater's changes may come on any thread, and views listen on the main one.
+std::function<void()> UpdateController::onMainThread(void (UpdateController::*signal)())
+{
+    return [this, signal] { QMetaObject::invokeMethod(this, signal, Qt::QueuedConnection); };
 }
 
 void UpdateController::checkForUpdates()
@@ -60,6 +68,22 @@ void UpdateController::setChecksAutomatically(bool on)
 {
     m_services.updater.setAutomaticallyChecksForUpdates(on);
     AppLog::write("UPDATES automatic checks -> %d", static_cast<int>(on));
+}
+
+bool UpdateController::canCheckForUpdates() const
+{
+    return m_services.updater.canCheckForUpdates();
+}
+
+QString UpdateController::lastCheckText() const
+{
+    const std::optional<Date> last = m_services.updater.lastUpdateCheckDate();
+    if (!last)
+        return {};
+    constexpr double millisecondsPerSecond = 1000;
+    const auto moment = QDateTime::fromMSecsSinceEpoch(
+        static_cast<qint64>(last->unixSeconds() * millisecondsPerSecond));
+    return QLocale::system().toString(moment, QLocale::ShortFormat);
 }
 
 std::optional<QString> UpdateController::feedURLString() const

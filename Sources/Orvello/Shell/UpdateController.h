@@ -16,6 +16,8 @@ class UpdateController final : public QObject, private UpdaterDelegate {
     Q_OBJECT
     Q_PROPERTY(bool checksAutomatically READ checksAutomatically WRITE setChecksAutomatically NOTIFY
             checksAutomaticallyChanged FINAL)
+    Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY checksChanged FINAL)
+    Q_PROPERTY(QString lastCheckText READ lastCheckText NOTIFY checksChanged FINAL)
 
 public:
     /// What the controller works with. Everything must outlive it.
@@ -35,10 +37,16 @@ public:
     bool checksAutomatically() const;
     void setChecksAutomatically(bool on);
 
+    bool canCheckForUpdates() const; ///< False while a check is going on.
+    QString lastCheckText() const; ///< When there was a check, for people; empty before the first.
+
 Q_SIGNALS:
     void checksAutomaticallyChanged();
+    void checksChanged();
 
 private:
+    std::function<void()> onMainThread(void (UpdateController::*signal)());
+
     std::optional<QString> feedURLString() const override;
     void didFindValidUpdate(const UpdateItem& item) override;
     void didNotFindUpdate(const UpdateError& error) override;

@@ -56,6 +56,14 @@ std::optional<RunningApplication> withProcessName(QByteArrayView name)
         entry->localizedName.toString() };
 }
 
+QStringList desktopEntries(const QString& bundleIdentifier)
+{
+    if (bundleIdentifier != u"us.zoom.xos")
+        return {};
+    // Zoom's own packages, Flatpak, and the snap.
+    return { u"Zoom.desktop"_s, u"us.zoom.Zoom.desktop"_s, u"zoom-client_zoom-client.desktop"_s };
+}
+
 QString ownerName(const X11WindowClass& windowClass)
 {
     const bool isImpress = isLibreOffice(windowClass)

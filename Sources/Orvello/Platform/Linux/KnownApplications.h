@@ -4,6 +4,7 @@
 #include "Orvello/Platform/Workspace.h"
 
 #include <QByteArrayView>
+#include <QStringList>
 
 #include <optional>
 
@@ -13,6 +14,10 @@ namespace Orvello::KnownApplications {
 /// The application that runs as a process of this name (/proc/…/comm, at most 15 bytes), under the
 /// bundle identifier that the product knows it by on every platform.
 [[nodiscard]] std::optional<RunningApplication> withProcessName(QByteArrayView name);
+
+/// The files by any of which the application lists itself in the desktop's menus; none for one that
+/// is not known by them.
+[[nodiscard]] QStringList desktopEntries(const QString& bundleIdentifier);
 
 /// Whose window it is; the window's class itself for an application that is not known.
 [[nodiscard]] QString ownerName(const X11WindowClass& windowClass);

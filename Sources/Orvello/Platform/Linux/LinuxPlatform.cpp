@@ -1,6 +1,7 @@
 #include "Orvello/Platform/AppcastUpdater.h"
 #include "Orvello/Platform/Linux/BusInstance.h"
 #include "Orvello/Platform/Linux/FileDialog.h"
+#include "Orvello/Platform/Linux/FramelessChrome.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
 #include "Orvello/Platform/Linux/LinuxDesktopServices.h"
@@ -134,6 +135,7 @@ public:
             m_updates.emplace(m_time, m_userDefaults, session().services);
         return m_updates->updater;
     }
+    WindowChrome& windowChrome() override { return m_windowChrome; }
 
     MicrophonePermission& microphonePermission() override { return sound().permission; }
     VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
@@ -168,6 +170,7 @@ private:
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
     FileDialog m_openPanel;
+    FramelessChrome m_windowChrome;
     std::optional<Desktop> m_desktop;
     BusInstance m_runningInstance;
     std::optional<Session> m_session;

@@ -12,6 +12,9 @@ public:
     bool automaticallyChecksForUpdates() const override { return false; }
     void setAutomaticallyChecksForUpdates(bool) override { }
     void observeAutomaticChecks(std::function<void()>) override { }
+    bool canCheckForUpdates() const override { return false; }
+    std::optional<Date> lastUpdateCheckDate() const override { return std::nullopt; }
+    void observeChecks(std::function<void()>) override { }
     std::optional<QString> builtInFeed() const override { return std::nullopt; }
 };
 

@@ -34,4 +34,10 @@ std::optional<RunningApplication> CocoaWorkspace::frontmostApplication() const
     return application ? std::optional(described(application)) : std::nullopt;
 }
 
+bool CocoaWorkspace::isInstalled(const QString& bundleIdentifier) const
+{
+    NSString* const identifier = nsString(bundleIdentifier);
+    return [NSWorkspace.sharedWorkspace URLForApplicationWithBundleIdentifier:identifier] != nil;
+}
+
 } // namespace Orvello

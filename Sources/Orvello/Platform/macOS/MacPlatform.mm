@@ -13,6 +13,7 @@
 #include "Orvello/Platform/macOS/CocoaStatusBar.h"
 #include "Orvello/Platform/macOS/CocoaText.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
+#include "Orvello/Platform/macOS/CocoaWindowChrome.h"
 #include "Orvello/Platform/macOS/CocoaWorkspace.h"
 #include "Orvello/Platform/macOS/EngineMicrophone.h"
 #include "Orvello/Platform/macOS/HalAudioProcesses.h"
@@ -69,6 +70,7 @@ public:
             m_updater = makeMacUpdater();
         return *m_updater;
     }
+    WindowChrome& windowChrome() override { return m_windowChrome; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -102,6 +104,7 @@ private:
     CocoaStatusBar m_statusBar;
     CarbonHotKeys m_hotKeys;
     std::unique_ptr<Updater> m_updater;
+    CocoaWindowChrome m_windowChrome;
     CapturePermission m_microphonePermission;
     VoiceProcessingIO m_voiceProcessing;
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.

@@ -9,8 +9,11 @@
 
 @property (nonatomic, nullable) Orvello::UpdaterDelegate* target;
 
-/// Calls `changed` on every change of the updater's automatic-check flag, whoever made it.
-- (void)observe:(nonnull SPUUpdater*)updater changed:(std::function<void()>)changed;
+/// Calls `changed` on every change of that property of the updater, whoever made it. Once for each
+/// property, and always the same updater.
+- (void)observe:(nonnull SPUUpdater*)updater
+        keyPath:(nonnull NSString*)keyPath
+        changed:(std::function<void()>)changed;
 - (void)stopObserving;
 
 @end

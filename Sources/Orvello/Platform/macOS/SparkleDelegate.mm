@@ -2,11 +2,12 @@
 
 #include "Orvello/Platform/macOS/CocoaText.h"
 
+#include <map>
+#include <utility>
+
 namespace {
 
 using Orvello::qString;
-
-NSString* const automaticChecksKey = @"automaticallyChecksForUpdates";
 
 static_assert(static_cast<int>(Orvello::UpdateChoice::Skip) == SPUUserUpdateChoiceSkip);
 static_assert(static_cast<int>(Orvello::UpdateChoice::Install) == SPUUserUpdateChoiceInstall);
@@ -26,7 +27,7 @@ Orvello::UpdateError described(NSError* error)
 
 @implementation SparkleDelegate {
     SPUUpdater* _observed;
-    std::function<void()> _changed;
+    std::map<QString, std::function<void()>> _changed; ///< By the property's key path.
 }
 
 - (NSString*)feedURLStringForUpdater:(SPUUpdater*)updater
@@ -91,17 +92,20 @@ Orvello::UpdateError described(NSError* error)
         self.target->willScheduleUpdateCheckAfterDelay(delay);
 }
 
-- (void)observe:(SPUUpdater*)updater changed:(std::function<void()>)changed
+- (void)observe:(SPUUpdater*)updater
+        keyPath:(NSString*)keyPath
+        changed:(std::function<void()>)changed
 {
-    [self stopObserving];
     _observed = updater;
-    _changed = changed;
-    [updater addObserver:self forKeyPath:automaticChecksKey options:0 context:nil];
+    _changed.insert_or_assign(qString(keyPath), std::move(changed));
+    [updater addObserver:self forKeyPath:keyPath options:0 context:nil];
 }
 
 - (void)stopObserving
 {
-    [_observed removeObserver:self forKeyPath:automaticChecksKey];
+    for (const auto& [keyPath, changed] : _changed)
+        [_observed removeObserver:self forKeyPath:Orvello::nsString(keyPath)];
+    _changed.clear();
     _observed = nil;
 }
 
@@ -110,11 +114,11 @@ Orvello::UpdateError described(NSError* error)
                         change:(NSDictionary*)change
                        context:(void*)context
 {
-    (void)keyPath;
     (void)object;
     (void)change;
     (void)context;
-    _changed();
+    if (const auto changed = _changed.find(qString(keyPath)); changed != _changed.end())
+        changed->second();
 }
 
 @end

@@ -24,6 +24,9 @@ public:
     bool automaticallyChecksForUpdates() const override;
     void setAutomaticallyChecksForUpdates(bool on) override;
     void observeAutomaticChecks(std::function<void()> changed) override;
+    bool canCheckForUpdates() const override;
+    std::optional<Date> lastUpdateCheckDate() const override;
+    void observeChecks(std::function<void()> changed) override;
     std::optional<QString> builtInFeed() const override;
 
 private:

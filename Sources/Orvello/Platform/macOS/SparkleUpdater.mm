@@ -49,7 +49,26 @@ void SparkleUpdater::setAutomaticallyChecksForUpdates(bool on)
 
 void SparkleUpdater::observeAutomaticChecks(std::function<void()> changed)
 {
-    [m_delegate observe:m_controller.updater changed:std::move(changed)];
+    [m_delegate observe:m_controller.updater
+                keyPath:@"automaticallyChecksForUpdates"
+                changed:std::move(changed)];
+}
+
+bool SparkleUpdater::canCheckForUpdates() const { return m_controller.updater.canCheckForUpdates; }
+
+std::optional<Date> SparkleUpdater::lastUpdateCheckDate() const
+{
+    NSDate* const date = m_controller.updater.lastUpdateCheckDate;
+    return date ? std::optional(Date { date.timeIntervalSinceReferenceDate }) : std::nullopt;
+}
+
+void SparkleUpdater::observeChecks(std::function<void()> changed)
+{
+    // Sparkle promises notifications for this property alone. It changes when a check begins and
+    // when it ends, so whoever reads the date then has it.
+    [m_delegate observe:m_controller.updater
+                keyPath:@"canCheckForUpdates"
+                changed:std::move(changed)];
 }
 
 std::optional<QString> SparkleUpdater::builtInFeed() const

@@ -10,6 +10,12 @@ NS_ASSUME_NONNULL_BEGIN
 @property (class, strong, readonly) NSColor* clearColor;
 @end
 
+typedef NSString* NSAppearanceName;
+extern NSAppearanceName const NSAppearanceNameDarkAqua;
+@interface NSAppearance : NSObject
++ (nullable NSAppearance*)appearanceNamed:(NSAppearanceName)name;
+@end
+
 @interface NSScreen : NSObject
 @property (class, readonly, copy) NSArray<NSScreen*>* screens;
 @property (class, nullable, readonly, strong) NSScreen* mainScreen;
@@ -74,6 +80,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 - (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
 - (void)addTrackingArea:(NSTrackingArea*)trackingArea;
 - (void)removeTrackingArea:(NSTrackingArea*)trackingArea;
+@property (nullable, readonly, assign) NSWindow* window;
 @end
 
 typedef NSInteger NSWindowLevel;
@@ -81,6 +88,7 @@ typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
     NSWindowStyleMaskBorderless = 0,
     NSWindowStyleMaskResizable = 1 << 3,
     NSWindowStyleMaskNonactivatingPanel = 1 << 7,
+    NSWindowStyleMaskFullSizeContentView = 1 << 15,
 };
 typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1 << 0,
@@ -93,8 +101,13 @@ typedef NS_ENUM(NSUInteger, NSWindowSharingType) {
 };
 typedef NS_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
 typedef NSString* NSWindowFrameAutosaveName;
+typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 
 @interface NSWindow : NSResponder
+@property NSWindowStyleMask styleMask;
+@property BOOL titlebarAppearsTransparent;
+@property NSWindowTitleVisibility titleVisibility;
+@property (nullable, strong) NSAppearance* appearance;
 @property NSWindowLevel level;
 @property NSWindowCollectionBehavior collectionBehavior;
 @property NSWindowSharingType sharingType;
@@ -118,6 +131,7 @@ typedef NSString* NSWindowFrameAutosaveName;
                             backing:(NSBackingStoreType)backingStoreType
                               defer:(BOOL)flag;
 - (void)setFrame:(NSRect)frameRect display:(BOOL)flag;
+- (void)setContentSize:(NSSize)size;
 - (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(nullable NSScreen*)screen;
 - (BOOL)setFrameUsingName:(NSWindowFrameAutosaveName)name force:(BOOL)force;
 - (BOOL)setFrameAutosaveName:(NSWindowFrameAutosaveName)name;
@@ -175,6 +189,7 @@ extern "C" __kindof NSApplication* _Null_unspecified NSApp;
 @property (readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
 @property (nullable, readonly, strong) NSRunningApplication* frontmostApplication;
 - (BOOL)openURL:(NSURL*)url;
+- (nullable NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)bundleIdentifier;
 - (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)fileURLs;
 @end
 

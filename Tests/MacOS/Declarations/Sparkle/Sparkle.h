@@ -42,6 +42,8 @@ typedef NS_ENUM(NSInteger, SPUUserUpdateChoice) {
 
 @interface SPUUpdater : NSObject
 @property (nonatomic) BOOL automaticallyChecksForUpdates;
+@property (nonatomic, readonly) BOOL canCheckForUpdates;
+@property (nonatomic, readonly, copy, nullable) NSDate* lastUpdateCheckDate;
 @end
 
 @interface SPUStandardUpdaterController : NSObject

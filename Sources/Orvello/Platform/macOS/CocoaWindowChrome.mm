@@ -1,0 +1,31 @@
+#include "Orvello/Platform/macOS/CocoaWindowChrome.h"
+
+#include "Orvello/Platform/macOS/CocoaGeometry.h"
+#include "Orvello/Platform/macOS/ExceptionShield.h"
+
+#include <QWindow>
+
+#import <AppKit/AppKit.h>
+
+namespace Orvello {
+
+bool CocoaWindowChrome::hideTitleBar(QWindow& window)
+{
+    const QSize size = window.size();
+    window.create();
+    NSView* const view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+    NSWindow* const nativeWindow = view.window;
+    shielded([&] {
+        // Qt keeps this bit when it sets the style for its own flags.
+        nativeWindow.styleMask |= NSWindowStyleMaskFullSizeContentView;
+        nativeWindow.titlebarAppearsTransparent = YES;
+        nativeWindow.titleVisibility = NSWindowTitleHidden;
+        nativeWindow.movableByWindowBackground = YES;
+        nativeWindow.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
+        // The content has grown by the height of the title bar.
+        [nativeWindow setContentSize:cgSize(size)];
+    });
+    return true;
+}
+
+} // namespace Orvello

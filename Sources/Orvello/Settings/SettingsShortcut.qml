@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Controls
+
+// A row that names a command and the keys that give it.
+SettingsRow {
+    id: root
+
+    required property string keys
+
+    implicitHeight: 34
+    labelShare: 0.4
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label + ": " + keys
+
+    Label {
+        text: root.keys
+        textFormat: Text.PlainText
+        color: Qt.alpha(palette.windowText, 0.75)
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,29 @@
+import QtQuick
+import QtQuick.Controls
+
+// A row with a switch.
+SettingsRow {
+    id: root
+
+    required property bool isOn
+
+    signal toggled(isOn: bool)
+
+    labelShare: 0.8
+    onClicked: {
+        toggle.forceActiveFocus(Qt.MouseFocusReason);
+        root.toggled(!root.isOn);
+    }
+
+    Switch {
+        id: toggle
+
+        checked: root.isOn
+        Accessible.name: root.label
+        // What is shown is the setting, whether or not it took the wish.
+        onToggled: {
+            root.toggled(checked);
+            checked = Qt.binding(() => root.isOn);
+        }
+    }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import QtQuick.Controls
+import Orvello
+
+SettingsSection {
+    id: root
+
+    required property UpdateController updates
+    required property string version
+
+    title: qsTr("Updates")
+
+    SettingsToggle {
+        label: qsTr("Check for updates automatically (once a day)")
+        isOn: root.updates.checksAutomatically
+        onToggled: isOn => root.updates.checksAutomatically = isOn
+    }
+    SettingsNote {
+        text: qsTr("The check asks the vendor's web site for the latest version and sends nothing about you or your Mac beyond the app version. Updates are signed, and you always confirm before one installs.")
+    }
+    SettingsRow {
+        labelShare: 0.7
+        label: root.updates.lastCheckText === "" ? qsTr("Orvello %1 — not checked yet").arg(root.version)
+                                                 : qsTr("Orvello %1 — last checked %2").arg(root.version).arg(root.updates.lastCheckText)
+        Accessible.role: Accessible.StaticText
+        Accessible.name: label
+
+        Button {
+            text: qsTr("Check Now")
+            enabled: root.updates.canCheckForUpdates
+            onClicked: root.updates.checkForUpdates()
+        }
+    }
+}

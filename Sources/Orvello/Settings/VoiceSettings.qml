@@ -1,0 +1,57 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Orvello
+
+SettingsSection {
+    id: root
+
+    required property SettingsStore settings
+    required property SettingsForm form
+    required property VoiceActivityEngine voice
+
+    title: qsTr("Voice-follow")
+
+    SettingsToggle {
+        label: qsTr("Scroll while I speak, pause when I pause")
+        isOn: root.settings.voiceFollow
+        onToggled: isOn => root.settings.voiceFollow = isOn
+    }
+    SettingsSlider {
+        label: root.form.sensitivityLabel
+        from: 0.1
+        to: 1.0
+        step: 0.05
+        value: root.settings.voiceSensitivity
+        onMoved: value => root.settings.voiceSensitivity = value
+    }
+    SettingsRow {
+        label: qsTr("Mic level")
+
+        ProgressBar {
+            Layout.preferredWidth: 180
+            Layout.minimumWidth: 180
+            from: 0
+            to: 1
+            value: root.voice.level
+            Accessible.name: qsTr("Mic level")
+        }
+    }
+    SettingsNote {
+        visible: root.voice.micAuthorized === false
+        isWarning: true
+        text: qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
+    }
+    // Neither holds once nothing is captured any more.
+    SettingsNote {
+        visible: root.voice.isListening && root.voice.aecActive
+        text: qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")
+    }
+    SettingsNote {
+        visible: root.voice.isListening && root.voice.aecHoldReason !== ""
+        text: qsTr("Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.").arg(root.voice.aecHoldReason)
+    }
+    SettingsNote {
+        text: qsTr("Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.")
+    }
+}

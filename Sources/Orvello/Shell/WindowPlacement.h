@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+class QWindow;
+
+/// Where the program's ordinary windows come up.
+namespace Orvello::WindowPlacement {
+
+/// The room that a title bar takes, of which the system tells no earlier than it has drawn one.
+inline constexpr int titleBarHeight = 40;
+
+/// A content of that size in the middle of the free part of a screen, no larger than fits there
+/// together with its title bar.
+[[nodiscard]] QRect centered(const QSize& wanted, const QRect& available);
+
+/// Shows the window in front of all others and gives it the keyboard.
+void bringToFront(QWindow& window);
+
+/// The same for a window of fixed size. At the first time it is centred on its screen; where it
+/// does not fit, it is smaller.
+void bringToFront(QWindow& window, const QSize& wanted);
+
+} // namespace Orvello::WindowPlacement
