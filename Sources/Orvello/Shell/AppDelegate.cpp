@@ -140,7 +140,8 @@ void AppDelegate::makePanel()
 void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
-        m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.statusBar() });
+        m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
+        m_platform.statusBar(), m_panel->canExcludeFromCapture() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
             *m_windows, m_platform.operatingSystemVersion() },

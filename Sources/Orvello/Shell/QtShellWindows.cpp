@@ -1,7 +1,9 @@
 #include "Orvello/Shell/QtShellWindows.h"
 
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/LibraryWindow.h"
 #include "Orvello/Shell/QtStatusItem.h"
+#include "Orvello/Shell/SettingsWindow.h"
 
 #include <QCloseEvent>
 #include <QWidget>
@@ -47,6 +49,7 @@ private:
 
 QtShellWindows::QtShellWindows(const Services& services)
     : m_services(services)
+    , m_openDecks(services.library, services.workspace, services.appleScript)
 {
 }
 
@@ -54,12 +57,14 @@ QtShellWindows::~QtShellWindows() = default;
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 {
-    return std::make_unique<PlainWindow>(u"Scripts"_s);
+    return std::make_unique<LibraryWindow>(LibraryWindow::Services {
+        m_services.library, m_openDecks, m_services.presenters, m_services.openPanel });
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
-    return std::make_unique<PlainWindow>(u"Orvello Settings"_s);
+    return std::make_unique<SettingsWindow>(SettingsWindow::Services { m_services.settings,
+        m_services.voice, m_services.updates, m_services.canExcludeFromCapture });
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)

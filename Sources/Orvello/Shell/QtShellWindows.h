@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/LiveDeckImport.h"
 #include "Orvello/Shell/ShellWindows.h"
 
 namespace Orvello {
@@ -17,6 +18,7 @@ public:
 
 private:
     const Services m_services;
+    LiveDeckImport m_openDecks;
 };
 
 } // namespace Orvello

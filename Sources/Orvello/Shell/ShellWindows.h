@@ -15,6 +15,7 @@ class StatusBar;
 class StatusItem;
 class UpdateController;
 class VoiceActivityEngine;
+class WindowChrome;
 class Workspace;
 
 /// One window of the program that the user opens and closes, and that keeps its content meanwhile.
@@ -40,7 +41,9 @@ public:
         const AppleScriptRunner& appleScript;
         Workspace& workspace;
         OpenPanel& openPanel;
+        WindowChrome& windowChrome;
         StatusBar& statusBar;
+        bool canExcludeFromCapture; ///< Whether Stealth Mode can hide the prompter here.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 
