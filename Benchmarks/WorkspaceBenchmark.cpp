@@ -54,7 +54,7 @@ void runningMeetingApplicationsAmong500Processes(benchmark::State& state)
     const Processes processes(500);
     const X11Windows windows;
     const LinuxWorkspace workspace(windows);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(workspace.runningApplications());
 }
 BENCHMARK(runningMeetingApplicationsAmong500Processes)->Unit(benchmark::kMillisecond);
@@ -88,7 +88,7 @@ void pollDuringSlideshow(benchmark::State& state)
     monitor.start();
     if (!monitor.isPresenting())
         state.SkipWithError("the slideshow was not seen");
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         time.advance(1.0);
 }
 BENCHMARK(pollDuringSlideshow)->Unit(benchmark::kMillisecond);
