@@ -34,7 +34,7 @@ void overBlocks(benchmark::State& state, PerBlock perBlock)
     const auto frames = static_cast<std::size_t>(state.range(0));
     const std::span<const float> samples(sound());
     std::size_t position = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         perBlock(samples.subspan(position, frames));
         position = position + 2 * frames > samples.size() ? 0 : position + frames;
     }

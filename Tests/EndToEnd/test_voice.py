@@ -3,6 +3,7 @@
 import json
 import pathlib
 import shutil
+import subprocess
 import time
 import unittest
 
@@ -109,6 +110,15 @@ class VoiceTest(unittest.TestCase):
         self.launch("VAD listening (raw mic, no AEC — Slack is open)")
 
         self.assertEqual(self.messages()[0], "VAD: AEC held (Slack is open) — raw mic tap")
+
+    def test_another_recorder_at_launch_means_the_raw_microphone(self):
+        self.sound.start_server()
+        self.sound.start(["parec", "--device=microphone"], stdout=subprocess.DEVNULL)
+        wait_until(lambda: "parec" in self.sound.control("list", "source-outputs"), what="the recorder")
+
+        self.launch("VAD listening (raw mic, no AEC — another app is using the microphone)")
+
+        self.assertEqual(self.messages()[0], "VAD: AEC held (another app is using the microphone) — raw mic tap")
 
     def test_a_sound_server_that_restarts_in_the_middle_is_found_again(self):
         self.sound.start_server()
