@@ -7,7 +7,7 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 OrvelloApplication::OrvelloApplication(int& argumentCount, char** arguments)
-    : QGuiApplication(argumentCount, arguments)
+    : QApplication(argumentCount, arguments)
 {
     setApplicationName(u"Orvello"_s);
     setApplicationVersion(QString::fromLatin1(version));

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QGuiApplication>
+#include <QApplication>
 
 namespace Orvello {
 
 /// The application object. It has no window of its own and no entry in task switchers; the last
 /// window's closing does not end it.
-class OrvelloApplication final : public QGuiApplication {
+class OrvelloApplication final : public QApplication {
     Q_OBJECT
 
 public:
