@@ -4,7 +4,7 @@ import subprocess
 import time
 import unittest
 
-from desktop import App, Desktop, SOURCES, upward_shift, wait_until
+from desktop import PROGRAM, SOURCES, App, Desktop, upward_shift, wait_until
 from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office, notes
 
 # The dots of the slide chip.
@@ -40,6 +40,7 @@ class SlideshowTest(unittest.TestCase):
         self.app.wait_for_log(f"IMPORT_PPTX ok slides={SLIDES}")
         self.app.wait_for_log("SYNC active=1")
         self.area = self.app.shown()
+        self.panel = self.app.window()
 
     def start_slideshow(self):
         slideshow = self.office.open(self.deck)
@@ -197,7 +198,31 @@ class SlideshowTest(unittest.TestCase):
         self.assert_chip(RED)
         time.sleep(1.0)
         self.assertEqual(App.log_text(self.desktop).count("SYNC denied"), 1)
+        self.assertEqual(len(self.app.windows()), 1)  # Nothing appears before the audience.
+
+        # After the slideshow the prompter offers to set LibreOffice up.
+        slideshow.end()
+        box = self.wait_for_box()
+        self.desktop.run("xdotool", "key", "--window", str(box), "Return")  # Allow.
+        wait_until(lambda: self.app.windows() and self.wait_for_box() != box, what="the next box")
+        wait_until(self.helper_can_ask, 30, "the allowance")
+
+        self.log_before = App.log_text(self.desktop)
+        slideshow.start()
+        self.wait_for_news("SYNC slide=1", 5)
+        self.assert_chip(GREEN)
         self.assertEqual(self.app.quit(), 0)
+
+    def wait_for_box(self):
+        return wait_until(lambda: set(self.app.windows()) - {self.panel}, what="the box").pop()
+
+    def helper_can_ask(self):
+        return self.ask_helper("deck").returncode == 0
+
+    def ask_helper(self, question):
+        return subprocess.run(
+            ["/usr/bin/python3", str(PROGRAM.parent / "impress-helper.py"), question], capture_output=True,
+            text=True, timeout=120, env=self.desktop.environment | self.office.environment())
 
     def test_the_file_gives_the_deck_s_notes(self):
         self.start()

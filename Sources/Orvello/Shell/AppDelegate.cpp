@@ -6,6 +6,7 @@
 #include "Orvello/Presentations/AppleScriptPresenters.h"
 #include "Orvello/Presentations/ImpressPresenter.h"
 #include "Orvello/Presentations/PptxImporter.h"
+#include "Orvello/Shell/ImpressAdviceDialog.h"
 #include "Orvello/Shell/PrompterWindow.h"
 
 #include <QCoreApplication>
@@ -44,6 +45,7 @@ void AppDelegate::addPresenters()
     if (HelperProcess* helper = m_platform.impressHelper()) {
         m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
         m_presenters.add(m_impress->row());
+        m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
     }
 }
 

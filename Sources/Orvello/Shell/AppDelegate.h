@@ -21,6 +21,7 @@
 
 namespace Orvello {
 
+class ImpressAdviceDialog;
 class ImpressPresenter;
 class Platform;
 class PrompterWindow;
@@ -62,6 +63,7 @@ private:
     ProcessMicActivity m_micActivity;
     PresentationMonitor m_presentation;
     std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
+    std::unique_ptr<ImpressAdviceDialog> m_impressAdvice;
     ScrollEngine m_engine;
     VoiceActivityEngine m_voice;
     SlideSyncService m_slideSync;
