@@ -44,7 +44,7 @@ class SlideshowTest(unittest.TestCase):
 
     def start_slideshow(self):
         slideshow = self.office.open(self.deck)
-        self.log_before = App.log_text(self.desktop)
+        self.forget_news()
         slideshow.start()
         self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 2.0)
         self.wait_for_news("SYNC slide=1", 3)
@@ -52,9 +52,13 @@ class SlideshowTest(unittest.TestCase):
 
     def wait_for_news(self, text, seconds):
         """Waits for a line that was not there before; what follows it are the next news."""
-        wait_until(lambda: text in App.log_text(self.desktop)[len(self.log_before):], seconds,
-                   f"the log line {text!r}")
-        self.log_before = App.log_text(self.desktop)
+        def found():
+            end = App.log_text(self.desktop).find(text, self.known) + len(text)
+            return end >= self.known + len(text) and end
+        self.known = wait_until(found, seconds, f"the log line {text!r}")
+
+    def forget_news(self):
+        self.known = len(App.log_text(self.desktop))
 
     def card(self):
         """The panel's text as it is on the screen: without its edges, where the status stands."""
@@ -80,6 +84,7 @@ class SlideshowTest(unittest.TestCase):
     def change(self, step, slide):
         """Changes the slide: it is known within a second, and its notes are on the card. Returns the card."""
         before = self.card()
+        self.forget_news()
         step()
         self.wait_for_news(f"SYNC slide={slide}", 1.0)
         wait_until(lambda: is_other(self.card(), before), 1.0, f"the notes of slide {slide}")
@@ -207,7 +212,7 @@ class SlideshowTest(unittest.TestCase):
         wait_until(lambda: self.app.windows() and self.wait_for_box() != box, what="the next box")
         wait_until(self.helper_can_ask, 30, "the allowance")
 
-        self.log_before = App.log_text(self.desktop)
+        self.forget_news()
         slideshow.start()
         self.wait_for_news("SYNC slide=1", 5)
         self.assert_chip(GREEN)
