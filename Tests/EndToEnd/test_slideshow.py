@@ -21,11 +21,12 @@ def is_other(card, before):
 class SlideshowTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop()
+        self.office = Office(self.desktop)
+        self.addCleanup(self.office.kill)  # Also one that the prompter's helper has started.
         self.addCleanup(self.desktop.close)
+        self.addCleanup(self.office.kill)
         # On an opaque card only the prompter itself changes what is seen of it.
         App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0)
-        self.office = Office(self.desktop)
-        self.addCleanup(self.office.kill)
         self.deck = self.desktop.scratch / "Quarterly talk.pptx"
 
     def start(self, *arguments, notes_of=notes):
@@ -154,6 +155,7 @@ class SlideshowTest(unittest.TestCase):
         self.desktop.run("xdotool", "windowactivate", other)
         self.wait_for_news("PRESENTING=0 app=-", 3)
         self.assert_chip(None)
+        time.sleep(1.0)  # For the answer to a question that was on its way.
         slideshow.show(6)
         time.sleep(1.5)
         self.assert_same(self.card(), third)
@@ -208,7 +210,7 @@ class SlideshowTest(unittest.TestCase):
         # After the slideshow the prompter offers to set LibreOffice up.
         slideshow.end()
         box = self.wait_for_box()
-        self.desktop.run("xdotool", "key", "--window", str(box), "Return")  # Allow.
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(box), "key", "Return")  # Allow.
         wait_until(lambda: self.app.windows() and self.wait_for_box() != box, what="the next box")
         wait_until(self.helper_can_ask, 30, "the allowance")
 
