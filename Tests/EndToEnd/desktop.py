@@ -202,15 +202,17 @@ class App:
             raise AssertionError(f"the program ended ({self.process.returncode}):\n{log.read_text()}")
         return False
 
+    def windows(self):
+        """The program's X windows that are on screen."""
+        self._check_alive()
+        result = subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
+            env=self.desktop.environment, capture_output=True, text=True)
+        return [int(line) for line in result.stdout.split()]
+
     def window(self):
         """The X window of the panel, once it is on screen."""
-        def found():
-            self._check_alive()
-            result = subprocess.run(
-                ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
-                env=self.desktop.environment, capture_output=True, text=True)
-            return [int(line) for line in result.stdout.split()]
-        return wait_until(found, what="the panel")[0]
+        return wait_until(self.windows, what="the panel")[0]
 
     def shown(self):
         """The panel's (x, y, width, height) once its first frame is on the screen."""

@@ -33,7 +33,7 @@ class Office:
 
     def __init__(self, desktop, name="office"):
         self.desktop = desktop
-        self.pipe = f"orvello-test-{os.getpid()}-{name}"
+        self.pipe = f"{desktop.scratch.name}-{name}"  # No test may meet the LibreOffice of another.
         self.profile = (desktop.scratch / f"{name}-profile").as_uri()
         self.own_pipe = self.pipe + "-own"
         self.context = None

@@ -4,7 +4,7 @@ import subprocess
 import time
 import unittest
 
-from desktop import App, Desktop, SOURCES, upward_shift, wait_until
+from desktop import PROGRAM, SOURCES, App, Desktop, upward_shift, wait_until
 from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office, notes
 
 # The dots of the slide chip.
@@ -21,11 +21,12 @@ def is_other(card, before):
 class SlideshowTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop()
+        self.office = Office(self.desktop)
+        self.addCleanup(self.office.kill)  # Also one that the prompter's helper has started.
         self.addCleanup(self.desktop.close)
+        self.addCleanup(self.office.kill)
         # On an opaque card only the prompter itself changes what is seen of it.
         App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0)
-        self.office = Office(self.desktop)
-        self.addCleanup(self.office.kill)
         self.deck = self.desktop.scratch / "Quarterly talk.pptx"
 
     def start(self, *arguments, notes_of=notes):
@@ -40,10 +41,11 @@ class SlideshowTest(unittest.TestCase):
         self.app.wait_for_log(f"IMPORT_PPTX ok slides={SLIDES}")
         self.app.wait_for_log("SYNC active=1")
         self.area = self.app.shown()
+        self.panel = self.app.window()
 
     def start_slideshow(self):
         slideshow = self.office.open(self.deck)
-        self.log_before = App.log_text(self.desktop)
+        self.forget_news()
         slideshow.start()
         self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 2.0)
         self.wait_for_news("SYNC slide=1", 3)
@@ -51,9 +53,13 @@ class SlideshowTest(unittest.TestCase):
 
     def wait_for_news(self, text, seconds):
         """Waits for a line that was not there before; what follows it are the next news."""
-        wait_until(lambda: text in App.log_text(self.desktop)[len(self.log_before):], seconds,
-                   f"the log line {text!r}")
-        self.log_before = App.log_text(self.desktop)
+        def found():
+            end = App.log_text(self.desktop).find(text, self.known) + len(text)
+            return end >= self.known + len(text) and end
+        self.known = wait_until(found, seconds, f"the log line {text!r}")
+
+    def forget_news(self):
+        self.known = len(App.log_text(self.desktop))
 
     def card(self):
         """The panel's text as it is on the screen: without its edges, where the status stands."""
@@ -79,6 +85,7 @@ class SlideshowTest(unittest.TestCase):
     def change(self, step, slide):
         """Changes the slide: it is known within a second, and its notes are on the card. Returns the card."""
         before = self.card()
+        self.forget_news()
         step()
         self.wait_for_news(f"SYNC slide={slide}", 1.0)
         wait_until(lambda: is_other(self.card(), before), 1.0, f"the notes of slide {slide}")
@@ -148,6 +155,7 @@ class SlideshowTest(unittest.TestCase):
         self.desktop.run("xdotool", "windowactivate", other)
         self.wait_for_news("PRESENTING=0 app=-", 3)
         self.assert_chip(None)
+        time.sleep(1.0)  # For the answer to a question that was on its way.
         slideshow.show(6)
         time.sleep(1.5)
         self.assert_same(self.card(), third)
@@ -197,7 +205,31 @@ class SlideshowTest(unittest.TestCase):
         self.assert_chip(RED)
         time.sleep(1.0)
         self.assertEqual(App.log_text(self.desktop).count("SYNC denied"), 1)
+        self.assertEqual(len(self.app.windows()), 1)  # Nothing appears before the audience.
+
+        # After the slideshow the prompter offers to set LibreOffice up.
+        slideshow.end()
+        box = self.wait_for_box()
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(box), "key", "Return")  # Allow.
+        wait_until(lambda: self.app.windows() and self.wait_for_box() != box, what="the next box")
+        wait_until(self.helper_can_ask, 30, "the allowance")
+
+        self.forget_news()
+        slideshow.start()
+        self.wait_for_news("SYNC slide=1", 5)
+        self.assert_chip(GREEN)
         self.assertEqual(self.app.quit(), 0)
+
+    def wait_for_box(self):
+        return wait_until(lambda: set(self.app.windows()) - {self.panel}, what="the box").pop()
+
+    def helper_can_ask(self):
+        return self.ask_helper("deck").returncode == 0
+
+    def ask_helper(self, question):
+        return subprocess.run(
+            ["/usr/bin/python3", str(PROGRAM.parent / "impress-helper.py"), question], capture_output=True,
+            text=True, timeout=120, env=self.desktop.environment | self.office.environment())
 
     def test_the_file_gives_the_deck_s_notes(self):
         self.start()

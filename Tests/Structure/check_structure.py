@@ -3,6 +3,7 @@
     check_structure.py paths      each path that ARCHITECTURE.md names exists
     check_structure.py includes   a folder includes only folders that its layer may see
     check_structure.py platforms  nothing outside Platform/ asks for an operating system
+    check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py format     the sources are laid out as clang-format does it
 """
 
@@ -77,6 +78,17 @@ def check_platforms():
     return problems
 
 
+def check_library():
+    # Numbers with a point as characters came with macOS 13.3, the others later.
+    lacks = re.compile(r"std::(?:chars_format|jthread|stop_token|format\b|print(?:ln)?\b|pmr::)|from_chars<(?:double|float)>")
+    problems = []
+    for path in sources(".h", ".cpp", ".mm"):
+        code = re.sub(r"//[^\n]*", "", path.read_text())
+        if SOURCES in path.parents and "Linux" not in path.parts and lacks.search(code):
+            problems.append(f"{path.relative_to(ROOT)} uses {lacks.search(code).group()}")
+    return problems
+
+
 def check_format():
     files = [str(path) for path in sources(".h", ".cpp", ".mm")]
     result = subprocess.run(["clang-format", "--dry-run", "--Werror", *files],
@@ -85,7 +97,7 @@ def check_format():
 
 
 CHECKS = {"paths": check_paths, "includes": check_includes, "platforms": check_platforms,
-          "format": check_format}
+          "library": check_library, "format": check_format}
 
 if __name__ == "__main__":
     found = CHECKS[sys.argv[1]]()

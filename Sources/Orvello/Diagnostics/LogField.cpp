@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <span>
 #include <string_view>
@@ -161,6 +162,35 @@ std::size_t zerosFor(const Conversion& conversion, std::string_view prefix, std:
     return needsOctalMark && zeros == 0 && !digits.starts_with('0') ? 1 : zeros;
 }
 
+/// As printf(3) does.
+int printed(std::span<char> buffer, char notation, int precision, double magnitude)
+{
+    switch (notation) {
+    case 'e':
+        return std::snprintf(buffer.data(), buffer.size(), "%.*e", precision, magnitude);
+    case 'f':
+        return std::snprintf(buffer.data(), buffer.size(), "%.*f", precision, magnitude);
+    default:
+        return std::snprintf(buffer.data(), buffer.size(), "%.*g", precision, magnitude);
+    }
+}
+
+/// The same in every locale: what the user's puts between the digits for a point, which may be
+/// several bytes, becomes one. (std::to_chars knows no locale, but macOS 13.0 has none for
+/// doubles.)
+std::span<char> withPoint(std::span<char> number)
+{
+    const auto isOfNumber
+        = [](char c) { return (c >= '0' && c <= '9') || c == 'e' || c == '+' || c == '-'; };
+    const auto point = std::find_if_not(number.begin(), number.end(), isOfNumber);
+    const auto rest = std::find_if(point, number.end(), isOfNumber);
+    if (rest == number.end())
+        return number; // All of them digits, or no number at all.
+    *point = '.';
+    const auto end = std::copy(rest, number.end(), point + 1);
+    return number.first(static_cast<std::size_t>(end - number.begin()));
+}
+
 /// Prints the fields of one line.
 class FieldPrinter {
 public:
@@ -254,29 +284,28 @@ private:
         switch (m_conversion.type) {
         case 'f':
         case 'F':
-            printNumber(*number, std::chars_format::fixed);
+            printNumber(*number, 'f');
             return true;
         case 'e':
         case 'E':
-            printNumber(*number, std::chars_format::scientific);
+            printNumber(*number, 'e');
             return true;
         case 'g':
         case 'G':
-            printNumber(*number, std::chars_format::general);
+            printNumber(*number, 'g');
             return true;
         default:
             return false;
         }
     }
 
-    /// std::to_chars knows no locale: snprintf(3) would write "0,5" for a German user.
-    void printNumber(double number, std::chars_format notation)
+    void printNumber(double number, char notation)
     {
         const int precision = std::min(m_conversion.precision.value_or(6), widestField);
         std::array<char, longestNumber + widestField> buffer;
-        const auto [end, error] = std::to_chars(
-            buffer.data(), buffer.data() + buffer.size(), std::abs(number), notation, precision);
-        const std::span digits(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+        const int length = printed(buffer, notation, precision, std::abs(number));
+        const std::span written = std::span(buffer).first(static_cast<std::size_t>(length));
+        const std::span digits = std::isfinite(number) ? withPoint(written) : written;
         if (m_conversion.type < 'a')
             makeUpperCase(digits);
 

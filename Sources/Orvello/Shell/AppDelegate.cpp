@@ -9,6 +9,7 @@
 #include "Orvello/Presentations/ImpressPresenter.h"
 #include "Orvello/Presentations/PptxImporter.h"
 #include "Orvello/Shell/Branding.h"
+#include "Orvello/Shell/ImpressAdviceDialog.h"
 #include "Orvello/Shell/PlainPKey.h"
 #include "Orvello/Shell/PrompterWindow.h"
 #include "Orvello/Shell/RightClicks.h"
@@ -74,6 +75,7 @@ void AppDelegate::addPresenters()
     if (HelperProcess* helper = m_platform.impressHelper()) {
         m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
         m_presenters.add(m_impress->row());
+        m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
     }
 }
 

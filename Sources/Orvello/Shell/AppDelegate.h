@@ -28,6 +28,7 @@
 
 namespace Orvello {
 
+class ImpressAdviceDialog;
 class ImpressPresenter;
 class PlainPKey;
 class Platform;
@@ -92,6 +93,7 @@ private:
     Lazy<VoiceActivityEngine> m_voice;
     PresentationMonitor m_presentation;
     std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
+    std::unique_ptr<ImpressAdviceDialog> m_impressAdvice;
     Lazy<SlideSyncService> m_slideSync;
     Lazy<DeckController> m_deck;
     UpdateController m_updates;

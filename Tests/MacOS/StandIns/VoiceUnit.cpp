@@ -78,8 +78,12 @@ std::string described(AudioUnitPropertyID property, const void* data)
         return std::to_string(valueAt<UInt32>(data));
     case kAudioUnitProperty_StreamFormat:
         return described(valueAt<AudioStreamBasicDescription>(data));
-    case kAUVoiceIOProperty_OtherAudioDuckingConfiguration: {
-        const auto ducking = valueAt<AUVoiceIOOtherAudioDuckingConfiguration>(data);
+    case 2108: { // The SDK's AUVoiceIOOtherAudioDuckingConfiguration.
+        struct Ducking {
+            Boolean mEnableAdvancedDucking;
+            UInt32 mDuckingLevel;
+        };
+        const auto ducking = valueAt<Ducking>(data);
         return "advanced " + std::to_string(ducking.mEnableAdvancedDucking) + " level "
             + std::to_string(ducking.mDuckingLevel);
     }

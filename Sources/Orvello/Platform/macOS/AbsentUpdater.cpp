@@ -2,16 +2,19 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 
+#include <utility>
+
 namespace Orvello {
 
-namespace {
-
-void logAbsence() { AppLog::write("UPDATES unavailable: Sparkle.framework is not in this build"); }
-
-} // namespace
+AbsentUpdater::AbsentUpdater(QString reason)
+    : m_reason(std::move(reason))
+{
+}
 
 void AbsentUpdater::startUpdater(UpdaterDelegate&) { logAbsence(); }
 
 void AbsentUpdater::checkForUpdates() { logAbsence(); }
+
+void AbsentUpdater::logAbsence() const { AppLog::write("UPDATES unavailable: %@", m_reason); }
 
 } // namespace Orvello

@@ -4,9 +4,11 @@
 
 namespace Orvello {
 
-/// The updater of a program without an update framework. It says so in the log.
+/// The updater of a program that cannot update itself. It says why in the log.
 class AbsentUpdater final : public Updater {
 public:
+    explicit AbsentUpdater(QString reason);
+
     void startUpdater(UpdaterDelegate& delegate) override;
     void checkForUpdates() override;
     bool automaticallyChecksForUpdates() const override { return false; }
@@ -16,6 +18,11 @@ public:
     std::optional<Date> lastUpdateCheckDate() const override { return std::nullopt; }
     void observeChecks(std::function<void()>) override { }
     std::optional<QString> builtInFeed() const override { return std::nullopt; }
+
+private:
+    void logAbsence() const;
+
+    QString m_reason;
 };
 
 } // namespace Orvello

@@ -20,7 +20,7 @@ public:
 
 private:
     struct Engine; // Keeps AVFAudio out of this header.
-    std::unique_ptr<Engine> m_engine;
+    std::shared_ptr<Engine> m_engine; ///< Shared with nobody for long: see the observer.
 };
 
 } // namespace Orvello

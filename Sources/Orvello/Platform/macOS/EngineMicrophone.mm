@@ -118,14 +118,18 @@ void EngineMicrophone::Engine::restart()
 }
 
 EngineMicrophone::EngineMicrophone()
-    : m_engine(std::make_unique<Engine>())
+    : m_engine(std::make_shared<Engine>())
 {
-    Engine* const engine = m_engine.get();
+    // A notification that already waits in the main queue comes even after its observer has gone.
+    const std::weak_ptr<Engine> waiting = m_engine;
     m_engine->configurationObserver = [NSNotificationCenter.defaultCenter
         addObserverForName:AVAudioEngineConfigurationChangeNotification
                     object:m_engine->engine
                      queue:NSOperationQueue.mainQueue
-                usingBlock:^(NSNotification*) { engine->restart(); }];
+                usingBlock:^(NSNotification*) {
+                    if (const auto engine = waiting.lock())
+                        engine->restart();
+                }];
 }
 
 EngineMicrophone::~EngineMicrophone()

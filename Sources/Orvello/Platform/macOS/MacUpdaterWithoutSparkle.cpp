@@ -3,6 +3,10 @@
 
 namespace Orvello {
 
-std::unique_ptr<Updater> makeMacUpdater() { return std::make_unique<AbsentUpdater>(); }
+std::unique_ptr<Updater> makeMacUpdater()
+{
+    return std::make_unique<AbsentUpdater>(
+        QStringLiteral("Sparkle.framework is not in this build"));
+}
 
 } // namespace Orvello

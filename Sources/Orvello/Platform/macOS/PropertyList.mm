@@ -61,7 +61,7 @@ bool isBoolean(NSNumber* number)
 QVariant numberValue(NSNumber* number)
 {
     if (isBoolean(number))
-        return bool { number.boolValue };
+        return static_cast<bool>(number.boolValue);
     if (CFNumberIsFloatType((__bridge CFNumberRef)number))
         return number.doubleValue;
     const bool needsTheSignBit = number.longLongValue < 0 && number.doubleValue > 0;

@@ -10,6 +10,8 @@
 
 namespace Orvello {
 
+using namespace Qt::StringLiterals;
+
 bool SparkleUpdater::isPresent() { return [SPUStandardUpdaterController class] != nil; }
 
 SparkleUpdater::SparkleUpdater()
@@ -81,9 +83,12 @@ std::optional<QString> SparkleUpdater::builtInFeed() const
 
 std::unique_ptr<Updater> makeMacUpdater()
 {
-    if (SparkleUpdater::isPresent())
-        return std::make_unique<SparkleUpdater>();
-    return std::make_unique<AbsentUpdater>();
+    if (!SparkleUpdater::isPresent())
+        return std::make_unique<AbsentUpdater>(u"Sparkle.framework is not in this bundle"_s);
+    // Some seconds after the start of a build without a key, Sparkle would alert the user.
+    if (![NSBundle.mainBundle objectForInfoDictionaryKey:@"SUPublicEDKey"])
+        return std::make_unique<AbsentUpdater>(u"this build has no SUPublicEDKey"_s);
+    return std::make_unique<SparkleUpdater>();
 }
 
 } // namespace Orvello

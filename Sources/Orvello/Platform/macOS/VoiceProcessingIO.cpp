@@ -1,5 +1,6 @@
 #include "Orvello/Platform/macOS/VoiceProcessingIO.h"
 
+#include <cstddef>
 #include <cstring>
 #include <type_traits>
 
@@ -25,6 +26,18 @@ constexpr AudioStreamBasicDescription monoFloat48k { .mSampleRate = 48000,
     .mChannelsPerFrame = 1,
     .mBitsPerChannel = 32,
     .mReserved = 0 };
+
+/// How far the unit turns other programs' sound down. The SDK declares the property and its value
+/// for macOS 14 and later alone, and building for macOS 13 must not use those names; an older unit
+/// refuses the property, which is no failure.
+struct OtherAudioDucking {
+    static constexpr AudioUnitPropertyID property = 2108;
+    static constexpr UInt32 minimum = 10;
+
+    Boolean isAdvanced = false;
+    UInt32 level = minimum;
+};
+static_assert(sizeof(OtherAudioDucking) == 8 && offsetof(OtherAudioDucking, level) == 4);
 
 /// The audio thread: fills what the unit is about to play with silence.
 OSStatus orvelloVPSilenceProc(void*, AudioUnitRenderActionFlags*, const AudioTimeStamp*, UInt32,
@@ -104,9 +117,8 @@ VoiceProcessingUnit::Status Unit::configure(Setting setting)
         return set(kAudioUnitProperty_SetRenderCallback, kAudioUnitScope_Input, loudspeaker,
             AURenderCallbackStruct { &orvelloVPSilenceProc, nullptr });
     case Setting::OtherAudioDucking:
-        return set(kAUVoiceIOProperty_OtherAudioDuckingConfiguration, kAudioUnitScope_Global,
-            loudspeaker,
-            AUVoiceIOOtherAudioDuckingConfiguration { false, kAUVoiceIOOtherAudioDuckingLevelMin });
+        return set(
+            OtherAudioDucking::property, kAudioUnitScope_Global, loudspeaker, OtherAudioDucking {});
     }
     return noErr;
 }

@@ -40,14 +40,7 @@ enum : AudioUnitPropertyID {
     kAudioUnitProperty_SetRenderCallback = 23,
     kAudioOutputUnitProperty_EnableIO = 2003,
     kAudioOutputUnitProperty_SetInputCallback = 2005,
-    kAUVoiceIOProperty_OtherAudioDuckingConfiguration = 2108, // Answered by macOS 14 and later.
 };
-enum AUVoiceIOOtherAudioDuckingLevel : UInt32 { kAUVoiceIOOtherAudioDuckingLevelMin = 10 };
-struct AUVoiceIOOtherAudioDuckingConfiguration {
-    Boolean mEnableAdvancedDucking;
-    AUVoiceIOOtherAudioDuckingLevel mDuckingLevel;
-};
-static_assert(sizeof(AUVoiceIOOtherAudioDuckingConfiguration) == 8);
 
 extern "C" {
 AudioComponent _Nullable AudioComponentFindNext(

@@ -1,0 +1,70 @@
+#include "Orvello/Diagnostics/LogFormat.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <clocale>
+#include <cstdio>
+#include <limits>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Runs under a locale of its own making, whatever the machine offers.
+class LogFormatLocaleTest : public ::testing::TestWithParam<const char*> {
+protected:
+    LogFormatLocaleTest()
+    {
+        const QString name = QString::fromLatin1(GetParam());
+        QProcess::execute(u"localedef"_s,
+            { u"-c"_s, u"-i"_s, name, u"-f"_s, u"UTF-8"_s, folder.filePath(name + u".UTF-8"_s) });
+        qputenv("LOCPATH", folder.path().toUtf8());
+        isUnderLocale = std::setlocale(LC_ALL, (name + u".UTF-8"_s).toLatin1().constData());
+    }
+    ~LogFormatLocaleTest() override
+    {
+        std::setlocale(LC_ALL, "C");
+        qunsetenv("LOCPATH");
+    }
+
+    static std::string formatted(std::string_view format, double number)
+    {
+        std::string line;
+        LogFormat::append(line, format, std::array { LogArgument(number) });
+        return line;
+    }
+
+    QTemporaryDir folder;
+    bool isUnderLocale = false;
+};
+
+TEST_P(LogFormatLocaleTest, writesNumbersAsInEveryOther)
+{
+    ASSERT_TRUE(isUnderLocale);
+    std::array<char, 16> byTheCLibrary {};
+    std::snprintf(byTheCLibrary.data(), byTheCLibrary.size(), "%.1f", 0.5);
+    ASSERT_STRNE(byTheCLibrary.data(), "0.5");
+
+    EXPECT_EQ(formatted("%f", -0.5), "-0.500000");
+    EXPECT_EQ(formatted("%8.2f|", 1234567.891), "1234567.89|");
+    EXPECT_EQ(formatted("%08.3f", 1.5), "0001.500");
+    EXPECT_EQ(formatted("%e", 1234.5), "1.234500e+03");
+    EXPECT_EQ(formatted("%.3E", 1234.5), "1.234E+03");
+    EXPECT_EQ(formatted("%g", 0.0001), "0.0001");
+    EXPECT_EQ(formatted("%g", 1e100), "1e+100");
+    EXPECT_EQ(formatted("%.0f", 3.7), "4");
+    EXPECT_EQ(formatted("%@", 1.25), "1.25");
+    EXPECT_EQ(formatted("%f", std::numeric_limits<double>::infinity()), "inf");
+    EXPECT_EQ(formatted("%G", std::numeric_limits<double>::quiet_NaN()), "NAN");
+}
+
+// A comma, and a separator of two bytes.
+INSTANTIATE_TEST_SUITE_P(Locales, LogFormatLocaleTest, ::testing::Values("de_DE", "ps_AF"));
+
+} // namespace
+} // namespace Orvello
