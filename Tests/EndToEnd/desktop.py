@@ -104,6 +104,10 @@ class Desktop(contextlib.ExitStack):
             command, env=self.environment, check=True, capture_output=True, text=True, timeout=60,
             **options).stdout
 
+    def run_any(self, *command):
+        """The same for commands that fail when they find nothing."""
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60).stdout
+
     def screenshot(self, path=None):
         """The whole screen as (width, height, RGB bytes); also as a file, if a path is given."""
         if path:
