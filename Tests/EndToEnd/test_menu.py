@@ -234,7 +234,7 @@ def tray_icon(desktop):
             size, position = line.split()[-2:]
             width, height = (int(part) for part in size.split("+")[0].split("x"))
             x, y = (int(part) for part in position.replace("-", "+").strip("+").split("+"))
-            if width == height and y > 800:
+            if y > desktop.height - 40:
                 return x, y, width, height
     return None
 
@@ -251,16 +251,21 @@ class TrayMenuTest(unittest.TestCase):
         self.app = App(self.desktop)
         self.app.shown()
         self.app.wait_for_log("TRAY status item shown")
-        self.x, self.y, self.side, _ = wait_until(lambda: tray_icon(self.desktop), what="the icon")
+        self.x, self.y, self.width, self.height = wait_until(lambda: tray_icon(self.desktop), what="the icon")
 
     def open(self, button):
         """Clicks the icon and waits for the menu, which opens above it."""
-        at = (self.x + self.side // 2, self.y + self.side // 2)
+        at = (self.x + self.width // 2, self.y + self.height // 2)
         before = self.desktop.screenshot()
         self.desktop.run("xdotool", "mousemove", *map(str, at), "click", str(button))
         wait_until(lambda: self.desktop.screenshot().pixel(at[0] - 30, self.y - 60)
                    != before.pixel(at[0] - 30, self.y - 60), what="the menu")
         time.sleep(0.2)
+
+    def is_prompter_visible(self):
+        """By its size: the icon is a window of the same name."""
+        return "720x200" in self.desktop.run_any("sh", "-c", "for window in $(xdotool search --onlyvisible --name "
+                                                 "'^Orvello$'); do xdotool getwindowgeometry $window; done")
 
     def choose(self, number):
         """Chooses a line by its number, as the arrow keys count: without separators."""
@@ -269,18 +274,18 @@ class TrayMenuTest(unittest.TestCase):
     def test_the_icon_is_drawn(self):
         picture = self.desktop.screenshot()
 
-        colours = {picture.pixel(x, y) for x in range(self.x, self.x + self.side)
-                   for y in range(self.y, self.y + self.side)}
+        colours = {picture.pixel(x, y) for x in range(self.x, self.x + self.width)
+                   for y in range(self.y, self.y + self.height)}
         self.assertGreater(len(colours), 3)
 
     def test_either_button_opens_the_menu_and_lines_can_be_chosen(self):
         for button in (1, 3):
             self.open(button)
             self.choose(6)
-            wait_until(lambda: not self.app.is_window_visible(), what="the prompter to go")
+            wait_until(lambda: not self.is_prompter_visible(), what="the prompter to go")
             self.open(button)
             self.choose(6)
-            wait_until(self.app.is_window_visible, what="the prompter to come back")
+            wait_until(self.is_prompter_visible, what="the prompter to come back")
 
     def test_modes_toggle(self):
         self.open(1)
