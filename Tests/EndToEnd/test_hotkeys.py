@@ -29,9 +29,7 @@ class Typed:
         command = f"stty raw -echo; exec cat > {self.file}"
         self.process = desktop.start(
             ["xterm", "-name", name, "-T", title, *(["-fullscreen"] if full_screen else []), "-e", "sh", "-c", command])
-        self.window = int(wait_until(
-            lambda: desktop.run_any("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split(),
-            what=title)[0])
+        self.window = wait_until(lambda: desktop.windows_titled(title), what=title)[0]
         wait_until(self.file.exists, what="the terminal")
         self.focus()
 

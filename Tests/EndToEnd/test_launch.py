@@ -11,11 +11,6 @@ from bus import Opener, SessionBus
 from desktop import App, Desktop, wait_until
 
 
-def windows_of(desktop, title):
-    return [int(line) for line in
-            desktop.run_any("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()]
-
-
 class LaunchTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop()
@@ -30,24 +25,24 @@ class SwitchesTest(LaunchTest):
     def test_the_first_launch_shows_the_tour_and_finishing_it_the_prompter(self):
         App.set_defaults(self.desktop, onboardingSeenVersion=0)
         app = App(self.desktop)
-        tour = wait_until(lambda: windows_of(self.desktop, "Welcome to Orvello"), what="the tour")[0]
-        self.assertEqual(windows_of(self.desktop, "Orvello"), [])
+        tour = wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")[0]
+        self.assertEqual(self.desktop.windows_titled("Orvello"), [])
 
         self.desktop.run("xdotool", "windowactivate", "--sync", str(tour), "key", "alt+F4")
 
-        wait_until(lambda: windows_of(self.desktop, "Orvello"), what="the prompter")
-        self.assertEqual(windows_of(self.desktop, "Welcome to Orvello"), [])
+        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")
+        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
         self.assertEqual(app.quit(), 0)
         again = App(self.desktop)
         again.shown()
-        self.assertEqual(windows_of(self.desktop, "Welcome to Orvello"), [], "it was seen")
+        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [], "it was seen")
 
     def test_onboarding_shows_the_tour_again(self):
         App(self.desktop, "--onboarding")
 
-        wait_until(lambda: windows_of(self.desktop, "Welcome to Orvello"), what="the tour")
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
         time.sleep(0.5)
-        self.assertEqual(windows_of(self.desktop, "Orvello"), [])
+        self.assertEqual(self.desktop.windows_titled("Orvello"), [])
 
     def test_no_stealth_leaves_the_prompter_capturable(self):
         app = App(self.desktop, "--no-stealth")
@@ -75,11 +70,11 @@ class SwitchesTest(LaunchTest):
 
         wait_until(lambda: "UPDATES aborted: There is no valid update feed. (4)" in self.messages(),
                    what="the check")
-        wait_until(lambda: windows_of(self.desktop, "Orvello"), what="what came of it")
+        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="what came of it")
 
     def test_the_focus_stays_where_it_was(self):
         self.desktop.start(["xterm", "-T", "notes", "-e", "sleep", "60"])
-        notes = int(wait_until(lambda: windows_of(self.desktop, "notes"), what="the notes")[0])
+        notes = wait_until(lambda: self.desktop.windows_titled("notes"), what="the notes")[0]
         self.desktop.run("xdotool", "windowactivate", "--sync", str(notes))
         app = App(self.desktop)
         app.shown()
@@ -242,7 +237,7 @@ class UpdatesTest(LaunchTest):
     def dialog(self):
         """The update's window, which is on top and has the keyboard."""
         def found():
-            windows = [window for window in windows_of(self.desktop, "Orvello")
+            windows = [window for window in self.desktop.windows_titled("Orvello")
                        if window != self.app.window() and self.desktop.focused_window() == window]
             return windows
         return wait_until(found, what="the dialog with the keyboard")[0]
@@ -280,17 +275,17 @@ class UpdatesTest(LaunchTest):
 
     def test_the_first_run_question_is_asked_once_and_takes_no_keyboard(self):
         self.desktop.start(["xterm", "-T", "notes", "-e", "sleep", "60"])
-        notes = int(wait_until(lambda: windows_of(self.desktop, "notes"), what="the notes")[0])
+        notes = wait_until(lambda: self.desktop.windows_titled("notes"), what="the notes")[0]
         self.desktop.run("xdotool", "windowactivate", "--sync", str(notes))
         feed = Feed(self, "1", "1.0.0")
         app = App(self.desktop, "-OrvelloAppcastURL", feed.url)
         app.shown()
-        question = wait_until(lambda: len(windows_of(self.desktop, "Orvello")) == 2, what="the question")
+        question = wait_until(lambda: len(self.desktop.windows_titled("Orvello")) == 2, what="the question")
         self.assertTrue(question)
         time.sleep(0.5)
         self.assertEqual(self.desktop.focused_window(), notes)
 
-        window = next(each for each in windows_of(self.desktop, "Orvello") if self.is_dialog(each))
+        window = next(each for each in self.desktop.windows_titled("Orvello") if self.is_dialog(each))
         self.desktop.run("xdotool", "windowactivate", "--sync", str(window), "key", "Return")
 
         wait_until(lambda: App.defaults(self.desktop).get("SUEnableAutomaticChecks") is True, what="the answer")
@@ -301,7 +296,7 @@ class UpdatesTest(LaunchTest):
         again.wait_for_log("UPDATES started auto=1")
         again.shown()
         time.sleep(0.5)
-        self.assertEqual(len(windows_of(self.desktop, "Orvello")), 1)
+        self.assertEqual(len(self.desktop.windows_titled("Orvello")), 1)
 
     def is_dialog(self, window):
         return "_NET_WM_WINDOW_TYPE_DIALOG" in self.desktop.run("xprop", "-id", str(window), "_NET_WM_WINDOW_TYPE")

@@ -12,12 +12,6 @@ TITLES = ["Start Scrolling  (⌥⌘P)", "Back to Top", "-", "Voice-Follow Scroll
           "Quit Orvello"]
 
 
-def windows_of(desktop, title):
-    """The visible windows with exactly this title."""
-    found = desktop.run_any("xdotool", "search", "--onlyvisible", "--name", f"^{title}$")
-    return [int(line) for line in found.split()]
-
-
 class BusMenuTest(unittest.TestCase):
     """A desktop with a host of status notifier items."""
 
@@ -99,14 +93,14 @@ class BusMenuTest(unittest.TestCase):
         self.start()
         for line, title in (("Scripts…", "Scripts"), ("Settings…", "Orvello Settings")):
             self.item.choose(line)
-            window = wait_until(lambda: windows_of(self.desktop, title), what=title)[0]
+            window = wait_until(lambda: self.desktop.windows_titled(title), what=title)[0]
             wait_until(lambda: self.desktop.focused_window() == window, what="the keyboard")
             self.item.choose(line)
             time.sleep(0.5)
-            self.assertEqual(windows_of(self.desktop, title), [window])
+            self.assertEqual(self.desktop.windows_titled(title), [window])
 
         self.item.choose("Scripts…")
-        wait_until(lambda: self.desktop.focused_window() == windows_of(self.desktop, "Scripts")[0],
+        wait_until(lambda: self.desktop.focused_window() == self.desktop.windows_titled("Scripts")[0],
                    what="the scripts in front of the settings")
 
     def test_help_writes_a_letter_and_shows_the_log(self):
@@ -159,7 +153,7 @@ class BusMenuTest(unittest.TestCase):
 
         self.item.choose("Welcome Tour…")
 
-        wait_until(lambda: windows_of(self.desktop, "Welcome to Orvello"), what="the tour")
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
         self.assertTrue(self.app.is_window_visible())
 
 

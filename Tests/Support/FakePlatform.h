@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Orvello/Platform/OpenPanel.h"
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/RunningInstance.h"
 #include "Orvello/Platform/StatusBar.h"
@@ -11,6 +10,7 @@
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
 #include "Tests/Support/FakeNativePanel.h"
+#include "Tests/Support/FakeOpenPanel.h"
 #include "Tests/Support/FakeProcessSignals.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeScreens.h"
@@ -24,14 +24,6 @@
 #include "Tests/Support/ManualTimeSource.h"
 
 namespace Orvello::Testing {
-
-/// Nobody chooses a file.
-class FakeOpenPanel final : public OpenPanel {
-public:
-    std::optional<QString> chooseFile(const QString&, const FileKind&) override { return choice; }
-
-    std::optional<QString> choice;
-};
 
 /// A bar that comes and goes as a test says.
 class FakeStatusBar final : public StatusBar {

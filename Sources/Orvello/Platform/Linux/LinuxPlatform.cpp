@@ -1,5 +1,6 @@
 #include "Orvello/Platform/AppcastUpdater.h"
 #include "Orvello/Platform/Linux/BusInstance.h"
+#include "Orvello/Platform/Linux/FileDialog.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
 #include "Orvello/Platform/Linux/LinuxDesktopServices.h"
@@ -7,7 +8,6 @@
 #include "Orvello/Platform/Linux/LinuxWorkspace.h"
 #include "Orvello/Platform/Linux/PortalHotKeys.h"
 #include "Orvello/Platform/Linux/PulseSound.h"
-#include "Orvello/Platform/Linux/QtOpenPanel.h"
 #include "Orvello/Platform/Linux/Syslog.h"
 #include "Orvello/Platform/Linux/UpdateDialogs.h"
 #include "Orvello/Platform/Linux/X11HotKeys.h"
@@ -73,7 +73,6 @@ struct Session {
     LinuxStatusBar statusBar { bus };
     X11HotKeys x11Keys;
     std::optional<PortalHotKeys> portalKeys;
-    QtOpenPanel openPanel;
 };
 
 /// The updater and the windows in which it asks.
@@ -126,7 +125,7 @@ public:
     Workspace& workspace() override { return desktop().workspace; }
     WindowServer& windowServer() override { return desktop().windowServer; }
     DesktopServices& desktopServices() override { return session().services; }
-    OpenPanel& openPanel() override { return session().openPanel; }
+    OpenPanel& openPanel() override { return m_openPanel; }
     StatusBar& statusBar() override { return session().statusBar; }
     HotKeys& hotKeys() override { return session().hotKeys(); }
     Updater& updater() override
@@ -170,6 +169,7 @@ private:
     QtChildProcess m_childProcess;
     std::optional<Desktop> m_desktop;
     BusInstance m_runningInstance;
+    FileDialog m_openPanel;
     std::optional<Session> m_session;
     std::optional<Updates> m_updates;
     std::optional<PulseSound> m_sound;
