@@ -387,16 +387,52 @@ TEST_F(AppDelegateTest, logsAnAddressOfAfterTheLaunchAtOnce)
     EXPECT_THAT(log.lines(), ElementsAre("URL ignored: orvello://hello"));
 }
 
-TEST_F(AppDelegateTest, opensItsMenuWhenItIsStartedAgain)
+class StartedAgainTest : public AppDelegateFixture {
+protected:
+    void startAgain(const QStringList& arguments = {})
+    {
+        delegate->applicationStartedAgain(LaunchOptions::fromArguments(arguments));
+        Testing::drainEvents();
+    }
+};
+
+TEST_F(StartedAgainTest, opensTheMenu)
 {
     construct();
-    delegate->applicationStartedAgain();
+    startAgain();
     EXPECT_EQ(windows.openedMenus, 0) << "there is none yet";
     delegate->applicationDidFinishLaunching();
 
-    delegate->applicationStartedAgain();
+    startAgain();
 
     EXPECT_EQ(windows.openedMenus, 1);
+}
+
+TEST_F(StartedAgainTest, opensAddressesInPlaceOfTheMenu)
+{
+    construct();
+    startAgain({ u"orvello:early"_s });
+    delegate->applicationDidFinishLaunching();
+
+    startAgain({ u"orvello:late"_s });
+
+    EXPECT_EQ(logged("URL ignored: orvello:early"), 1);
+    EXPECT_EQ(logged("URL ignored: orvello:late"), 1);
+    EXPECT_EQ(windows.openedMenus, 0);
+}
+
+TEST_F(StartedAgainTest, doesWhatTheSwitchesAskFor)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+    launchAndSettle();
+
+    startAgain({ u"--onboarding"_s, u"--check-updates"_s, u"--voice"_s, u"--autostart"_s });
+
+    EXPECT_EQ(windows.openOnboardings, 1);
+    EXPECT_EQ(platform.updaterFake.checks, 1);
+    EXPECT_TRUE(settings().voiceFollow());
+    EXPECT_TRUE(engine().isRunning());
+    EXPECT_EQ(windows.openedMenus, 0);
 }
 
 // Signals

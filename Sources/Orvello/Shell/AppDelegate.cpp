@@ -115,9 +115,20 @@ void AppDelegate::handle(const QList<QUrl>& urls)
         AppLog::write("Orvello URL ignored: %@", url.toString(QUrl::FullyEncoded));
 }
 
-void AppDelegate::applicationStartedAgain()
+void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
 {
-    if (m_statusItem)
+    applicationOpen(options.urls);
+    if (!m_statusItem)
+        return; // The launch has just begun, and shows what there is to see.
+    if (options.onboarding)
+        showOnboarding();
+    if (options.checkUpdates)
+        m_updates.checkForUpdates();
+    if (options.voice)
+        m_settings.setVoiceFollow(true);
+    if (options.autostart)
+        m_engine().start();
+    if (options.isEmpty())
         m_statusItem->openMenu();
 }
 
