@@ -12,8 +12,9 @@ namespace Orvello {
 class RunningInstance {
 public:
     struct Handlers {
-        std::function<void(const QList<QUrl>&)> opened; ///< Addresses to open; never none.
-        std::function<void()> startedAgain; ///< The user started the program once more.
+        std::function<void(const QList<QUrl>&)> opened; ///< Addresses that the system passes on.
+        /// The program was started once more, with these arguments.
+        std::function<void(const QStringList&)> startedAgain;
     };
 
     virtual ~RunningInstance() = default;

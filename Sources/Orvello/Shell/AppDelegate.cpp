@@ -119,9 +119,20 @@ void AppDelegate::handle(const QList<QUrl>& urls)
         AppLog::write("Orvello URL ignored: %@", url.toString(QUrl::FullyEncoded));
 }
 
-void AppDelegate::applicationStartedAgain()
+void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
 {
-    if (m_statusItem)
+    applicationOpen(options.urls);
+    if (!m_statusItem)
+        return; // The launch has just begun, and shows what there is to see.
+    if (options.onboarding)
+        showOnboarding();
+    if (options.checkUpdates)
+        m_updates.checkForUpdates();
+    if (options.voice)
+        m_settings.setVoiceFollow(true);
+    if (options.autostart)
+        m_engine().start();
+    if (options.isEmpty())
         m_statusItem->openMenu();
 }
 
@@ -254,10 +265,10 @@ void AppDelegate::followSlideTracking()
 
 void AppDelegate::importDeckFromEnvironment()
 {
-    const QString path = qEnvironmentVariable("ORVELLO_IMPORT_PPTX");
-    if (path.isEmpty())
+    constexpr const char* variable = "ORVELLO_IMPORT_PPTX";
+    if (!qEnvironmentVariableIsSet(variable))
         return;
-    const auto imported = m_library.importPptx(path);
+    const auto imported = m_library.importPptx(qEnvironmentVariable(variable));
     if (!imported)
         AppLog::write(
             "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));

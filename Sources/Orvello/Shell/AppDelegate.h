@@ -55,8 +55,9 @@ public:
     /// Addresses that the application is asked to open. Before the end of the launch they wait.
     void applicationOpen(const QList<QUrl>& urls);
 
-    /// The user has started the program once more, while it runs.
-    void applicationStartedAgain();
+    /// The user has started the program once more, while it runs. Does what that start asks for;
+    /// one that asks for nothing opens the menu.
+    void applicationStartedAgain(const LaunchOptions& options);
 
     /// Opens the welcome tour, or brings it to the front.
     void showOnboarding();

@@ -24,8 +24,8 @@ QString LaunchOptions::helpText()
 {
     return uR"(Usage: orvello [options] [-Key value ...] [address ...]
 
-A private teleprompter: your script in a small panel under the camera. When it runs already, a
-second start opens its menu.
+A private teleprompter: your script in a small panel under the camera. When it runs already, it
+does what a second start asks for, or opens its menu.
 
 Options:
   --autostart      start scrolling at once

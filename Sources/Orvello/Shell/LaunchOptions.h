@@ -19,6 +19,9 @@ struct LaunchOptions {
     bool autostart = false;
     QList<QUrl> urls; ///< To open.
 
+    bool isEmpty() const { return *this == LaunchOptions(); } ///< Whether it asks for nothing.
+    friend bool operator==(const LaunchOptions&, const LaunchOptions&) = default;
+
     /// Without the program's name.
     static LaunchOptions fromArguments(const QStringList& arguments);
 

@@ -64,7 +64,9 @@ void listen(RunningInstance& instance, AppDelegate& delegate)
 {
     instance.listen({
         [&delegate](const QList<QUrl>& urls) { delegate.applicationOpen(urls); },
-        [&delegate] { delegate.applicationStartedAgain(); },
+        [&delegate](const QStringList& arguments) {
+            delegate.applicationStartedAgain(LaunchOptions::fromArguments(arguments));
+        },
     });
 }
 

@@ -1,7 +1,5 @@
 #include "Orvello/Platform/Linux/BusInstance.h"
 
-#include "Orvello/Platform/LaunchArguments.h"
-
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QUuid>
@@ -84,11 +82,7 @@ void BusInstance::Start(const QStringList& arguments)
         m_earlyStarts.push_back(arguments);
         return;
     }
-    const QList<QUrl> urls = LaunchArguments::urls(arguments);
-    if (urls.isEmpty())
-        m_handlers->startedAgain();
-    else
-        m_handlers->opened(urls);
+    m_handlers->startedAgain(arguments);
 }
 
 } // namespace Orvello
