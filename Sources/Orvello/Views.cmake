@@ -24,10 +24,12 @@ set(views
     Settings/SettingsSection.qml
     Settings/SettingsShortcut.qml
     Settings/SettingsSlider.qml
+    Settings/SettingsSwitch.qml
     Settings/SettingsToggle.qml
     Settings/SettingsView.qml
     Settings/ShortcutSettings.qml
     Settings/SlidesSettings.qml
+    Settings/SystemPane.qml
     Settings/UpdateSettings.qml
     Settings/VoiceSettings.qml)
 

@@ -6,7 +6,7 @@ import QtQuick.Window
 import Orvello
 
 // The preferences as a form, each control bound to what it shows. It scrolls where it does not fit.
-Pane {
+SystemPane {
     id: root
 
     required property SettingsStore settings
@@ -18,7 +18,6 @@ Pane {
 
     readonly property Item focusedItem: Window.activeFocusItem
 
-    padding: 0
     onFocusedItemChanged: reveal(focusedItem)
 
     // Scrolls to what the Tab key reached.
