@@ -47,7 +47,11 @@ qt_add_qml_module(
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES QtQuick QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Prompting/Symbol.cpp Prompting/Symbol.h Shell/QmlTypes.h
+    SOURCES Prompting/Symbol.cpp
+            Prompting/Symbol.h
+            Prompting/SymbolDrawing.h
+            Prompting/TourSymbols.cpp
+            Shell/QmlTypes.h
     QML_FILES ${views})
 target_include_directories(OrvelloViews PRIVATE Shell) # The generated registration includes by name alone.
 qt_add_shaders(

@@ -1,8 +1,8 @@
 #include "Orvello/Prompting/Symbol.h"
 
-#include <QHash>
+#include "Orvello/Prompting/SymbolDrawing.h"
+
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <utility>
@@ -13,13 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a symbol is drawn from, on a square of 10 by 10.
-struct Drawing {
-    QPainterPath strokes; ///< Of the pen's width, with round ends.
-    double penWidth = 1.6;
-    QPainterPath fill;
-};
-
 QPainterPath polyline(const QList<QPointF>& points)
 {
     QPainterPath path(points.first());
@@ -28,11 +21,17 @@ QPainterPath polyline(const QList<QPointF>& points)
     return path;
 }
 
-Drawing chevronLeft() { return { .strokes = polyline({ { 6.5, 1.5 }, { 3, 5 }, { 6.5, 8.5 } }) }; }
+SymbolDrawing chevronLeft()
+{
+    return { .strokes = polyline({ { 6.5, 1.5 }, { 3, 5 }, { 6.5, 8.5 } }) };
+}
 
-Drawing chevronRight() { return { .strokes = polyline({ { 3.5, 1.5 }, { 7, 5 }, { 3.5, 8.5 } }) }; }
+SymbolDrawing chevronRight()
+{
+    return { .strokes = polyline({ { 3.5, 1.5 }, { 7, 5 }, { 3.5, 8.5 } }) };
+}
 
-Drawing xmark()
+SymbolDrawing xmark()
 {
     QPainterPath strokes = polyline({ { 2, 2 }, { 8, 8 } });
     strokes.addPath(polyline({ { 8, 2 }, { 2, 8 } }));
@@ -40,7 +39,7 @@ Drawing xmark()
 }
 
 /// An eye, and before its lower right corner a warning triangle with an exclamation mark.
-Drawing eyeTriangleBadgeExclamationmark()
+SymbolDrawing eyeTriangleBadgeExclamationmark()
 {
     QPainterPath strokes(QPointF(0.5, 4.4));
     strokes.quadTo({ 4.75, -1.2 }, { 9.0, 4.4 });
@@ -64,14 +63,21 @@ Drawing eyeTriangleBadgeExclamationmark()
     return { .fill = eye.united(badge.subtracted(mark)) };
 }
 
-const Drawing* drawingNamed(const QString& name)
+QHash<QString, SymbolDrawing> allDrawings()
 {
-    static const QHash<QString, Drawing> drawings {
+    QHash<QString, SymbolDrawing> drawings {
         { u"chevron.left"_s, chevronLeft() },
         { u"chevron.right"_s, chevronRight() },
         { u"xmark"_s, xmark() },
         { u"eye.trianglebadge.exclamationmark"_s, eyeTriangleBadgeExclamationmark() },
     };
+    drawings.insert(tourSymbols());
+    return drawings;
+}
+
+const SymbolDrawing* drawingNamed(const QString& name)
+{
+    static const QHash<QString, SymbolDrawing> drawings = allDrawings();
     const auto found = drawings.constFind(name);
     return found == drawings.constEnd() ? nullptr : &*found;
 }
@@ -104,7 +110,7 @@ void Symbol::setColor(const QColor& color)
 
 void Symbol::paint(QPainter* painter)
 {
-    const Drawing* drawing = drawingNamed(m_name);
+    const SymbolDrawing* drawing = drawingNamed(m_name);
     if (!drawing)
         return;
     const double scale = std::min(width(), height()) / 10;

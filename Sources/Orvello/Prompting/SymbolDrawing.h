@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QHash>
+#include <QPainterPath>
+#include <QString>
+
+namespace Orvello {
+
+/// What a symbol is drawn from, on a square of 10 by 10.
+struct SymbolDrawing {
+    QPainterPath strokes; ///< Of the pen's width, with round ends.
+    double penWidth = 1.6;
+    QPainterPath fill;
+};
+
+/// The symbols of the welcome tour, which are shown larger and drawn finer than the others.
+[[nodiscard]] QHash<QString, SymbolDrawing> tourSymbols();
+
+} // namespace Orvello
