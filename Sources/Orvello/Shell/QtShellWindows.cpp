@@ -1,6 +1,7 @@
 #include "Orvello/Shell/QtShellWindows.h"
 
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/QtStatusItem.h"
 
 #include <QCloseEvent>
 #include <QWidget>
@@ -68,6 +69,11 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
         onFinish();
     };
     return std::make_unique<PlainWindow>(u"Welcome to Orvello"_s, finish);
+}
+
+std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
+{
+    return std::make_unique<QtStatusItem>(m_services.statusBar, menu);
 }
 
 } // namespace Orvello
