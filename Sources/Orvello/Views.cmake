@@ -15,6 +15,23 @@ set(views
     Prompting/SmallLabel.qml
     Prompting/StatusBadge.qml
     Prompting/SymbolButton.qml
+    Settings/OnboardingButton.qml
+    Settings/OnboardingCloseButton.qml
+    Settings/OnboardingCopyButton.qml
+    Settings/OnboardingDots.qml
+    Settings/OnboardingFeature.qml
+    Settings/OnboardingFooter.qml
+    Settings/OnboardingHeading.qml
+    Settings/OnboardingKeyRow.qml
+    Settings/OnboardingPage.qml
+    Settings/OnboardingPrivacyPage.qml
+    Settings/OnboardingSection.qml
+    Settings/OnboardingSetupPage.qml
+    Settings/OnboardingStyle.qml
+    Settings/OnboardingText.qml
+    Settings/OnboardingView.qml
+    Settings/OnboardingWelcomePage.qml
+    Settings/OnboardingZoomCard.qml
     Settings/PrivacySettings.qml
     Settings/PrompterSettings.qml
     Settings/SessionSettings.qml
@@ -38,6 +55,8 @@ foreach(view ${views})
     get_filename_component(name ${view} NAME)
     set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
 endforeach()
+
+set_source_files_properties(Settings/OnboardingStyle.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
 
 qt_add_library(OrvelloViews STATIC)
 qt_add_qml_module(
