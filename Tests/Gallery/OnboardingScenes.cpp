@@ -21,11 +21,11 @@ public:
     {
         if (zoom == Zoom::Installed)
             workspace.installed.append(u"us.zoom.xos"_s);
+        qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
         controller.emplace(
             OnboardingWindowController::Services { settings, workspace, chrome }, [] {});
+        qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
-        while (controller->tour().page() < page)
-            controller->tour().goOn();
     }
 
     QQuickWindow& window() override { return controller->view(); }

@@ -89,7 +89,7 @@ SymbolDrawing macwindowOnRectangle()
     const QRectF frame(0.6, 3.3, 6.8, 5.4);
     const QPainterPath front = rounded(frame, 0.9);
     QPainterPath titleBar;
-    titleBar.addRect(frame.x(), frame.y(), frame.width(), 1.5);
+    titleBar.addRect(frame.x(), frame.y(), frame.width(), 2.2);
     const QPainterPath back = rounded({ 2.6, 1.3, 6.8, 5.4 }, 0.9);
     return { .strokes = front,
         .penWidth = pen,

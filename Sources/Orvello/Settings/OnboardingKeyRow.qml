@@ -14,7 +14,7 @@ RowLayout {
     Accessible.name: key + ": " + label
 
     Rectangle {
-        Layout.preferredWidth: 108
+        Layout.preferredWidth: 112
         implicitHeight: 26
         radius: 6
         color: Qt.rgba(1, 1, 1, 0.09)
@@ -33,6 +33,7 @@ RowLayout {
     OnboardingText {
         Layout.fillWidth: true
         text: root.label
+        lineHeight: 1
         Accessible.ignored: true
     }
 }

@@ -32,10 +32,16 @@ Item {
         }
     }
 
+    // One after the other, so that no two texts lie above each other.
     Behavior on opacity {
-        NumberAnimation {
-            duration: 220
-            easing.type: Easing.InOutQuad
+        SequentialAnimation {
+            PauseAnimation {
+                duration: root.isCurrent ? 110 : 0
+            }
+            NumberAnimation {
+                duration: root.isCurrent ? 200 : 120
+                easing.type: Easing.InOutQuad
+            }
         }
     }
 

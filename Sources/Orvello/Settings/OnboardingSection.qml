@@ -12,7 +12,6 @@ Rectangle {
 
     Layout.fillWidth: true
     Layout.fillHeight: true
-    Layout.preferredWidth: 1 // As wide as the one beside it.
     implicitHeight: content.implicitHeight + 32
     radius: 14
     color: OnboardingStyle.card
@@ -48,6 +47,7 @@ Rectangle {
                 color: OnboardingStyle.text
                 font.pixelSize: 15
                 font.bold: true
+                lineHeight: 1
                 Accessible.role: Accessible.Heading
             }
         }

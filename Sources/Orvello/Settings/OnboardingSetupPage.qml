@@ -21,9 +21,10 @@ OnboardingPage {
             text: qsTr("You're set. Here's where things are.")
         }
         OnboardingText {
-            Layout.fillWidth: true
+            Layout.alignment: Qt.AlignHCenter
+            Layout.preferredWidth: 440
             horizontalAlignment: Text.AlignHCenter
-            font.pixelSize: 14
+            font.pixelSize: 15
             text: qsTr("Drag the prompter right under your camera for natural eye contact. Resize it from any edge.")
         }
     }
@@ -33,6 +34,7 @@ OnboardingPage {
         spacing: 16
 
         OnboardingSection {
+            Layout.preferredWidth: 330
             symbol: "keyboard"
             title: qsTr("Shortcuts")
 
@@ -62,6 +64,7 @@ OnboardingPage {
             }
         }
         OnboardingSection {
+            Layout.preferredWidth: 254
             symbol: "menubar.rectangle"
             title: qsTr("Menu bar")
 
@@ -72,9 +75,20 @@ OnboardingPage {
 
                     Layout.preferredHeight: 26
                     Layout.fillWidth: true
+                    leftPadding: 16
                     verticalAlignment: Text.AlignVCenter
+                    lineHeight: 1
                     color: OnboardingStyle.text
                     text: modelData
+
+                    Rectangle {
+                        x: 2
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: 5
+                        height: 5
+                        radius: 2.5
+                        color: OnboardingStyle.accent
+                    }
                 }
             }
             OnboardingText {

@@ -31,7 +31,8 @@ OnboardingPage {
             text: qsTr("Welcome to Orvello")
         }
         OnboardingText {
-            Layout.fillWidth: true
+            Layout.alignment: Qt.AlignHCenter
+            Layout.preferredWidth: 400
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: 15
             text: qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")

@@ -44,6 +44,7 @@ Rectangle {
                 color: OnboardingStyle.text
                 font.pixelSize: 15
                 font.bold: true
+                lineHeight: 1
             }
             OnboardingCopyButton {
                 onClicked: root.copyRequested()
