@@ -23,7 +23,7 @@ public:
             workspace.installed.append(u"us.zoom.xos"_s);
         qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
         controller.emplace(
-            OnboardingWindowController::Services { settings, workspace, chrome }, [] {});
+            OnboardingWindowController::Services { settings, workspace, chrome, false }, [] {});
         qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
     }

@@ -14,7 +14,7 @@ RowLayout {
     Accessible.name: key + ": " + label
 
     Rectangle {
-        Layout.preferredWidth: 112
+        Layout.preferredWidth: 120
         implicitHeight: 26
         radius: 6
         color: Qt.rgba(1, 1, 1, 0.09)

@@ -7,6 +7,7 @@ OnboardingPage {
 
     required property OnboardingTour tour
     required property string headingFamily
+    required property bool canExcludeFromCapture
 
     number: 1
     spacing: 20
@@ -19,7 +20,7 @@ OnboardingPage {
         text: qsTr("One rule, one safety net, and one Zoom setting keep your notes off the recording.")
     }
     OnboardingFeature {
-        symbol: "checkmark.shield.fill"
+        symbol: root.canExcludeFromCapture ? "checkmark.shield.fill" : "eye.trianglebadge.exclamationmark"
         title: qsTr("Stealth Mode is on by default")
         text: qsTr("Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.")
     }

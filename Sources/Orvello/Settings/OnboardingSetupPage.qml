@@ -34,7 +34,7 @@ OnboardingPage {
         spacing: 16
 
         OnboardingSection {
-            Layout.preferredWidth: 330
+            Layout.preferredWidth: 340
             symbol: "keyboard"
             title: qsTr("Shortcuts")
 
@@ -64,7 +64,7 @@ OnboardingPage {
             }
         }
         OnboardingSection {
-            Layout.preferredWidth: 254
+            Layout.preferredWidth: 244
             symbol: "menubar.rectangle"
             title: qsTr("Menu bar")
 

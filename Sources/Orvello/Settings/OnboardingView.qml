@@ -9,6 +9,7 @@ Rectangle {
 
     required property OnboardingTour tour
     required property string headingFamily
+    required property bool canExcludeFromCapture // Whether Stealth Mode has an effect here.
     required property bool hasCloseButton // Where the system draws none above the content.
 
     color: OnboardingStyle.background
@@ -63,6 +64,7 @@ Rectangle {
             current: root.tour.page
             headingFamily: root.headingFamily
             tour: root.tour
+            canExcludeFromCapture: root.canExcludeFromCapture
         }
         OnboardingSetupPage {
             current: root.tour.page

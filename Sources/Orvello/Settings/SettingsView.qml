@@ -25,7 +25,7 @@ SystemPane {
         if (!item || !sections.contains(sections.mapFromItem(item, 0, 0)))
             return;
         const margin = 16;
-        const top = item.mapToItem(sections, 0, 0).y;
+        const top = item.mapToItem(flickable.contentItem, 0, 0).y;
         const bottom = top + item.height;
         if (top - margin < flickable.contentY)
             flickable.contentY = Math.max(0, top - margin);

@@ -43,6 +43,7 @@ OnboardingWindowController::OnboardingWindowController(
     m_view.setInitialProperties({
         { u"tour"_s, QVariant::fromValue(&m_tour) },
         { u"headingFamily"_s, PromptFont::family() },
+        { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
         { u"hasCloseButton"_s, !hasSystemCloseButton },
     });
     m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/OnboardingView.qml"_s));

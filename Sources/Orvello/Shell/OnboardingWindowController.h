@@ -27,6 +27,7 @@ public:
         SettingsStore& settings;
         const Workspace& workspace;
         WindowChrome& chrome;
+        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
     };
 
     /// `onFinish` is called once, through the main event loop, by whichever way the user leaves. It

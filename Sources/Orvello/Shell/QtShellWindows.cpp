@@ -54,8 +54,8 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
 {
     return std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services {
-            m_services.settings, m_services.workspace, m_services.windowChrome },
+        OnboardingWindowController::Services { m_services.settings, m_services.workspace,
+            m_services.windowChrome, m_services.canExcludeFromCapture },
         std::move(onFinish));
 }
 
