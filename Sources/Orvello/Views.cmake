@@ -23,6 +23,23 @@ set(views
     Prompting/SmallLabel.qml
     Prompting/StatusBadge.qml
     Prompting/SymbolButton.qml
+    Settings/OnboardingButton.qml
+    Settings/OnboardingCloseButton.qml
+    Settings/OnboardingCopyButton.qml
+    Settings/OnboardingDots.qml
+    Settings/OnboardingFeature.qml
+    Settings/OnboardingFooter.qml
+    Settings/OnboardingHeading.qml
+    Settings/OnboardingKeyRow.qml
+    Settings/OnboardingPage.qml
+    Settings/OnboardingPrivacyPage.qml
+    Settings/OnboardingSection.qml
+    Settings/OnboardingSetupPage.qml
+    Settings/OnboardingStyle.qml
+    Settings/OnboardingText.qml
+    Settings/OnboardingView.qml
+    Settings/OnboardingWelcomePage.qml
+    Settings/OnboardingZoomCard.qml
     Settings/PrivacySettings.qml
     Settings/PrompterSettings.qml
     Settings/SessionSettings.qml
@@ -32,10 +49,12 @@ set(views
     Settings/SettingsSection.qml
     Settings/SettingsShortcut.qml
     Settings/SettingsSlider.qml
+    Settings/SettingsSwitch.qml
     Settings/SettingsToggle.qml
     Settings/SettingsView.qml
     Settings/ShortcutSettings.qml
     Settings/SlidesSettings.qml
+    Settings/SystemPane.qml
     Settings/UpdateSettings.qml
     Settings/VoiceSettings.qml)
 
@@ -45,6 +64,8 @@ foreach(view ${views})
     set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
 endforeach()
 
+set_source_files_properties(Settings/OnboardingStyle.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+
 qt_add_library(OrvelloViews STATIC)
 qt_add_qml_module(
     OrvelloViews
@@ -53,7 +74,11 @@ qt_add_qml_module(
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES QtQuick QtQuick.Controls QtQuick.Layouts QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Shell/QmlTypes.h Views/Symbol.cpp Views/Symbol.h
+    SOURCES Shell/QmlTypes.h
+            Views/Symbol.cpp
+            Views/Symbol.h
+            Views/SymbolDrawing.h
+            Views/TourSymbols.cpp
     QML_FILES ${views})
 target_include_directories(OrvelloViews PRIVATE Shell Views) # The generated registration includes by name alone.
 qt_add_shaders(

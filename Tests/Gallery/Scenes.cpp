@@ -7,6 +7,7 @@ Scenes allScenes()
     Scenes scenes;
     scenes += prompterScenes();
     scenes += settingsScenes();
+    scenes += onboardingScenes();
     return scenes;
 }
 

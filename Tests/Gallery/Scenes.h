@@ -9,5 +9,6 @@ Scenes allScenes();
 
 Scenes prompterScenes();
 Scenes settingsScenes();
+Scenes onboardingScenes();
 
 } // namespace Orvello::Gallery

@@ -42,13 +42,13 @@ public:
         settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, canExclude });
         QQuickView& view = settingsWindow->view();
         view.setFlags(Qt::FramelessWindowHint);
-        if (m_isWhole)
-            view.resize(SettingsWindow::contentSize.width(), wholeHeight());
     }
 
     QQuickWindow& window() override { return settingsWindow->view(); }
     void play() override
     {
+        if (m_isWhole)
+            settingsWindow->view().resize(SettingsWindow::contentSize.width(), wholeHeight());
         m_play(*this);
         Testing::drainEvents();
     }

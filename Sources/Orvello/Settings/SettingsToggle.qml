@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 
 // A row with a switch.
 SettingsRow {
@@ -15,7 +14,7 @@ SettingsRow {
         root.toggled(!root.isOn);
     }
 
-    Switch {
+    SettingsSwitch {
         id: toggle
 
         checked: root.isOn

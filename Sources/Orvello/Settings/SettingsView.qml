@@ -6,7 +6,7 @@ import QtQuick.Window
 import Orvello
 
 // The preferences as a form, each control bound to what it shows. It scrolls where it does not fit.
-Pane {
+SystemPane {
     id: root
 
     required property SettingsStore settings
@@ -18,7 +18,6 @@ Pane {
 
     readonly property Item focusedItem: Window.activeFocusItem
 
-    padding: 0
     onFocusedItemChanged: reveal(focusedItem)
 
     // Scrolls to what the Tab key reached.
@@ -26,7 +25,7 @@ Pane {
         if (!item || !sections.contains(sections.mapFromItem(item, 0, 0)))
             return;
         const margin = 16;
-        const top = item.mapToItem(sections, 0, 0).y;
+        const top = item.mapToItem(flickable.contentItem, 0, 0).y;
         const bottom = top + item.height;
         if (top - margin < flickable.contentY)
             flickable.contentY = Math.max(0, top - margin);

@@ -27,6 +27,7 @@ SettingsSection {
 
         Button {
             text: qsTr("Check Now")
+            Accessible.name: text
             enabled: root.updates.canCheckForUpdates
             onClicked: root.updates.checkForUpdates()
         }

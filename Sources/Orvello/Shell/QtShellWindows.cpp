@@ -1,51 +1,13 @@
 #include "Orvello/Shell/QtShellWindows.h"
 
-#include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/LibraryWindow.h"
+#include "Orvello/Shell/OnboardingWindowController.h"
 #include "Orvello/Shell/QtStatusItem.h"
 #include "Orvello/Shell/SettingsWindow.h"
-
-#include <QCloseEvent>
-#include <QWidget>
 
 #include <utility>
 
 namespace Orvello {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-/// An empty window, until the window of that name is there.
-class PlainWindow final : public QWidget, public ShellWindow {
-public:
-    explicit PlainWindow(const QString& title, std::function<void()> onClose = {})
-        : m_onClose(std::move(onClose))
-    {
-        setWindowTitle(title);
-        resize(480, 320);
-    }
-
-    void makeKeyAndOrderFront() override
-    {
-        show();
-        raise();
-        activateWindow();
-    }
-
-protected:
-    void closeEvent(QCloseEvent* event) override
-    {
-        QWidget::closeEvent(event);
-        if (const auto onClose = std::exchange(m_onClose, {}))
-            onClose(); // May destroy this window.
-    }
-
-private:
-    std::function<void()> m_onClose;
-};
-
-} // namespace
 
 QtShellWindows::QtShellWindows(const Services& services)
     : m_services(services)
@@ -69,11 +31,10 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
 {
-    const auto finish = [&settings = m_services.settings, onFinish = std::move(onFinish)] {
-        settings.setOnboardingSeenVersion(1);
-        onFinish();
-    };
-    return std::make_unique<PlainWindow>(u"Welcome to Orvello"_s, finish);
+    return std::make_unique<OnboardingWindowController>(
+        OnboardingWindowController::Services { m_services.settings, m_services.workspace,
+            m_services.windowChrome, m_services.canExcludeFromCapture },
+        std::move(onFinish));
 }
 
 std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)

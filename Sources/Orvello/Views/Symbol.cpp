@@ -1,5 +1,7 @@
 #include "Orvello/Views/Symbol.h"
 
+#include "Orvello/Views/SymbolDrawing.h"
+
 #include <QHash>
 #include <QPainter>
 #include <QPainterPath>
@@ -14,14 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a symbol is drawn from, on a square of this side.
-struct Drawing {
-    double side = 16; ///< Also the size that the symbol has of itself.
-    double penWidth = 1.3;
-    QPainterPath strokes; ///< With round ends.
-    QPainterPath fill;
-};
-
 QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> all)
 {
     QPainterPath path;
@@ -33,48 +27,49 @@ QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> all)
     return path;
 }
 
-Drawing plus()
+// The symbols of the scripts window.
+
+SymbolDrawing plus()
 {
-    return { .strokes = lines({ { { 3, 8 }, { 13, 8 } }, { { 8, 3 }, { 8, 13 } } }) };
+    return { .strokes = lines({ { { 3, 8 }, { 13, 8 } }, { { 8, 3 }, { 8, 13 } } }),
+        .penWidth = 1.3,
+        .side = 16 };
 }
 
-Drawing minus() { return { .strokes = lines({ { { 3, 8 }, { 13, 8 } } }) }; }
-
-/// One sheet in front of another, of which only the edge is seen.
-Drawing rectangleOnRectangle()
+SymbolDrawing minus()
 {
-    QPainterPath path
-        = lines({ { { 3.5, 9.5 }, { 1.5, 9.5 }, { 1.5, 2.5 }, { 11.5, 2.5 }, { 11.5, 4.5 } } });
-    path.addRoundedRect(QRectF(4.5, 5.5, 10, 8), 1, 1);
-    return { .strokes = path };
+    return { .strokes = lines({ { { 3, 8 }, { 13, 8 } } }), .penWidth = 1.3, .side = 16 };
 }
 
-Drawing squareAndArrowDown()
+SymbolDrawing squareAndArrowDown()
 {
     return { .strokes
         = lines({ { { 5.5, 6 }, { 2.5, 6 }, { 2.5, 14 }, { 13.5, 14 }, { 13.5, 6 }, { 10.5, 6 } },
-            { { 8, 1.5 }, { 8, 10 } }, { { 5, 7.2 }, { 8, 10.2 }, { 11, 7.2 } } }) };
+            { { 8, 1.5 }, { 8, 10 } }, { { 5, 7.2 }, { 8, 10.2 }, { 11, 7.2 } } }),
+        .penWidth = 1.3,
+        .side = 16 };
 }
 
-// The prompter's symbols are bolder and smaller.
+// The symbols of the prompter, which are bolder.
 
-Drawing chevronLeft()
+SymbolDrawing chevronLeft()
 {
-    return { 10, 1.6, lines({ { { 6.5, 1.5 }, { 3, 5 }, { 6.5, 8.5 } } }), {} };
+    return { .strokes = lines({ { { 6.5, 1.5 }, { 3, 5 }, { 6.5, 8.5 } } }) };
 }
 
-Drawing chevronRight()
+SymbolDrawing chevronRight()
 {
-    return { 10, 1.6, lines({ { { 3.5, 1.5 }, { 7, 5 }, { 3.5, 8.5 } } }), {} };
+    return { .strokes = lines({ { { 3.5, 1.5 }, { 7, 5 }, { 3.5, 8.5 } } }) };
 }
 
-Drawing xmark()
+SymbolDrawing xmark()
 {
-    return { 10, 1.4, lines({ { { 2, 2 }, { 8, 8 } }, { { 8, 2 }, { 2, 8 } } }), {} };
+    return { .strokes = lines({ { { 2, 2 }, { 8, 8 } }, { { 8, 2 }, { 2, 8 } } }),
+        .penWidth = 1.4 };
 }
 
 /// An eye, and before its lower right corner a warning triangle with an exclamation mark.
-Drawing eyeTriangleBadgeExclamationmark()
+SymbolDrawing eyeTriangleBadgeExclamationmark()
 {
     QPainterPath lids(QPointF(0.5, 4.4));
     lids.quadTo({ 4.75, -1.2 }, { 9.0, 4.4 });
@@ -94,21 +89,27 @@ Drawing eyeTriangleBadgeExclamationmark()
     QPainterPathStroker outline;
     outline.setWidth(0.9);
     const QPainterPath eye = outline.createStroke(lids).united(pupil).subtracted(around);
-    return { 10, 0, {}, eye.united(badge.subtracted(mark)) };
+    return { .fill = eye.united(badge.subtracted(mark)) };
 }
 
-Drawing drawingNamed(const QString& name)
+QHash<QString, SymbolDrawing> allDrawings()
 {
-    static const QHash<QString, Drawing> drawings {
+    QHash<QString, SymbolDrawing> drawings {
         { u"chevron.left"_s, chevronLeft() },
         { u"chevron.right"_s, chevronRight() },
         { u"eye.trianglebadge.exclamationmark"_s, eyeTriangleBadgeExclamationmark() },
         { u"minus"_s, minus() },
         { u"plus"_s, plus() },
-        { u"rectangle.on.rectangle"_s, rectangleOnRectangle() },
         { u"square.and.arrow.down"_s, squareAndArrowDown() },
         { u"xmark"_s, xmark() },
     };
+    drawings.insert(tourSymbols());
+    return drawings;
+}
+
+SymbolDrawing drawingNamed(const QString& name)
+{
+    static const QHash<QString, SymbolDrawing> drawings = allDrawings();
     return drawings.value(name);
 }
 
@@ -117,6 +118,8 @@ Drawing drawingNamed(const QString& name)
 Symbol::Symbol(QQuickItem* parent)
     : QQuickPaintedItem(parent)
 {
+    constexpr double textHeight = 16;
+    setImplicitSize(textHeight, textHeight);
     setAntialiasing(true);
 }
 
@@ -142,7 +145,7 @@ void Symbol::setColor(const QColor& color)
 
 void Symbol::paint(QPainter* painter)
 {
-    const Drawing drawing = drawingNamed(m_name);
+    const SymbolDrawing drawing = drawingNamed(m_name);
     const double scale = std::min(width(), height()) / drawing.side;
     painter->translate((width() - drawing.side * scale) / 2, (height() - drawing.side * scale) / 2);
     painter->scale(scale, scale);

@@ -1,0 +1,81 @@
+#include "Orvello/Shell/OnboardingWindowController.h"
+
+#include "Orvello/Platform/WindowChrome.h"
+#include "Orvello/Platform/Workspace.h"
+#include "Orvello/Prompting/PromptFont.h"
+#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/WindowPlacement.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QColor background(18, 18, 23); // Red and green 0.07, blue 0.09.
+
+int initialPage()
+{
+    return OnboardingTour::pageNamed(qEnvironmentVariable("ORVELLO_ONBOARDING_PAGE"));
+}
+
+} // namespace
+
+OnboardingWindowController::OnboardingWindowController(
+    const Services& services, std::function<void()> onFinish)
+    : m_settings(services.settings)
+    , m_onFinish(std::move(onFinish))
+    , m_tour(initialPage(), services.workspace.isInstalled(u"us.zoom.xos"_s))
+{
+    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+    m_view.setTitle(tr("Welcome to Orvello"));
+    m_view.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+        | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    m_view.setColor(background);
+    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view.resize(contentSize);
+    const bool hasSystemCloseButton = services.chrome.hideTitleBar(m_view);
+    m_view.setInitialProperties({
+        { u"tour"_s, QVariant::fromValue(&m_tour) },
+        { u"headingFamily"_s, PromptFont::family() },
+        { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
+        { u"hasCloseButton"_s, !hasSystemCloseButton },
+    });
+    m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/OnboardingView.qml"_s));
+    Q_ASSERT(m_view.rootObject()); // The view is part of the program.
+
+    connect(&m_tour, &OnboardingTour::left, this, [this] {
+        finish();
+        m_view.close();
+    });
+    m_view.installEventFilter(this);
+}
+
+void OnboardingWindowController::makeKeyAndOrderFront()
+{
+    WindowPlacement::bringToFront(m_view, contentSize);
+}
+
+bool OnboardingWindowController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close)
+        finish();
+    return QObject::eventFilter(watched, event);
+}
+
+void OnboardingWindowController::finish()
+{
+    if (std::exchange(m_finished, true))
+        return;
+    m_settings.setOnboardingSeenVersion(version);
+    // Later: the view is still handling the press or the close that led here.
+    QMetaObject::invokeMethod(
+        this, [this] { std::exchange(m_onFinish, {})(); }, Qt::QueuedConnection);
+}
+
+} // namespace Orvello

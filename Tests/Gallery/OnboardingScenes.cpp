@@ -1,0 +1,61 @@
+#include "Tests/Gallery/Scenes.h"
+
+#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/OnboardingWindowController.h"
+#include "Tests/Support/FakeUserDefaults.h"
+#include "Tests/Support/FakeWindowChrome.h"
+#include "Tests/Support/FakeWorkspace.h"
+
+namespace Orvello::Gallery {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Zoom { Absent, Installed };
+
+/// The welcome tour, turned to one of its pages.
+class OnboardingStage final : public Stage {
+public:
+    OnboardingStage(int page, Zoom zoom)
+    {
+        if (zoom == Zoom::Installed)
+            workspace.installed.append(u"us.zoom.xos"_s);
+        qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
+        controller.emplace(
+            OnboardingWindowController::Services { settings, workspace, chrome, false }, [] {});
+        qunsetenv("ORVELLO_ONBOARDING_PAGE");
+        controller->view().setFlags(Qt::FramelessWindowHint);
+    }
+
+    QQuickWindow& window() override { return controller->view(); }
+
+    Testing::FakeUserDefaults defaults;
+    SettingsStore settings { defaults };
+    Testing::FakeWorkspace workspace;
+    Testing::FakeWindowChrome chrome;
+    std::optional<OnboardingWindowController> controller;
+};
+
+Scene tour(const QString& name, int page, Zoom zoom = Zoom::Absent, double scale = 1)
+{
+    return { u"Welcome tour: "_s + name,
+        [=] { return std::make_unique<OnboardingStage>(page, zoom); }, Wallpaper::None, scale };
+}
+
+} // namespace
+
+Scenes onboardingScenes()
+{
+    return {
+        tour(u"welcome"_s, 0),
+        tour(u"privacy"_s, 1),
+        tour(u"privacy, with Zoom"_s, 1, Zoom::Installed),
+        tour(u"setup"_s, 2),
+        tour(u"welcome, 2x"_s, 0, Zoom::Absent, 2),
+        tour(u"privacy, with Zoom, 2x"_s, 1, Zoom::Installed, 2),
+        tour(u"setup, 2x"_s, 2, Zoom::Absent, 2),
+    };
+}
+
+} // namespace Orvello::Gallery
