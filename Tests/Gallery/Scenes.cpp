@@ -6,6 +6,7 @@ Scenes allScenes()
 {
     Scenes scenes;
     scenes += prompterScenes();
+    scenes += libraryScenes();
     return scenes;
 }
 

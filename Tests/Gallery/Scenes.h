@@ -8,5 +8,6 @@ namespace Orvello::Gallery {
 Scenes allScenes();
 
 Scenes prompterScenes();
+Scenes libraryScenes();
 
 } // namespace Orvello::Gallery

@@ -5,6 +5,7 @@
 // Beside the sheet a folder of its name holds the pictures one by one. The sheet is painted here;
 // the windows are shown by one further process for each scale, on the display there is.
 
+#include "Orvello/Shell/Translation.h"
 #include "Tests/Gallery/ContactSheet.h"
 #include "Tests/Gallery/Rendering.h"
 #include "Tests/Gallery/Scenes.h"
@@ -35,7 +36,8 @@ Gallery::Scenes scenesNamed(const QString& words)
 /// orvello-gallery --render SCALE FOLDER WORDS
 int render(int argc, char** argv)
 {
-    const QGuiApplication application(argc, argv);
+    QGuiApplication application(argc, argv);
+    installTranslation(application);
     const QStringList arguments = QGuiApplication::arguments();
     const Gallery::Scenes scenes = scenesNamed(arguments.value(4));
     return Gallery::renderScenes(scenes, arguments.value(2).toDouble(), QDir(arguments.value(3)))
