@@ -3,6 +3,7 @@
 
 set(views
     Library/DeckNotice.qml
+    Library/Divider.qml
     Library/EditorPage.qml
     Library/ImportMenu.qml
     Library/LibraryAlert.qml

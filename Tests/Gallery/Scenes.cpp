@@ -8,6 +8,7 @@ Scenes allScenes()
     scenes += prompterScenes();
     scenes += settingsScenes();
     scenes += onboardingScenes();
+    scenes += libraryScenes();
     return scenes;
 }
 

@@ -10,5 +10,6 @@ Scenes allScenes();
 Scenes prompterScenes();
 Scenes settingsScenes();
 Scenes onboardingScenes();
+Scenes libraryScenes();
 
 } // namespace Orvello::Gallery

@@ -40,16 +40,15 @@ Pane {
             text: root.editor.title
             readOnly: !root.editor.isEditable
             selectByMouse: true
+            autoScroll: activeFocus // A title that is not being edited is seen from its beginning.
             onTextEdited: root.editor.title = text
             onAccepted: body.forceActiveFocus(Qt.TabFocusReason)
 
             Accessible.name: qsTr("Title")
         }
 
-        Rectangle {
+        Divider {
             Layout.fillWidth: true
-            Layout.preferredHeight: 1
-            color: root.palette.mid
         }
 
         DeckNotice {
@@ -87,10 +86,8 @@ Pane {
             }
         }
 
-        Rectangle {
+        Divider {
             Layout.fillWidth: true
-            Layout.preferredHeight: 1
-            color: root.palette.mid
         }
 
         RowLayout {

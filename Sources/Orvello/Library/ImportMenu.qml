@@ -20,6 +20,7 @@ ToolbarButton {
         id: menu
 
         width: 250
+        palette: root.palette // Popups do not inherit the window's.
 
         Instantiator {
             model: root.imports.titles

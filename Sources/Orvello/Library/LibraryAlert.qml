@@ -10,6 +10,7 @@ Dialog {
     required property DeckImports imports
 
     anchors.centerIn: parent
+    palette: parent.palette // Popups do not inherit the window's.
     width: 360
     modal: true
     visible: imports.isShowingAlert

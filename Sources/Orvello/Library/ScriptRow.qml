@@ -59,6 +59,10 @@ ItemDelegate {
                 elide: Text.ElideRight
                 maximumLineCount: 1
                 color: root.textColor
+
+                ToolTip.text: root.title
+                ToolTip.visible: root.hovered && truncated
+                ToolTip.delay: 700
             }
             Label {
                 Layout.fillWidth: true
@@ -67,7 +71,6 @@ ItemDelegate {
                 elide: Text.ElideRight
                 font.pixelSize: 11
                 color: root.textColor
-                opacity: 0.8
             }
         }
     }

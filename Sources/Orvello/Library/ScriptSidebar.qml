@@ -20,6 +20,7 @@ ColumnLayout {
     ScrollView {
         id: scroll
 
+        focus: true
         Layout.fillWidth: true
         Layout.fillHeight: true
         ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
@@ -92,10 +93,8 @@ ColumnLayout {
         }
     }
 
-    Rectangle {
+    Divider {
         Layout.fillWidth: true
-        Layout.preferredHeight: 1
-        color: root.palette.mid
     }
 
     RowLayout {

@@ -1,5 +1,7 @@
 #include "Orvello/Shell/LibraryWindow.h"
 
+#include "Orvello/Shell/SystemPalette.h"
+
 #include <QCoreApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -24,6 +26,7 @@ LibraryWindow::LibraryWindow(const Services& services)
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.setMinimumSize(smallestSize);
     m_view.setInitialProperties({ { u"library"_s, QVariant::fromValue(&m_library) } });
+    followSystemPalette(m_view);
     m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/LibraryView.qml"_s));
     Q_ASSERT(m_view.rootObject()); // The view is part of the program.
     m_view.resize(firstSize);

@@ -1,0 +1,164 @@
+#include "Tests/Gallery/Scenes.h"
+
+#include "Orvello/Shell/LibraryWindow.h"
+#include "Tests/Support/LibraryServices.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QTest>
+
+#include <optional>
+
+namespace Orvello::Gallery {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Testing::LibraryServices;
+
+/// The palette of a dark desktop.
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x31, 0x31, 0x31), QColor(0x2b, 0x2b, 0x2b));
+    palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
+    palette.setColor(QPalette::Highlight, QColor(0x30, 0x6c, 0xb8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0xa0, 0xa0, 0xa0));
+    return palette;
+}
+
+/// The scripts window over the real library.
+class LibraryStage final : public Stage {
+public:
+    using Play = std::function<void(LibraryStage&)>;
+
+    LibraryStage(const QList<Script>& scripts, Play play, bool isDark)
+        : m_desktop(QGuiApplication::palette())
+        , m_play(std::move(play))
+    {
+        QGuiApplication::setPalette(isDark ? darkPalette() : m_desktop);
+        m_services.emplace(scripts);
+        m_window.emplace(m_services->ofWindow());
+        window().setFlags(Qt::FramelessWindowHint);
+    }
+    ~LibraryStage() override
+    {
+        m_window.reset();
+        QGuiApplication::setPalette(m_desktop);
+    }
+
+    QQuickWindow& window() override { return m_window->window(); }
+    LibraryServices& services() { return *m_services; }
+    void play() override
+    {
+        window().requestActivate();
+        m_play(*this);
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(&window(), key, modifiers);
+    }
+    void click(int x, int y) { QTest::mouseClick(&window(), Qt::LeftButton, {}, QPoint(x, y)); }
+    void import(const QString& path)
+    {
+        services().openPanel.choice = path;
+        press(Qt::Key_O, Qt::ControlModifier);
+    }
+
+private:
+    const QPalette m_desktop;
+    Play m_play;
+    std::optional<LibraryServices> m_services;
+    std::optional<LibraryWindow> m_window;
+};
+
+QList<Script> library()
+{
+    const QString talk
+        = u"Thank you all for coming. I want to talk about what we learned this year, and what we "
+          "are going to do with it.\n\nWe started with a simple question: what does a speaker "
+          "need? Not more slides. Not a bigger screen. A way to look at the audience and still "
+          "know the next sentence.\n\nSo we put the words right under the camera."_s;
+    const QList<SlideNote> slides {
+        { 1, u"Welcome"_s, u"Good morning. Three numbers today, and one request."_s },
+        { 2, u"Revenue"_s, u"Up by a fifth, and the reason is not what you think."_s },
+        { 3, std::nullopt, {} },
+        { 4, u"Questions"_s, u"Leave ten minutes. Ask Ana about the roadmap."_s },
+    };
+    return { LibraryServices::script(u"Opening words"_s, talk),
+        LibraryServices::deck(u"Quarterly review"_s, u"Quarterly review.pptx"_s, slides),
+        LibraryServices::script(QString(), u"Nothing has a name yet."_s),
+        LibraryServices::script(u"Toast for the wedding of Grandmother's second cousin in "
+                                "Bad Berleburg-Arfeld, the long version with the boat"_s,
+            talk),
+        LibraryServices::deck(u"All hands"_s, u"Keynote"_s, slides),
+        LibraryServices::script(u"كلمة الافتتاح"_s, u"شكرا لكم جميعا على حضوركم."_s) };
+}
+
+void showDeck(LibraryStage& stage)
+{
+    stage.services().library.setActiveScriptID(stage.services().library.scripts()[1].id);
+}
+
+void showLongTitle(LibraryStage& stage)
+{
+    stage.services().library.setActiveScriptID(stage.services().library.scripts()[3].id);
+}
+
+void empty(LibraryStage& stage)
+{
+    LibraryStore& store = stage.services().library;
+    while (!store.scripts().isEmpty())
+        store.remove(store.scripts().first().id);
+}
+
+void write(LibraryStage& stage)
+{
+    stage.click(500, 250);
+    stage.press(Qt::Key_Home, Qt::ControlModifier);
+    for (int i = 0; i < 14; ++i)
+        stage.press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+void openMenu(LibraryStage& stage)
+{
+    stage.click(80, 462);
+    QTest::qWait(200);
+    stage.press(Qt::Key_Down);
+}
+
+void failToImport(LibraryStage& stage) { stage.import(stage.services().folders.path); }
+
+Scene scene(const QString& name, const LibraryStage::Play& play, bool isDark = false,
+    double scale = 1, const QList<Script>& scripts = library())
+{
+    return { u"Scripts: "_s + name,
+        [=] { return std::make_unique<LibraryStage>(scripts, play, isDark); }, Wallpaper::None,
+        scale };
+}
+
+} // namespace
+
+Scenes libraryScenes()
+{
+    return {
+        scene(u"a script"_s, [](LibraryStage&) {}),
+        scene(u"a deck"_s, showDeck),
+        scene(u"empty"_s, empty),
+        scene(u"writing"_s, write),
+        scene(u"long title"_s, showLongTitle),
+        scene(u"the import menu"_s, openMenu),
+        scene(u"import failed"_s, failToImport),
+        scene(
+            u"a script, dark"_s, [](LibraryStage&) {}, true),
+        scene(u"a deck, dark"_s, showDeck, true),
+        scene(u"the import menu, dark"_s, openMenu, true),
+        scene(u"import failed, dark"_s, failToImport, true),
+        scene(u"a deck, 2x"_s, showDeck, false, 2),
+        scene(u"writing, dark, 2x"_s, write, true, 2),
+    };
+}
+
+} // namespace Orvello::Gallery
