@@ -4,10 +4,8 @@
 set(views
     Prompting/Capsule.qml
     Prompting/Countdown.qml
-    Prompting/FadingStrip.qml
     Prompting/LevelBeam.qml
     Prompting/OneOfSeveralLabels.qml
-    Prompting/PromptText.qml
     Prompting/PrompterView.qml
     Prompting/RecordingBadge.qml
     Prompting/ShareNotice.qml
@@ -30,7 +28,15 @@ qt_add_qml_module(
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES QtQuick QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Prompting/Symbol.cpp Prompting/Symbol.h Shell/QmlTypes.h
+    SOURCES Prompting/Card.cpp
+            Prompting/Card.h
+            Prompting/FadingTextNode.cpp
+            Prompting/FadingTextNode.h
+            Prompting/PromptText.cpp
+            Prompting/PromptText.h
+            Prompting/Symbol.cpp
+            Prompting/Symbol.h
+            Shell/QmlTypes.h
     QML_FILES ${views})
 target_include_directories(OrvelloViews PRIVATE Shell) # The generated registration includes by name alone.
 qt_add_shaders(
@@ -38,8 +44,8 @@ qt_add_shaders(
     BATCHABLE PRECOMPILE OPTIMIZED
     PREFIX /qt/qml/Orvello
     BASE Prompting
-    FILES Prompting/Fade.frag
-    OUTPUTS Fade.frag.qsb)
+    FILES Prompting/FadingText.vert Prompting/FadingText.frag
+    OUTPUTS FadingText.vert.qsb FadingText.frag.qsb)
 target_link_libraries(OrvelloViews PUBLIC OrvelloBase Orvello::Prompting Orvello::Settings Qt6::Quick)
 
 # A static QML module needs its plugin linked as well.
