@@ -68,6 +68,17 @@ TEST_F(LineImageTest, standsAtTheFramesRightEdgeFromRightToLeft)
     EXPECT_LE(image.place.right(), 604);
 }
 
+TEST_F(LineImageTest, setsALineFromRightToLeftInItsOrder)
+{
+    const auto right = [&](const QString& text) {
+        return LineImage::of({ text, 0, true }, typography, Qt::white, 1).place.right();
+    };
+
+    // A sentence's end is at the left, so the mark does not push the word away from the right edge.
+    EXPECT_NEAR(right(u"שלום"_s), right(u"שלום!"_s), 1);
+    EXPECT_NEAR(right(u"שלום"_s), right(u"שלום Orvello 1.0"_s), 1);
+}
+
 TEST_F(LineImageTest, hasTwoRowsForEachDevicePixelAtAnyScale)
 {
     for (const double scale : { 1.0, 1.25, 1.5, 2.0 }) {

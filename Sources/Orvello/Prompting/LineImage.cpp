@@ -16,6 +16,7 @@ constexpr double largestSide = 4000;
 void lay(QTextLayout& layout, const PromptLine& line, const PromptTypography& typography)
 {
     QTextOption option(line.isRightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    option.setTextDirection(line.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     option.setWrapMode(QTextOption::NoWrap);
     option.setUseDesignMetrics(true); // As in the layout that broke the line.
     layout.setTextOption(option);

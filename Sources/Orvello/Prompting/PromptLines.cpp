@@ -6,10 +6,16 @@
 
 namespace Orvello {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How long the main loop is kept at a time, in seconds: a quarter of a frame.
 constexpr double sliceBudget = 0.004;
+
+/// Signs in colour, where this is installed: else the search for a font that has them would end at
+/// the first plain one. macOS has a fixed order of its own.
+const QString emojiFamily = u"Noto Color Emoji"_s;
 
 constexpr double largestFontSize = 1000;
 
@@ -67,7 +73,7 @@ void PromptLines::typographyWasSet()
 PromptTypography PromptLines::typography() const
 {
     const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
-    QFont font(QStringList { m_fontFamily });
+    QFont font({ m_fontFamily, emojiFamily });
     const double wholeSize = std::ceil(size);
     font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);
