@@ -22,6 +22,10 @@ Item {
     readonly property double textWidth: Math.max(width - 56, 100)
     readonly property int edge: 6
 
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Prompter"
+    Accessible.description: status.label
+
     onHeightChanged: engine.setViewportHeight(height)
     Component.onCompleted: {
         engine.setViewportHeight(height);
@@ -55,6 +59,9 @@ Item {
         engine: root.engine
         lines: root.lines
         color: root.settings.textColor
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.promptText
     }
 
     Countdown {
