@@ -126,7 +126,9 @@ void PromptText::updatePolish()
 
     m_isFollowing = m_scroll->isMoving();
     const double interval = frameInterval() > 0 ? frameInterval() : usualFrameInterval;
-    m_nextFrame = std::max(m_nextFrame, now - interval) + interval;
+    // On the beat of the last frames, if this one is; a frame may be prepared more than once.
+    const bool isOnBeat = std::abs(now - m_nextFrame) < interval / 2;
+    m_nextFrame = (isOnBeat ? m_nextFrame : now) + interval;
     update();
 }
 
