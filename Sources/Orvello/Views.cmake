@@ -13,10 +13,8 @@ set(views
     Library/ToolbarButton.qml
     Prompting/Capsule.qml
     Prompting/Countdown.qml
-    Prompting/FadingStrip.qml
     Prompting/LevelBeam.qml
     Prompting/OneOfSeveralLabels.qml
-    Prompting/PromptText.qml
     Prompting/PrompterView.qml
     Prompting/RecordingBadge.qml
     Prompting/ShareNotice.qml
@@ -75,7 +73,13 @@ qt_add_qml_module(
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES QtQuick QtQuick.Controls QtQuick.Layouts QtQml.Models
     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/Orvello
-    SOURCES Shell/QmlTypes.h
+    SOURCES Prompting/Card.cpp
+            Prompting/Card.h
+            Prompting/FadingTextNode.cpp
+            Prompting/FadingTextNode.h
+            Prompting/PromptText.cpp
+            Prompting/PromptText.h
+            Shell/QmlTypes.h
             Views/Symbol.cpp
             Views/Symbol.h
             Views/SymbolDrawing.h
@@ -87,8 +91,8 @@ qt_add_shaders(
     BATCHABLE PRECOMPILE OPTIMIZED
     PREFIX /qt/qml/Orvello
     BASE Prompting
-    FILES Prompting/Fade.frag
-    OUTPUTS Fade.frag.qsb)
+    FILES Prompting/FadingText.vert Prompting/FadingText.frag
+    OUTPUTS FadingText.vert.qsb FadingText.frag.qsb)
 target_link_libraries(
     OrvelloViews PUBLIC OrvelloBase Orvello::Commands Orvello::LibraryView Orvello::Prompting Orvello::Settings
                         Orvello::Voice Qt6::Quick)

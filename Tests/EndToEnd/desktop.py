@@ -79,6 +79,14 @@ class Desktop(contextlib.ExitStack):
             self.start(["picom", "--backend", "xrender"])
         time.sleep(0.3)
 
+    def start_session_bus(self):
+        """Gives the desktop a session bus of its own, for what is started from now on."""
+        read_end, write_end = os.pipe()
+        self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={write_end}"], pass_fds=(write_end,))
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = pipe.readline().strip()
+
     def start(self, command, environment=None, **options):
         """Starts a process that ends with the desktop at the latest."""
         log = open(self.scratch / f"{pathlib.Path(command[0]).name}.log", "ab")

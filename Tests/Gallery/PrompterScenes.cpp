@@ -56,6 +56,11 @@ Scene prompter(const QString& name, Wallpaper wallpaper, const PrompterStage::Pl
         wallpaper, options.scale };
 }
 
+PrompterStage::Play saying(const QString& text)
+{
+    return [text](PrompterStage& stage) { stage.services.prompt(text); };
+}
+
 void scroll(PrompterStage& stage)
 {
     stage.services.settings.setCountdownSeconds(0);
@@ -135,6 +140,39 @@ Scenes prompterScenes()
             { .size = { 340, 130 }, .forceCapturable = true }),
         prompter(u"opaque card"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.settings.setBackgroundOpacity(1); }),
+        prompter(u"Arabic and Latin"_s, Wallpaper::Photo,
+            saying(u"مرحبا بكم جميعا، وشكرا لحضوركم. "
+                   "نبدأ اليوم مع Orvello 1.0 ثم نجيب عن أسئلتكم (ثلاثة منها).\n\nشكرا لكم."_s)),
+        prompter(u"Hebrew and Latin"_s, Wallpaper::Photo,
+            saying(u"תודה לכולכם שבאתם. היום נדבר על "
+                   "Orvello 1.0 ועל מה שלמדנו השנה (בקצרה).\n\nנתחיל?"_s)),
+        prompter(u"Chinese"_s, Wallpaper::Night,
+            saying(u"感谢各位今天的到来。我想谈谈我们今年学到了什么,"
+                   "以及我们打算如何运用它。我们从一个简单的问题开始:演讲者需要什么?"_s)),
+        prompter(u"Japanese"_s, Wallpaper::Night,
+            saying(
+                u"本日はお集まりいただき、ありがとうございます。"
+                "今年学んだことと、これから何をするかについてお話しします。「話し手には何が必要か?」"_s)),
+        prompter(u"emoji"_s, Wallpaper::Photo,
+            saying(
+                u"Smile 😀, wave 👋🏽, and thank the family 👨‍👩‍👧‍👦 "
+                "from 🇩🇪 and 🇯🇵. ❤️ Three cheers: 🎉🎉🎉\nThen go on as before."_s)),
+        prompter(u"combining marks"_s, Wallpaper::Night,
+            saying(u"Tiếng Việt: Hỗ trợ đầy đủ. Crème brûlée, naïve, Ångström, šílený, "
+                   "q̃ n̈ x̂ z̦"_s)),
+        prompter(u"a line without a space, 100,000 characters"_s, Wallpaper::Document,
+            saying(u"abcdefghijklmnopqrstuvwxyz0123456789"_s.repeated(2778))),
+        prompter(u"font size 24.5"_s, Wallpaper::Night,
+            [](PrompterStage& stage) { stage.services.settings.setFontSize(24.5); }),
+        prompter(u"largest text"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) { stage.services.settings.setFontSize(64); },
+            { .size = { 1000, 320 } }),
+        prompter(
+            u"narrowest text"_s, Wallpaper::Photo, [](PrompterStage&) {}, { .size = { 340, 300 } }),
+        prompter(u"scale 1.25"_s, Wallpaper::Photo, &showEverything, { .scale = 1.25 }),
+        prompter(u"scale 1.5"_s, Wallpaper::Document, &showEverything, { .scale = 1.5 }),
+        prompter(u"scale 2"_s, Wallpaper::Photo, &showEverything, { .scale = 2 }),
+        prompter(u"scale 1.5, scrolling"_s, Wallpaper::Night, &scroll, { .scale = 1.5 }),
         prompter(u"faintest card"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.settings.setBackgroundOpacity(0.3); }),
     };

@@ -3,7 +3,7 @@
 #include "Orvello/Prompting/PromptFont.h"
 #include "Tests/Support/ManualTimeSource.h"
 
-#include <QAbstractItemModelTester>
+#include <QFontInfo>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -65,20 +65,14 @@ protected:
         return result.join(u'\n');
     }
 
-    QVariant inSlot(int slot, PromptLines::Role role) const
-    {
-        return lines.data(lines.index(slot), role);
-    }
-
     /// What a view shows: texts by their baselines below the top of the visible part.
     std::map<double, QString> shown() const
     {
         std::map<double, QString> result;
-        for (int slot = 0; slot < lines.rowCount(); ++slot) {
-            const QString text = inSlot(slot, PromptLines::LineTextRole).toString();
-            const double y = inSlot(slot, PromptLines::BaselineRole).toDouble() + lines.originY();
-            if (!text.isEmpty() && y > 0 && y < height)
-                result.emplace(y, text);
+        for (const PromptLine& line : lines.visibleLines()) {
+            const double y = line.baseline * lines.shownTypography().scale - lines.visibleTop();
+            if (!line.text.isEmpty() && y > 0 && y < height)
+                result.emplace(y, line.text);
         }
         return result;
     }
@@ -99,7 +93,6 @@ protected:
 
     LaboriousTimeSource time;
     PromptLines lines { time };
-    QAbstractItemModelTester tester { &lines };
 };
 
 TEST_F(PromptLinesTest, showsNothingWithoutAText)
@@ -129,14 +122,53 @@ TEST_F(PromptLinesTest, waitsUntilFontAndFrameAreKnown)
     EXPECT_GT(bare.contentHeight(), 0);
 }
 
-TEST_F(PromptLinesTest, setsLinesInSemiboldOfTheWholeSize)
+TEST_F(PromptLinesTest, setsLinesInSemibold)
 {
-    lines.setFontSize(30.4);
     lines.setText(u"Hello"_s);
 
-    EXPECT_EQ(lines.lineFont().families(), QStringList(PromptFont::family()));
-    EXPECT_EQ(lines.lineFont().weight(), QFont::DemiBold);
-    EXPECT_EQ(lines.lineFont().pixelSize(), 30);
+    const QFont font = lines.shownTypography().font;
+    EXPECT_EQ(font.families().first(), PromptFont::family());
+    EXPECT_EQ(font.weight(), QFont::DemiBold);
+    EXPECT_EQ(QFontInfo(font).pixelSize(), 30);
+}
+
+TEST_F(PromptLinesTest, setsLinesInSizesBetweenWholeOnes)
+{
+    lines.setText(u"Hello"_s);
+    for (const double size : { 29.25, 30.5, 41.75 }) {
+        lines.setFontSize(size);
+        const PromptTypography& typography = lines.shownTypography();
+
+        EXPECT_DOUBLE_EQ(QFontInfo(typography.font).pixelSize() * typography.scale, size);
+        EXPECT_DOUBLE_EQ(typography.width * typography.scale, 600);
+        EXPECT_DOUBLE_EQ(typography.lineSpacing * typography.scale, 0.28 * size);
+    }
+}
+
+TEST_F(PromptLinesTest, isAsHighAsItsSize)
+{
+    lines.setText(numbered(20));
+    finish();
+    const double heightForEachPoint = lines.contentHeight() / 30;
+
+    for (double size = 28; size <= 32; size += 0.125) {
+        lines.setFontSize(size);
+        finish();
+        EXPECT_NEAR(lines.contentHeight() / size, heightForEachPoint, 0.02 * heightForEachPoint);
+    }
+}
+
+TEST_F(PromptLinesTest, showsTheLinesOfTheVisiblePartInAScaledSize)
+{
+    lines.setFontSize(30.5);
+    lines.setText(numbered(1000));
+    finish();
+    const double pitch = (lines.contentHeight() + 0.28 * 30.5) / 1000;
+
+    lines.setVisibleTop(500 * pitch);
+
+    EXPECT_EQ(
+        shownTexts(), QStringList({ u"line 500"_s, u"line 501"_s, u"line 502"_s, u"line 503"_s }));
 }
 
 TEST_F(PromptLinesTest, standsLinesAFontHeightAnd28PercentOfTheSizeApart)
@@ -182,43 +214,40 @@ TEST_F(PromptLinesTest, movesLinesByFractions)
     EXPECT_DOUBLE_EQ(shown().begin()->first, before - 0.125);
 }
 
-TEST_F(PromptLinesTest, changesOneSlotWhenOneLineComes)
+TEST_F(PromptLinesTest, announcesALineThatComes)
 {
     lines.setText(numbered(1000));
     finish();
     const double pitch = (lines.contentHeight() + 0.28 * 30) / 1000;
     lines.setVisibleTop(100.5 * pitch);
-    const QSignalSpy dataChanged(&lines, &PromptLines::dataChanged);
-    const QSignalSpy rowsInserted(&lines, &PromptLines::rowsInserted);
+    const QSignalSpy visibleLinesChanged(&lines, &PromptLines::visibleLinesChanged);
 
     lines.setVisibleTop(101.5 * pitch);
 
-    EXPECT_EQ(dataChanged.count(), 1);
-    EXPECT_EQ(dataChanged.first()[0], dataChanged.first()[1]);
-    EXPECT_EQ(rowsInserted.count(), 0);
+    EXPECT_EQ(visibleLinesChanged.count(), 1);
 }
 
-TEST_F(PromptLinesTest, changesNoSlotWhileNoLineComesOrGoes)
+TEST_F(PromptLinesTest, announcesNothingWhileNoLineComesOrGoes)
 {
     lines.setText(numbered(1000));
     finish();
     lines.setVisibleTop(20);
-    const QSignalSpy dataChanged(&lines, &PromptLines::dataChanged);
+    const QSignalSpy visibleLinesChanged(&lines, &PromptLines::visibleLinesChanged);
 
     lines.setVisibleTop(20.4);
 
-    EXPECT_EQ(dataChanged.count(), 0);
+    EXPECT_EQ(visibleLinesChanged.count(), 0);
 }
 
-TEST_F(PromptLinesTest, hasAsManySlotsAsLinesCanBeVisible)
+TEST_F(PromptLinesTest, holdsNoMoreLinesThanCanBeSeen)
 {
     lines.setText(numbered(10000));
     finish();
-    EXPECT_LT(lines.rowCount(), 10);
+    EXPECT_LT(lines.visibleLines().size(), 10U);
 
     lines.setVisibleHeight(900);
-    EXPECT_GE(lines.rowCount(), 19);
-    EXPECT_LT(lines.rowCount(), 30);
+    EXPECT_GE(lines.visibleLines().size(), 19U);
+    EXPECT_LT(lines.visibleLines().size(), 30U);
 }
 
 TEST_F(PromptLinesTest, showsEveryLineAtEveryHeight)
@@ -231,15 +260,15 @@ TEST_F(PromptLinesTest, showsEveryLineAtEveryHeight)
         for (double top = 0; top < 2 * pitch; top += 3.7) {
             lines.setVisibleTop(top);
             QStringList texts;
-            for (int slot = 0; slot < lines.rowCount(); ++slot)
-                texts.append(inSlot(slot, PromptLines::LineTextRole).toString());
+            for (const PromptLine& line : lines.visibleLines())
+                texts.append(line.text);
             for (int line = static_cast<int>(top / pitch); line * pitch < top + visible; ++line)
                 ASSERT_TRUE(texts.contains(u"line %1"_s.arg(line))) << visible << ' ' << top;
         }
     }
 }
 
-TEST_F(PromptLinesTest, keepsNumbersSmallAtAnyDepth)
+TEST_F(PromptLinesTest, placesLinesExactlyAtAnyDepth)
 {
     lines.setText(numbered(50000));
     finish();
@@ -247,27 +276,12 @@ TEST_F(PromptLinesTest, keepsNumbersSmallAtAnyDepth)
 
     for (const double line : { 40000.0, 40001.0, 49000.0, 3.0 }) {
         lines.setVisibleTop(line * pitch);
-        EXPECT_LE(std::abs(lines.originY()), 4096);
         EXPECT_EQ(shownTexts().first(), u"line %1"_s.arg(line));
         EXPECT_NEAR(shown().begin()->first, 30, 0.01);
     }
 }
 
-TEST_F(PromptLinesTest, announcesTheMovedOriginAndItsBaselinesTogether)
-{
-    lines.setText(numbered(5000));
-    finish();
-    const QSignalSpy originYChanged(&lines, &PromptLines::originYChanged);
-    const QSignalSpy dataChanged(&lines, &PromptLines::dataChanged);
-
-    lines.setVisibleTop(5000);
-
-    EXPECT_EQ(originYChanged.count(), 1);
-    ASSERT_GE(dataChanged.count(), 1);
-    EXPECT_EQ(dataChanged.first()[1].value<QModelIndex>().row(), lines.rowCount() - 1);
-}
-
-TEST_F(PromptLinesTest, blanksTheSlotsThatAShorterTextLeaves)
+TEST_F(PromptLinesTest, showsNothingOfALongerTextBefore)
 {
     lines.setText(numbered(1000));
     finish();
@@ -339,18 +353,18 @@ TEST_F(PromptLinesTest, keepsTheOldFontWithTheOldLines)
     lines.setText(numbered(1000));
     finish();
     lines.setVisibleTop(20000);
-    const QSignalSpy lineTypographyChanged(&lines, &PromptLines::lineTypographyChanged);
+    const QSignalSpy shownTypographyChanged(&lines, &PromptLines::shownTypographyChanged);
 
     lines.setFontSize(40);
     lines.setTextWidth(500);
-    EXPECT_EQ(lines.lineFont().pixelSize(), 30);
-    EXPECT_EQ(lines.lineWidth(), 600);
-    EXPECT_EQ(lineTypographyChanged.count(), 0);
+    EXPECT_EQ(QFontInfo(lines.shownTypography().font).pixelSize(), 30);
+    EXPECT_EQ(lines.shownTypography().width, 600);
+    EXPECT_EQ(shownTypographyChanged.count(), 0);
 
     finish();
-    EXPECT_EQ(lines.lineFont().pixelSize(), 40);
-    EXPECT_EQ(lines.lineWidth(), 500);
-    EXPECT_EQ(lineTypographyChanged.count(), 1);
+    EXPECT_EQ(QFontInfo(lines.shownTypography().font).pixelSize(), 40);
+    EXPECT_EQ(lines.shownTypography().width, 500);
+    EXPECT_EQ(shownTypographyChanged.count(), 1);
 }
 
 TEST_F(PromptLinesTest, keepsScrollingTheOldLinesMeanwhile)
@@ -397,17 +411,17 @@ TEST_F(PromptLinesTest, showsWhatIsTypedIntoALongTextAtOnce)
     EXPECT_LE(time.worked() - before, 0.0065);
 }
 
-TEST_F(PromptLinesTest, changesNoSlotForAChangeElsewhere)
+TEST_F(PromptLinesTest, announcesNoLineForAChangeElsewhere)
 {
     const QString text = numbered(1000);
     lines.setText(text);
     finish();
-    const QSignalSpy dataChanged(&lines, &PromptLines::dataChanged);
+    const QSignalSpy visibleLinesChanged(&lines, &PromptLines::visibleLinesChanged);
 
     lines.setText(text + u"!"_s);
 
     EXPECT_TRUE(lines.isLaidOut());
-    EXPECT_EQ(dataChanged.count(), 0);
+    EXPECT_EQ(visibleLinesChanged.count(), 0);
 }
 
 TEST_F(PromptLinesTest, survivesChangesOfEveryKindInTheMiddleOfALayout)
@@ -452,7 +466,6 @@ TEST_F(PromptLinesTest, announcesNothingThatDidNotChange)
     const QSignalSpy textChanged(&lines, &PromptLines::textChanged);
     const QSignalSpy typographyChanged(&lines, &PromptLines::typographyChanged);
     const QSignalSpy visiblePartChanged(&lines, &PromptLines::visiblePartChanged);
-    const QSignalSpy originYChanged(&lines, &PromptLines::originYChanged);
 
     lines.setText(u"Hello"_s);
     lines.setFontFamily(PromptFont::family());
@@ -464,7 +477,6 @@ TEST_F(PromptLinesTest, announcesNothingThatDidNotChange)
     EXPECT_EQ(textChanged.count(), 0);
     EXPECT_EQ(typographyChanged.count(), 0);
     EXPECT_EQ(visiblePartChanged.count(), 0);
-    EXPECT_EQ(originYChanged.count(), 0);
 }
 
 TEST_F(PromptLinesTest, leavesNoCallBehind)

@@ -7,11 +7,16 @@ Rectangle {
     required property string number
     required property string fontFamily
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: number
+    Accessible.description: "Countdown"
+
     radius: 16
     color: Qt.rgba(0, 0, 0, 0.6)
 
     Text {
         anchors.centerIn: parent
+        Accessible.ignored: true
         text: root.number
         textFormat: Text.PlainText
         color: "white"

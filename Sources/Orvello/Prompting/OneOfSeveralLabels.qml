@@ -6,7 +6,7 @@ import QtQuick
 Item {
     id: root
 
-    required property list<string> labels
+    required property var labels // Strings; no type of QML names what C++ calls a list of them.
     required property string label
 
     implicitWidth: Math.ceil(childrenRect.width)
@@ -19,7 +19,7 @@ Item {
 
             text: modelData
             opacity: modelData === root.label ? 1 : 0
-            Accessible.ignored: opacity === 0
+            Accessible.ignored: true // What it is a part of says it.
         }
     }
 }

@@ -8,16 +8,18 @@
 
 namespace Orvello {
 
-/// How the prompter's text is set. Lengths are in points.
+/// How the prompter's text is set. Fonts have whole sizes; a size in between is the next larger one
+/// scaled down. Lengths are in points, before they are scaled.
 struct PromptTypography {
     QFont font;
     double width = 0; ///< Of the frame in which lines wrap.
     double lineSpacing = 0; ///< Added between two lines.
+    double scale = 1;
 
     friend bool operator==(const PromptTypography&, const PromptTypography&) = default;
 };
 
-/// One line, ready to be shown on its own.
+/// One line, ready to be shown on its own, before it is scaled.
 struct PromptLine {
     QString text; ///< Without what ends it, with the marks that keep its bidirectional order.
     double baseline = 0; ///< Below the text's top, in points.

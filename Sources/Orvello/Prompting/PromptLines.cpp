@@ -1,17 +1,21 @@
 #include "Orvello/Prompting/PromptLines.h"
 
-#include <QFontMetricsF>
-
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace Orvello {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How long the main loop is kept at a time, in seconds: a quarter of a frame.
 constexpr double sliceBudget = 0.004;
+
+/// Signs in colour, where this is installed: else the search for a font that has them would end at
+/// the first plain one. macOS has a fixed order of its own.
+const QString emojiFamily = u"Noto Color Emoji"_s;
 
 constexpr double largestFontSize = 1000;
 
@@ -21,16 +25,12 @@ constexpr double relativeLineSpacing = 0.28;
 /// Lines just outside the visible part are ready, too: their accents may reach into it.
 constexpr double margin = 8;
 
-/// At this distance single precision still tells a thousandth of a point.
-constexpr double farthestOrigin = 4096;
-
-/// What a slot shows that is not needed.
-constexpr PromptLayout::Index noLine = -1;
+double heightOf(const PromptLayout& layout) { return layout.height() * layout.typography().scale; }
 
 } // namespace
 
 PromptLines::PromptLines(TimeSource& time, QObject* parent)
-    : QAbstractListModel(parent)
+    : QObject(parent)
     , m_time(time)
 {
 }
@@ -73,21 +73,21 @@ void PromptLines::typographyWasSet()
 PromptTypography PromptLines::typography() const
 {
     const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
-    QFont font(QStringList { m_fontFamily });
-    font.setPixelSize(static_cast<int>(std::lround(size)));
+    QFont font({ m_fontFamily, emojiFamily });
+    const double wholeSize = std::ceil(size);
+    font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);
     font.setHintingPreference(QFont::PreferNoHinting);
-    return { font, m_textWidth, relativeLineSpacing * size };
+    const double scale = size / wholeSize;
+    return { font, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
 }
 
 void PromptLines::setVisibleTop(double points)
 {
     if (std::exchange(m_visibleTop, points) == points)
         return;
-    keepOriginNear();
     showVisibleLines();
     Q_EMIT visiblePartChanged();
-    Q_EMIT originYChanged();
 }
 
 void PromptLines::setVisibleHeight(double points)
@@ -133,106 +133,40 @@ void PromptLines::adoptWhenReady()
 {
     const double visibleBottom = m_visibleTop + m_visibleHeight + margin;
     const bool isReady = m_next
-        && (m_next->isComplete() || m_next->height() >= visibleBottom || m_shown.lineCount() == 0);
-    if (isReady) {
-        const bool typographyChanges = m_next->typography() != m_shown.typography();
-        m_shown = *std::exchange(m_next, std::nullopt);
-        for (Slot& slot : m_slots)
-            slot.line.reset();
-        if (typographyChanges)
-            Q_EMIT lineTypographyChanged();
+        && (m_next->isComplete() || heightOf(*m_next) >= visibleBottom || m_shown.lineCount() == 0);
+    if (!isReady) {
+        showVisibleLines();
+        return;
     }
+    const PromptTypography before = m_shown.typography();
+    m_shown = *std::exchange(m_next, std::nullopt);
+    m_visibleRange.reset();
     showVisibleLines();
+    if (m_shown.typography() != before)
+        Q_EMIT shownTypographyChanged();
 }
 
 void PromptLines::updateContentHeight()
 {
     const PromptLayout& layout = newest();
     const double height
-        = layout.isComplete() ? layout.height() : std::max(layout.height(), m_contentHeight);
+        = layout.isComplete() ? heightOf(layout) : std::max(heightOf(layout), m_contentHeight);
     if (std::exchange(m_contentHeight, height) != height)
         Q_EMIT contentHeightChanged();
 }
 
-void PromptLines::keepOriginNear()
-{
-    if (std::abs(m_visibleTop - m_origin) <= farthestOrigin)
-        return;
-    m_origin = std::round(m_visibleTop);
-    if (!m_slots.empty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), { BaselineRole });
-}
-
 void PromptLines::showVisibleLines()
 {
-    const double height = m_visibleHeight + 2 * margin;
-    if (m_shown.lineCount() > 0 && m_visibleHeight > 0)
-        setSlotCount(static_cast<std::size_t>(std::ceil(height / m_shown.smallestPitch())) + 1);
-
-    const auto [first, end]
-        = m_shown.linesBetween(m_visibleTop - margin, m_visibleTop - margin + height);
-    const auto slotCount = std::ssize(m_slots);
-    for (PromptLayout::Index line = first; line < std::min(end, first + slotCount); ++line)
-        fill(static_cast<std::size_t>(line % slotCount), line);
-    for (std::size_t slot = 0; slot < m_slots.size(); ++slot) {
-        if (!m_slots[slot].line)
-            fill(slot, noLine);
-    }
-}
-
-void PromptLines::setSlotCount(std::size_t count)
-{
-    const std::size_t before = m_slots.size();
-    if (count == before)
+    const double scale = m_shown.typography().scale;
+    const auto range = m_shown.linesBetween(
+        (m_visibleTop - margin) / scale, (m_visibleTop + m_visibleHeight + margin) / scale);
+    if (std::exchange(m_visibleRange, range) == range)
         return;
-    if (count > before)
-        beginInsertRows({}, static_cast<int>(before), static_cast<int>(count) - 1);
-    else
-        beginRemoveRows({}, static_cast<int>(count), static_cast<int>(before) - 1);
-    m_slots.resize(count);
-    for (Slot& slot : m_slots)
-        slot.line.reset();
-    count > before ? endInsertRows() : endRemoveRows();
-}
-
-void PromptLines::fill(std::size_t slot, PromptLayout::Index line)
-{
-    if (m_slots[slot].line == line)
-        return;
-    m_slots[slot].line = line;
-    PromptLine content = line == noLine ? PromptLine() : m_shown.line(line);
-    if (std::exchange(m_slots[slot].content, content) == content)
-        return;
-    const QModelIndex changed = index(static_cast<int>(slot));
-    Q_EMIT dataChanged(changed, changed, { LineTextRole, BaselineRole, IsRightToLeftRole });
-}
-
-int PromptLines::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_slots.size());
-}
-
-QVariant PromptLines::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const PromptLine& content = m_slots[static_cast<std::size_t>(index.row())].content;
-    switch (role) {
-    case LineTextRole:
-        return content.text;
-    case BaselineRole:
-        return content.baseline - m_origin;
-    case IsRightToLeftRole:
-        return content.isRightToLeft;
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> PromptLines::roleNames() const
-{
-    return { { LineTextRole, "lineText" }, { BaselineRole, "baselineY" },
-        { IsRightToLeftRole, "isRightToLeft" } };
+    std::vector<PromptLine> lines;
+    for (PromptLayout::Index line = range.first; line < range.second; ++line)
+        lines.push_back(m_shown.line(line));
+    if (std::exchange(m_visibleLines, lines) != lines)
+        Q_EMIT visibleLinesChanged();
 }
 
 } // namespace Orvello

@@ -19,9 +19,12 @@ Item {
     required property bool forceCapturable
     property bool visibleInRecordings: false // Stealth Mode is wanted where nothing can hide the panel.
 
-    readonly property double firstLineTop: 0.18 * height
     readonly property double textWidth: Math.max(width - 56, 100)
     readonly property int edge: 6
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Prompter"
+    Accessible.description: status.label
 
     onHeightChanged: engine.setViewportHeight(height)
     Component.onCompleted: {
@@ -39,8 +42,6 @@ Item {
     Binding { target: root.lines; property: "fontFamily"; value: root.fontFamily }
     Binding { target: root.lines; property: "fontSize"; value: root.settings.fontSize }
     Binding { target: root.lines; property: "textWidth"; value: root.textWidth }
-    Binding { target: root.lines; property: "visibleHeight"; value: root.height }
-    Binding { target: root.lines; property: "visibleTop"; value: root.engine.offset - root.firstLineTop }
     Binding { target: root.lines; property: "text"; value: root.promptText }
     Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
 
@@ -48,16 +49,19 @@ Item {
         id: hover
     }
 
-    Rectangle {
+    Card {
         anchors.fill: parent
-        radius: 16
         color: Qt.rgba(0, 0, 0, root.settings.backgroundOpacity)
     }
 
     PromptText {
         anchors.fill: parent
+        engine: root.engine
         lines: root.lines
         color: root.settings.textColor
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.promptText
     }
 
     Countdown {

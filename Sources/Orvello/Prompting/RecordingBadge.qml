@@ -4,6 +4,9 @@ import QtQuick
 Rectangle {
     property alias message: label.text
 
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: message
+
     implicitWidth: label.implicitWidth + 12
     implicitHeight: 16
     radius: 4
@@ -11,6 +14,7 @@ Rectangle {
 
     Text {
         id: label
+        Accessible.ignored: true
         anchors.centerIn: parent
         textFormat: Text.PlainText
         renderType: Text.NativeRendering

@@ -117,15 +117,28 @@ void ScrollEngine::startTimerIfNeeded()
 
 bool ScrollEngine::isHeld() const { return m_hoverPaused || (m_voiceFollowActive && !m_voiceGate); }
 
+double ScrollEngine::speed() const { return m_settings.speed(); }
+
+bool ScrollEngine::isMoving() const
+{
+    return m_isRunning && !isHeld() && m_contentHeight > 0 && canScroll();
+}
+
+double ScrollEngine::offsetAt(double moment) const
+{
+    return isMoving() ? std::min(endOffset(), m_offset + (moment - m_lastTick) * speed())
+                      : m_offset;
+}
+
 void ScrollEngine::tick()
 {
     // Time passes on every frame, moving or not, so that going on after a hold never jumps.
     const double now = m_time.now();
     const double elapsed = now - std::exchange(m_lastTick, now);
-    if (!m_isRunning || isHeld() || m_contentHeight <= 0 || !canScroll())
+    if (!isMoving())
         return;
 
-    const double offset = std::min(endOffset(), m_offset + elapsed * m_settings.speed());
+    const double offset = std::min(endOffset(), m_offset + elapsed * speed());
     publish(offset, offset < endOffset(), m_countdown);
 }
 

@@ -58,6 +58,17 @@ public:
     double viewportHeight() const { return m_viewportHeight; }
     Q_INVOKABLE void setViewportHeight(double points); ///< Of the visible text area.
 
+    double speed() const; ///< Of the settings, in points per second.
+
+    double now() const { return m_time.now(); } ///< Of the clock that it scrolls by.
+
+    /// Whether the next tick moves the text on.
+    bool isMoving() const;
+
+    /// Where the offset would stand at a moment of the clock after the last tick, if it moved on
+    /// without a break: the line on which the ticks lie.
+    double offsetAt(double moment) const;
+
     /// Where scrolling ends: the last line then stands 30 % of the viewport below its top.
     double endOffset() const;
 

@@ -7,6 +7,9 @@ Rectangle {
 
     required property ShareWarning warning
 
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: message.text
+
     radius: 9
     implicitHeight: Math.max(18, message.implicitHeight + 6)
     color: Qt.rgba(0, 0, 0, 0.8)
@@ -24,6 +27,7 @@ Rectangle {
 
     SmallLabel {
         id: message
+        Accessible.ignored: true
         anchors.left: eye.right
         anchors.leftMargin: 6
         anchors.right: dismissal.left

@@ -11,6 +11,10 @@ Capsule {
     required property SlideStatus status
     required property double maximumWidth
 
+    Accessible.role: Accessible.Grouping
+    Accessible.name: "Slide " + status.position
+    Accessible.description: status.title ? status.title + ", " + status.stateLabel : status.stateLabel
+
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
 

@@ -8,6 +8,10 @@ Capsule {
     required property PrompterStatus status
     required property LevelMeter meter
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: status.label
+    Accessible.description: "Status"
+
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: 8

@@ -17,6 +17,7 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: description
+    Accessible.focusable: false
     Accessible.onPressAction: root.press()
 
     function press() {

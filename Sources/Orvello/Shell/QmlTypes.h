@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Orvello/Library/LibraryViewModel.h"
+#include "Orvello/Prompting/Card.h"
 #include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
+#include "Orvello/Prompting/PromptText.h"
 #include "Orvello/Prompting/PrompterStatus.h"
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Prompting/ShareWarning.h"
@@ -17,6 +19,12 @@
 
 /// What the views know the services as. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
+
+struct CardType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Card)
+    QML_NAMED_ELEMENT(Card)
+};
 
 struct ScrollEngineType {
     Q_GADGET
@@ -37,6 +45,12 @@ struct PromptLinesType {
     QML_FOREIGN(Orvello::PromptLines)
     QML_NAMED_ELEMENT(PromptLines)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct PromptTextType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::PromptText)
+    QML_NAMED_ELEMENT(PromptText)
 };
 
 struct PrompterStatusType {

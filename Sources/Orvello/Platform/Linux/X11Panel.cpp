@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace Orvello {
 
@@ -111,6 +112,7 @@ void X11Panel::setFrame(const QRectF& frame)
 {
     m_settledFrame = frame;
     m_window.setGeometry(turnedOver(frame, mainScreenHeight()).toRect());
+    announceSize();
 }
 
 void X11Panel::setFrameAutosaveName(const QString& name)
@@ -161,7 +163,7 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         return false;
     case QEvent::Resize:
         saveFrame();
-        Q_EMIT didResize();
+        announceSize();
         return false;
     default:
         return false;
@@ -207,6 +209,13 @@ bool X11Panel::released(const QMouseEvent& event)
     if (wasResize)
         Q_EMIT didEndLiveResize();
     return true;
+}
+
+/// A window that is shown, or only moved, is told of its size again.
+void X11Panel::announceSize()
+{
+    if (std::exchange(m_announcedSize, m_window.size()) != m_window.size())
+        Q_EMIT didResize();
 }
 
 void X11Panel::saveFrame()

@@ -4,6 +4,7 @@
 #include "Orvello/Prompting/NativePanel.h"
 
 #include <QRect>
+#include <QSize>
 
 #include <memory>
 
@@ -55,6 +56,7 @@ private:
     bool pressed(QMouseEvent& event);
     bool moved(const QMouseEvent& event);
     bool released(const QMouseEvent& event);
+    void announceSize();
     void saveFrame();
 
     QWindow& m_window;
@@ -62,6 +64,7 @@ private:
     std::unique_ptr<X11StackingGuard> m_stackingGuard;
     QString m_autosaveKey; ///< Empty while the frame is not saved.
     QRectF m_settledFrame; ///< As it was set or saved last: what need not be saved.
+    QSize m_announcedSize;
     SharingType m_sharingType = SharingType::ReadOnly;
     Gesture m_gesture;
 };

@@ -1,0 +1,88 @@
+"""A screen reader finds the prompter's text, its state and its buttons, and can press them."""
+
+import json
+import unittest
+
+from desktop import App, Desktop, wait_until
+
+SLIDES = [{"index": 1, "title": "Welcome", "notes": "Good morning."},
+          {"index": 2, "notes": "The second slide."}]
+
+# Runs on the private desktop: prints the accessible objects of the program as JSON, or presses the one of that name.
+READER = r"""
+import json, sys
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi
+Atspi.init()
+found = []
+def walk(node):
+    states = node.get_state_set()
+    found.append({"role": node.get_role_name(), "name": node.get_name(), "description": node.get_description(),
+                  "showing": states.contains(Atspi.StateType.SHOWING)})
+    if len(sys.argv) > 1 and node.get_name() == sys.argv[1]:
+        node.get_action_iface().do_action(0)
+    for i in range(node.get_child_count()):
+        child = node.get_child_at_index(i)
+        if child:
+            walk(child)
+desktop = Atspi.get_desktop(0)
+for i in range(desktop.get_child_count()):
+    walk(desktop.get_child_at_index(i))
+print(json.dumps(found))
+"""
+
+
+class AccessibilityTest(unittest.TestCase):
+    def setUp(self):
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        self.desktop.start_session_bus()
+        self.desktop.run("gdbus", "call", "--session", "--dest", "org.a11y.Bus", "--object-path", "/org/a11y/bus",
+                         "--method", "org.freedesktop.DBus.Properties.Set", "org.a11y.Status", "IsEnabled", "<true>")
+        App.set_defaults(self.desktop, onboardingSeenVersion=1)
+
+    def read(self, *press):
+        printed = self.desktop.run("/usr/bin/python3", "-c", READER, *press)
+        return [node for node in json.loads(printed) if node["showing"]]
+
+    def names(self, role):
+        return [node["name"] for node in self.read() if node["role"] == role]
+
+    def write_deck(self):
+        folder = App.folder(self.desktop)
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "scripts.json").write_text(json.dumps([{
+            "id": "6F9619FF-8B86-D011-B42D-00CF4FC964FF", "title": "Deck", "body": "Good morning.",
+            "createdAt": 8e8, "updatedAt": 8e8, "slides": SLIDES, "deckSource": "Deck.pptx"}]))
+
+    def test_the_text_the_state_and_the_buttons_are_there(self):
+        self.write_deck()
+        app = App(self.desktop)
+        app.shown()
+        wait_until(lambda: "Good morning." in self.names("label"), what="the text")
+
+        nodes = self.read()
+
+        pane = next(node for node in nodes if node["name"] == "Prompter")
+        self.assertEqual(pane["description"], "paused")
+        self.assertIn({"role": "label", "name": "paused", "description": "Status", "showing": True}, nodes)
+        self.assertIn("Slide 1 / 2", [node["name"] for node in nodes])
+        buttons = [node["name"] for node in nodes if "button" in node["role"]]
+        self.assertEqual(buttons, ["Previous slide", "Next slide"])
+        self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
+
+    def test_the_buttons_can_be_pressed(self):
+        self.write_deck()
+        app = App(self.desktop)
+        app.shown()
+        wait_until(lambda: "Good morning." in self.names("label"), what="the text")
+
+        self.read("Next slide")
+
+        wait_until(lambda: "The second slide." in self.names("label"), what="the next slide")
+        self.assertIn("Slide 2 / 2", [node["name"] for node in self.read()])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

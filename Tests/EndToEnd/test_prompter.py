@@ -1,0 +1,182 @@
+"""The panel and its card under a real pointer, and what the two logs say about Stealth Mode."""
+
+import json
+import re
+import signal
+import time
+import unittest
+
+from desktop import App, Desktop, upward_shift, wait_until
+
+GREEN = (48, 209, 88)
+ORANGE = (255, 159, 10)
+
+
+class PrompterTest(unittest.TestCase):
+    def setUp(self):
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, countdownSeconds=0)
+
+    def write_library(self, **more):
+        # Lines of different length, so that every position of the text looks different.
+        words = "one thousand and twenty seven things to say about it".split()
+        body = "\n".join(" ".join(words[:1 + (7 * i) % len(words)]) for i in range(200))
+        folder = App.folder(self.desktop)
+        folder.mkdir(parents=True, exist_ok=True)
+        script = {"id": "6F9619FF-8B86-D011-B42D-00CF4FC964FF", "title": "Talk", "body": body,
+                  "createdAt": 8e8, "updatedAt": 8e8} | more
+        (folder / "scripts.json").write_text(json.dumps([script]))
+
+    def mouse(self, *words):
+        self.desktop.run("xdotool", *map(str, words))
+
+    def dot(self, app):
+        """The colour of the status badge's dot."""
+        x, y, _, height = app.geometry()
+        return self.desktop.screenshot().pixel(x + 6 + 8 + 4, y + height - 6 - 9)
+
+    def text_rows(self, app):
+        x, y, width, height = app.geometry()
+        return self.desktop.screenshot().rows(x + 60, y + 24, width - 260, height - 70)  # Inside the fades.
+
+    def stealth_log(self):
+        """The stealth log's lines without their time stamps, which are checked here."""
+        lines = (App.folder(self.desktop) / "stealth.log").read_text().splitlines()
+        for line in lines:
+            self.assertRegex(line, r"^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z ")
+        return [line.split(" ", 1)[1] for line in lines]
+
+    # Pointer
+
+    def test_hovering_holds_the_text_and_leaving_lets_it_go_on_without_a_jump(self):
+        self.write_library()
+        self.mouse("mousemove", 10, 880)
+        app = App(self.desktop, "--autostart")
+        x, y, _, _ = app.shown()
+        wait_until(lambda: self.dot(app) == GREEN, what="the text to scroll")
+
+        self.mouse("mousemove", x + 400, y + 100)
+        wait_until(lambda: self.dot(app) == ORANGE, what="the hover pause")
+        held = self.text_rows(app)
+        time.sleep(1.0)
+        self.assertEqual(self.text_rows(app), held, "the text stands still")
+
+        left = time.monotonic()
+        self.mouse("mousemove", 10, 880)
+        after = self.text_rows(app)
+        passed = time.monotonic() - left
+        shift = upward_shift(held, after, largest=60)
+        self.assertLessEqual(shift, 25 * passed + 2, "the text goes on from where it was held")
+        wait_until(lambda: self.dot(app) == GREEN, what="the text to scroll on")
+
+    def test_the_wheel_moves_the_text_by_three_times_its_delta(self):
+        self.write_library()
+        app = App(self.desktop)
+        x, y, _, _ = app.shown()
+        self.mouse("mousemove", x + 400, y + 100)
+        time.sleep(0.5)
+        before = self.text_rows(app)
+
+        self.mouse("click", 5)  # One notch down: a delta of ten points.
+        time.sleep(0.5)
+        down = self.text_rows(app)
+        self.assertEqual(upward_shift(before, down, largest=90), 30)
+
+        self.mouse("click", 4)
+        time.sleep(0.5)
+        self.assertEqual(self.text_rows(app), before)
+
+    def test_a_panel_hidden_under_the_pointer_is_not_held_for_good(self):
+        self.write_library()
+        app = App(self.desktop, "--autostart")
+        x, y, _, _ = app.shown()
+        self.mouse("mousemove", x + 400, y + 100)
+        wait_until(lambda: self.dot(app) == ORANGE, what="the hover pause")
+
+        app.signal(signal.SIGUSR2)
+        wait_until(lambda: not app.is_window_visible(), what="the panel to go")
+        self.mouse("mousemove", 10, 880)
+        app.signal(signal.SIGUSR2)
+        app.shown()
+
+        wait_until(lambda: self.dot(app) == GREEN, what="the text to scroll on")
+
+    def test_the_chips_buttons_turn_the_slides_and_drag_nothing(self):
+        self.write_library(deckSource="Deck.pptx", slides=[
+            {"index": 1, "title": "Welcome", "notes": "A short note."},
+            {"index": 2, "notes": "Another note, which is longer than the first one."}])
+        app = App(self.desktop)
+        x, y, width, height = app.shown()
+        self.mouse("mousemove", 10, 880)
+        time.sleep(0.5)
+        first = self.text_rows(app)
+
+        following = (x + width - 6 - 8 - 9, y + height - 6 - 9)
+        self.mouse("mousemove", *following, "click", 1, "mousemove", 10, 880)
+        wait_until(lambda: self.text_rows(app) != first, what="the second slide")
+        second = self.text_rows(app)
+
+        # At the last slide the button is inert; pulling at it moves nothing, either.
+        self.mouse("mousemove", *following, "mousedown", 1, "mousemove", x, y + 300, "mousemove", x, y + 400,
+                   "mouseup", 1, "mousemove", 10, 880)
+        time.sleep(0.5)
+        self.assertEqual(self.text_rows(app), second)
+        self.assertEqual(app.geometry(), (x, y, width, height))
+
+    # Stealth Mode
+
+    def test_each_mechanism_is_logged_as_it_was_asked_for(self):
+        for value, mode, sharing in ((None, "both", 0), ("shape", "shape", 1), ("flag", "flag", 0),
+                                     ("Both", "Both", 0)):
+            with self.subTest(value), Desktop() as desktop:
+                self.desktop = desktop
+                App.set_defaults(desktop, onboardingSeenVersion=1)
+                app = App(desktop, environment={"ORVELLO_STEALTH": value} if value else None)
+                wid = app.window()
+                app.shown()
+                app.quit()
+
+                messages = [line for line in App.log_messages(desktop) if re.match("STEALTH|PANEL_UP", line)]
+                first = f"STEALTH ON wid={wid} fresh=1 mode={mode} sckExcludeApplied=0"
+                again = f"STEALTH ON wid={wid} fresh=0 mode={mode} sckExcludeApplied=0"
+                # Built, shown, and told of the setting.
+                self.assertEqual(messages, [
+                    first, f"PANEL_UP frame={{{{360, 694}}, {{720, 200}}}} sharing={sharing} sckExclude=0", again,
+                    again])
+                self.assertEqual(self.stealth_log(), [
+                    f"APPLY ON wid={wid} fresh=true mode={mode} shape=0",
+                    f"APPLY ON wid={wid} fresh=false mode={mode} shape=0",
+                    f"APPLY ON wid={wid} fresh=false mode={mode} shape=0"])
+
+    def test_without_stealth_mode_every_application_is_off(self):
+        app = App(self.desktop, "--no-stealth")
+        app.shown()
+        app.quit()
+
+        lines = self.stealth_log()
+        self.assertTrue(lines)
+        for line in lines:
+            self.assertRegex(line, r"^APPLY OFF wid=\d+ fresh=(true|false) mode=both shape=0$")
+
+    def test_the_first_user_signal_toggles_stealth_mode_and_a_second_one_toggles_it_back(self):
+        app = App(self.desktop)
+        app.shown()
+        applied = len(self.stealth_log())
+
+        app.signal(signal.SIGUSR1)
+        app.wait_for_log("DEBUG stealth toggled -> 0")
+        wait_until(lambda: len(self.stealth_log()) == applied + 1, what="the setting to be applied")
+        self.assertRegex(self.stealth_log()[-1], "^APPLY OFF ")
+        app.signal(signal.SIGUSR1)
+        app.wait_for_log("DEBUG stealth toggled -> 1")
+        wait_until(lambda: len(self.stealth_log()) == applied + 2, what="the setting to be applied again")
+        self.assertRegex(self.stealth_log()[-1], "^APPLY ON ")
+
+        toggles = [line for line in App.log_messages(self.desktop) if line.startswith("DEBUG stealth toggled")]
+        self.assertEqual(toggles, ["DEBUG stealth toggled -> 0", "DEBUG stealth toggled -> 1"])
+        self.assertEqual(App.defaults(self.desktop)["stealthMode"], True)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
