@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/Workspace.h"
+#include "Tests/Support/Journal.h"
 
 #include <QStringList>
 
@@ -10,7 +11,11 @@ namespace Orvello::Testing {
 class FakeWorkspace final : public Workspace {
 public:
     QList<RunningApplication> runningApplications() const override { return running; }
-    std::optional<RunningApplication> frontmostApplication() const override { return frontmost; }
+    std::optional<RunningApplication> frontmostApplication() const override
+    {
+        note(journal, "frontmost application asked for");
+        return frontmost;
+    }
     bool isInstalled(const QString& bundleIdentifier) const override
     {
         return installed.contains(bundleIdentifier);
@@ -22,6 +27,7 @@ public:
         return { bundleIdentifier, std::nullopt };
     }
 
+    Journal* journal = nullptr;
     QList<RunningApplication> running;
     std::optional<RunningApplication> frontmost;
     QStringList installed; ///< Bundle identifiers.

@@ -250,10 +250,10 @@ void AppDelegate::followSlideTracking()
 
 void AppDelegate::importDeckFromEnvironment()
 {
-    const QString path = qEnvironmentVariable("ORVELLO_IMPORT_PPTX");
-    if (path.isEmpty())
+    constexpr const char* variable = "ORVELLO_IMPORT_PPTX";
+    if (!qEnvironmentVariableIsSet(variable))
         return;
-    const auto imported = m_library.importPptx(path);
+    const auto imported = m_library.importPptx(qEnvironmentVariable(variable));
     if (!imported)
         AppLog::write(
             "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));

@@ -1,6 +1,7 @@
 #include "Orvello/Platform/AppcastUpdater.h"
 #include "Orvello/Platform/Linux/BusInstance.h"
 #include "Orvello/Platform/Linux/FramelessChrome.h"
+#include "Orvello/Platform/Linux/FileDialog.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
 #include "Orvello/Platform/Linux/LinuxDesktopServices.h"
@@ -8,7 +9,6 @@
 #include "Orvello/Platform/Linux/LinuxWorkspace.h"
 #include "Orvello/Platform/Linux/PortalHotKeys.h"
 #include "Orvello/Platform/Linux/PulseSound.h"
-#include "Orvello/Platform/Linux/QtOpenPanel.h"
 #include "Orvello/Platform/Linux/Syslog.h"
 #include "Orvello/Platform/Linux/UpdateDialogs.h"
 #include "Orvello/Platform/Linux/X11HotKeys.h"
@@ -74,7 +74,6 @@ struct Session {
     LinuxStatusBar statusBar { bus };
     X11HotKeys x11Keys;
     std::optional<PortalHotKeys> portalKeys;
-    QtOpenPanel openPanel;
 };
 
 /// The updater and the windows in which it asks.
@@ -128,7 +127,7 @@ public:
     WindowServer& windowServer() override { return desktop().windowServer; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
     DesktopServices& desktopServices() override { return session().services; }
-    OpenPanel& openPanel() override { return session().openPanel; }
+    OpenPanel& openPanel() override { return m_openPanel; }
     StatusBar& statusBar() override { return session().statusBar; }
     HotKeys& hotKeys() override { return session().hotKeys(); }
     Updater& updater() override
@@ -173,6 +172,7 @@ private:
     FramelessChrome m_windowChrome;
     std::optional<Desktop> m_desktop;
     BusInstance m_runningInstance;
+    FileDialog m_openPanel;
     std::optional<Session> m_session;
     std::optional<Updates> m_updates;
     std::optional<PulseSound> m_sound;

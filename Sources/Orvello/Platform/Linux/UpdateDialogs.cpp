@@ -1,5 +1,6 @@
 #include "Orvello/Platform/Linux/UpdateDialogs.h"
 
+#include <QGuiApplication>
 #include <QPushButton>
 
 #include <utility>
@@ -13,6 +14,8 @@ namespace {
 QMessageBox* makeDialog(const QString& text, const QString& details)
 {
     auto* const dialog = new QMessageBox(QMessageBox::NoIcon, u"Orvello"_s, text);
+    constexpr int iconSide = 64;
+    dialog->setIconPixmap(QGuiApplication::windowIcon().pixmap(iconSide));
     dialog->setInformativeText(details);
     dialog->setTextFormat(Qt::PlainText); // The feed has a part in it.
     dialog->setAttribute(Qt::WA_DeleteOnClose);

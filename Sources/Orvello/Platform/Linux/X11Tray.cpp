@@ -5,7 +5,6 @@
 #include <QSocketNotifier>
 
 #include <string>
-#include <utility>
 #include <xcb/xcb.h>
 
 namespace Orvello {
@@ -41,6 +40,7 @@ X11Tray::X11Tray()
         xcb_get_file_descriptor(m_connection), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &X11Tray::readEvents);
     findOwner();
+    QMetaObject::invokeMethod(this, &X11Tray::readEvents, Qt::QueuedConnection);
 }
 
 X11Tray::~X11Tray()
@@ -51,28 +51,34 @@ X11Tray::~X11Tray()
 
 void X11Tray::readEvents()
 {
-    bool isTold = false;
+    // One by one: waiting for an answer may bring further events in, without a word of the socket.
     while (const auto event = Xcb::owned(xcb_poll_for_event(m_connection))) {
         const int type = event->response_type & 0x7F; // Without the mark of a sent event.
-        isTold = isTold || type == XCB_CLIENT_MESSAGE || type == XCB_DESTROY_NOTIFY;
+        if (type == XCB_CLIENT_MESSAGE || type == XCB_DESTROY_NOTIFY)
+            findOwner();
     }
     if (xcb_connection_has_error(m_connection))
         m_notifier->setEnabled(false);
-    else if (isTold)
-        findOwner();
+}
+
+xcb_window_t X11Tray::owner() const
+{
+    const auto reply = Xcb::owned(xcb_get_selection_owner_reply(
+        m_connection, xcb_get_selection_owner(m_connection, m_selection), nullptr));
+    return reply ? reply->owner : xcb_window_t { XCB_WINDOW_NONE };
 }
 
 void X11Tray::findOwner()
 {
-    const auto reply = Xcb::owned(xcb_get_selection_owner_reply(
-        m_connection, xcb_get_selection_owner(m_connection, m_selection), nullptr));
-    const xcb_window_t owner = reply ? reply->owner : xcb_window_t { XCB_WINDOW_NONE };
-    if (std::exchange(m_owner, owner) == owner)
-        return;
-    if (owner != XCB_WINDOW_NONE)
-        hearStructureOf(m_connection, owner);
-    xcb_flush(m_connection);
-    Q_EMIT changed();
+    const xcb_window_t before = m_owner;
+    // A tray that ends before its end is listened for would stay for good.
+    for (xcb_window_t now = owner(); now != m_owner; now = owner()) {
+        m_owner = now;
+        if (m_owner != XCB_WINDOW_NONE)
+            hearStructureOf(m_connection, m_owner);
+    }
+    if (m_owner != before)
+        Q_EMIT changed();
 }
 
 } // namespace Orvello

@@ -26,6 +26,7 @@ Q_SIGNALS:
 
 private:
     void readEvents();
+    std::uint32_t owner() const;
     void findOwner();
 
     xcb_connection_t* m_connection;

@@ -4,7 +4,8 @@
 
 namespace Orvello {
 
-class QtOpenPanel final : public OpenPanel {
+/// The desktop's own file dialog, where its platform theme or portal has one, else Qt's.
+class FileDialog final : public OpenPanel {
 public:
     std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override;
 };

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Orvello/Platform/OpenPanel.h"
+
+namespace Orvello::Testing {
+
+/// A panel in which the user has chosen already.
+class FakeOpenPanel final : public OpenPanel {
+public:
+    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override
+    {
+        shownMessage = message;
+        shownKind = kind;
+        ++timesShown;
+        return choice;
+    }
+
+    std::optional<QString> choice; ///< Nothing: the user cancels.
+
+    QString shownMessage;
+    FileKind shownKind;
+    int timesShown = 0;
+};
+
+} // namespace Orvello::Testing
