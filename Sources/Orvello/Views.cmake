@@ -53,7 +53,6 @@ set(views
     Settings/SettingsView.qml
     Settings/ShortcutSettings.qml
     Settings/SlidesSettings.qml
-    Settings/SystemPane.qml
     Settings/UpdateSettings.qml
     Settings/VoiceSettings.qml)
 

@@ -37,7 +37,7 @@ Gallery::Scenes scenesNamed(const QString& words)
 int render(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
-    installTranslation(application); // The words of the edition that this is.
+    installTranslation(application);
     const QStringList arguments = QGuiApplication::arguments();
     const Gallery::Scenes scenes = scenesNamed(arguments.value(4));
     return Gallery::renderScenes(scenes, arguments.value(2).toDouble(), QDir(arguments.value(3)))

@@ -18,6 +18,7 @@
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeVoiceProcessing.h"
+#include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWindowServer.h"
 #include "Tests/Support/FakeWorkspace.h"
 #include "Tests/Support/Journal.h"
@@ -73,6 +74,7 @@ public:
     Screens& screens() override { return screensFake; }
     Workspace& workspace() override { return workspaceFake; }
     WindowServer& windowServer() override { return windowServerFake; }
+    WindowChrome& windowChrome() override { return windowChromeFake; }
     DesktopServices& desktopServices() override { return desktop; }
     OpenPanel& openPanel() override { return openPanelFake; }
     StatusBar& statusBar() override { return statusBarFake; }
@@ -108,6 +110,7 @@ public:
     FakeScreens screensFake;
     FakeWorkspace workspaceFake;
     FakeWindowServer windowServerFake;
+    FakeWindowChrome windowChromeFake;
     FakeDesktopServices desktop;
     FakeOpenPanel openPanelFake;
     FakeStatusBar statusBarFake;

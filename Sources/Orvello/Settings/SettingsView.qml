@@ -6,7 +6,7 @@ import QtQuick.Window
 import Orvello
 
 // The preferences as a form, each control bound to what it shows. It scrolls where it does not fit.
-SystemPane {
+Pane {
     id: root
 
     required property SettingsStore settings
@@ -18,6 +18,7 @@ SystemPane {
 
     readonly property Item focusedItem: Window.activeFocusItem
 
+    padding: 0
     onFocusedItemChanged: reveal(focusedItem)
 
     // Scrolls to what the Tab key reached.

@@ -1,6 +1,7 @@
 #include "Orvello/Shell/SettingsWindow.h"
 
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/SystemPalette.h"
 #include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Shell/WindowPlacement.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
@@ -23,6 +24,7 @@ SettingsWindow::SettingsWindow(const Services& services)
         | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(contentSize);
+    followSystemPalette(m_view);
     m_view.setInitialProperties({
         { u"settings"_s, QVariant::fromValue(&services.settings) },
         { u"form"_s, QVariant::fromValue(&m_form) },

@@ -1,0 +1,293 @@
+"""The settings window of the real program, worked with mouse and keys: what is changed in it is stored and in effect at once."""
+
+import http.server
+import threading
+import time
+import unittest
+
+from bus import SessionBus, TrayHost
+from desktop import App, Desktop, wait_until
+
+WIDTH, HEIGHT = 500, 780
+
+# The controls in the order in which the Tab key reaches them.
+CONTROLS = ["fontSize", "speed", "textColorName", "backgroundOpacity", "voiceFollow", "voiceSensitivity",
+            "countdownSeconds", "slideshowPauseKey", "slideSync", "stealthMode", "automatic checks", "Check Now"]
+# The sliders of the first section: rows of 42 points below its header.
+SLIDER_ROWS = {"fontSize": 59, "speed": 101, "backgroundOpacity": 185}
+SLIDER_LEFT, SLIDER_RIGHT = 236, 462
+
+
+class SettingsWindowTest(unittest.TestCase):
+    height = 900
+
+    def setUp(self):
+        self.desktop = Desktop(height=self.height)
+        self.addCleanup(self.desktop.close)
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, SUEnableAutomaticChecks=False)
+        bus = SessionBus(self.desktop)
+        self.host = TrayHost(bus)
+
+    def start(self, *arguments):
+        self.app = App(self.desktop, *arguments)
+        self.item = self.host.item()
+        self.panel = self.frame(wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")[0])
+
+    def open(self):
+        """Opens the settings by the menu, beside the prompter, with the keyboard."""
+        self.item.choose("Settings…")
+        self.window = wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings")[0]
+        wait_until(lambda: self.desktop.focused_window() == self.window, what="the keyboard")
+        x, y, width, height = self.frame(self.window)
+        wait_until(lambda: min(self.desktop.screenshot().pixel(x + 30, y + height - 5)) > 200, what="the first frame")
+        self.focus = -1
+        return x, y, width, height
+
+    def frame(self, window):
+        text = self.desktop.run("xdotool", "getwindowgeometry", "--shell", str(window))
+        values = dict(line.split("=") for line in text.split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def mouse(self, *words):
+        self.desktop.run("xdotool", *map(str, words))
+
+    def key(self, *names):
+        self.desktop.run("xdotool", "key", "--delay", "30", *names)
+
+    def go_to(self, control):
+        """Gives the control the keyboard."""
+        target = CONTROLS.index(control)
+        self.key(*["Tab"] * (target - self.focus))
+        self.focus = target
+        time.sleep(0.2)
+
+    def drag_slider(self, name, to_x):
+        x, y, _, _ = self.frame(self.window)
+        row = y + SLIDER_ROWS[name]
+        self.mouse("mousemove", x + (SLIDER_LEFT + SLIDER_RIGHT) // 2, row, "mousedown", 1)
+        for step in range(1, 9):
+            self.mouse("mousemove", x + 349 + (to_x - 349) * step // 8, row)
+        self.mouse("mouseup", 1)
+
+    def wait_for(self, key, value):
+        wait_until(lambda: App.defaults(self.desktop).get(key) == value,
+                   what=f"{key} = {value} in {App.defaults(self.desktop)}")
+
+    def card(self):
+        """The pixels of the prompter that can hold its text."""
+        x, y, width, height = self.panel
+        picture = self.desktop.screenshot()
+        return [picture.pixel(px, py) for py in range(y + 30, y + height - 40) for px in range(x + 60, x + width - 60, 2)]
+
+    # What the window is
+
+    def test_it_is_centred_of_its_size_and_stays_so(self):
+        self.start()
+        x, y, width, height = self.open()
+
+        self.assertEqual((width, height), (WIDTH, HEIGHT))
+        self.assertLess(abs(x + WIDTH // 2 - self.desktop.width // 2), 4)
+        hints = self.desktop.run("xprop", "-id", str(self.window), "WM_NORMAL_HINTS")
+        self.assertIn(f"minimum size: {WIDTH} by {HEIGHT}", hints)
+        self.assertIn(f"maximum size: {WIDTH} by {HEIGHT}", hints)
+
+    def test_closing_hides_it_and_the_menu_brings_it_back(self):
+        self.start()
+        self.open()
+        self.key("alt+F4")
+        wait_until(lambda: not self.desktop.windows_titled("Orvello Settings"), what="it to go")
+        self.assertIsNone(self.app.process.poll())
+
+        self.open()
+        self.key("ctrl+w")
+        wait_until(lambda: not self.desktop.windows_titled("Orvello Settings"), what="it to go again")
+
+    # What is changed in it
+
+    def test_the_sliders_reach_their_bounds_by_mouse(self):
+        self.start()
+        self.open()
+        small = self.card()
+
+        self.drag_slider("fontSize", 490)
+        self.wait_for("fontSize", 64)
+        wait_until(lambda: self.card() != small, what="a larger text")
+        self.drag_slider("fontSize", 210)
+        self.wait_for("fontSize", 16)
+        self.drag_slider("speed", 490)
+        self.wait_for("speed", 240)
+        self.drag_slider("speed", 210)
+        self.wait_for("speed", 15)
+
+    def test_the_opacity_is_in_effect_at_once(self):
+        self.start()
+        self.open()
+        x, y, _, height = self.panel
+        behind = lambda: max(self.desktop.screenshot().pixel(x + 14, y + height // 2))
+
+        self.drag_slider("backgroundOpacity", 490)
+        self.wait_for("backgroundOpacity", 1)
+        wait_until(lambda: behind() < 6, what="an opaque card")
+        self.drag_slider("backgroundOpacity", 210)
+        self.wait_for("backgroundOpacity", 0.15)
+        wait_until(lambda: behind() > 60, what="a clear card")
+
+    def test_the_speed_is_in_effect_at_once(self):
+        App.set_defaults(self.desktop, countdownSeconds=0, speed=15)
+        self.start("--autostart")
+        self.open()
+        self.mouse("mousemove", 5, 880)
+
+        self.go_to("speed")
+        self.key("End")
+        self.wait_for("speed", 240)
+
+        # At 15 points a second the sample text would take half a minute to leave.
+        wait_until(lambda: max(map(max, self.card())) < 120, seconds=12, what="the text to have scrolled by")
+
+    def test_the_colour_is_picked_with_the_mouse(self):
+        self.start()
+        x, y, _, _ = self.open()
+
+        self.mouse("mousemove", x + 385, y + 143, "click", 1)
+        time.sleep(0.5)
+        self.key("Home", "Return")
+
+        self.wait_for("textColorName", "Cyan")
+        wait_until(lambda: any(b - r > 100 for r, g, b in self.card()), what="a cyan text")
+
+    def test_stealth_mode_is_in_effect_at_once(self):
+        self.start()
+        x, y, width, _ = self.panel
+        badge = lambda: any(
+            r > 200 and g < 110 for r, g, b in (self.desktop.screenshot().pixel(px, y + 14)
+                                                for px in range(x + width // 2, x + width)))
+        self.open()
+        self.assertTrue(badge(), "the card says that recordings show it")
+
+        self.go_to("stealthMode")
+        self.key("space")
+        self.wait_for("stealthMode", False)
+        wait_until(lambda: not badge(), what="the badge to go")
+        self.key("space")
+        self.wait_for("stealthMode", True)
+        wait_until(badge, what="the badge to come back")
+
+    def test_the_other_toggles_and_the_sensitivity_are_stored(self):
+        self.start()
+        self.open()
+
+        for control, after in (("voiceFollow", True), ("slideshowPauseKey", False), ("slideSync", False)):
+            self.go_to(control)
+            self.key("space")
+            self.wait_for(control, after)
+        wait_until(lambda: any("VAD" in line for line in App.log_messages(self.desktop)), what="the microphone")
+
+        self.key("shift+Tab", "shift+Tab", "shift+Tab")
+        self.key("End")
+        self.wait_for("voiceSensitivity", 1)
+
+    def test_the_countdown_is_picked_and_counts(self):
+        App.set_defaults(self.desktop, countdownSeconds=4)
+        self.start()
+        self.open()
+        self.go_to("countdownSeconds")
+        self.assertEqual(App.defaults(self.desktop)["countdownSeconds"], 4, "opening changes nothing")
+
+        self.key("Down")
+        self.wait_for("countdownSeconds", 0)
+        self.key("Down", "Down", "Down")
+        self.wait_for("countdownSeconds", 10)
+
+        standing = self.card()
+        self.item.choose("Start Scrolling  (⌥⌘P)")
+        wait_until(lambda: self.card() != standing, what="the countdown")
+
+    def test_a_change_survives_a_kill(self):
+        self.start()
+        self.open()
+        self.drag_slider("fontSize", 490)
+        self.wait_for("fontSize", 64)
+        self.app.kill()
+
+        self.assertEqual(App.defaults(self.desktop)["fontSize"], 64)
+
+
+class CheckNowTest(SettingsWindowTest):
+    """Against an update feed that takes its time."""
+
+    def setUp(self):
+        super().setUp()
+        self.answers = threading.Event()
+        self.requests = 0
+        test = self
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                test.requests += 1
+                test.answers.wait(60)
+                self.send_response(404)
+                self.end_headers()
+
+            def log_message(self, *words):
+                pass
+
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        self.addCleanup(server.server_close)
+        self.addCleanup(server.shutdown)
+        self.addCleanup(self.answers.set)
+        self.feed = f"http://127.0.0.1:{server.server_port}/feed"
+
+    def darkest_of_button(self):
+        """The colour of the words Check Now, at the bottom right once the window has scrolled to its end."""
+        x, y, width, height = self.frame(self.window)
+        picture = self.desktop.screenshot()
+        return min(max(picture.pixel(px, py)) for px in range(x + width - 100, x + width - 40)
+                   for py in range(y + height - 50, y + height - 30))
+
+    def test_it_is_grey_while_a_check_runs(self):
+        self.start("-OrvelloAppcastURL", self.feed)
+        self.open()
+        self.go_to("Check Now")
+        wait_until(lambda: self.darkest_of_button() < 60, what="a button that can be pressed")
+
+        self.key("space")
+
+        wait_until(lambda: self.requests == 1, what="the check")
+        wait_until(lambda: self.darkest_of_button() > 100, what="a grey button")
+        self.answers.set()
+        self.app.wait_for_log("UPDATES aborted: ")
+        wait_until(lambda: self.darkest_of_button() < 60, what="the button again")
+        self.assertIn("SULastCheckTime", App.defaults(self.desktop))
+
+
+class LowScreenTest(SettingsWindowTest):
+    height = 600
+
+    def test_it_fits_and_scrolls(self):
+        self.start()
+
+        x, y, width, height = self.open()
+
+        self.assertEqual(width, WIDTH)
+        self.assertLessEqual(y + height, 600)
+        self.assertGreaterEqual(y, 0)
+        before = self.desktop.screenshot().rows(x + 20, y + 20, width - 60, height - 40)
+        self.go_to("stealthMode")
+        wait_until(lambda: self.desktop.screenshot().rows(x + 20, y + 20, width - 60, height - 40) != before,
+                   what="it to scroll")
+        self.key("space")
+        self.wait_for("stealthMode", False)
+
+
+def load_tests(loader, tests, pattern):
+    """Each test once, not again in the classes that only lend its tools."""
+    suite = unittest.TestSuite(loader.loadTestsFromTestCase(SettingsWindowTest))
+    suite.addTest(CheckNowTest("test_it_is_grey_while_a_check_runs"))
+    suite.addTest(LowScreenTest("test_it_fits_and_scrolls"))
+    return suite
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
