@@ -10,11 +10,24 @@ Pane {
 
     required property ScriptEditor editor
     property bool isActive: false
+    property bool isLoaded: false
+
+    // Only when the page has its width: laying out a megabyte twice takes twice as long.
+    function load(): void {
+        if (isLoaded || !isActive || body.width <= 0)
+            return;
+        isLoaded = true;
+        body.text = editor.body;
+        editor.follow(body.textDocument);
+    }
 
     function editTitle(): void {
         title.forceActiveFocus(Qt.OtherFocusReason);
         title.selectAll();
     }
+
+    onIsActiveChanged: load()
+    Component.onCompleted: load()
 
     padding: 0
     background: Rectangle {
@@ -79,10 +92,7 @@ Pane {
 
                 Accessible.name: root.editor.isDeck ? qsTr("Speaker notes") : qsTr("Script text")
 
-                Component.onCompleted: {
-                    text = root.editor.body;
-                    root.editor.follow(textDocument);
-                }
+                onWidthChanged: root.load()
             }
         }
 
@@ -92,7 +102,7 @@ Pane {
 
         RowLayout {
             Layout.fillWidth: true
-            Layout.margins: 8
+            Layout.minimumHeight: 34
             Layout.leftMargin: 14
             Layout.rightMargin: 14
             spacing: 16

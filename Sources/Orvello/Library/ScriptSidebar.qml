@@ -99,7 +99,8 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        Layout.margins: 4
+        Layout.minimumHeight: 34
+        Layout.leftMargin: 4
         spacing: 2
 
         SymbolButton {
