@@ -251,6 +251,20 @@ TEST_F(OpenScriptsTest, keepsScriptsOpenWithWhatTheyCanUndo)
     EXPECT_EQ(library.activeScript()->body, u"To be or not"_s);
 }
 
+TEST_F(OpenScriptsTest, neverStoresAnEditInAnotherScript)
+{
+    TextField field(active());
+    activate(2);
+
+    field.replace(0, 2, u"Late"_s);
+    EXPECT_EQ(library.scripts()[0].body, u"To be or not"_s);
+    EXPECT_EQ(library.scripts()[2].body, u"3"_s);
+
+    activate(0);
+    EXPECT_EQ(library.scripts()[0].body, u"Late be or not"_s);
+    EXPECT_EQ(storedBody(), u"Late be or not"_s);
+}
+
 TEST_F(OpenScriptsTest, closesTheScriptThatWasNotSeenForLongest)
 {
     const QUuid one = library.scripts()[0].id;

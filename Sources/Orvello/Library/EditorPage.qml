@@ -51,7 +51,7 @@ Pane {
             font.weight: Font.DemiBold
             placeholderText: qsTr("Title")
             text: root.editor.title
-            readOnly: !root.editor.isEditable
+            readOnly: root.isActive && !root.editor.isEditable
             selectByMouse: true
             autoScroll: activeFocus // A title that is not being edited is seen from its beginning.
             onTextEdited: root.editor.title = text
@@ -71,6 +71,8 @@ Pane {
         }
 
         ScrollView {
+            implicitWidth: 1 // Whatever the text asks for, it gets the rest of the page.
+            implicitHeight: 1
             Layout.fillWidth: true
             Layout.fillHeight: true
 
@@ -85,7 +87,8 @@ Pane {
                 font.pixelSize: 14
                 textFormat: TextEdit.PlainText
                 wrapMode: TextEdit.Wrap
-                readOnly: root.editor.isDeck || !root.editor.isEditable
+                // Out of sight it stays what it was, because a change takes the cursor to the end.
+                readOnly: root.editor.isDeck || root.isActive && !root.editor.isEditable
                 selectByMouse: true
                 selectByKeyboard: true
                 persistentSelection: true
