@@ -1,7 +1,6 @@
 # Orvello.app: what the program's target needs to become an application bundle on macOS. The scripts in tools/macos make
 # a release of it.
 
-set(ORVELLO_FEED_URL "" CACHE STRING "Address of the update feed (SUFeedURL)")
 set(ORVELLO_UPDATE_PUBLIC_KEY "" CACHE STRING "Public key of the updates, as Sparkle's generate_keys prints it (SUPublicEDKey)")
 
 # Sparkle is optional: without it the program says in its log that there is no updater.

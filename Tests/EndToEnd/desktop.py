@@ -32,9 +32,9 @@ def wait_until(condition, seconds=15.0, what="a condition"):
 class Desktop(contextlib.ExitStack):
     """An X display of its own with openbox and picom, and a home folder of its own."""
 
-    def __init__(self, width=1440, height=900):
+    def __init__(self, width=1440, height=900, compositor=True):
         super().__init__()
-        self.width, self.height = width, height
+        self.width, self.height, self.compositor = width, height, compositor
         self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="orvello-desktop-"))
         self.callback(shutil.rmtree, self.scratch, ignore_errors=True)
         self.home = self.scratch / "home"
@@ -75,7 +75,8 @@ class Desktop(contextlib.ExitStack):
         self.start(["openbox"])
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    what="the window manager")
-        self.start(["picom", "--backend", "xrender"])
+        if self.compositor:
+            self.start(["picom", "--backend", "xrender"])
         time.sleep(0.3)
 
     def start(self, command, environment=None, **options):
@@ -104,6 +105,10 @@ class Desktop(contextlib.ExitStack):
             command, env=self.environment, check=True, capture_output=True, text=True, timeout=60,
             **options).stdout
 
+    def run_any(self, *command):
+        """The same for commands that fail when they find nothing."""
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60).stdout
+
     def screenshot(self, path=None):
         """The whole screen as (width, height, RGB bytes); also as a file, if a path is given."""
         if path:
@@ -113,6 +118,11 @@ class Desktop(contextlib.ExitStack):
             check=True, capture_output=True, timeout=60).stdout
         assert len(raw) == self.width * self.height * 3
         return Picture(self.width, self.height, raw)
+
+    def windows_titled(self, title):
+        """The visible windows with exactly this title."""
+        found = self.run_any("xdotool", "search", "--onlyvisible", "--name", f"^{title}$")
+        return [int(line) for line in found.split()]
 
     def focused_window(self):
         return int(self.run("xdotool", "getwindowfocus").strip())

@@ -391,11 +391,23 @@ TEST_F(AppcastUpdaterTest, bringsAnOpenOfferToTheFront)
     start();
     controller->checkForUpdates();
     ASSERT_TRUE(waitForLine("UPDATES found"));
+    EXPECT_EQ(user.broughtToFront, 1) << "the user asked";
 
     controller->checkForUpdates();
 
-    EXPECT_EQ(user.broughtToFront, 1);
+    EXPECT_EQ(user.broughtToFront, 2);
     EXPECT_EQ(server.requests().size(), 1);
+}
+
+TEST_F(AppcastUpdaterTest, leavesTheKeyboardAloneWhenNobodyAsked)
+{
+    allowAutomaticChecks();
+    server.serve(u"/feed"_s, feed("58", "2.1"));
+    start();
+    time.advance(0);
+
+    ASSERT_TRUE(waitForLine("UPDATES found"));
+    EXPECT_EQ(user.broughtToFront, 0);
 }
 
 TEST_F(AppcastUpdaterTest, answersTheUserWithTheCheckThatIsUnderWay)

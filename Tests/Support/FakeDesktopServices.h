@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/DesktopServices.h"
+#include "Tests/Support/Journal.h"
 
 #include <QList>
 #include <QStringList>
@@ -10,7 +11,11 @@ namespace Orvello::Testing {
 /// Remembers what it was asked for.
 class FakeDesktopServices final : public DesktopServices {
 public:
-    void activateApplication() override { ++activations; }
+    void activateApplication() override
+    {
+        note(journal, "application activated");
+        ++activations;
+    }
     bool open(const QUrl& url) override
     {
         opened.append(url);
@@ -18,6 +23,7 @@ public:
     }
     void reveal(const QString& path) override { revealed.append(path); }
 
+    Journal* journal = nullptr;
     int activations = 0;
     QList<QUrl> opened;
     QStringList revealed;

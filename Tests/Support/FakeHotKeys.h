@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/HotKeys.h"
+#include "Tests/Support/Journal.h"
 
 #include <map>
 #include <utility>
@@ -26,6 +27,9 @@ public:
     std::unique_ptr<Reference> registerHotKey(
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override
     {
+        note(journal,
+            "hot key " + std::to_string(keyCode) + " with " + std::to_string(modifiers) + " as "
+                + std::to_string(id.id));
         registrations.push_back({ id, { keyCode, modifiers } });
         if (isOwnedByAnother)
             return nullptr;
@@ -45,6 +49,8 @@ public:
 
     void deliver(HotKeyID id) { m_handler(id); } ///< What the system sends, whatever is registered.
 
+    Journal* journal = nullptr;
+
     struct Registration {
         HotKeyID id;
         Key key;
@@ -62,7 +68,11 @@ private:
             , m_id(id)
         {
         }
-        ~FakeReference() override { m_keys.registered.erase(m_id); }
+        ~FakeReference() override
+        {
+            note(m_keys.journal, "hot key " + std::to_string(m_id) + " dropped");
+            m_keys.registered.erase(m_id);
+        }
 
     private:
         FakeHotKeys& m_keys;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Prompting/NativePanel.h"
+#include "Tests/Support/Journal.h"
 
 #include <QStringList>
 
@@ -24,19 +25,30 @@ public:
         if (!savedFrame.isNull())
             frameNow = savedFrame;
     }
-    void orderFrontRegardless() override { visible = true; }
-    void orderOut() override { visible = false; }
+    void orderFrontRegardless() override
+    {
+        note(journal, "panel ordered front");
+        visible = true;
+    }
+    void orderOut() override
+    {
+        note(journal, "panel ordered out");
+        visible = false;
+    }
     bool isVisible() const override { return visible; }
     qint64 windowNumber() const override { return number; }
     bool inLiveResize() const override { return liveResize; }
     SharingType sharingType() const override { return sharing; }
     void setSharingType(SharingType type) override
     {
+        note(
+            journal, type == SharingType::None ? "panel hidden from captures" : "panel capturable");
         sharing = type;
         sharingTypesSet.push_back(type);
     }
     bool canExcludeFromCapture() const override { return canExclude; }
 
+    Journal* journal = nullptr;
     QRectF frameNow;
     QRectF savedFrame; ///< What an earlier run saved, if anything.
     bool visible = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/SystemLog.h"
+#include "Tests/Support/Journal.h"
 
 #include <mutex>
 #include <string>
@@ -15,6 +16,7 @@ public:
     {
         const std::scoped_lock lock(m_mutex);
         m_messages.emplace_back(message);
+        note(journal, "log " + std::string(message));
     }
 
     std::vector<std::string> messages() const
@@ -22,6 +24,8 @@ public:
         const std::scoped_lock lock(m_mutex);
         return m_messages;
     }
+
+    Journal* journal = nullptr;
 
 private:
     mutable std::mutex m_mutex;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/Updater.h"
+#include "Tests/Support/Journal.h"
 
 #include <utility>
 
@@ -9,8 +10,16 @@ namespace Orvello::Testing {
 /// An updater whose callbacks a test makes.
 class FakeUpdater final : public Updater {
 public:
-    void startUpdater(UpdaterDelegate& updaterDelegate) override { delegate = &updaterDelegate; }
-    void checkForUpdates() override { ++checks; }
+    void startUpdater(UpdaterDelegate& updaterDelegate) override
+    {
+        note(journal, "updater started");
+        delegate = &updaterDelegate;
+    }
+    void checkForUpdates() override
+    {
+        note(journal, "updater asked to check");
+        ++checks;
+    }
     bool automaticallyChecksForUpdates() const override { return isAutomatic; }
     void setAutomaticallyChecksForUpdates(bool on) override
     {
@@ -23,6 +32,7 @@ public:
     }
     std::optional<QString> builtInFeed() const override { return feed; }
 
+    Journal* journal = nullptr;
     UpdaterDelegate* delegate = nullptr; ///< Null until started.
     int checks = 0;
     bool isAutomatic = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/UserDefaults.h"
+#include "Tests/Support/Journal.h"
 
 namespace Orvello::Testing {
 
@@ -14,12 +15,14 @@ public:
     }
     void setValue(const QString& key, const QVariant& value) override
     {
+        note(journal, "default " + key.toStdString() + " stored");
         stored.insert(key, value);
         ++writes;
     }
     void remove(const QString& key) override { stored.remove(key); }
     QVariantMap storedValues() const override { return stored; }
 
+    Journal* journal = nullptr;
     QVariantMap stored;
     QVariantMap launchArguments;
     int writes = 0;

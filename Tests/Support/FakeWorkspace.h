@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Platform/Workspace.h"
+#include "Tests/Support/Journal.h"
 
 namespace Orvello::Testing {
 
@@ -8,7 +9,11 @@ namespace Orvello::Testing {
 class FakeWorkspace final : public Workspace {
 public:
     QList<RunningApplication> runningApplications() const override { return running; }
-    std::optional<RunningApplication> frontmostApplication() const override { return frontmost; }
+    std::optional<RunningApplication> frontmostApplication() const override
+    {
+        note(journal, "frontmost application asked for");
+        return frontmost;
+    }
 
     /// An application known by its identifier alone.
     static RunningApplication application(const QString& bundleIdentifier)
@@ -16,6 +21,7 @@ public:
         return { bundleIdentifier, std::nullopt };
     }
 
+    Journal* journal = nullptr;
     QList<RunningApplication> running;
     std::optional<RunningApplication> frontmost;
 };

@@ -20,6 +20,9 @@ public:
         return all;
     }
 
+    /// From now on, and until the journal is gone, the lines are noted there too.
+    static void noteIn(Journal* journal) { processLog().journal = journal; }
+
     void clear() { m_before = processLog().messages().size(); }
 
 private:

@@ -146,6 +146,8 @@ void AppcastUpdater::offer(const AppcastItem& item)
     m_delegate->didFindValidUpdate(updateItem(item));
     m_services.user.showUpdate(
         updateItem(item), [this, item](UpdateChoice choice) { chosen(choice, item); });
+    if (m_origin == Origin::User)
+        m_services.user.bringToFront();
 }
 
 void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)

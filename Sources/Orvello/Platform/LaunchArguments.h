@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QUrl>
 #include <QVariantMap>
 
 namespace Orvello::LaunchArguments {
@@ -13,5 +14,9 @@ namespace Orvello::LaunchArguments {
 /// key without a value, and everything else, is passed over. Of a repeated key the last value
 /// counts. `arguments` are those of the command line without the program's name.
 [[nodiscard]] QVariantMap preferences(const QStringList& arguments);
+
+/// The addresses that a command line asks to open: those arguments that start with a scheme and are
+/// not the value of a preference.
+[[nodiscard]] QList<QUrl> urls(const QStringList& arguments);
 
 } // namespace Orvello::LaunchArguments

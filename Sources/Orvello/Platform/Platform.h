@@ -11,16 +11,21 @@ namespace Orvello {
 
 class AudioProcesses;
 class ChildProcess;
+class DesktopServices;
 class Folders;
 class HelperProcess;
+class HotKeys;
 class MicrophonePermission;
 class NativePanel;
 class OpenPanel;
 class ProcessSignals;
 class RawMicrophone;
+class RunningInstance;
 class Screens;
+class StatusBar;
 class SystemLog;
 class TimeSource;
+class Updater;
 class UserDefaults;
 class VoiceProcessing;
 class WindowServer;
@@ -43,12 +48,23 @@ public:
     virtual SystemLog& systemLog() = 0;
     virtual ProcessSignals& processSignals() = 0;
     virtual ChildProcess& childProcess() = 0;
+    virtual RunningInstance& runningInstance() = 0;
+
+    /// The operating system's version for people, such as "Debian GNU/Linux 12 (bookworm)".
+    virtual QString operatingSystemVersion() const = 0;
+
+    /// Another program's user defaults, by the name of their domain; empty if it has none.
+    virtual std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) = 0;
 
     // What is on the user's desktop. Each of these needs the application object.
     virtual Screens& screens() = 0;
     virtual Workspace& workspace() = 0;
     virtual WindowServer& windowServer() = 0;
+    virtual DesktopServices& desktopServices() = 0;
     virtual OpenPanel& openPanel() = 0;
+    virtual StatusBar& statusBar() = 0;
+    virtual HotKeys& hotKeys() = 0;
+    virtual Updater& updater() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     /// Needs the application object.

@@ -8,7 +8,8 @@
 
 namespace Orvello {
 
-/// How an updater talks to the user: with windows that leave the program running. Main thread.
+/// How an updater talks to the user: with windows that leave the program running, and that open
+/// without taking the keyboard. Main thread.
 class UpdateUserDriver {
 public:
     virtual ~UpdateUserDriver() = default;
@@ -22,7 +23,7 @@ public:
     /// Brings a question that is still open to the front.
     virtual void bringToFront() = 0;
 
-    /// Tells how a check ended that the user asked for.
+    /// Tells, in front, how a check ended that the user asked for.
     virtual void showOutcome(const QString& text) = 0;
 };
 

@@ -85,7 +85,7 @@ void refreshWelcomeScript(const QString& path, const QString& sampleText)
         return;
     const QByteArray json = QJsonDocument(*scripts).toJson(QJsonDocument::Compact);
     // Without the refresh the user keeps the former welcome text, which does no harm.
-    static_cast<void>(AtomicFile::replace(path, std::string_view(json.constData(), json.size())));
+    static_cast<void>(AtomicFile::replace(path, json.toStdString()));
 }
 
 bool isThere(const fs::path& path)

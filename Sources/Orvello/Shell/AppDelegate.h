@@ -10,19 +10,29 @@
 #include "Orvello/Prompting/PrompterPanelController.h"
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/AppCommands.h"
+#include "Orvello/Shell/HotKeyCenter.h"
 #include "Orvello/Shell/LaunchOptions.h"
+#include "Orvello/Shell/Lazy.h"
+#include "Orvello/Shell/ShellWindows.h"
+#include "Orvello/Shell/StatusMenu.h"
+#include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Voice/ProcessMicActivity.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QObject>
+#include <QUrl>
 
 #include <memory>
 #include <vector>
 
 namespace Orvello {
 
+class PlainPKey;
 class Platform;
 class PrompterWindow;
+class RightClicks;
+class StatusItem;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -31,7 +41,7 @@ class AppDelegate final : public QObject {
 
 public:
     /// `platform` must outlive the delegate.
-    AppDelegate(Platform& platform, const LaunchOptions& options);
+    AppDelegate(Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options);
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -40,6 +50,16 @@ public:
     /// Once, when the event loop has ended in an ordinary quit.
     void applicationWillTerminate();
 
+    /// Addresses that the application is asked to open. Before the end of the launch they wait.
+    void applicationOpen(const QList<QUrl>& urls);
+
+    /// The user has started the program once more, while it runs. Does what that start asks for;
+    /// one that asks for nothing opens the menu.
+    void applicationStartedAgain(const LaunchOptions& options);
+
+    /// Opens the welcome tour, or brings it to the front.
+    void showOnboarding();
+
     /// Shows the prompter panel if it is hidden, hides it if it is shown.
     void togglePanel();
 
@@ -47,27 +67,47 @@ private:
     void addPresenters();
     void makePanel();
     void showPanel();
+    void makeWindows();
+    void showFirstWindow();
+    void onboardingFinished();
+    void setupStatusItem();
+    void registerHotKeys();
+    void startUpdates();
     void subscribe();
     void followSlideTracking();
     void importDeckFromEnvironment();
+    static void handle(const QList<QUrl>& urls);
     void installSignalHandlers();
 
+    // In this order: what is made later uses what was made before.
     Platform& m_platform;
-    LaunchOptions m_options;
+    const ShellWindows::Factory m_makeWindows;
+    const LaunchOptions m_options;
     SettingsStore m_settings;
     LibraryStore m_library;
     AppleScriptRunner m_scriptRunner;
     PresenterTable m_presenters;
     ProcessMicActivity m_micActivity;
+    Lazy<ScrollEngine> m_engine;
+    Lazy<VoiceActivityEngine> m_voice;
     PresentationMonitor m_presentation;
-    ScrollEngine m_engine;
-    VoiceActivityEngine m_voice;
-    SlideSyncService m_slideSync;
-    DeckController m_deck;
+    Lazy<SlideSyncService> m_slideSync;
+    Lazy<DeckController> m_deck;
+    UpdateController m_updates;
+    HotKeyCenter m_hotKeys;
     std::unique_ptr<PrompterWindow> m_prompterWindow;
     std::unique_ptr<NativePanel> m_panel;
+    /// None until the launch is over but for what the user does not see.
     std::unique_ptr<PrompterPanelController> m_panelController;
+    std::unique_ptr<ShellWindows> m_windows;
+    std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
+    std::unique_ptr<AppCommands> m_commands;
+    std::unique_ptr<StatusMenu> m_statusMenu;
+    std::unique_ptr<StatusItem> m_statusItem;
+    std::unique_ptr<RightClicks> m_rightClicks;
+    std::unique_ptr<PlainPKey> m_plainPKey;
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
+    QList<QUrl> m_pendingURLs;
 };
 
 } // namespace Orvello

@@ -18,8 +18,15 @@ public:
     /// The four-character code 'OVHK' that marks this program's keys.
     static constexpr std::uint32_t signature = 0x4F56484B;
 
+    /// The process's one center; `adoptShared` names it once, at launch.
+    static HotKeyCenter& shared();
+    static void adoptShared(HotKeyCenter& center);
+
     /// `system` must outlive the center. Ids count up from `firstID`.
     explicit HotKeyCenter(HotKeys& system, std::uint32_t firstID = 1);
+    ~HotKeyCenter();
+    HotKeyCenter(const HotKeyCenter&) = delete;
+    HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
     /// Runs `action` at each press of the key with exactly these modifiers (HotKey, both). Returns
     /// the id to unregister it by, also when the system refuses the key, which then never fires.

@@ -1,22 +1,29 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 namespace Orvello {
 
-/// What the command line asks for. Each switch is a whole-argument match; everything else is left
-/// to others (pairs
-/// `-Key value` to the user defaults, Qt's own options to Qt).
+/// What the command line asks for. Each switch is a whole-argument match; pairs `-Key value` are
+/// left to the user defaults, Qt's own options to Qt.
 struct LaunchOptions {
     bool help = false;
     bool version = false;
     bool noStealth = false;
+    bool onboarding = false;
+    bool checkUpdates = false;
     bool voice = false;
     bool autostart = false;
+    QList<QUrl> urls; ///< To open.
 
-    static LaunchOptions fromArguments(
-        const QStringList& arguments); ///< Without the program's name.
+    bool isEmpty() const { return *this == LaunchOptions(); } ///< Whether it asks for nothing.
+    friend bool operator==(const LaunchOptions&, const LaunchOptions&) = default;
+
+    /// Without the program's name.
+    static LaunchOptions fromArguments(const QStringList& arguments);
 
     static QString helpText();
 };

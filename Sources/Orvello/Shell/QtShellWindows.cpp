@@ -1,6 +1,8 @@
 #include "Orvello/Shell/QtShellWindows.h"
 
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/LibraryWindow.h"
+#include "Orvello/Shell/QtStatusItem.h"
 
 #include <QCloseEvent>
 #include <QWidget>
@@ -46,6 +48,7 @@ private:
 
 QtShellWindows::QtShellWindows(const Services& services)
     : m_services(services)
+    , m_openDecks(services.library, services.workspace, services.appleScript)
 {
 }
 
@@ -53,7 +56,8 @@ QtShellWindows::~QtShellWindows() = default;
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 {
-    return std::make_unique<PlainWindow>(u"Scripts"_s);
+    return std::make_unique<LibraryWindow>(LibraryWindow::Services {
+        m_services.library, m_openDecks, m_services.presenters, m_services.openPanel });
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
@@ -68,6 +72,11 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
         onFinish();
     };
     return std::make_unique<PlainWindow>(u"Welcome to Orvello"_s, finish);
+}
+
+std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
+{
+    return std::make_unique<QtStatusItem>(m_services.statusBar, menu);
 }
 
 } // namespace Orvello

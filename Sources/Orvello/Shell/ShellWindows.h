@@ -5,6 +5,18 @@
 
 namespace Orvello {
 
+class AppleScriptRunner;
+class LibraryStore;
+class Menu;
+class OpenPanel;
+class PresenterTable;
+class SettingsStore;
+class StatusBar;
+class StatusItem;
+class UpdateController;
+class VoiceActivityEngine;
+class Workspace;
+
 /// One window of the program that the user opens and closes, and that keeps its content meanwhile.
 class ShellWindow {
 public:
@@ -18,6 +30,20 @@ public:
 /// window system. Each call makes a new window.
 class ShellWindows {
 public:
+    /// What the windows show and work with. All of them outlive the windows.
+    struct Services {
+        SettingsStore& settings;
+        LibraryStore& library;
+        VoiceActivityEngine& voice;
+        UpdateController& updates;
+        const PresenterTable& presenters;
+        const AppleScriptRunner& appleScript;
+        Workspace& workspace;
+        OpenPanel& openPanel;
+        StatusBar& statusBar;
+    };
+    using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
+
     virtual ~ShellWindows() = default;
 
     virtual std::unique_ptr<ShellWindow> makeLibrary() = 0;
@@ -26,6 +52,9 @@ public:
     /// The welcome tour. `onFinish` is called once, when the user has finished or closed it; it may
     /// destroy the window.
     virtual std::unique_ptr<ShellWindow> makeOnboarding(std::function<void()> onFinish) = 0;
+
+    /// The item in the status bar that opens `menu`, which must outlive it.
+    virtual std::unique_ptr<StatusItem> makeStatusItem(Menu& menu) = 0;
 };
 
 } // namespace Orvello

@@ -1,10 +1,17 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
+#include "Orvello/Library/WelcomeScript.h"
 #include "Orvello/Platform/Folders.h"
 #include "Orvello/Platform/Platform.h"
+#include "Orvello/Platform/RunningInstance.h"
+#include "Orvello/Platform/StatusBar.h"
+#include "Orvello/Platform/UserDefaults.h"
+#include "Orvello/Settings/LegacyMigration.h"
 #include "Orvello/Shell/AppDelegate.h"
 #include "Orvello/Shell/LaunchOptions.h"
+#include "Orvello/Shell/MainMenu.h"
 #include "Orvello/Shell/OrvelloApplication.h"
+#include "Orvello/Shell/QtShellWindows.h"
 #include "Orvello/Shell/Translation.h"
 
 #include "Version.h"
@@ -39,9 +46,28 @@ AppLog::Session sessionOn(Platform& platform)
         .version = version,
         .build = buildNumber,
         .architecture = QSysInfo::buildCpuArchitecture().toStdString(),
-        .osVersion = QSysInfo::prettyProductName().toStdString(),
+        .osVersion = platform.operatingSystemVersion().toStdString(),
         .systemLog = &platform.systemLog(),
     };
+}
+
+/// Before any settings are read.
+void migrate(Platform& platform)
+{
+    const auto former = platform.userDefaultsOf(LegacyMigration::formerDomain.toString());
+    LegacyMigration::runIfNeeded(
+        { platform.userDefaults(), *former, platform.folders(), WelcomeScript::body() });
+}
+
+/// From now on the delegate hears what the system and later starts ask for.
+void listen(RunningInstance& instance, AppDelegate& delegate)
+{
+    instance.listen({
+        [&delegate](const QList<QUrl>& urls) { delegate.applicationOpen(urls); },
+        [&delegate](const QStringList& arguments) {
+            delegate.applicationStartedAgain(LaunchOptions::fromArguments(arguments));
+        },
+    });
 }
 
 } // namespace
@@ -53,25 +79,37 @@ int main(int argc, char** argv)
     if (options.help || options.version) {
         print(stdout,
             options.help ? LaunchOptions::helpText()
-                         : u"Orvello %1 (%2)\n"_s.arg(
-                             QLatin1StringView(version), QLatin1StringView(buildNumber)));
+                         : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
         return 0;
     }
-    const std::unique_ptr<Platform> platform = Platform::create(arguments);
+    std::unique_ptr<Platform> earlyPlatform = Platform::create(arguments);
+    if (!earlyPlatform->runningInstance().claim(arguments))
+        return 0; // The one that runs has taken over.
 
-    AppLog::start(sessionOn(*platform));
+    AppLog::start(sessionOn(*earlyPlatform));
     CrashGuard::install();
-    if (const QString obstacle = platform->prepareApplication(); !obstacle.isEmpty()) {
+    if (const QString obstacle = earlyPlatform->prepareApplication(); !obstacle.isEmpty()) {
         AppLog::write("LAUNCH failed: %@", obstacle);
         AppLog::endSession();
         return 1;
     }
     OrvelloApplication application(argc, argv);
     installTranslation(application);
+    const std::unique_ptr<Platform> platform = std::move(earlyPlatform); // Ends before it.
+    if (platform->statusBar().isPartOfMenuBar())
+        application.setMainMenu(makeMainMenu(&sendToFocusObject));
+    migrate(*platform);
 
-    AppDelegate delegate(*platform, options);
+    AppDelegate delegate(
+        *platform,
+        [](const ShellWindows::Services& services) {
+            return std::make_unique<QtShellWindows>(services);
+        },
+        options);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
         &AppDelegate::applicationWillTerminate);
+    delegate.applicationOpen(options.urls);
+    listen(platform->runningInstance(), delegate);
     QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);
     return OrvelloApplication::exec();
 }

@@ -1,9 +1,16 @@
+#include "Orvello/Platform/AppcastUpdater.h"
+#include "Orvello/Platform/Linux/BusInstance.h"
 #include "Orvello/Platform/Linux/FileDialog.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
+#include "Orvello/Platform/Linux/LinuxDesktopServices.h"
+#include "Orvello/Platform/Linux/LinuxStatusBar.h"
 #include "Orvello/Platform/Linux/LinuxWorkspace.h"
+#include "Orvello/Platform/Linux/PortalHotKeys.h"
 #include "Orvello/Platform/Linux/PulseSound.h"
 #include "Orvello/Platform/Linux/Syslog.h"
+#include "Orvello/Platform/Linux/UpdateDialogs.h"
+#include "Orvello/Platform/Linux/X11HotKeys.h"
 #include "Orvello/Platform/Linux/X11Panel.h"
 #include "Orvello/Platform/Linux/X11WindowServer.h"
 #include "Orvello/Platform/Linux/X11Windows.h"
@@ -13,6 +20,11 @@
 #include "Orvello/Platform/QtChildProcess.h"
 #include "Orvello/Platform/QtScreens.h"
 #include "Orvello/Platform/QtTimeSource.h"
+
+#include "Version.h"
+
+#include <QDBusConnection>
+#include <QSysInfo>
 
 #include <memory>
 #include <optional>
@@ -40,6 +52,42 @@ struct Desktop {
     X11WindowServer windowServer { windows };
 };
 
+/// What talks to the desktop and its user.
+struct Session {
+    explicit Session(bool isWayland)
+    {
+        // Only the portal can be asked by a program that has no keyboard of its own there.
+        if (isWayland && bus.isConnected())
+            portalKeys.emplace(bus, x11Keys);
+    }
+
+    HotKeys& hotKeys()
+    {
+        if (portalKeys)
+            return *portalKeys;
+        return x11Keys;
+    }
+
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    LinuxDesktopServices services { bus };
+    LinuxStatusBar statusBar { bus };
+    X11HotKeys x11Keys;
+    std::optional<PortalHotKeys> portalKeys;
+};
+
+/// The updater and the windows in which it asks.
+struct Updates {
+    Updates(TimeSource& time, UserDefaults& defaults, DesktopServices& desktop)
+        : updater({ time, defaults, dialogs, desktop },
+            { QString::fromLatin1(buildNumber), QSysInfo::kernelVersion(), u"linux"_s },
+            QString::fromLatin1(feedAddress))
+    {
+    }
+
+    UpdateDialogs dialogs { QString::fromLatin1(version) };
+    AppcastUpdater updater;
+};
+
 /// Made in two steps: the log and the preferences are needed before there is an application object,
 /// and a display or a sound server that nobody asks for is not connected to.
 class LinuxPlatform final : public Platform {
@@ -64,11 +112,28 @@ public:
     SystemLog& systemLog() override { return m_systemLog; }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
+    RunningInstance& runningInstance() override { return m_runningInstance; }
+
+    QString operatingSystemVersion() const override { return QSysInfo::prettyProductName(); }
+
+    std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) override
+    {
+        return std::make_unique<JsonUserDefaults>(m_folders.configuration(), domain);
+    }
 
     Screens& screens() override { return desktop().screens; }
     Workspace& workspace() override { return desktop().workspace; }
     WindowServer& windowServer() override { return desktop().windowServer; }
+    DesktopServices& desktopServices() override { return session().services; }
     OpenPanel& openPanel() override { return m_openPanel; }
+    StatusBar& statusBar() override { return session().statusBar; }
+    HotKeys& hotKeys() override { return session().hotKeys(); }
+    Updater& updater() override
+    {
+        if (!m_updates)
+            m_updates.emplace(m_time, m_userDefaults, session().services);
+        return m_updates->updater;
+    }
 
     MicrophonePermission& microphonePermission() override { return sound().permission; }
     VoiceProcessing& voiceProcessing() override { return sound().voiceProcessing; }
@@ -89,6 +154,11 @@ public:
 
 private:
     Desktop& desktop() { return m_desktop ? *m_desktop : m_desktop.emplace(); }
+    Session& session()
+    {
+        return m_session ? *m_session
+                         : m_session.emplace(qEnvironmentVariableIsSet("WAYLAND_DISPLAY"));
+    }
     PulseSound& sound() { return m_sound ? *m_sound : m_sound.emplace(); }
 
     QtTimeSource m_time;
@@ -97,8 +167,11 @@ private:
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
-    FileDialog m_openPanel;
     std::optional<Desktop> m_desktop;
+    BusInstance m_runningInstance;
+    FileDialog m_openPanel;
+    std::optional<Session> m_session;
+    std::optional<Updates> m_updates;
     std::optional<PulseSound> m_sound;
     std::unique_ptr<HelperProcess> m_impressHelper;
 };

@@ -4,14 +4,20 @@
 #include "Orvello/Platform/QtChildProcess.h"
 #include "Orvello/Platform/QtTimeSource.h"
 #include "Orvello/Platform/macOS/CapturePermission.h"
+#include "Orvello/Platform/macOS/CarbonHotKeys.h"
+#include "Orvello/Platform/macOS/CocoaDesktop.h"
 #include "Orvello/Platform/macOS/CocoaFolders.h"
 #include "Orvello/Platform/macOS/CocoaOpenPanel.h"
 #include "Orvello/Platform/macOS/CocoaPanel.h"
 #include "Orvello/Platform/macOS/CocoaScreens.h"
+#include "Orvello/Platform/macOS/CocoaStatusBar.h"
+#include "Orvello/Platform/macOS/CocoaText.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
 #include "Orvello/Platform/macOS/CocoaWorkspace.h"
 #include "Orvello/Platform/macOS/EngineMicrophone.h"
 #include "Orvello/Platform/macOS/HalAudioProcesses.h"
+#include "Orvello/Platform/macOS/LaunchServicesInstance.h"
+#include "Orvello/Platform/macOS/MacUpdater.h"
 #include "Orvello/Platform/macOS/OrvelloApplication.h"
 #include "Orvello/Platform/macOS/QuartzWindowServer.h"
 #include "Orvello/Platform/macOS/UnifiedLog.h"
@@ -37,11 +43,32 @@ public:
     SystemLog& systemLog() override { return m_systemLog; }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
+    RunningInstance& runningInstance() override { return m_runningInstance; }
+
+    QString operatingSystemVersion() const override
+    {
+        return qString(NSProcessInfo.processInfo.operatingSystemVersionString);
+    }
+
+    std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) override
+    {
+        return std::make_unique<CocoaUserDefaults>(domain);
+    }
 
     Screens& screens() override { return m_screens; }
     Workspace& workspace() override { return m_workspace; }
     WindowServer& windowServer() override { return m_windowServer; }
+    DesktopServices& desktopServices() override { return m_desktop; }
     OpenPanel& openPanel() override { return m_openPanel; }
+    StatusBar& statusBar() override { return m_statusBar; }
+    HotKeys& hotKeys() override { return m_hotKeys; }
+
+    Updater& updater() override
+    {
+        if (!m_updater)
+            m_updater = makeMacUpdater();
+        return *m_updater;
+    }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -69,7 +96,12 @@ private:
     CocoaScreens m_screens;
     CocoaWorkspace m_workspace;
     QuartzWindowServer m_windowServer;
+    LaunchServicesInstance m_runningInstance;
+    CocoaDesktop m_desktop;
     CocoaOpenPanel m_openPanel;
+    CocoaStatusBar m_statusBar;
+    CarbonHotKeys m_hotKeys;
+    std::unique_ptr<Updater> m_updater;
     CapturePermission m_microphonePermission;
     VoiceProcessingIO m_voiceProcessing;
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.

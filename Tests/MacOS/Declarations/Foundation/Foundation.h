@@ -161,6 +161,7 @@ typedef void NSUncaughtExceptionHandler(NSException* exception);
 @interface NSProcessInfo : NSObject
 @property (class, readonly, strong) NSProcessInfo* processInfo;
 @property (copy) NSString* processName;
+@property (readonly, copy) NSString* operatingSystemVersionString;
 @end
 
 @interface NSUserDefaults : NSObject

@@ -1,0 +1,58 @@
+#include "Orvello/Shell/QtStatusItem.h"
+
+#include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Platform/StatusBar.h"
+#include "Orvello/Shell/Branding.h"
+
+#include <QCursor>
+#include <QPointer>
+#include <QSystemTrayIcon>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+QtStatusItem::QtStatusItem(StatusBar& bar, Menu& menu)
+    : m_isInMenuBar(bar.isPartOfMenuBar())
+    , m_menu(menu)
+{
+    bar.observe([self = QPointer(this)](bool isThere) {
+        if (self)
+            self->barChanged(isThere);
+    });
+}
+
+QtStatusItem::~QtStatusItem() = default;
+
+void QtStatusItem::openMenu()
+{
+    if (!m_isInMenuBar)
+        m_menu.popup(QCursor::pos());
+}
+
+void QtStatusItem::barChanged(bool isThere)
+{
+    if (!isThere)
+        AppLog::write("TRAY this desktop shows no status items; a right click on the prompter, or "
+                      "starting Orvello again, opens the menu");
+    else if (!m_icon)
+        makeIcon();
+}
+
+/// Not before there is a bar: the toolkit looks for a host on the bus only once.
+void QtStatusItem::makeIcon()
+{
+    m_icon = std::make_unique<QSystemTrayIcon>(
+        m_isInMenuBar ? Branding::menuBarGlyph() : Branding::trayIcon());
+    m_icon->setToolTip(u"Orvello"_s);
+    m_icon->setContextMenu(&m_menu);
+    connect(m_icon.get(), &QSystemTrayIcon::activated, this,
+        [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger)
+                openMenu();
+        });
+    m_icon->show();
+    AppLog::write("TRAY status item shown");
+}
+
+} // namespace Orvello

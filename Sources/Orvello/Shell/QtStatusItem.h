@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Orvello/Shell/QtMenu.h"
+#include "Orvello/Shell/StatusItem.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QSystemTrayIcon;
+
+namespace Orvello {
+
+class StatusBar;
+
+/// The status item as the toolkit makes it: an item of the menu bar, a status notifier item on the
+/// session bus, or an icon in an X11 tray. It is there as soon as a bar is.
+class QtStatusItem final : public QObject, public StatusItem {
+    Q_OBJECT
+
+public:
+    QtStatusItem(StatusBar& bar, Menu& menu); ///< Both must outlive it.
+    ~QtStatusItem() override;
+
+    void openMenu() override;
+
+private:
+    void barChanged(bool isThere);
+    void makeIcon();
+
+    const bool m_isInMenuBar;
+    QtMenu m_menu;
+    std::unique_ptr<QSystemTrayIcon> m_icon;
+};
+
+} // namespace Orvello

@@ -1,0 +1,306 @@
+"""How the program starts: its switches, its signals, a second start, the former product's data, the update check."""
+
+import http.server
+import json
+import signal
+import threading
+import time
+import unittest
+
+from bus import Opener, SessionBus
+from desktop import App, Desktop, wait_until
+
+
+class LaunchTest(unittest.TestCase):
+    def setUp(self):
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, countdownSeconds=0)
+
+    def messages(self):
+        return App.log_messages(self.desktop)
+
+
+class SwitchesTest(LaunchTest):
+    def test_the_first_launch_shows_the_tour_and_finishing_it_the_prompter(self):
+        App.set_defaults(self.desktop, onboardingSeenVersion=0)
+        app = App(self.desktop)
+        tour = wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")[0]
+        self.assertEqual(self.desktop.windows_titled("Orvello"), [])
+
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(tour), "key", "alt+F4")
+
+        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")
+        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
+        self.assertEqual(app.quit(), 0)
+        again = App(self.desktop)
+        again.shown()
+        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [], "it was seen")
+
+    def test_onboarding_shows_the_tour_again(self):
+        App(self.desktop, "--onboarding")
+
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
+        time.sleep(0.5)
+        self.assertEqual(self.desktop.windows_titled("Orvello"), [])
+
+    def test_no_stealth_leaves_the_prompter_capturable(self):
+        app = App(self.desktop, "--no-stealth")
+        app.shown()
+
+        wait_until(lambda: any(line.startswith("PANEL_UP") and "sharing=1" in line for line in self.messages()),
+                   what="a capturable panel")
+
+    def test_voice_turns_voice_follow_on(self):
+        app = App(self.desktop, "--voice")
+        app.shown()
+
+        wait_until(lambda: App.defaults(self.desktop).get("voiceFollow") is True, what="the setting")
+
+    def test_autostart_scrolls(self):
+        app = App(self.desktop, "--autostart")
+        x, y, width, height = app.shown()
+        text = lambda: self.desktop.screenshot().rows(x + 60, y + 30, width - 120, height - 80)
+        before = text()
+
+        wait_until(lambda: text() != before, what="the text to move")
+
+    def test_check_updates_checks(self):
+        App(self.desktop, "--check-updates")
+
+        wait_until(lambda: "UPDATES aborted: There is no valid update feed. (4)" in self.messages(),
+                   what="the check")
+        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="what came of it")
+
+    def test_the_focus_stays_where_it_was(self):
+        self.desktop.start(["xterm", "-T", "notes", "-e", "sleep", "60"])
+        notes = wait_until(lambda: self.desktop.windows_titled("notes"), what="the notes")[0]
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(notes))
+        app = App(self.desktop)
+        app.shown()
+        time.sleep(0.5)
+
+        self.assertEqual(self.desktop.focused_window(), notes)
+
+
+class SignalsTest(LaunchTest):
+    def test_the_first_user_signal_toggles_stealth_mode(self):
+        app = App(self.desktop)
+        app.shown()
+
+        app.signal(signal.SIGUSR1)
+        app.wait_for_log("DEBUG stealth toggled -> 0")
+        self.assertIs(App.defaults(self.desktop)["stealthMode"], False)
+        app.signal(signal.SIGUSR1)
+        app.wait_for_log("DEBUG stealth toggled -> 1")
+
+        self.assertIs(App.defaults(self.desktop)["stealthMode"], True)
+        self.assertEqual(len([line for line in self.messages() if "stealth toggled" in line]), 2)
+        self.assertIsNone(app.process.poll())
+
+    def test_the_second_user_signal_hides_and_shows(self):
+        app = App(self.desktop)
+        app.shown()
+
+        app.signal(signal.SIGUSR2)
+        wait_until(lambda: not app.is_window_visible(), what="the prompter to go")
+        app.signal(signal.SIGUSR2)
+        wait_until(app.is_window_visible, what="the prompter to come back")
+
+
+class SecondStartTest(LaunchTest):
+    def setUp(self):
+        super().setUp()
+        SessionBus(self.desktop)
+
+    def test_its_addresses_reach_the_one_that_runs(self):
+        app = App(self.desktop, "orvello://first")
+        app.wait_for_log("URL ignored: orvello://first")
+        app.shown()
+
+        second = App(self.desktop, "orvello://hello?to=you", "orvello:again")
+
+        self.assertEqual(second.process.wait(15), 0)
+        app.wait_for_log("URL ignored: orvello://hello?to=you")
+        app.wait_for_log("URL ignored: orvello:again")
+        self.assertEqual(len([line for line in self.messages() if line.startswith("LAUNCH")]), 1)
+        self.assertTrue(App.marker(self.desktop).exists(), "the session goes on")
+
+    def test_many_starts_at_once_leave_one(self):
+        starts = [App(self.desktop, f"orvello:{number}") for number in range(5)]
+
+        wait_until(lambda: sum(app.process.poll() is None for app in starts) == 1, what="four of five to end")
+        wait_until(lambda: len([line for line in self.messages() if line.startswith("URL ignored")]) == 5,
+                   what="all five addresses")
+        self.assertEqual(len([line for line in self.messages() if line.startswith("LAUNCH")]), 1)
+        self.assertEqual({app.process.poll() for app in starts}, {None, 0})
+
+    def test_after_the_end_of_the_first_the_next_one_runs(self):
+        first = App(self.desktop)
+        first.shown()
+        self.assertEqual(first.quit(), 0)
+
+        second = App(self.desktop)
+
+        second.shown()
+        self.assertEqual(second.quit(), 0)
+
+    def test_a_kill_does_not_keep_the_next_one_from_running(self):
+        first = App(self.desktop)
+        first.shown()
+        first.kill()
+
+        App(self.desktop).shown()
+
+
+class MigrationTest(LaunchTest):
+    def setUp(self):
+        super().setUp()
+        (self.desktop.config / "Orvello" / "app.orvello.json").unlink()
+
+    def write_former(self):
+        domain = self.desktop.config / "Orvello" / "app.drumlin.mac.json"
+        domain.write_text(json.dumps({"ghostMode": False, "speed": 33.5, "onboardingSeenVersion": 1}))
+        folder = self.desktop.data / "Drumlin"
+        folder.mkdir()
+        script = {"id": "6F9619FF-8B86-D011-B42D-00CF4FC964FF", "title": "Welcome to Drumlin", "body": "old",
+                  "createdAt": 8e8, "updatedAt": 8e8}
+        other = script | {"id": "7F9619FF-8B86-D011-B42D-00CF4FC964FF", "title": "My talk", "body": "mine"}
+        (folder / "scripts.json").write_text(json.dumps([other, script]))
+
+    def test_settings_and_scripts_of_the_former_product_come_along_once(self):
+        self.write_former()
+
+        app = App(self.desktop)
+        app.shown()
+
+        defaults = App.defaults(self.desktop)
+        self.assertIs(defaults["stealthMode"], False)
+        self.assertEqual(defaults["speed"], 33.5)
+        self.assertIs(defaults["migratedFromDrumlin"], True)
+        self.assertNotIn("ghostMode", defaults)
+        library = App.library(self.desktop)
+        self.assertEqual([script["title"] for script in library], ["My talk", "Welcome to Orvello"])
+        self.assertEqual(library[0]["body"], "mine")
+        self.assertTrue(library[1]["body"].startswith("Welcome to Orvello. This is your private"))
+        messages = self.messages()
+        at = messages.index("MIGRATE copied 3 preference keys from app.drumlin.mac")
+        self.assertEqual(messages[at + 1], "MIGRATE copied Application Support/Drumlin -> Orvello")
+        self.assertTrue(any(line.startswith("STEALTH OFF") for line in messages[at:]), "read after the migration")
+        self.assertTrue(messages[0].startswith("LAUNCH "), "the log moved along")
+
+        self.assertEqual(app.quit(), 0)
+        App(self.desktop).shown()
+        self.assertEqual(len([line for line in self.messages() if line.startswith("MIGRATE")]), 2)
+
+    def test_new_users_are_marked_too(self):
+        App(self.desktop)
+
+        wait_until(lambda: App.defaults(self.desktop).get("migratedFromDrumlin") is True
+                   if (self.desktop.config / "Orvello" / "app.orvello.json").exists() else None, what="the marker")
+        self.assertFalse([line for line in self.messages() if line.startswith("MIGRATE")])
+
+
+class Feed:
+    """An update feed on this machine."""
+
+    def __init__(self, test, version, display_version):
+        items = (f'<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel><item>'
+                 f"<sparkle:version>{version}</sparkle:version>"
+                 f"<sparkle:shortVersionString>{display_version}</sparkle:shortVersionString>"
+                 f"<link>https://example.com/download</link></item></channel></rss>").encode()
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                self.send_response(200)
+                self.send_header("Content-Length", str(len(items)))
+                self.end_headers()
+                self.wfile.write(items)
+
+            def log_message(self, *words):
+                pass
+
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        test.addCleanup(server.server_close)
+        test.addCleanup(server.shutdown)
+        self.url = f"http://127.0.0.1:{server.server_port}/feed"
+
+
+class UpdatesTest(LaunchTest):
+    def check(self, version, display_version, *arguments):
+        self.opener = Opener(self.desktop)
+        self.feed = Feed(self, version, display_version)
+        self.app = App(self.desktop, "-OrvelloAppcastURL", self.feed.url, "--check-updates", *arguments)
+        self.app.wait_for_log(f"UPDATES started auto=0 feed={self.feed.url}")
+
+    def dialog(self):
+        """The update's window, which is on top and has the keyboard."""
+        def found():
+            windows = [window for window in self.desktop.windows_titled("Orvello")
+                       if window != self.app.window() and self.desktop.focused_window() == window]
+            return windows
+        return wait_until(found, what="the dialog with the keyboard")[0]
+
+    def test_no_newer_version(self):
+        App.set_defaults(self.desktop, SUEnableAutomaticChecks=False)
+        self.check("1", "1.0.0")
+
+        self.app.wait_for_log("UPDATES up to date (Orvello is up to date.)")
+        time.sleep(0.5)
+        self.assertNotIn("UPDATES aborted", App.log_text(self.desktop))
+        self.dialog()
+
+    def test_a_newer_version_is_offered_and_installing_opens_its_page(self):
+        App.set_defaults(self.desktop, SUEnableAutomaticChecks=False)
+        self.check("2", "1.1")
+        self.app.wait_for_log("UPDATES found 1.1 (2)")
+        self.dialog()
+
+        self.desktop.run("xdotool", "key", "Return")
+
+        self.app.wait_for_log("UPDATES user chose install for 1.1")
+        self.app.wait_for_log("UPDATES installing 1.1 (2)")
+        self.assertEqual(wait_until(self.opener.opened, what="the page"), ["https://example.com/download"])
+
+    def test_escape_is_later(self):
+        App.set_defaults(self.desktop, SUEnableAutomaticChecks=False)
+        self.check("2", "1.1")
+        self.dialog()
+
+        self.desktop.run("xdotool", "key", "Escape")
+
+        self.app.wait_for_log("UPDATES user chose later for 1.1")
+        self.assertEqual(self.opener.opened(), [])
+
+    def test_the_first_run_question_is_asked_once_and_takes_no_keyboard(self):
+        self.desktop.start(["xterm", "-T", "notes", "-e", "sleep", "60"])
+        notes = wait_until(lambda: self.desktop.windows_titled("notes"), what="the notes")[0]
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(notes))
+        feed = Feed(self, "1", "1.0.0")
+        app = App(self.desktop, "-OrvelloAppcastURL", feed.url)
+        app.shown()
+        question = wait_until(lambda: len(self.desktop.windows_titled("Orvello")) == 2, what="the question")
+        self.assertTrue(question)
+        time.sleep(0.5)
+        self.assertEqual(self.desktop.focused_window(), notes)
+
+        window = next(each for each in self.desktop.windows_titled("Orvello") if self.is_dialog(each))
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(window), "key", "Return")
+
+        wait_until(lambda: App.defaults(self.desktop).get("SUEnableAutomaticChecks") is True, what="the answer")
+        app.wait_for_log("UPDATES up to date")
+        app.wait_for_log("UPDATES next check in 24h")
+        self.assertEqual(app.quit(), 0)
+        again = App(self.desktop, "-OrvelloAppcastURL", feed.url)
+        again.wait_for_log("UPDATES started auto=1")
+        again.shown()
+        time.sleep(0.5)
+        self.assertEqual(len(self.desktop.windows_titled("Orvello")), 1)
+
+    def is_dialog(self, window):
+        return "_NET_WM_WINDOW_TYPE_DIALOG" in self.desktop.run("xprop", "-id", str(window), "_NET_WM_WINDOW_TYPE")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,117 @@
+#include "Orvello/Shell/QtStatusItem.h"
+
+#include "Orvello/Shell/Branding.h"
+#include "Orvello/Shell/Menu.h"
+#include "Tests/Support/FakePlatform.h"
+#include "Tests/Support/LogCapture.h"
+
+#include <QApplication>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+class QtStatusItemTest : public ::testing::Test {
+protected:
+    QtStatusItemTest()
+    {
+        menu.addItem(u"Line"_s, [] {});
+    }
+
+    static bool isMenuOpen() { return QApplication::activePopupWidget() != nullptr; }
+
+    Testing::LogCapture log;
+    Testing::FakeStatusBar bar;
+    Menu menu;
+};
+
+TEST_F(QtStatusItemTest, waitsForABar)
+{
+    const QtStatusItem item(bar, menu);
+    EXPECT_THAT(log.lines(), IsEmpty());
+
+    bar.tell(true);
+
+    EXPECT_THAT(log.lines(), ElementsAre("TRAY status item shown"));
+}
+
+TEST_F(QtStatusItemTest, saysHowToOpenTheMenuWithoutABar)
+{
+    const QtStatusItem item(bar, menu);
+
+    bar.tell(false);
+    EXPECT_THAT(log.lines(), ElementsAre(StartsWith("TRAY this desktop shows no status items")));
+
+    bar.tell(true);
+    EXPECT_EQ(log.lines().back(), "TRAY status item shown");
+}
+
+TEST_F(QtStatusItemTest, isMadeOnceHoweverOftenTheBarComes)
+{
+    const QtStatusItem item(bar, menu);
+
+    bar.tell(true);
+    bar.tell(false);
+    bar.tell(true);
+
+    EXPECT_EQ(std::ranges::count(log.lines(), "TRAY status item shown"), 1);
+}
+
+TEST_F(QtStatusItemTest, opensItsMenuWithOrWithoutABar)
+{
+    QtStatusItem item(bar, menu);
+
+    item.openMenu();
+
+    ASSERT_TRUE(isMenuOpen());
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(QtStatusItemTest, leavesTheMenuToTheMenuBar)
+{
+    bar.isMenuBar = true;
+    QtStatusItem item(bar, menu);
+    bar.tell(true);
+
+    item.openMenu();
+
+    EXPECT_FALSE(isMenuOpen());
+}
+
+TEST_F(QtStatusItemTest, survivesABarThatSpeaksAfterItsEnd)
+{
+    {
+        const QtStatusItem item(bar, menu);
+    }
+
+    bar.tell(true);
+
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST(BrandingTest, drawsTheGlyphForMenuBarsThatColourIt)
+{
+    const QIcon glyph = Branding::menuBarGlyph();
+
+    EXPECT_TRUE(glyph.isMask());
+    EXPECT_TRUE(glyph.availableSizes().contains(QSize(18, 18)));
+    const QImage drawn = glyph.pixmap(18).toImage();
+    EXPECT_GT(drawn.pixelColor(9, 9).alpha(), 200) << "a line of text";
+    EXPECT_EQ(drawn.pixelColor(0, 0).alpha(), 0);
+}
+
+TEST(BrandingTest, hasAnIconForWindowsAndTrays)
+{
+    EXPECT_FALSE(Branding::appIcon().pixmap(64).isNull());
+    EXPECT_FALSE(Branding::trayIcon().pixmap(22).isNull());
+}
+
+} // namespace
+} // namespace Orvello
