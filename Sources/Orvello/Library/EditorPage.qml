@@ -10,11 +10,24 @@ Pane {
 
     required property ScriptEditor editor
     property bool isActive: false
+    property bool isLoaded: false
+
+    // Only when the page has its width: laying out a megabyte twice takes twice as long.
+    function load(): void {
+        if (isLoaded || !isActive || body.width <= 0)
+            return;
+        isLoaded = true;
+        body.text = editor.body;
+        editor.follow(body.textDocument);
+    }
 
     function editTitle(): void {
         title.forceActiveFocus(Qt.OtherFocusReason);
         title.selectAll();
     }
+
+    onIsActiveChanged: load()
+    Component.onCompleted: load()
 
     padding: 0
     background: Rectangle {
@@ -38,7 +51,7 @@ Pane {
             font.weight: Font.DemiBold
             placeholderText: qsTr("Title")
             text: root.editor.title
-            readOnly: !root.editor.isEditable
+            readOnly: root.isActive && !root.editor.isEditable
             selectByMouse: true
             autoScroll: activeFocus // A title that is not being edited is seen from its beginning.
             onTextEdited: root.editor.title = text
@@ -58,6 +71,8 @@ Pane {
         }
 
         ScrollView {
+            implicitWidth: 1 // Whatever the text asks for, it gets the rest of the page.
+            implicitHeight: 1
             Layout.fillWidth: true
             Layout.fillHeight: true
 
@@ -72,17 +87,15 @@ Pane {
                 font.pixelSize: 14
                 textFormat: TextEdit.PlainText
                 wrapMode: TextEdit.Wrap
-                readOnly: root.editor.isDeck || !root.editor.isEditable
+                // Out of sight it stays what it was, because a change takes the cursor to the end.
+                readOnly: root.editor.isDeck || root.isActive && !root.editor.isEditable
                 selectByMouse: true
                 selectByKeyboard: true
                 persistentSelection: true
 
                 Accessible.name: root.editor.isDeck ? qsTr("Speaker notes") : qsTr("Script text")
 
-                Component.onCompleted: {
-                    text = root.editor.body;
-                    root.editor.follow(textDocument);
-                }
+                onWidthChanged: root.load()
             }
         }
 
@@ -92,7 +105,7 @@ Pane {
 
         RowLayout {
             Layout.fillWidth: true
-            Layout.margins: 8
+            Layout.minimumHeight: 34
             Layout.leftMargin: 14
             Layout.rightMargin: 14
             spacing: 16

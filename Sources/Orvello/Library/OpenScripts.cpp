@@ -63,13 +63,12 @@ void OpenScripts::followActiveScript()
     const Script* script = m_library.activeScript();
     ScriptEditor* const active = script ? opened(*script) : m_open.front().editor.get();
     ScriptEditor* const before = std::exchange(m_active, active);
-    if (before != active)
-        before->setEditable(false);
     const std::optional<QUuid> edited = m_library.activeScriptID();
     active->setEditable(script && (!edited || edited == script->id));
     if (before == active)
         return;
     Q_EMIT activeChanged();
+    before->setEditable(false); // Now that it is out of sight: a text field shows the difference.
     closeBeyondBounds();
 }
 

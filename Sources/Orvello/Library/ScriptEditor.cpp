@@ -78,8 +78,10 @@ QString ScriptEditor::deckNotice() const
 
 void ScriptEditor::setEditable(bool isEditable)
 {
-    if (std::exchange(m_isEditable, isEditable) != isEditable)
-        Q_EMIT editableChanged();
+    if (std::exchange(m_isEditable, isEditable) == isEditable)
+        return;
+    store();
+    Q_EMIT editableChanged();
 }
 
 void ScriptEditor::follow(QQuickTextDocument* document)
@@ -147,9 +149,11 @@ void ScriptEditor::replaceInDocument(const QString& body)
     cursor.insertText(QString(newBegin, newEnd.base() - newBegin));
 }
 
+/// An input method may finish a word in a text field that has gone out of sight already. The store
+/// would put it into another script, so that it waits until this one is active again.
 void ScriptEditor::store()
 {
-    if (!m_hasUnstoredEdit || m_isUpdating)
+    if (!m_hasUnstoredEdit || m_isUpdating || !m_isEditable)
         return;
     m_hasUnstoredEdit = false;
     m_stored = m_body;

@@ -83,11 +83,21 @@ ColumnLayout {
                 onDoubleClicked: root.editRequested()
             }
 
+            // The current item is what assistive technology reads out. A view moves it along with
+            // insertions and removals, which the library does not ask for.
+            function followActiveRow(): void {
+                currentIndex = root.scripts.activeRow;
+            }
+
+            highlightFollowsCurrentItem: true
+            highlightMoveDuration: 0
+            onCountChanged: followActiveRow()
+            Component.onCompleted: followActiveRow()
+
             Connections {
                 target: root.scripts
                 function onActiveRowChanged() {
-                    if (root.scripts.activeRow >= 0)
-                        list.positionViewAtIndex(root.scripts.activeRow, ListView.Contain);
+                    list.followActiveRow();
                 }
             }
         }
@@ -99,7 +109,8 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        Layout.margins: 4
+        Layout.minimumHeight: 34
+        Layout.leftMargin: 4
         spacing: 2
 
         ToolbarButton {

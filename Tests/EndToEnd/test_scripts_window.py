@@ -1,0 +1,253 @@
+"""The scripts window with real mouse and keys: after each step the file and the active script are what the user sees."""
+
+import re
+import subprocess
+import time
+import unittest
+
+from bus import SessionBus, TrayHost
+from desktop import App, Desktop, SOURCES, wait_until
+
+DECK_TOOL = SOURCES / "Tests" / "Support" / "make-deck"
+
+
+class ScriptsWindow:
+    """The window, as somebody before the screen has it."""
+
+    def __init__(self, desktop, host):
+        self.desktop = desktop
+        self.app = App(desktop)
+        self.item = host.item()
+        self.app.window()
+        self.open()
+
+    def open(self):
+        self.item.choose("Scripts…")
+        self.id = wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts window")[0]
+        wait_until(lambda: self.desktop.focused_window() == self.id, what="the keyboard")
+        time.sleep(0.5)
+
+    # Hands
+
+    def key(self, *names):
+        self.desktop.run("xdotool", "key", "--clearmodifiers", *names)
+
+    def type(self, text):
+        self.desktop.run("xdotool", "type", "--clearmodifiers", "--delay", "15", text)
+
+    def click(self, x, y):
+        """At a place in the window; negative ones count from its right and bottom edges."""
+        left, top, width, height = self.geometry()
+        self.desktop.run("xdotool", "mousemove", str(left + x % width), str(top + y % height), "click", "1")
+        time.sleep(0.1)
+
+    def row(self, number):
+        self.click(60, 18 + 25 * number) # Of rows without slides.
+
+    def text(self):
+        self.click(-200, 200)
+
+    # Eyes
+
+    def geometry(self):
+        """Without the frame. Not by xdotool, which counts the frame twice."""
+        text = self.desktop.run("xwininfo", "-id", str(self.id))
+        return tuple(int(re.search(name + r": +(-?\d+)", text)[1])
+                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+    def titles(self):
+        return [script["title"] for script in App.library(self.desktop)]
+
+    def active(self):
+        """The active script, as the files have it."""
+        scripts = App.library(self.desktop)
+        active = App.defaults(self.desktop).get("activeScriptID")
+        return next((script for script in scripts if script["id"] == active), None)
+
+    def wait_for_titles(self, *titles):
+        wait_until(lambda: self.titles() == list(titles), what=f"the titles {titles}, not {self.titles()}")
+
+    def wait_for_active(self, seconds=15.0, **values):
+        def holds():
+            script = self.active()
+            return script and all(script[name] == value for name, value in values.items())
+        try:
+            wait_until(holds, seconds)
+        except AssertionError:
+            raise AssertionError(f"the active script is {str(self.active())[:300]}, not {str(values)[:300]}")
+
+
+class ScriptsWindowTest(unittest.TestCase):
+    def setUp(self):
+        self.desktop = Desktop()
+        self.addCleanup(self.desktop.close)
+        App.set_defaults(self.desktop, onboardingSeenVersion=1)
+        self.host = TrayHost(SessionBus(self.desktop))
+
+    def start(self):
+        return ScriptsWindow(self.desktop, self.host)
+
+    def test_it_opens_in_the_middle_with_its_size_and_title(self):
+        x, y, width, height = self.start().geometry()
+
+        self.assertEqual((width, height), (720, 480))
+        self.assertAlmostEqual(x + width / 2, self.desktop.width / 2, delta=20)
+        self.assertAlmostEqual(y + height / 2, self.desktop.height / 2, delta=40)
+
+    def test_a_library_is_made_written_and_kept(self):
+        window = self.start()
+        window.wait_for_active(title="Welcome to Orvello")
+
+        window.click(18, -18) # The plus.
+        window.wait_for_titles("Untitled", "Welcome to Orvello")
+        window.wait_for_active(title="Untitled", body="")
+
+        window.type("Talk")
+        window.wait_for_active(title="Talk")
+        window.key("Return")
+        window.type("Hello all")
+        window.key("Return")
+        window.type("Thank you")
+        window.wait_for_active(title="Talk", body="Hello all\nThank you")
+
+        window.row(1)
+        window.wait_for_active(title="Welcome to Orvello")
+        window.row(0)
+        window.wait_for_active(title="Talk")
+
+        window.key("ctrl+n")
+        window.type("Second")
+        window.wait_for_titles("Second", "Talk", "Welcome to Orvello")
+        window.row(2)
+        window.wait_for_active(title="Welcome to Orvello")
+        window.click(50, -18) # The minus.
+        window.wait_for_titles("Second", "Talk")
+        window.wait_for_active(title="Second")
+        window.row(1)
+        window.wait_for_active(title="Talk")
+        before = App.library(self.desktop)
+        self.assertEqual(window.app.quit(), 0)
+        self.host.items.clear()
+
+        again = self.start()
+        self.assertEqual(App.library(self.desktop), before)
+        again.wait_for_active(title="Talk", body="Hello all\nThank you")
+        again.text()
+        again.key("ctrl+End")
+        again.type("!")
+        again.wait_for_active(body="Hello all\nThank you!")
+
+    def test_the_last_script_can_go_and_then_nothing_is_typed(self):
+        window = self.start()
+        window.key("Delete")
+        window.wait_for_titles()
+        self.assertNotIn("activeScriptID", App.defaults(self.desktop))
+
+        window.text()
+        window.type("lost")
+        window.click(-200, 20)
+        window.type("lost")
+        time.sleep(0.5)
+        self.assertEqual(window.titles(), [])
+
+        window.key("ctrl+n")
+        window.wait_for_titles("Untitled")
+
+    def test_undoing_never_crosses_to_another_script(self):
+        window = self.start()
+        for name in ("One", "Two"):
+            window.key("ctrl+n")
+            window.type(name)
+            window.key("Return")
+            window.type(f"Body of {name}")
+        window.wait_for_active(title="Two", body="Body of Two")
+
+        window.row(1)
+        window.text()
+        window.key(*["ctrl+z"] * 30)
+        window.wait_for_active(title="One", body="")
+        self.assertEqual(App.library(self.desktop)[0]["body"], "Body of Two")
+        window.key(*["ctrl+shift+z"] * 30)
+        window.wait_for_active(title="One", body="Body of One")
+        window.row(0)
+        window.text()
+        window.key("End")
+        window.type("!")
+        window.wait_for_active(title="Two", body="Body of Two!")
+        self.assertEqual(App.library(self.desktop)[1]["body"], "Body of One")
+
+    def test_a_deck_is_imported_through_the_file_dialog_with_the_keyboard_alone(self):
+        deck = self.desktop.scratch / "Quarterly review.pptx"
+        subprocess.run(["/usr/bin/python3", str(DECK_TOOL), "--slides", "3", "--output", str(deck)],
+                       check=True, timeout=180, capture_output=True)
+        message = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
+        window = self.start()
+
+        window.key("Tab", "Tab", "Tab", "space") # To the import menu.
+        time.sleep(0.3)
+        window.key("Down", "Return")
+        wait_until(lambda: self.desktop.windows_titled(message), what="the file dialog")
+        time.sleep(0.5)
+        window.key("Escape")
+        wait_until(lambda: not self.desktop.windows_titled(message), what="the file dialog to go")
+        self.assertEqual(window.titles(), ["Welcome to Orvello"])
+
+        window.key("ctrl+o")
+        wait_until(lambda: self.desktop.windows_titled(message), what="the file dialog")
+        time.sleep(0.5)
+        window.type(str(deck))
+        window.key("Return")
+        window.wait_for_titles("Quarterly review", "Welcome to Orvello")
+        window.wait_for_active(title="Quarterly review", deckSource="Quarterly review.pptx")
+        body = window.active()["body"]
+        wait_until(lambda: self.desktop.focused_window() == window.id, what="the keyboard")
+
+        window.click(-200, 250)
+        window.type("x")
+        window.key("BackSpace", "ctrl+v", "shift+Tab", "End")
+        window.type(" 2")
+        window.wait_for_active(title="Quarterly review 2", body=body)
+
+    def test_a_megabyte_is_pasted(self):
+        window = self.start()
+        window.key("ctrl+n")
+        window.key("Return")
+        # Grown by copying it, because there is no other program to copy from.
+        window.type("The text of a long talk, which has a good many words.")
+        window.key("Return")
+        body = "The text of a long talk, which has a good many words.\n"
+        while len(body) < 1_000_000:
+            window.key("ctrl+a", "ctrl+c", "ctrl+v", "ctrl+v")
+            body += body
+            window.wait_for_active(body=body)
+        window.key("ctrl+a", "ctrl+c", "ctrl+n", "Return")
+        window.wait_for_active(body="")
+
+        start = time.monotonic()
+        window.key("ctrl+v")
+        window.wait_for_active(body=body)
+        print(f"{len(body)} characters were on the disk {time.monotonic() - start:.2f} s after the key press")
+        window.type("Hello")
+        window.wait_for_active(body=body + "Hello")
+        window.key("ctrl+z", "ctrl+z")
+        window.wait_for_active(body="")
+
+    def test_closing_only_hides_it(self):
+        window = self.start()
+        window.text()
+        window.key("ctrl+End")
+        window.type("abc")
+        wait_until(lambda: window.active()["body"].endswith("abc"), what="the typed text")
+        body = window.active()["body"]
+
+        window.key("ctrl+w")
+        wait_until(lambda: not self.desktop.windows_titled("Scripts"), what="the window to go")
+        window.open()
+        window.text()
+        window.key("ctrl+z")
+
+        wait_until(lambda: window.active()["body"] != body, what="the undone text")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
