@@ -224,6 +224,15 @@ class SlidesTest(unittest.TestCase):
             answer = self.helper(command)
             self.assertEqual((answer.returncode, answer.stderr), (0, ""))
 
+    def test_no_libreoffice_stays_behind_a_helper_that_is_killed(self):
+        allowing = subprocess.Popen(
+            ["/usr/bin/python3", HELPER, "allow"], env=self.desktop.environment | self.office.environment(),
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self.office.process_ids, 20, "LibreOffice")
+        allowing.kill()
+        allowing.wait()
+        wait_until(lambda: not self.office.process_ids(), 20, "LibreOffice's end")
+
     def test_the_helper_says_when_no_presentation_is_open(self):
         self.start_office("--writer")
         wait_until(lambda: "NO_DOCUMENT" in self.helper("deck").stderr, what="NO_DOCUMENT")

@@ -42,22 +42,27 @@ PresenterApp ImpressPresenter::row()
         .notesName = u"notes"_s,
         .permissionAdvice
         = u"permission denied — LibreOffice answers other programs only once you allow it"_s,
-        .askCurrentSlide = asking(u"slide"_s, &ImpressPresenter::slideRefused),
-        .askOpenDeck = asking(u"deck"_s, &ImpressPresenter::importRefused),
+        .askCurrentSlide =
+            [this](ScriptCompletion completion) {
+                ask(u"slide"_s, std::move(completion), &ImpressPresenter::slideRefused);
+            },
+        .askOpenDeck =
+            [this](ScriptCompletion completion) {
+                ask(u"deck"_s, std::move(completion), &ImpressPresenter::importRefused);
+            },
     };
 }
 
-PresenterApp::Query ImpressPresenter::asking(const QString& question, Refused refused)
+void ImpressPresenter::ask(
+    const QString& question, ScriptCompletion completion, void (ImpressPresenter::*refused)())
 {
-    return [this, question, refused](ScriptCompletion completion) {
-        const auto receive = [self = QPointer(this), refused, completion = std::move(completion)](
-                                 const ScriptResult& result) {
-            completion(result);
-            if (self && isRefused(result))
-                (self->*refused)();
-        };
-        m_helper.ask(question, receive);
+    const auto receive = [self = QPointer(this), refused, completion = std::move(completion)](
+                             const ScriptResult& result) {
+        completion(result);
+        if (self && isRefused(result))
+            (self->*refused)();
     };
+    m_helper.ask(question, receive);
 }
 
 void ImpressPresenter::slideRefused()

@@ -51,9 +51,8 @@ Q_SIGNALS:
     void isChangingChanged();
 
 private:
-    using Refused = void (ImpressPresenter::*)();
-
-    PresenterApp::Query asking(const QString& question, Refused refused);
+    void ask(
+        const QString& question, ScriptCompletion completion, void (ImpressPresenter::*refused)());
     void slideRefused();
     void importRefused();
     void adviseAfterSlideshow();

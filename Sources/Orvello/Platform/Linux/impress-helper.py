@@ -15,12 +15,14 @@ Needs the distribution's python3-uno. ORVELLO_IMPRESS_PIPE names another connect
 ORVELLO_IMPRESS_PROFILE (a file URL) another LibreOffice profile than the user's; tests use them.
 """
 
+import ctypes
 import json
 import math
 import os
 import pathlib
 import shlex
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -39,6 +41,8 @@ HAND_OVER_SECONDS = 2.0
 # a while to end, or another LibreOffice may run that has nothing to do with it.
 LOSS_SECONDS = 5.0
 RETRY_SECONDS = 0.1
+
+PR_SET_PDEATHSIG = 1  # <sys/prctl.h>
 
 PRESENTATION = "com.sun.star.presentation.PresentationDocument"
 TITLE_SHAPE = "com.sun.star.presentation.TitleTextShape"
@@ -225,7 +229,12 @@ def soffice(*arguments):
     options = [f"-env:UserInstallation={profile}"] if profile else []
     return subprocess.Popen(
         [program, *options, "--headless", "--norestore", "--nologo", "--nofirststartwizard", *arguments],
-        stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
+
+
+def end_with_parent():
+    """In the child: a LibreOffice without a window must not stay behind when Orvello quits meanwhile."""
+    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGTERM)
 
 
 def change_setting(change):
