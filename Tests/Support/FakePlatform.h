@@ -91,6 +91,8 @@ public:
     {
         panelView = &window;
         note(&journal, "panel made");
+        if (panelMade)
+            panelMade();
         auto made = std::make_unique<FakeNativePanel>();
         made->journal = &journal;
         panel = made.get();
@@ -120,6 +122,7 @@ public:
     FakeAudioProcesses audioProcessesFake;
     FakeNativePanel* panel = nullptr; ///< The one that was made last.
     QWindow* panelView = nullptr; ///< Its content.
+    std::function<void()> panelMade; ///< Called when it is, if anybody wants to know.
 };
 
 } // namespace Orvello::Testing
