@@ -64,8 +64,16 @@ protected:
     /// What a launch does, without what it does to get the library and Stealth Mode going.
     Lines recordOfLaunch(const QStringList& arguments = {})
     {
+        QGuiApplication::setWindowIcon({});
         construct(arguments);
+        platform.panelMade = [this] {
+            if (!QGuiApplication::windowIcon().isNull())
+                platform.journal.emplace_back("with the icon set");
+            QObject::connect(&engine(), &ScrollEngine::isRunningChanged, delegate.get(),
+                [this] { platform.journal.emplace_back("scrolling started"); });
+        };
         platform.journal.clear();
+        delegate->applicationOpen({ QUrl(u"orvello:early"_s) });
         delegate->applicationDidFinishLaunching();
         Lines record;
         for (const std::string& line : platform.journal) {
@@ -76,32 +84,36 @@ protected:
         return record;
     }
 
-    const Lines firstWindow { "panel made",
-        "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=0 sckExclude=0", "windows made ready",
-        "panel ordered front" };
+    const Lines panelMade { "panel made", "with the icon set",
+        "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=0 sckExclude=0",
+        "windows made ready" };
+    const Lines panelShown { "panel ordered front" };
+    const Lines tourShown { "onboarding window made", "application activated",
+        "onboarding window in front" };
     const Lines monitorStarted { "frontmost application asked for" };
+    const Lines addressHandled { "log URL ignored: orvello:early" };
 };
 
-TEST_F(AppDelegateTest, launchesInTheOrderThatItsPartsRelyOn)
+TEST_F(AppDelegateTest, launchesStepByStep)
 {
     EXPECT_THAT(recordOfLaunch(),
-        ElementsAreArray(
-            joined({ firstWindow, statusItemAndKeys, monitorStarted, signalHandlers })));
+        ElementsAreArray(joined({ panelMade, panelShown, statusItemAndKeys, monitorStarted,
+            addressHandled, signalHandlers })));
 }
 
 TEST_F(AppDelegateTest, checksForUpdatesRightAfterTheirStart)
 {
     EXPECT_THAT(recordOfLaunch({ u"--check-updates"_s }),
-        ElementsAreArray(joined(
-            { firstWindow, statusItemAndKeys, { "application activated", "updater asked to check" },
-                monitorStarted, signalHandlers })));
+        ElementsAreArray(joined({ panelMade, panelShown, statusItemAndKeys,
+            { "application activated", "updater asked to check" }, monitorStarted, addressHandled,
+            signalHandlers })));
 }
 
 TEST_F(AppDelegateTest, turnsVoiceFollowOnBeforeItSubscribes)
 {
     EXPECT_THAT(recordOfLaunch({ u"--voice"_s }),
-        ElementsAreArray(joined({ firstWindow, statusItemAndKeys, { "default voiceFollow stored" },
-            monitorStarted, signalHandlers })));
+        ElementsAreArray(joined({ panelMade, panelShown, statusItemAndKeys,
+            { "default voiceFollow stored" }, monitorStarted, addressHandled, signalHandlers })));
 
     Testing::drainEvents();
 
@@ -109,26 +121,56 @@ TEST_F(AppDelegateTest, turnsVoiceFollowOnBeforeItSubscribes)
     EXPECT_EQ(logged("VAD listening (VPIO, AEC on)"), 1);
 }
 
+TEST_F(AppDelegateTest, startsScrollingLateAndBeforeTheAddresses)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+
+    EXPECT_THAT(recordOfLaunch({ u"--autostart"_s }),
+        ElementsAreArray(joined({ panelMade, panelShown, statusItemAndKeys, monitorStarted,
+            { "scrolling started" }, addressHandled, signalHandlers })));
+}
+
 TEST_F(AppDelegateTest, showsTheTourInPlaceOfThePanelAtTheFirstLaunch)
 {
     platform.userDefaultsFake.stored.remove(u"onboardingSeenVersion"_s);
 
-    const Lines record = recordOfLaunch();
-
-    EXPECT_THAT(record,
-        ElementsAreArray(
-            joined({ { firstWindow[0], firstWindow[1], firstWindow[2], "onboarding window made",
-                         "application activated", "onboarding window in front" },
-                statusItemAndKeys, monitorStarted, signalHandlers })));
+    EXPECT_THAT(recordOfLaunch(),
+        ElementsAreArray(joined({ panelMade, tourShown, statusItemAndKeys, monitorStarted,
+            addressHandled, signalHandlers })));
     EXPECT_FALSE(platform.panel->isVisible());
 }
 
-TEST_F(AppDelegateTest, showsTheTourAgainWhenAsked)
+TEST_F(AppDelegateTest, showsTheTourInPlaceOfThePanelWhenAsked)
 {
-    launch({ u"--onboarding"_s });
-
-    EXPECT_EQ(windows.openOnboardings, 1);
+    EXPECT_THAT(recordOfLaunch({ u"--onboarding"_s }),
+        ElementsAreArray(joined({ panelMade, tourShown, statusItemAndKeys, monitorStarted,
+            addressHandled, signalHandlers })));
     EXPECT_FALSE(platform.panel->isVisible());
+}
+
+TEST_F(AppDelegateTest, makesACapturablePanelWithNoStealth)
+{
+    Lines made = panelMade;
+    made[2] = "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=1 sckExclude=0";
+
+    EXPECT_THAT(recordOfLaunch({ u"--no-stealth"_s }),
+        ElementsAreArray(joined({ made, panelShown, statusItemAndKeys, monitorStarted,
+            addressHandled, signalHandlers })));
+}
+
+TEST_F(AppDelegateTest, doesAllOfItInOrder)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+    const EnvironmentVariable variable("ORVELLO_IMPORT_PPTX", u"/nowhere/at/all.pptx"_s);
+
+    EXPECT_THAT(
+        recordOfLaunch({ u"--autostart"_s, u"--voice"_s, u"--check-updates"_s, u"--onboarding"_s }),
+        ElementsAreArray(joined({ panelMade, tourShown, statusItemAndKeys,
+            { "application activated", "updater asked to check", "default voiceFollow stored" },
+            monitorStarted,
+            { "log IMPORT_PPTX failed: The file could not be opened as a PowerPoint package.",
+                "scrolling started" },
+            addressHandled, signalHandlers })));
 }
 
 TEST_F(AppDelegateTest, showsThePanelWhenTheTourIsFinished)
@@ -168,15 +210,6 @@ TEST_F(AppDelegateTest, asksForTheFirstOnboardingVersionAtLeast)
     EXPECT_EQ(windows.openOnboardings, 1);
 }
 
-TEST_F(AppDelegateTest, hasItsIconBeforeAnyWindow)
-{
-    QGuiApplication::setWindowIcon({});
-
-    launch();
-
-    EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
-}
-
 TEST_F(AppDelegateTest, neverHidesThePanelFromCapturesWithNoStealth)
 {
     launchAndSettle({ u"--no-stealth"_s });
@@ -196,15 +229,6 @@ TEST_F(AppDelegateTest, knowsItsSwitchesOnlyAsWholeArguments)
     EXPECT_FALSE(engine().isRunning());
     EXPECT_TRUE(platform.panel->isVisible());
     EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
-}
-
-TEST_F(AppDelegateTest, startsScrollingWithAutostart)
-{
-    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
-
-    launch({ u"--autostart"_s });
-
-    EXPECT_TRUE(engine().isRunning());
 }
 
 // The subscriptions
@@ -341,40 +365,19 @@ TEST_F(AppDelegateTest, importsTheDeckOfTheEnvironment)
     EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
 }
 
-TEST_F(AppDelegateTest, goesOnWhenTheDeckOfTheEnvironmentIsNone)
-{
-    const EnvironmentVariable variable("ORVELLO_IMPORT_PPTX", u"/nowhere/at/all.pptx"_s);
-
-    const Lines record = recordOfLaunch();
-
-    EXPECT_THAT(record,
-        ElementsAreArray(joined({ firstWindow, statusItemAndKeys, monitorStarted,
-            { "log IMPORT_PPTX failed: The file could not be opened as a PowerPoint package." },
-            signalHandlers })));
-}
-
 // Addresses
 
-TEST_F(AppDelegateTest, logsAnAddressOfBeforeTheLaunchOnceAtItsEnd)
+TEST_F(AppDelegateTest, logsAnAddressOfBeforeTheLaunchOnce)
 {
-    const EnvironmentVariable variable("ORVELLO_IMPORT_PPTX", u"/nowhere/at/all.pptx"_s);
     construct();
-    platform.journal.clear();
     delegate->applicationOpen({ QUrl(u"orvello://one"_s), QUrl(u"orvello:two?a=%20b"_s) });
-    EXPECT_THAT(platform.journal, IsEmpty());
+    EXPECT_EQ(logged("URL ignored: orvello://one"), 0);
 
     delegate->applicationDidFinishLaunching();
-
-    const auto& record = platform.journal;
-    const auto imported = std::ranges::find_if(
-        record, [](const auto& line) { return line.starts_with("log IMPORT_PPTX failed"); });
-    ASSERT_LT(imported, record.end());
-    EXPECT_THAT(Lines(imported + 1, record.end()),
-        ElementsAreArray(
-            joined({ { "log URL ignored: orvello://one", "log URL ignored: orvello:two?a=%20b" },
-                signalHandlers })));
     Testing::drainEvents();
+
     EXPECT_EQ(logged("URL ignored: orvello://one"), 1);
+    EXPECT_EQ(logged("URL ignored: orvello:two?a=%20b"), 1);
 }
 
 TEST_F(AppDelegateTest, logsAnAddressOfAfterTheLaunchAtOnce)

@@ -93,6 +93,8 @@ public:
     {
         panelView = &window;
         note(&journal, "panel made");
+        if (panelMade)
+            panelMade();
         auto made = std::make_unique<FakeNativePanel>();
         made->journal = &journal;
         panel = made.get();
@@ -123,6 +125,7 @@ public:
     FakeAudioProcesses audioProcessesFake;
     FakeNativePanel* panel = nullptr; ///< The one that was made last.
     QWindow* panelView = nullptr; ///< Its content.
+    std::function<void()> panelMade; ///< Called when it is, if anybody wants to know.
 };
 
 } // namespace Orvello::Testing
