@@ -217,6 +217,8 @@ void scrollThroughManyScripts()
     const auto wheel = [&] {
         QWheelEvent event(QPointF(100, 200), program.window().mapToGlobal(QPointF(100, 200)), {},
             QPoint(0, -240), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        static quint64 now = 0;
+        event.setTimestamp(now += 100);
         QCoreApplication::sendEvent(&program.window(), &event);
     };
 

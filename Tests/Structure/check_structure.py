@@ -5,12 +5,15 @@
     check_structure.py platforms  nothing outside Platform/ asks for an operating system
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py format     the sources are laid out as clang-format does it
+    check_structure.py translations LUPDATE   what a translation replaces stands in the sources
 """
 
 import pathlib
 import re
 import subprocess
 import sys
+import tempfile
+import xml.etree.ElementTree
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SOURCES = ROOT / "Sources" / "Orvello"
@@ -96,8 +99,27 @@ def check_format():
     return result.stderr.splitlines() if result.returncode else []
 
 
+def messages(translation):
+    """The (context, source text) pairs of a .ts file."""
+    return {(context.findtext("name"), message.findtext("source"))
+            for context in xml.etree.ElementTree.parse(translation).getroot().iter("context")
+            for message in context.iter("message")}
+
+
+def check_translations():
+    with tempfile.TemporaryDirectory() as folder:
+        extracted = pathlib.Path(folder) / "all.ts"
+        subprocess.run([sys.argv[2], "-silent", "-no-obsolete", "-I", str(ROOT / "Sources"), str(SOURCES), "-ts", str(extracted)],
+                       check=True, capture_output=True)
+        in_sources = messages(extracted)
+    assert in_sources, "the sources have no text to translate"
+    return [f"{path.name} translates \"{source}\" of {context}, which no source says"
+            for path in sorted((ROOT / "Resources" / "Translations").glob("*.ts"))
+            for context, source in sorted(messages(path) - in_sources)]
+
+
 CHECKS = {"paths": check_paths, "includes": check_includes, "platforms": check_platforms,
-          "library": check_library, "format": check_format}
+          "library": check_library, "format": check_format, "translations": check_translations}
 
 if __name__ == "__main__":
     found = CHECKS[sys.argv[1]]()
