@@ -16,8 +16,8 @@
 
 namespace Orvello {
 
-AppCommands::AppCommands(const Services& services, Delegate delegate)
-    : m_services(services)
+AppCommands::AppCommands(Services services, Delegate delegate)
+    : m_services(std::move(services))
     , m_delegate(std::move(delegate))
 {
 }

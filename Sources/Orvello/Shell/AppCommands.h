@@ -33,7 +33,7 @@ public:
         std::function<void()> showOnboarding;
     };
 
-    AppCommands(const Services& services, Delegate delegate);
+    AppCommands(Services services, Delegate delegate);
     ~AppCommands() override;
 
     /// The program's version and build, as in "2.1 (57)".

@@ -14,7 +14,7 @@ QKeySequence shortcut(const QString& letter)
     if (letter.isEmpty())
         return {};
     const QString shift = letter.at(0).isUpper() ? u"Shift+"_s : QString();
-    return QKeySequence(u"Ctrl+"_s + shift + letter.toUpper());
+    return { u"Ctrl+"_s + shift + letter.toUpper() };
 }
 
 } // namespace

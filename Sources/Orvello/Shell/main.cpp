@@ -36,7 +36,7 @@ QStringList argumentsWithoutProgram(int count, char** values)
 
 void print(std::FILE* stream, const QString& text)
 {
-    std::fputs(text.toLocal8Bit().constData(), stream);
+    static_cast<void>(std::fputs(text.toLocal8Bit().constData(), stream));
 }
 
 AppLog::Session sessionOn(Platform& platform)

@@ -48,7 +48,7 @@ bool BusInstance::claim(const QStringList& arguments)
         if (handOver(arguments))
             return false;
     }
-    std::fputs("Orvello is running already, but does not answer.\n", stderr);
+    static_cast<void>(std::fputs("Orvello is running already, but does not answer.\n", stderr));
     return false;
 }
 
