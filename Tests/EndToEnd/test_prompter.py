@@ -124,6 +124,28 @@ class PrompterTest(unittest.TestCase):
         self.assertEqual(self.text_rows(app), second)
         self.assertEqual(app.geometry(), (x, y, width, height))
 
+    # Picture
+
+    def test_the_text_dissolves_toward_the_top_and_the_bottom(self):
+        self.write_library(body="\n".join(["█" * 40] * 20))
+        App.set_defaults(self.desktop, backgroundOpacity=1.0)
+        app = App(self.desktop)
+        x, y, _, height = app.shown()
+        self.mouse("mousemove", x + 400, y + 100, "click", "--repeat", 3, 5, "mousemove", 10, 880)
+        time.sleep(0.7)
+
+        picture = self.desktop.screenshot()
+
+        lit = 0
+        for row in range(height - 30):  # The badge lies below.
+            middle = (row + 0.5) / height
+            visibility = max(0.0, min(middle / 0.1, (1 - middle) / 0.18, 1.0))
+            value = picture.pixel(x + 200, y + row)[1]
+            # A row lies inside a line, between two, or on a line's edge.
+            self.assertLessEqual(value, 255 * visibility + 6, f"row {row}")
+            lit += value >= 255 * visibility - 6
+        self.assertGreater(lit, 0.6 * (height - 30))
+
     # Stealth Mode
 
     def test_each_mechanism_is_logged_as_it_was_asked_for(self):
