@@ -124,6 +124,29 @@ class PrompterTest(unittest.TestCase):
         self.assertEqual(self.text_rows(app), second)
         self.assertEqual(app.geometry(), (x, y, width, height))
 
+    # Screens
+
+    def test_the_panel_keeps_its_place_on_a_second_screen_as_long_as_there_is_one(self):
+        self.desktop.run("xrandr", "--setmonitor", "Left", "800/300x900/250+0+0", "screen")
+        self.desktop.run("xrandr", "--setmonitor", "Right", "640/300x900/250+800+0", "none")
+        app = App(self.desktop)
+        self.assertEqual(app.shown(), (40, 6, 720, 200), "under the camera of the main screen")
+        self.mouse("mousemove", 70, 106, "mousedown", 1, "mousemove", 400, 300, "mousemove", 950, 406,
+                   "mouseup", 1)
+        wait_until(lambda: app.geometry() == (920, 306, 720, 200), what="the end of the drag")
+        time.sleep(0.3)
+        app.quit()
+
+        again = App(self.desktop)
+        self.assertEqual(again.shown(), (920, 306, 720, 200))
+        again.quit()
+
+        self.desktop.run("xrandr", "--delmonitor", "Right")
+        alone = App(self.desktop)
+        x, _, width, height = alone.shown()
+        self.assertEqual((width, height), (720, 200))
+        self.assertLessEqual(x + width, 800)
+
     # Picture
 
     def test_the_text_dissolves_toward_the_top_and_the_bottom(self):
