@@ -124,6 +124,51 @@ class PrompterTest(unittest.TestCase):
         self.assertEqual(self.text_rows(app), second)
         self.assertEqual(app.geometry(), (x, y, width, height))
 
+    # Screens
+
+    def test_the_panel_keeps_its_place_on_a_second_screen_as_long_as_there_is_one(self):
+        self.desktop.run("xrandr", "--setmonitor", "Left", "800/300x900/250+0+0", "screen")
+        self.desktop.run("xrandr", "--setmonitor", "Right", "640/300x900/250+800+0", "none")
+        app = App(self.desktop)
+        self.assertEqual(app.shown(), (40, 6, 720, 200), "under the camera of the main screen")
+        self.mouse("mousemove", 70, 106, "mousedown", 1, "mousemove", 400, 300, "mousemove", 950, 406,
+                   "mouseup", 1)
+        wait_until(lambda: app.geometry() == (920, 306, 720, 200), what="the end of the drag")
+        time.sleep(0.3)
+        app.quit()
+
+        again = App(self.desktop)
+        self.assertEqual(again.shown(), (920, 306, 720, 200))
+        again.quit()
+
+        self.desktop.run("xrandr", "--delmonitor", "Right")
+        alone = App(self.desktop)
+        x, _, width, height = alone.shown()
+        self.assertEqual((width, height), (720, 200))
+        self.assertLessEqual(x + width, 800)
+
+    # Picture
+
+    def test_the_text_dissolves_toward_the_top_and_the_bottom(self):
+        self.write_library(body="\n".join(["█" * 40] * 20))
+        App.set_defaults(self.desktop, backgroundOpacity=1.0)
+        app = App(self.desktop)
+        x, y, _, height = app.shown()
+        self.mouse("mousemove", x + 400, y + 100, "click", "--repeat", 3, 5, "mousemove", 10, 880)
+        time.sleep(0.7)
+
+        picture = self.desktop.screenshot()
+
+        lit = 0
+        for row in range(height - 30):  # The badge lies below.
+            middle = (row + 0.5) / height
+            visibility = max(0.0, min(middle / 0.1, (1 - middle) / 0.18, 1.0))
+            value = picture.pixel(x + 200, y + row)[1]
+            # A row lies inside a line, between two, or on a line's edge.
+            self.assertLessEqual(value, 255 * visibility + 6, f"row {row}")
+            lit += value >= 255 * visibility - 6
+        self.assertGreater(lit, 0.6 * (height - 30))
+
     # Stealth Mode
 
     def test_each_mechanism_is_logged_as_it_was_asked_for(self):

@@ -12,7 +12,7 @@ Rectangle {
     implicitWidth: row.implicitWidth + 2 * padding
     implicitHeight: 18
     radius: height / 2
-    color: Qt.rgba(0, 0, 0, 0.8)
+    color: Qt.rgba(0, 0, 0, 0.88)
 
     Row {
         id: row

@@ -15,7 +15,7 @@ constexpr double sliceBudget = 0.004;
 
 /// Signs in colour, where this is installed: else the search for a font that has them would end at
 /// the first plain one. macOS has a fixed order of its own.
-const QString emojiFamily = u"Noto Color Emoji"_s;
+constexpr auto emojiFamily = "Noto Color Emoji"_L1;
 
 constexpr double largestFontSize = 1000;
 
@@ -73,7 +73,7 @@ void PromptLines::typographyWasSet()
 PromptTypography PromptLines::typography() const
 {
     const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
-    QFont font({ m_fontFamily, emojiFamily });
+    QFont font(QStringList { m_fontFamily, emojiFamily });
     const double wholeSize = std::ceil(size);
     font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);

@@ -12,7 +12,7 @@ Rectangle {
 
     radius: 9
     implicitHeight: Math.max(18, message.implicitHeight + 6)
-    color: Qt.rgba(0, 0, 0, 0.8)
+    color: Qt.rgba(0, 0, 0, 0.88)
     visible: warning.isShown
 
     Symbol {
