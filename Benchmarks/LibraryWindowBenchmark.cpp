@@ -206,6 +206,15 @@ void typeIntoALongScript()
         [&] { store.setActiveScriptID(store.scripts()[next++].id); });
 }
 
+/// Qt lays out a paragraph whole at each key press, so that the one that is edited is what counts.
+void typeIntoALongParagraph(const char* what, qsizetype length)
+{
+    const QString paragraph = prose(length).simplified() + u'\n';
+    Program program({ LibraryServices::script(u"Long"_s, paragraph.repeated(megabyte / length)) });
+    goToMiddle(program);
+    measure(what, program, 10, [&] { QTest::keyClick(&program.window(), Qt::Key_A); });
+}
+
 void scrollThroughManyScripts()
 {
     QList<Script> scripts;
@@ -243,6 +252,8 @@ int main(int argc, char** argv)
     std::printf("%-46s %s %s %s\n", "Milliseconds: median (worst)", "until it is seen",
         "of processor", "longest stall");
     Orvello::typeIntoALongScript();
+    Orvello::typeIntoALongParagraph("a key press in a paragraph of 10 kB", 10'000);
+    Orvello::typeIntoALongParagraph("a key press in a paragraph of 100 kB", 100'000);
     Orvello::scrollThroughManyScripts();
     return 0;
 }

@@ -22,7 +22,7 @@ public:
     /// Together with the active one. Beyond either bound the one that was not seen for longest is
     /// closed; the active one may be of any length.
     static constexpr std::size_t mostScripts = 8;
-    static constexpr qsizetype mostCharacters = 4'000'000; ///< Each takes about 100 bytes.
+    static constexpr qsizetype mostCharacters = 4'000'000; ///< Each takes a dozen bytes.
 
     explicit OpenScripts(LibraryStore& library); ///< `library` must outlive the model.
     ~OpenScripts() override;
