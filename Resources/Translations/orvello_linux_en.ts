@@ -37,19 +37,19 @@
     <name>OnboardingSetupPage</name>
     <message>
         <source>⌥⌘P</source>
-        <translation>Super+Alt+P</translation>
+        <translation>Alt+Super+P</translation>
     </message>
     <message>
         <source>⌥⌘↑ ↓</source>
-        <translation>Super+Alt+↑ ↓</translation>
+        <translation>Alt+Super+↑ ↓</translation>
     </message>
     <message>
         <source>⌥⌘R</source>
-        <translation>Super+Alt+R</translation>
+        <translation>Alt+Super+R</translation>
     </message>
     <message>
         <source>⌥⌘H</source>
-        <translation>Super+Alt+H</translation>
+        <translation>Alt+Super+H</translation>
     </message>
     <message>
         <source>Menu bar</source>
@@ -127,26 +127,26 @@
     <name>SessionSettings</name>
     <message>
         <source>While a Keynote or PowerPoint slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. ⌥⌘P always works too.</source>
-        <translation>While a LibreOffice Impress slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. Super+Alt+P always works too.</translation>
+        <translation>While a LibreOffice Impress slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. Alt+Super+P always works too.</translation>
     </message>
 </context>
 <context>
     <name>ShortcutSettings</name>
     <message>
         <source>⌥⌘P</source>
-        <translation>Super+Alt+P</translation>
+        <translation>Alt+Super+P</translation>
     </message>
     <message>
         <source>⌥⌘↑  /  ⌥⌘↓</source>
-        <translation>Super+Alt+↑  /  Super+Alt+↓</translation>
+        <translation>Alt+Super+↑  /  Alt+Super+↓</translation>
     </message>
     <message>
         <source>⌥⌘R</source>
-        <translation>Super+Alt+R</translation>
+        <translation>Alt+Super+R</translation>
     </message>
     <message>
         <source>⌥⌘H</source>
-        <translation>Super+Alt+H</translation>
+        <translation>Alt+Super+H</translation>
     </message>
 </context>
 <context>

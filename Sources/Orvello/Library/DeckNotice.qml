@@ -31,8 +31,6 @@ Rectangle {
             text: root.text
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            maximumLineCount: 4
-            elide: Text.ElideRight
             font.pixelSize: 12
         }
     }

@@ -53,6 +53,7 @@ Pane {
             text: root.editor.title
             readOnly: root.isActive && !root.editor.isEditable
             selectByMouse: true
+            maximumLength: 0x7fffffff // Whatever a title is, an edit cuts nothing off.
             autoScroll: activeFocus // A title that is not being edited is seen from its beginning.
             onTextEdited: root.editor.title = text
             onAccepted: body.forceActiveFocus(Qt.TabFocusReason)

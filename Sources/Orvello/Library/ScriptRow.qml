@@ -60,9 +60,15 @@ ItemDelegate {
                 maximumLineCount: 1
                 color: root.textColor
 
-                ToolTip.text: root.title
-                ToolTip.visible: root.hovered && truncated
-                ToolTip.delay: 700
+                ToolTip {
+                    visible: root.hovered && parent.truncated
+                    delay: 700
+                    // The shared one would take a title that looks like markup for it.
+                    contentItem: Label {
+                        text: root.title
+                        textFormat: Text.PlainText
+                    }
+                }
             }
             Label {
                 Layout.fillWidth: true

@@ -121,10 +121,10 @@ void PrompterPanelController::reassertStealth()
     applyStealthMode(m_wantsStealth);
     if (!m_stealthOn || m_panel.windowNumber() >= 1)
         return;
-    m_delayedReassertion = m_time.callAfter(reassertionDelay, [this] {
+    m_delayedReassertions.push_back(m_time.callAfter(reassertionDelay, [this] {
         if (m_stealthOn)
             applyStealthMode(true);
-    });
+    }));
 }
 
 void PrompterPanelController::watchResizes()

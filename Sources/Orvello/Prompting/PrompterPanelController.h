@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace Orvello {
 
@@ -86,7 +87,8 @@ private:
     qint64 m_appliedWid = -1; ///< Window number at the last application.
     std::optional<NativePanel::SharingType> m_appliedSharing;
     std::unique_ptr<TimeSource::Ticket> m_stealthWatchdog;
-    std::unique_ptr<TimeSource::Ticket> m_delayedReassertion;
+    /// One for each request; few, because a window has its number soon.
+    std::vector<std::unique_ptr<TimeSource::Ticket>> m_delayedReassertions;
 };
 
 } // namespace Orvello

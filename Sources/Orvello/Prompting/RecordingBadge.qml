@@ -10,7 +10,7 @@ Rectangle {
     implicitWidth: label.implicitWidth + 12
     implicitHeight: 16
     radius: 4
-    color: "#ff3b30"
+    color: "#ff453a" // SignalColors::red
 
     Text {
         id: label

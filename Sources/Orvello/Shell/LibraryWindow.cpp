@@ -1,6 +1,7 @@
 #include "Orvello/Shell/LibraryWindow.h"
 
 #include "Orvello/Shell/SystemPalette.h"
+#include "Orvello/Shell/WindowPlacement.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -23,6 +24,8 @@ LibraryWindow::LibraryWindow(const Services& services)
 {
     m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setTitle(QCoreApplication::translate("LibraryWindow", "Scripts"));
+    m_view.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
+        | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.setMinimumSize(smallestSize);
     m_view.setInitialProperties({ { u"library"_s, QVariant::fromValue(&m_library) } });
@@ -38,9 +41,7 @@ void LibraryWindow::makeKeyAndOrderFront()
 {
     if (!std::exchange(m_wasShown, true))
         centre();
-    m_view.show();
-    m_view.raise();
-    m_view.requestActivate();
+    WindowPlacement::bringToFront(m_view);
 }
 
 void LibraryWindow::centre()

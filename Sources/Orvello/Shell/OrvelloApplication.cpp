@@ -5,6 +5,7 @@
 
 #include "Version.h"
 
+#include <QEvent>
 #include <QMenuBar>
 
 #include <utility>
@@ -34,6 +35,16 @@ void OrvelloApplication::setMainMenu(std::unique_ptr<Menu> menu)
         m_menus.push_back(std::make_unique<QtMenu>(*item->submenu));
         m_menuBar->addMenu(m_menus.back().get());
     }
+}
+
+/// The system asks for the end of the program, at a log-out for example. Qt would close every
+/// window first, and closing the welcome tour counts as having seen it.
+bool OrvelloApplication::event(QEvent* event)
+{
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    exit();
+    return true;
 }
 
 } // namespace Orvello

@@ -24,6 +24,9 @@ public:
     /// Puts a menu into the system's menu bar.
     void setMainMenu(std::unique_ptr<Menu> menu);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     std::unique_ptr<Menu> m_mainMenu;
     std::vector<std::unique_ptr<QtMenu>> m_menus; ///< Those that open from the bar.

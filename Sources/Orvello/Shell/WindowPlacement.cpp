@@ -17,10 +17,9 @@ QRect centered(const QSize& wanted, const QRect& available)
 
 void bringToFront(QWindow& window)
 {
-    if (window.windowState() == Qt::WindowMinimized)
-        window.showNormal();
-    else
-        window.show();
+    // QWindow::show() would also end a maximized or full-screen state.
+    window.setWindowStates(window.windowStates() & ~Qt::WindowStates(Qt::WindowMinimized));
+    window.setVisible(true);
     window.raise();
     window.requestActivate();
 }

@@ -1,6 +1,7 @@
 #include "Orvello/Platform/Linux/FileDialog.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMimeDatabase>
 
 namespace Orvello {
@@ -9,10 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// "PowerPoint 2007 presentation (*.pptx)": the system's words for files of this kind.
+/// "PowerPoint 2007 presentation (*.pptx *.PPTX)": the system's words for files of this kind, and
+/// both ways to write it, of which some dialogs make a difference.
 QString filterFor(const QString& extension)
 {
-    const QString pattern = u"*."_s + extension;
+    const QString pattern = u"*.%1 *.%2"_s.arg(extension.toLower(), extension.toUpper());
     const QMimeType type
         = QMimeDatabase().mimeTypeForFile(u"file."_s + extension, QMimeDatabase::MatchExtension);
     return type.comment() + u" ("_s + pattern + u")"_s;
@@ -29,7 +31,11 @@ std::optional<QString> FileDialog::chooseFile(const QString& message, const File
     dialog.setNameFilter(filterFor(kind.extension));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return dialog.selectedFiles().first();
+    const QString file = dialog.selectedFiles().first();
+    // A name can be typed past the filter.
+    if (QFileInfo(file).suffix().compare(kind.extension, Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    return file;
 }
 
 } // namespace Orvello

@@ -152,12 +152,15 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         return released(static_cast<const QMouseEvent&>(*event));
     case QEvent::Wheel: {
         const auto& wheel = static_cast<const QWheelEvent&>(*event);
-        constexpr double pointsPerAngleUnit = 1.0 / 12.0; // One notch is 120 units, and 10 points.
-        const QPoint precise = wheel.pixelDelta();
-        Q_EMIT scrolled(
-            precise.isNull() ? wheel.angleDelta().y() * pointsPerAngleUnit : precise.y());
+        // One notch is 120 units, and 10 points; a touchpad sends fractions of it. What Qt calls
+        // the pixel delta is the device's raw axis on X11, in no unit that two drivers agree on.
+        constexpr double pointsPerAngleUnit = 1.0 / 12.0;
+        Q_EMIT scrolled(wheel.angleDelta().y() * pointsPerAngleUnit);
         return true;
     }
+    case QEvent::Hide:
+        endGesture(); // No release comes to a window that is not there.
+        return false;
     case QEvent::Move:
         saveFrame();
         return false;
@@ -203,12 +206,21 @@ bool X11Panel::released(const QMouseEvent& event)
 {
     if (event.button() != Qt::LeftButton || !m_gesture.isActive)
         return false;
+    endGesture();
+    return true;
+}
+
+void X11Panel::endGesture()
+{
+    if (!m_gesture.isActive)
+        return;
+    // The last size belongs to the gesture, although the server has yet to confirm it.
+    announceSize();
     const bool wasResize = m_gesture.edges != Qt::Edges();
     m_gesture = {};
     saveFrame();
     if (wasResize)
         Q_EMIT didEndLiveResize();
-    return true;
 }
 
 /// A window that is shown, or only moved, is told of its size again.

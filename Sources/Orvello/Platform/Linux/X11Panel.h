@@ -56,6 +56,7 @@ private:
     bool pressed(QMouseEvent& event);
     bool moved(const QMouseEvent& event);
     bool released(const QMouseEvent& event);
+    void endGesture();
     void announceSize();
     void saveFrame();
 

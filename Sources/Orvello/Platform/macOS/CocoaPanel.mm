@@ -8,6 +8,7 @@
 #include "Orvello/Platform/macOS/PrompterPanel.h"
 #include "Orvello/Prompting/PanelFrame.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWindow>
@@ -121,6 +122,9 @@ void CocoaPanel::orderFrontRegardless()
 void CocoaPanel::orderOut()
 {
     shielded([&] { [m_panel orderOut:nil]; });
+    // AppKit tells no tracking area that its window went from under the pointer.
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&m_view, &leave);
     m_view.setVisible(false); // Ends the drawing.
 }
 
