@@ -102,6 +102,25 @@ class PrompterTest(unittest.TestCase):
 
         wait_until(lambda: self.dot(app) == GREEN, what="the text to scroll on")
 
+    def test_a_panel_hidden_while_it_is_dragged_stays_where_it_is_shown_again(self):
+        app = App(self.desktop)
+        x, y, _, _ = app.shown()
+        self.mouse("mousemove", x + 400, y + 100)
+        self.mouse("mousedown", 1)
+        self.addCleanup(self.mouse, "mouseup", 1)
+        self.mouse("mousemove", x + 400, y + 200)
+        dragged = wait_until(lambda: app.geometry()[1] != y and app.geometry(), what="the panel to move")
+
+        app.signal(signal.SIGUSR2)
+        wait_until(lambda: not app.is_window_visible(), what="the panel to go")
+        self.mouse("mouseup", 1)
+        app.signal(signal.SIGUSR2)
+        app.shown()
+        self.mouse("mousemove", x + 420, y + 230)
+        time.sleep(0.5)
+
+        self.assertEqual(app.geometry(), dragged)
+
     def test_the_chips_buttons_turn_the_slides_and_drag_nothing(self):
         self.write_library(deckSource="Deck.pptx", slides=[
             {"index": 1, "title": "Welcome", "notes": "A short note."},

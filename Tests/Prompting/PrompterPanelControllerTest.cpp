@@ -289,6 +289,24 @@ TEST_F(PrompterPanelControllerTest, triesOnceMoreShortlyAfterIfTheWindowHasNoNum
             "APPLY ON wid=57 fresh=true mode=both shape=1"));
 }
 
+TEST_F(PrompterPanelControllerTest, triesOnceMoreForEachTimeItWasAskedWithoutANumber)
+{
+    panel.number = 0;
+    built();
+
+    controller->reassertStealth();
+    stage.time.advance(0.05);
+    controller->reassertStealth();
+    EXPECT_EQ(stealthMessages().size(), 2);
+
+    stage.time.advance(0.05);
+    EXPECT_EQ(stealthMessages().size(), 3);
+    stage.time.advance(0.05);
+    EXPECT_EQ(stealthMessages().size(), 4);
+    stage.time.advance(1.0);
+    EXPECT_EQ(stealthMessages().size(), 4);
+}
+
 TEST_F(PrompterPanelControllerTest, dropsTheSecondTryWhenStealthIsOffByThen)
 {
     panel.number = 0;

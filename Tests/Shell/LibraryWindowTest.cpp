@@ -425,6 +425,27 @@ TEST_F(LibraryWindowTest, imports)
     EXPECT_EQ(titleField(), u"My talk"_s);
 }
 
+TEST_F(LibraryWindowTest, staysMaximizedWhenItIsBroughtToTheFront)
+{
+    view().showMaximized();
+    settle();
+
+    window->makeKeyAndOrderFront();
+
+    EXPECT_TRUE(view().windowStates().testFlag(Qt::WindowMaximized));
+}
+
+TEST_F(LibraryWindowTest, comesBackWhenItWasMinimized)
+{
+    view().showMinimized();
+    settle();
+
+    window->makeKeyAndOrderFront();
+
+    EXPECT_TRUE(view().isVisible());
+    EXPECT_FALSE(view().windowStates().testFlag(Qt::WindowMinimized));
+}
+
 TEST_F(LibraryWindowTest, closesAnAlertWithEscape)
 {
     services->openPanel.choice = services->folders.path;
