@@ -8,6 +8,11 @@ target_include_directories(OrvelloBase INTERFACE ${PROJECT_SOURCE_DIR}/Sources)
 target_compile_definitions(
     OrvelloBase INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
                           QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+# Dozens of programs are linked here, and mold takes a tenth of the time of the default linker.
+find_program(ORVELLO_MOLD mold)
+if(LINUX AND ORVELLO_MOLD)
+    target_link_options(OrvelloBase INTERFACE -fuse-ld=mold)
+endif()
 if(ORVELLO_SANITIZE)
     target_compile_options(OrvelloBase INTERFACE -fsanitize=${ORVELLO_SANITIZE} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)
