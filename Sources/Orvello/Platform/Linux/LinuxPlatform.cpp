@@ -1,7 +1,7 @@
 #include "Orvello/Platform/AppcastUpdater.h"
 #include "Orvello/Platform/Linux/BusInstance.h"
-#include "Orvello/Platform/Linux/FramelessChrome.h"
 #include "Orvello/Platform/Linux/FileDialog.h"
+#include "Orvello/Platform/Linux/FramelessChrome.h"
 #include "Orvello/Platform/Linux/ImpressHelper.h"
 #include "Orvello/Platform/Linux/JsonUserDefaults.h"
 #include "Orvello/Platform/Linux/LinuxDesktopServices.h"
