@@ -15,9 +15,11 @@
 #include "Tests/Support/FakeWorkspace.h"
 #include "Tests/Support/ManualTimeSource.h"
 
-#include <QGuiApplication>
 #include <QQuickItem>
+#include <QTest>
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace Orvello::Gallery {
@@ -26,34 +28,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The settings over their real services, on fake ports. As high as its content, unless the screen
-/// is to be low.
+/// How much of the settings a scene shows: the window, all of it, or one section by its title.
+enum class Extent { Window, All, Section };
+
+/// The settings over their real services, on fake ports.
 class SettingsStage final : public Stage {
 public:
     using Play = std::function<void(SettingsStage&)>;
 
-    SettingsStage(const Look& look, bool isWhole, Play play)
+    SettingsStage(Look look, Extent extent, Play play, QString section)
         : m_palette(look)
-        , m_isWhole(isWhole)
+        , m_extent(extent)
+        , m_section(std::move(section))
         , m_play(std::move(play))
     {
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, canExclude });
-        QQuickView& view = settingsWindow->view();
-        view.setFlags(Qt::FramelessWindowHint);
+        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, false });
+        settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
     QQuickWindow& window() override { return settingsWindow->view(); }
     void play() override
     {
-        if (m_isWhole)
-            settingsWindow->view().resize(SettingsWindow::contentSize.width(), wholeHeight());
         m_play(*this);
+        QTest::qWait(100); // Lines that have come lie in their places with the next frame.
+        if (m_extent == Extent::All)
+            showAll();
+        else if (m_extent == Extent::Section)
+            showSection();
         Testing::drainEvents();
     }
 
-    /// Hears a loud voice on whichever path captures.
+    /// Hears a voice on whichever path captures.
     void hearVoice()
     {
         for (int block = 0; block < 20; ++block) {
@@ -65,7 +72,6 @@ public:
         }
     }
 
-    bool canExclude = false;
     std::vector<std::string> journal;
     Testing::ManualTimeSource time;
     Testing::FakeMicrophonePermission permission;
@@ -82,36 +88,99 @@ public:
     std::optional<SettingsWindow> settingsWindow;
 
 private:
-    int wholeHeight()
+    static constexpr int margin = 14;
+
+    QQuickItem& flickable()
     {
-        const auto* flickable
-            = settingsWindow->view().rootObject()->findChild<QQuickItem*>(u"settingsFlickable"_s);
-        return flickable->property("contentHeight").toInt();
+        return *settingsWindow->view().rootObject()->findChild<QQuickItem*>(u"settingsFlickable"_s);
+    }
+
+    void showAll()
+    {
+        settingsWindow->view().resize(
+            SettingsWindow::contentSize.width(), flickable().property("contentHeight").toInt());
+    }
+
+    void showSection()
+    {
+        auto* const content = flickable().property("contentItem").value<QQuickItem*>();
+        for (QQuickItem* section : content->childItems().first()->childItems()) {
+            if (section->property("title").toString() != m_section)
+                continue;
+            settingsWindow->view().resize(
+                SettingsWindow::contentSize.width(), qRound(section->height()) + 2 * margin);
+            Testing::drainEvents();
+            flickable().setProperty(
+                "contentY", section->mapToItem(content, QPointF()).y() - margin);
+        }
     }
 
     StagePalette m_palette;
-    const bool m_isWhole;
-    Play m_play;
+    const Extent m_extent;
+    const QString m_section;
+    const Play m_play;
 };
 
-Scene settings(
-    const QString& name, const Look& look, double scale, bool isWhole,
-    const SettingsStage::Play& play = [](SettingsStage&) {})
+const SettingsStage::Play asItIs = [](SettingsStage&) {};
+
+Scene settings(const QString& name, Look look, Extent extent,
+    const SettingsStage::Play& play = asItIs, const QString& section = {}, double scale = 1)
 {
     return { u"Settings: "_s + name,
-        [=] { return std::make_unique<SettingsStage>(look, isWhole, play); }, Wallpaper::None,
-        scale };
+        [=] { return std::make_unique<SettingsStage>(look, extent, play, section); },
+        Wallpaper::None, scale };
 }
+
+Scene voice(const QString& name, Look look, const SettingsStage::Play& play)
+{
+    return settings(u"voice, "_s + name, look, Extent::Section, play, u"Voice-follow"_s);
+}
+
+void listen(SettingsStage& stage)
+{
+    stage.settings.setVoiceFollow(true);
+    stage.voice.requestPermissionAndStart();
+    stage.hearVoice();
+}
+
+void listenDuringACall(SettingsStage& stage)
+{
+    stage.workspace.running = { { u"us.zoom.xos"_s, u"Zoom"_s } };
+    listen(stage);
+}
+
+void listenForbidden(SettingsStage& stage)
+{
+    stage.permission.currentStatus = MicrophonePermission::Status::Denied;
+    listen(stage);
+}
+
+void haveForeignValues(SettingsStage& stage)
+{
+    stage.settings.setTextColorName(u"Purple"_s);
+    stage.settings.setSpeed(1000);
+    stage.settings.setFontSize(12);
+}
+
+void check(SettingsStage& stage) { stage.updater.setChecks(false, std::nullopt); }
 
 } // namespace
 
 Scenes settingsScenes()
 {
     return {
-        settings(u"light"_s, Look::Light, 1, true),
-        settings(u"dark"_s, Look::Dark, 1, true),
-        settings(u"window, dark, 2x"_s, Look::Dark, 2, false),
-        settings(u"window"_s, Look::Light, 1, false),
+        settings(u"light"_s, Look::Light, Extent::All),
+        settings(u"dark"_s, Look::Dark, Extent::All),
+        settings(u"the window"_s, Look::Light, Extent::Window),
+        voice(u"listening"_s, Look::Light, listen),
+        voice(u"during a call"_s, Look::Dark, listenDuringACall),
+        voice(u"denied"_s, Look::Light, listenForbidden),
+        settings(
+            u"foreign values"_s, Look::Light, Extent::Section, haveForeignValues, u"Prompter"_s),
+        settings(u"checking"_s, Look::Light, Extent::Section, check, u"Updates"_s),
+        settings(u"checking, dark"_s, Look::Dark, Extent::Section, check, u"Updates"_s),
+        settings(u"the window, 2x"_s, Look::Light, Extent::Window, asItIs, {}, 2),
+        settings(u"the window, dark, 2x"_s, Look::Dark, Extent::Window, asItIs, {}, 2),
     };
 }
 

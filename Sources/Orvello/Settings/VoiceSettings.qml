@@ -31,6 +31,7 @@ SettingsSection {
         ProgressBar {
             Layout.preferredWidth: 180
             Layout.minimumWidth: 180
+            Layout.preferredHeight: 14
             from: 0
             to: 1
             value: root.voice.level
