@@ -1,8 +1,10 @@
 #include "Tests/Gallery/Scenes.h"
 
 #include "Orvello/Shell/LibraryWindow.h"
+#include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTest>
@@ -131,6 +133,29 @@ void openMenu(LibraryStage& stage)
 
 void failToImport(LibraryStage& stage) { stage.import(stage.services().folders.path); }
 
+QString deckIn(LibraryStage& stage, const QByteArray& notes)
+{
+    QFile file(stage.services().folders.path + u"/Deck.pptx"_s);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(Testing::DeckBuilder().slide("Intro", notes).build());
+    return file.fileName();
+}
+
+void importSilentDeck(LibraryStage& stage) { stage.import(deckIn(stage, {})); }
+
+void importSavedCopy(LibraryStage& stage)
+{
+    openMenu(stage);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    Testing::FakeChildProcess& process = stage.services().process;
+    process.finish(0, 0,
+        "Deck\x1f"
+        "false\x1f"
+            + deckIn(stage, "Hello all").toUtf8());
+    process.finish(1, 1, {}, "busy");
+}
+
 Scene scene(const QString& name, const LibraryStage::Play& play, bool isDark = false,
     double scale = 1, const QList<Script>& scripts = library())
 {
@@ -151,6 +176,8 @@ Scenes libraryScenes()
         scene(u"long title"_s, showLongTitle),
         scene(u"the import menu"_s, openMenu),
         scene(u"import failed"_s, failToImport),
+        scene(u"no speaker notes"_s, importSilentDeck),
+        scene(u"the saved copy imported"_s, importSavedCopy),
         scene(
             u"a script, dark"_s, [](LibraryStage&) {}, true),
         scene(u"a deck, dark"_s, showDeck, true),
