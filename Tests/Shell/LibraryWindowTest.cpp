@@ -370,6 +370,29 @@ TEST_F(LibraryWindowTest, leavesTheCursorWhereItIsWhenAnotherScriptIsSeenMeanwhi
     EXPECT_EQ(body->property("cursorPosition").toInt(), 3);
 }
 
+TEST_F(LibraryWindowTest, drawsALongTextWhereverItIsScrolledTo)
+{
+    const auto isDrawn = [this] {
+        const QImage picture = view().grabWindow().copy(230, 100, 400, 300);
+        return picture != QImage(picture).scaled(1, 1).scaled(picture.size());
+    };
+    QGuiApplication::clipboard()->setText(u"A line of a long text\n"_s.repeated(3000));
+    click(named(u"Script text"_s));
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(named(u"Script text"_s)->flags() & QQuickItem::ItemObservesViewport);
+
+    EXPECT_TRUE(isDrawn());
+    press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_TRUE(isDrawn());
+    for (int i = 0; i < 20; ++i) {
+        press(Qt::Key_PageDown);
+        EXPECT_TRUE(isDrawn()) << i;
+    }
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    EXPECT_FALSE(isDrawn());
+}
+
 TEST_F(LibraryWindowTest, takesATabAndLeavesTheTextWithShiftTab)
 {
     click(named(u"Script text"_s));

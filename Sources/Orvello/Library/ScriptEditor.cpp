@@ -3,6 +3,7 @@
 #include "Orvello/Library/LibraryStore.h"
 #include "Orvello/Library/WordCount.h"
 
+#include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QScopedValueRollback>
 #include <QTextCursor>
@@ -87,6 +88,10 @@ void ScriptEditor::setEditable(bool isEditable)
 void ScriptEditor::follow(QQuickTextDocument* document)
 {
     m_document = document->textDocument();
+    // A text field draws only what is in sight if it was given a long text, but everything if the
+    // text has become long since: twice the time for a megabyte that is pasted.
+    if (auto* const field = qobject_cast<QQuickItem*>(document->parent()))
+        field->setFlag(QQuickItem::ItemObservesViewport);
     connect(m_document, &QTextDocument::contentsChange, this, &ScriptEditor::takeOver);
     connect(m_document, &QTextDocument::contentsChanged, this, &ScriptEditor::store);
 }
