@@ -13,9 +13,9 @@ HELPER = pathlib.Path(__file__).parents[3] / "Sources/Orvello/Platform/Linux/imp
 
 
 def load_helper():
-    specification = importlib.util.spec_from_file_location("impress_helper", HELPER)
-    module = importlib.util.module_from_spec(specification)
-    specification.loader.exec_module(module)
+    found = importlib.util.spec_from_file_location("impress_helper", HELPER)
+    module = importlib.util.module_from_spec(found)
+    found.loader.exec_module(module)
     return module
 
 
