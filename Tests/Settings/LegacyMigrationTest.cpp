@@ -2,6 +2,7 @@
 
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeUserDefaults.h"
+#include "Tests/Support/FileObstacles.h"
 #include "Tests/Support/LogCapture.h"
 
 #include <QDateTime>
@@ -14,9 +15,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <cstdio>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace Orvello {
@@ -48,6 +46,11 @@ protected:
     {
         QFile file(pathOf(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+
+    QStringList namesIn(const QString& folder = {}) const
+    {
+        return QDir(pathOf(folder)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     }
 
     /// What the library file holds after the library `json` of the former product was migrated.
@@ -167,8 +170,7 @@ TEST_F(LegacyMigrationTest, copiesTheFormerFolderWhole)
     EXPECT_TRUE(QFileInfo(pathOf(u"Orvello/deep/er/link"_s)).isSymLink());
     EXPECT_EQ(readFile(u"Drumlin/scripts.json"_s), "[]");
     EXPECT_THAT(log.lines(), ElementsAre("MIGRATE copied Application Support/Drumlin -> Orvello"));
-    EXPECT_THAT(QDir(folders.path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-        ElementsAre(u"Drumlin"_s, u"Orvello"_s));
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s, u"Orvello"_s));
 }
 
 TEST_F(LegacyMigrationTest, copiesAFormerFolderThatIsALink)
@@ -239,44 +241,94 @@ TEST_F(LegacyMigrationTest, leavesNothingOfACopyThatFailed)
     migrate();
 
     EXPECT_THAT(log.lines(), ElementsAre(StartsWith("MIGRATE support folder copy failed: ")));
-    EXPECT_THAT(QDir(folders.path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-        ElementsAre(u"Drumlin"_s));
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s));
     EXPECT_EQ(defaults.stored.value(u"migratedFromDrumlin"_s), QVariant(true));
 }
 
-/// Files that grow past `bytes` fail as if the disk were full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        const rlimit limit { bytes, m_oldLimit.rlim_max };
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_oldLimit);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
+TEST_F(LegacyMigrationTest, takesAFormerFileForNoFolder)
+{
+    writeFile(u"Drumlin"_s, "text");
 
-private:
-    void (*m_oldHandler)(int);
-    rlimit m_oldLimit {};
-};
+    migrate();
+
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s));
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(LegacyMigrationTest, isNotKeptFromTheScriptsByAFormerFileInThePlaceOfTheLogs)
+{
+    writeFile(u"elsewhere/drumlin.log"_s, "former");
+    writeFile(u"Drumlin/scripts.json"_s, "[]");
+    const QString logs = pathOf(u"Drumlin/logs"_s);
+    for (const bool isLink : { false, true }) {
+        if (isLink)
+            QFile::link(pathOf(u"elsewhere"_s), logs);
+        else
+            writeFile(u"Drumlin/logs"_s, "text");
+        writeFile(u"Orvello/logs/orvello.log"_s, "launch\n");
+
+        migrate();
+
+        EXPECT_EQ(readFile(u"Orvello/scripts.json"_s), "[]");
+        EXPECT_EQ(readFile(u"Orvello/logs/orvello.log"_s), "launch\n");
+        EXPECT_FALSE(QFileInfo(pathOf(u"Orvello/logs"_s)).isSymLink());
+        EXPECT_THAT(namesIn(u"elsewhere"_s), ElementsAre(u"drumlin.log"_s)) << "not ours";
+        QFile::remove(logs);
+        QDir(pathOf(u"Orvello"_s)).removeRecursively();
+        defaults.stored.clear();
+    }
+}
+
+TEST_F(LegacyMigrationTest, leavesTheLogsWhereTheyWereWhenTheyCannotMove)
+{
+    writeFile(u"Drumlin/scripts.json"_s, "[]");
+    writeFile(u"Drumlin/logs/orvello.log/file"_s, "a folder in the way");
+    writeFile(u"Drumlin/logs/drumlin.log"_s, "former");
+    for (const QString& name : { u"a.log"_s, u"orvello.log"_s, u"z.log"_s })
+        writeFile(u"Orvello/logs/"_s + name, name.toUtf8());
+
+    migrate();
+
+    EXPECT_THAT(log.lines(), ElementsAre(StartsWith("MIGRATE support folder copy failed: ")));
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s, u"Orvello"_s));
+    EXPECT_THAT(namesIn(u"Orvello"_s), ElementsAre(u"logs"_s));
+    EXPECT_THAT(namesIn(u"Orvello/logs"_s), ElementsAre(u"a.log"_s, u"orvello.log"_s, u"z.log"_s));
+    EXPECT_EQ(readFile(u"Orvello/logs/orvello.log"_s), "orvello.log");
+}
+
+TEST_F(LegacyMigrationTest, putsTheLogsBackWhenTheCurrentFolderCannotChange)
+{
+    writeFile(u"Drumlin/scripts.json"_s, "[]");
+    writeFile(u"Orvello/logs/orvello.log"_s, "launch\n");
+    const auto permit = [this](const QString& name, mode_t mode) {
+        ASSERT_EQ(::chmod(QFile::encodeName(pathOf(name)).constData(), mode), 0);
+    };
+    for (const QString& name : { u"."_s, u"Orvello/logs"_s })
+        permit(name, 0777);
+    permit(u"Orvello"_s, 0555);
+
+    {
+        const Testing::OrdinaryUser user;
+        migrate();
+    }
+    permit(u"Orvello"_s, 0755);
+
+    EXPECT_THAT(log.lines(), ElementsAre(StartsWith("MIGRATE support folder copy failed: ")));
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s, u"Orvello"_s));
+    EXPECT_EQ(readFile(u"Orvello/logs/orvello.log"_s), "launch\n");
+}
 
 TEST_F(LegacyMigrationTest, leavesNoHalfLibraryOnAFullDisk)
 {
     writeFile(u"Drumlin/scripts.json"_s, QByteArray(100'000, ' '));
 
     {
-        const FullDisk disk(20'000);
+        const Testing::FullDisk disk(20'000);
         migrate();
     }
 
     EXPECT_FALSE(exists(u"Orvello"_s));
-    EXPECT_THAT(QDir(folders.path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-        ElementsAre(u"Drumlin"_s));
+    EXPECT_THAT(namesIn(), ElementsAre(u"Drumlin"_s));
 }
 
 TEST_F(LegacyMigrationTest, startsAfreshAfterACopyThatDiedHalfWay)

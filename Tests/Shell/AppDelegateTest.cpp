@@ -401,14 +401,64 @@ protected:
 
 TEST_F(StartedAgainTest, opensTheMenu)
 {
-    construct();
-    startAgain();
-    EXPECT_EQ(windows.openedMenus, 0) << "there is none yet";
-    delegate->applicationDidFinishLaunching();
+    launchAndSettle();
 
     startAgain();
 
     EXPECT_EQ(windows.openedMenus, 1);
+}
+
+TEST_F(StartedAgainTest, opensTheMenuForASwitchThatComesTooLate)
+{
+    launchAndSettle();
+
+    startAgain({ u"--no-stealth"_s });
+
+    EXPECT_EQ(windows.openedMenus, 1);
+    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+}
+
+TEST_F(StartedAgainTest, leavesItToTheLaunchToShowWhatThereIsToSee)
+{
+    construct();
+    startAgain();
+    startAgain({ u"--no-stealth"_s });
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_TRUE(platform.panel->isVisible());
+}
+
+TEST_F(StartedAgainTest, keepsTheSwitchesUntilTheLaunchEnds)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+    construct();
+    startAgain({ u"--voice"_s, u"--onboarding"_s });
+    startAgain({ u"--check-updates"_s, u"--autostart"_s });
+    EXPECT_EQ(windows.openOnboardings, 0);
+    EXPECT_EQ(platform.updaterFake.checks, 0);
+    EXPECT_FALSE(settings().voiceFollow());
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(windows.openOnboardings, 1);
+    EXPECT_EQ(platform.updaterFake.checks, 1);
+    EXPECT_TRUE(settings().voiceFollow());
+    EXPECT_TRUE(engine().isRunning());
+    EXPECT_EQ(windows.openedMenus, 0);
+}
+
+TEST_F(StartedAgainTest, keepsTheSwitchesOfAStartInTheMidstOfTheLaunch)
+{
+    construct();
+    platform.panelMade = [this] {
+        delegate->applicationStartedAgain(LaunchOptions::fromArguments({ u"--onboarding"_s }));
+    };
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(windows.openOnboardings, 1);
 }
 
 TEST_F(StartedAgainTest, opensAddressesInPlaceOfTheMenu)

@@ -41,7 +41,8 @@ QByteArray feed(const QByteArray& version, const QByteArray& displayVersion,
 /// The updater behind the controller that logs its steps, against a server on this machine.
 class AppcastUpdaterTest : public ::testing::Test {
 protected:
-    void start(std::optional<QString> address = std::nullopt)
+    /// Starts the updater without letting the main loop turn.
+    void startWithoutATurn(std::optional<QString> address = std::nullopt)
     {
         const Appcast::Host host { u"57"_s, u"6.1.0"_s, u"linux"_s };
         updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, host,
@@ -49,6 +50,11 @@ protected:
         controller.emplace(UpdateController::Services {
             *updater, defaults, [this] { desktop.activateApplication(); } });
         controller->start();
+    }
+    void start(const std::optional<QString>& address = std::nullopt)
+    {
+        startWithoutATurn(address);
+        time.advance(0);
         log.clear();
     }
     void allowAutomaticChecks() { defaults.stored.insert(u"SUEnableAutomaticChecks"_s, true); }
@@ -318,16 +324,29 @@ TEST_F(AppcastUpdaterTest, checksOnceADay)
     EXPECT_THAT(log.lines(), Contains("UPDATES next check in 24h"));
 }
 
-TEST_F(AppcastUpdaterTest, logsTheFirstScheduledCheck)
+TEST_F(AppcastUpdaterTest, logsTheFirstScheduledCheckAfterTheStart)
 {
     allowAutomaticChecks();
     defaults.stored.insert(u"SULastCheckTime"_s, time.date().unixSeconds() - 2 * 3600.0);
-    Testing::LogCapture all;
 
+    startWithoutATurn();
+    time.advance(0);
+
+    EXPECT_THAT(log.lines(),
+        ElementsAre(StartsWith("UPDATES started auto=1 feed=http"), "UPDATES next check in 22h"));
+}
+
+TEST_F(AppcastUpdaterTest, logsTheScheduleAfterTheSwitchThatMadeIt)
+{
+    forbidAutomaticChecks();
+    defaults.stored.insert(u"SULastCheckTime"_s, time.date().unixSeconds());
     start();
 
-    EXPECT_THAT(all.lines(),
-        ElementsAre("UPDATES next check in 22h", StartsWith("UPDATES started auto=1 feed=http")));
+    controller->setChecksAutomatically(true);
+    time.advance(0);
+
+    EXPECT_THAT(
+        log.lines(), ElementsAre("UPDATES automatic checks -> 1", "UPDATES next check in 24h"));
 }
 
 TEST_F(AppcastUpdaterTest, checksAtOnceWhenTheClockWasSetBack)
@@ -383,6 +402,29 @@ TEST_F(AppcastUpdaterTest, asksOnceWhetherItMayCheck)
     EXPECT_EQ(user.permissionQuestions, 1);
 }
 
+TEST_F(AppcastUpdaterTest, doesNotAskWhileTheUserChecks)
+{
+    server.serve(u"/feed"_s, feed("58", "2.1"));
+    startWithoutATurn();
+
+    controller->checkForUpdates();
+    time.advance(0);
+    ASSERT_TRUE(waitForLine("UPDATES found"));
+    time.advance(0);
+
+    EXPECT_EQ(user.permissionQuestions, 0);
+}
+
+TEST_F(AppcastUpdaterTest, doesNotAskWhatTheSettingsHaveAnswered)
+{
+    startWithoutATurn();
+    controller->setChecksAutomatically(false);
+
+    time.advance(0);
+
+    EXPECT_EQ(user.permissionQuestions, 0);
+}
+
 TEST_F(AppcastUpdaterTest, doesNotAskAgainAfterANo)
 {
     start();
@@ -435,6 +477,32 @@ TEST_F(AppcastUpdaterTest, leavesTheKeyboardAloneWhenNobodyAsked)
 
     ASSERT_TRUE(waitForLine("UPDATES found"));
     EXPECT_EQ(user.broughtToFront, 0);
+}
+
+TEST_F(AppcastUpdaterTest, leavesTheKeyboardAloneWhenACheckFallsDueWhileAnOfferIsOpen)
+{
+    allowAutomaticChecks();
+    defaults.stored.insert(u"SULastCheckTime"_s, time.date().unixSeconds() - 23 * 3600.0);
+    server.serve(u"/feed"_s, feed("58", "2.1"));
+    start();
+    controller->checkForUpdates();
+    ASSERT_TRUE(waitForLine("UPDATES found"));
+    ASSERT_EQ(user.broughtToFront, 1) << "the user asked";
+
+    time.advance(3600);
+    EXPECT_EQ(user.broughtToFront, 1) << "the check of before";
+    controller->setChecksAutomatically(false);
+    controller->setChecksAutomatically(true);
+    time.advance(86400);
+    EXPECT_EQ(user.broughtToFront, 1) << "the check of after the switch";
+    Testing::drainEvents();
+    EXPECT_EQ(server.requests().size(), 1);
+
+    log.clear();
+    user.choose(UpdateChoice::Later);
+    EXPECT_THAT(log.lines(), Contains(StartsWith("UPDATES user chose later")));
+    time.advance(86400);
+    EXPECT_TRUE(waitForLine("UPDATES found")) << "the schedule goes on";
 }
 
 TEST_F(AppcastUpdaterTest, answersTheUserWithTheCheckThatIsUnderWay)

@@ -2,6 +2,7 @@
 
 #include "Tests/Support/PrivateBus.h"
 
+#include <QDBusConnection>
 #include <QTest>
 #include <QThread>
 
@@ -17,6 +18,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using Claim = RunningInstance::Claim;
 
 /// Two starts of the program on one bus. The second runs on a thread of its own, because it waits
 /// for the answer of the first.
@@ -27,17 +29,17 @@ protected:
         first->listen({ {}, [this](const QStringList& arguments) { starts.append(arguments); } });
     }
 
-    /// Whether a second start is the one that runs.
-    bool startAgain(const QStringList& arguments)
+    /// What comes of a second start.
+    Claim startAgain(const QStringList& arguments)
     {
-        std::optional<bool> isTheOne;
+        std::optional<Claim> claim;
         const std::unique_ptr<QThread> thread(QThread::create([&] {
             BusInstance second(bus.address());
-            isTheOne = second.claim(arguments);
+            claim = second.claim(arguments);
         }));
         thread->start();
         EXPECT_TRUE(QTest::qWaitFor([&] { return thread->isFinished(); }, 20'000));
-        return isTheOne.value();
+        return claim.value();
     }
 
     Testing::PrivateBus bus;
@@ -45,24 +47,24 @@ protected:
     QList<QStringList> starts;
 };
 
-TEST_F(BusInstanceTest, isTheOneWhenNobodyElseRuns) { EXPECT_TRUE(first->claim({})); }
+TEST_F(BusInstanceTest, isTheOneWhenNobodyElseRuns) { EXPECT_EQ(first->claim({}), Claim::Granted); }
 
 TEST_F(BusInstanceTest, handsItsArgumentsToTheOneThatRuns)
 {
-    ASSERT_TRUE(first->claim({}));
+    ASSERT_EQ(first->claim({}), Claim::Granted);
     listen();
     const QStringList arguments { u"--voice"_s, u"orvello://a"_s, u"-key"_s, u"Grün"_s, u""_s };
 
-    EXPECT_FALSE(startAgain(arguments));
-    EXPECT_FALSE(startAgain({}));
+    EXPECT_EQ(startAgain(arguments), Claim::HandedOver);
+    EXPECT_EQ(startAgain({}), Claim::HandedOver);
 
     EXPECT_THAT(starts, ElementsAre(arguments, QStringList()));
 }
 
 TEST_F(BusInstanceTest, keepsWhatComesBeforeAnybodyListens)
 {
-    ASSERT_TRUE(first->claim({}));
-    EXPECT_FALSE(startAgain({ u"orvello://early"_s }));
+    ASSERT_EQ(first->claim({}), Claim::Granted);
+    EXPECT_EQ(startAgain({ u"orvello://early"_s }), Claim::HandedOver);
     EXPECT_THAT(starts, IsEmpty());
 
     listen();
@@ -72,17 +74,27 @@ TEST_F(BusInstanceTest, keepsWhatComesBeforeAnybodyListens)
 
 TEST_F(BusInstanceTest, leavesTheNameWhenItEnds)
 {
-    ASSERT_TRUE(first->claim({}));
+    ASSERT_EQ(first->claim({}), Claim::Granted);
     first.reset();
 
-    EXPECT_TRUE(startAgain({}));
+    EXPECT_EQ(startAgain({}), Claim::Granted);
+}
+
+TEST_F(BusInstanceTest, tellsOneThatDoesNotAnswerFromOneThatHasTakenOver)
+{
+    const QString connection = u"the one that does not answer"_s;
+    QDBusConnection mute = QDBusConnection::connectToBus(bus.address(), connection);
+    ASSERT_TRUE(mute.registerService(u"app.orvello.Orvello"_s));
+
+    EXPECT_EQ(startAgain({}), Claim::Unanswered);
+    QDBusConnection::disconnectFromBus(connection);
 }
 
 TEST(BusInstanceWithoutBusTest, justRuns)
 {
     BusInstance instance(u"unix:path=/nowhere/at/all"_s);
 
-    EXPECT_TRUE(instance.claim({ u"orvello://a"_s }));
+    EXPECT_EQ(instance.claim({ u"orvello://a"_s }), Claim::Granted);
 }
 
 } // namespace

@@ -36,7 +36,9 @@ constexpr int alt = 64;
 constexpr int super = 133;
 constexpr int shift = 50;
 constexpr int capsLock = 66;
+constexpr int menu = 135;
 constexpr int numLock = 77;
+constexpr int scrollLock = 78;
 } // namespace Place
 
 /// Runs a program on the display.
@@ -245,6 +247,82 @@ TEST_F(X11HotKeysTest, followsAModifierThatMovesToAnotherBit)
     type({ Place::alt, Place::super, Place::p });
 
     EXPECT_TRUE(waitForPresses(1));
+}
+
+TEST_F(X11HotKeysTest, waitsForAModifierThatTheKeyboardLacks)
+{
+    run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
+    settle();
+
+    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto plain = keys->registerHotKey(HotKey::keyR, 0, { 0, 2 });
+
+    EXPECT_NE(reference, nullptr);
+    EXPECT_THAT(log.lines(), ElementsAre("HOTKEY Alt+Super+P is not available on this keyboard"));
+    type({ Place::alt, Place::p });
+    type({ Place::p });
+    type({ Place::r });
+    ASSERT_TRUE(waitForPresses(1));
+    EXPECT_THAT(pressed, ElementsAre(2)) << "nothing was grabbed in its place";
+
+    run(u"xmodmap"_s, { u"-e"_s, u"add mod4 = Super_L"_s });
+    settle();
+    type({ Place::alt, Place::super, Place::p });
+
+    EXPECT_TRUE(waitForPresses(2));
+    EXPECT_THAT(pressed, ElementsAre(2, 1));
+    EXPECT_EQ(log.lines().size(), 1u) << "told once, however often the keyboard changed";
+}
+
+TEST_F(X11HotKeysTest, tellsAgainWhenTheKeyboardLosesAModifier)
+{
+    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+
+    run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
+    settle();
+
+    EXPECT_THAT(log.lines(), ElementsAre("HOTKEY Alt+Super+P is not available on this keyboard"));
+}
+
+TEST_F(X11HotKeysTest, tellsThatAnotherProgramTookTheKeyAfterALayoutChange)
+{
+    run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
+    settle();
+    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    OtherProgram other;
+    other.grabKey(Place::p);
+    log.clear();
+
+    run(u"xmodmap"_s, { u"-e"_s, u"add mod4 = Super_L"_s });
+    settle();
+
+    EXPECT_THAT(log.lines(), ElementsAre("HOTKEY Alt+Super+P belongs to another program"));
+}
+
+TEST_F(X11HotKeysTest, firesWhileScrollLockIsOnAModifier)
+{
+    run(u"xmodmap"_s, { u"-e"_s, u"add mod3 = Scroll_Lock"_s });
+    settle();
+    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+
+    for (std::size_t count = 1; count <= 2; ++count) {
+        type({ Place::scrollLock });
+        type({ Place::alt, Place::super, Place::p });
+        EXPECT_TRUE(waitForPresses(count));
+    }
+}
+
+TEST_F(X11HotKeysTest, firesInTheSecondLayoutOfTheKeyboard)
+{
+    run(u"setxkbmap"_s, { u"-layout"_s, u"us,ru"_s, u"-option"_s, u"grp:menu_toggle"_s });
+    settle();
+    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+
+    for (std::size_t count = 1; count <= 3; ++count) {
+        type({ Place::alt, Place::super, Place::p });
+        EXPECT_TRUE(waitForPresses(count)) << "after " << count - 1 << " switches";
+        type({ Place::menu });
+    }
 }
 
 TEST_F(X11HotKeysTest, survivesAKeyThatAnotherProgramOwns)

@@ -39,7 +39,7 @@ public:
 /// The only process.
 class FakeRunningInstance final : public RunningInstance {
 public:
-    bool claim(const QStringList&) override { return true; }
+    Claim claim(const QStringList&) override { return Claim::Granted; }
     void listen(Handlers newHandlers) override { handlers = std::move(newHandlers); }
 
     Handlers handlers;

@@ -35,8 +35,12 @@ void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
 {
     m_delegate = &delegate;
     announceChecks();
-    askPermissionOnce();
-    schedule();
+    // In the next turn of the main loop, when whoever starts the updater has said so in the log. A
+    // user who asks for a check before that is not asked whether to check.
+    m_nextCheck = m_services.time.callAfter(0, [this] {
+        askPermissionOnce();
+        schedule();
+    });
 }
 
 QString AppcastUpdater::feed() const { return m_delegate->feedURLString().value_or(m_builtInFeed); }
@@ -70,7 +74,8 @@ void AppcastUpdater::setAutomaticallyChecksForUpdates(bool on)
         return;
     for (const auto& changed : m_observers)
         changed();
-    schedule();
+    // Whoever switches has logged that first by then.
+    m_nextCheck = m_services.time.callAfter(0, [this] { schedule(); });
 }
 
 void AppcastUpdater::observeAutomaticChecks(std::function<void()> changed)
@@ -131,11 +136,12 @@ void AppcastUpdater::check(Origin origin)
 {
     if (origin == Origin::User)
         m_origin = origin;
-    if (m_phase == Phase::Asking)
-        return m_services.user.bringToFront();
-    if (m_phase == Phase::Loading)
-        return; // Its outcome will answer this check too.
+    if (m_phase == Phase::Asking && origin == Origin::User)
+        m_services.user.bringToFront();
+    if (m_phase != Phase::Idle)
+        return; // The outcome of the check that is under way will answer this one too.
 
+    m_nextCheck.reset(); // It is this one, or will be found anew when this one is over.
     m_origin = origin;
     m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
     enter(Phase::Loading);

@@ -73,7 +73,7 @@ private:
     UpdaterDelegate* m_delegate = nullptr; ///< Null until started.
     std::vector<std::function<void()>> m_observers;
     std::vector<std::function<void()>> m_checkObservers;
-    std::unique_ptr<TimeSource::Ticket> m_nextCheck;
+    std::unique_ptr<TimeSource::Ticket> m_nextCheck; ///< Or the moment to schedule it.
     Phase m_phase = Phase::Idle;
     Origin m_origin = Origin::Schedule;
 };

@@ -19,10 +19,16 @@ public:
 
     virtual ~RunningInstance() = default;
 
-    /// Whether this process is the one, which it stays until it ends. Otherwise the one that runs
-    /// has been told of these arguments (the command line's, without the program's name), and this
-    /// process has nothing left to do. Before the application object is made; at most once.
-    [[nodiscard]] virtual bool claim(const QStringList& arguments) = 0;
+    enum class Claim {
+        Granted, ///< This process is the one, which it stays until it ends.
+        HandedOver, ///< The one that runs has been told of the arguments.
+        Unanswered, ///< One runs, and does not listen. The user has been told.
+    };
+
+    /// Tries to be the one. A process that is not has nothing left to do. `arguments` are the
+    /// command line's, without the program's name. Before the application object is made; at most
+    /// once.
+    [[nodiscard]] virtual Claim claim(const QStringList& arguments) = 0;
 
     /// From now on the handlers run on the main loop. Requests that came earlier come first. After
     /// the application object is made; once.

@@ -14,6 +14,8 @@
 #include <filesystem>
 #include <optional>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace Orvello::LegacyMigration {
 
@@ -108,16 +110,75 @@ bool holdsOnlyLogs(const fs::path& folder)
     return isLogs && entry.increment(error) == fs::directory_iterator() && !error;
 }
 
-/// Moves every log file from one folder to the other. The log that is open moves with its name, so
-/// whoever writes to it does not notice.
-void moveLogs(const fs::path& from, const fs::path& to, std::error_code& error)
+/// The log files of one folder on their way to another, in place of that folder. The log that is
+/// open moves with its name, so whoever writes to it does not notice.
+class LogMove {
+public:
+    LogMove(fs::path from, fs::path to)
+        : m_from(std::move(from))
+        , m_to(std::move(to))
+    {
+    }
+
+    std::error_code move()
+    {
+        std::error_code error;
+        if (!fs::is_directory(fs::symlink_status(m_to, error)))
+            fs::remove(m_to, error); // A file or a link in the place of the logs.
+        fs::create_directories(m_to, error);
+        for (const fs::path& name : namesToMove(error)) {
+            if (!error)
+                fs::rename(m_from / name, m_to / name, error);
+            if (!error)
+                m_moved.push_back(name);
+        }
+        if (!error)
+            fs::remove(m_from, error);
+        return error;
+    }
+
+    /// Moves back what was moved.
+    void undo() const
+    {
+        std::error_code ignored;
+        fs::create_directories(m_from, ignored);
+        for (const fs::path& name : m_moved)
+            fs::rename(m_to / name, m_from / name, ignored);
+    }
+
+private:
+    std::vector<fs::path> namesToMove(std::error_code& error) const
+    {
+        std::vector<fs::path> names;
+        if (error)
+            return names;
+        for (fs::directory_iterator entry(m_from, error);
+             !error && entry != fs::directory_iterator(); entry.increment(error))
+            names.push_back(entry->path().filename());
+        return names;
+    }
+
+    const fs::path m_from;
+    const fs::path m_to;
+    std::vector<fs::path> m_moved;
+};
+
+/// Makes `staging` the current folder, with the current logs, which are all that the current folder
+/// holds if there is one. An error leaves the current folder as it was.
+std::error_code putInPlace(const fs::path& staging, const fs::path& current)
 {
-    fs::create_directories(to, error);
-    for (fs::directory_iterator entry(from, error); !error && entry != fs::directory_iterator();
-         entry.increment(error))
-        fs::rename(entry->path(), to / entry->path().filename(), error);
+    std::error_code error;
+    if (!isThere(current)) {
+        fs::rename(staging, current, error);
+        return error;
+    }
+    LogMove logs(current / "logs", staging / "logs");
+    error = logs.move();
     if (!error)
-        fs::remove(from, error);
+        fs::rename(staging, current, error); // An empty folder may be replaced.
+    if (error)
+        logs.undo();
+    return error;
 }
 
 /// Copies `former` whole and makes the copy appear under `current` in one step, so that a copy cut
@@ -130,18 +191,11 @@ std::error_code copyFolder(const fs::path& former, const fs::path& current)
     // A former folder that is a link is copied, not linked to once more.
     fs::copy(fs::canonical(former, error), staging,
         fs::copy_options::recursive | fs::copy_options::copy_symlinks, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove_all(staging, ignored);
-        return error;
-    }
-    if (isThere(current)) {
-        moveLogs(current / "logs", staging / "logs", error);
-        if (!error)
-            fs::remove(current, error);
-    }
     if (!error)
-        fs::rename(staging, current, error);
+        error = putInPlace(staging, current);
+    std::error_code ignored;
+    if (error)
+        fs::remove_all(staging, ignored);
     return error;
 }
 
@@ -150,9 +204,11 @@ void migrateSupportFolder(const Folders& folders, const QString& sampleText)
     const fs::path support = folders.applicationSupport().toStdString();
     const fs::path former = support / formerFolderName;
     const fs::path current = support / currentFolderName;
-    if (!isThere(former) || (isThere(current) && !holdsOnlyLogs(current)))
+    std::error_code error;
+    if (!fs::is_directory(former, error) || (isThere(current) && !holdsOnlyLogs(current)))
         return;
-    if (const std::error_code error = copyFolder(former, current)) {
+    error = copyFolder(former, current);
+    if (error) {
         AppLog::write("Orvello MIGRATE support folder copy failed: %@", error.message());
         return;
     }

@@ -101,6 +101,9 @@ void AppDelegate::applicationDidFinishLaunching()
         m_engine().start();
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
+    m_hasLaunched = true;
+    for (const LaunchOptions& options : std::exchange(m_earlyStarts, {}))
+        follow(options);
 }
 
 void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
@@ -122,8 +125,16 @@ void AppDelegate::handle(const QList<QUrl>& urls)
 void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
 {
     applicationOpen(options.urls);
-    if (!m_statusItem)
-        return; // The launch has just begun, and shows what there is to see.
+    if (!m_hasLaunched)
+        m_earlyStarts.push_back(options);
+    else if (options.asksRunningProgram())
+        follow(options);
+    else
+        m_statusItem->openMenu();
+}
+
+void AppDelegate::follow(const LaunchOptions& options)
+{
     if (options.onboarding)
         showOnboarding();
     if (options.checkUpdates)
@@ -132,8 +143,6 @@ void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
         m_settings.setVoiceFollow(true);
     if (options.autostart)
         m_engine().start();
-    if (options.isEmpty())
-        m_statusItem->openMenu();
 }
 
 void AppDelegate::makePanel()

@@ -55,8 +55,9 @@ public:
     /// Addresses that the application is asked to open. Before the end of the launch they wait.
     void applicationOpen(const QList<QUrl>& urls);
 
-    /// The user has started the program once more, while it runs. Does what that start asks for;
-    /// one that asks for nothing opens the menu.
+    /// The user has started the program once more, while it runs. Does what that start asks for, at
+    /// the end of the launch at the earliest. A start that asks for nothing opens the menu, unless
+    /// the launch is about to show what there is to see.
     void applicationStartedAgain(const LaunchOptions& options);
 
     /// Opens the welcome tour, or brings it to the front.
@@ -78,6 +79,7 @@ private:
     void subscribe();
     void followSlideTracking();
     void importDeckFromEnvironment();
+    void follow(const LaunchOptions& options);
     static void handle(const QList<QUrl>& urls);
     void installSignalHandlers();
 
@@ -112,6 +114,8 @@ private:
     std::unique_ptr<PlainPKey> m_plainPKey;
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
     QList<QUrl> m_pendingURLs;
+    bool m_hasLaunched = false;
+    std::vector<LaunchOptions> m_earlyStarts; ///< Of before the end of the launch.
 };
 
 } // namespace Orvello

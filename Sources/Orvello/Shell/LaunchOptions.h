@@ -19,7 +19,12 @@ struct LaunchOptions {
     bool autostart = false;
     QList<QUrl> urls; ///< To open.
 
-    bool isEmpty() const { return *this == LaunchOptions(); } ///< Whether it asks for nothing.
+    /// Whether it asks for something that a program that runs already can do: not `noStealth`,
+    /// which is for a panel that is still to be made.
+    bool asksRunningProgram() const
+    {
+        return onboarding || checkUpdates || voice || autostart || !urls.isEmpty();
+    }
     friend bool operator==(const LaunchOptions&, const LaunchOptions&) = default;
 
     /// Without the program's name.

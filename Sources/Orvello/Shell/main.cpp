@@ -83,8 +83,9 @@ int main(int argc, char** argv)
         return 0;
     }
     std::unique_ptr<Platform> earlyPlatform = Platform::create(arguments);
-    if (!earlyPlatform->runningInstance().claim(arguments))
-        return 0; // The one that runs has taken over.
+    const RunningInstance::Claim claim = earlyPlatform->runningInstance().claim(arguments);
+    if (claim != RunningInstance::Claim::Granted)
+        return claim == RunningInstance::Claim::HandedOver ? 0 : 1;
 
     AppLog::start(sessionOn(*earlyPlatform));
     CrashGuard::install();

@@ -37,19 +37,19 @@ BusInstance::BusInstance(const QString& busAddress)
 
 BusInstance::~BusInstance() { QDBusConnection::disconnectFromBus(m_connectionName); }
 
-bool BusInstance::claim(const QStringList& arguments)
+RunningInstance::Claim BusInstance::claim(const QStringList& arguments)
 {
     if (!m_bus.isConnected())
-        return true;
+        return Claim::Granted;
     // The other process may end between the two steps, and the name be free at the second try.
     for (int attempt = 0; attempt < 2; ++attempt) {
         if (claimName())
-            return true;
+            return Claim::Granted;
         if (handOver(arguments))
-            return false;
+            return Claim::HandedOver;
     }
     static_cast<void>(std::fputs("Orvello is running already, but does not answer.\n", stderr));
-    return false;
+    return Claim::Unanswered;
 }
 
 bool BusInstance::claimName()

@@ -21,7 +21,7 @@ public:
     explicit BusInstance(const QString& busAddress); ///< For tests.
     ~BusInstance() override;
 
-    bool claim(const QStringList& arguments) override;
+    Claim claim(const QStringList& arguments) override;
     void listen(Handlers handlers) override;
 
 public Q_SLOTS:

@@ -19,6 +19,8 @@ constexpr std::uint8_t sentEventBit = 0x80; // Set in the type of events that a 
 
 } // namespace
 
+enum class X11HotKeys::Holding { Own, NotOnKeyboard, OfAnotherProgram };
+
 /// One key with its modifiers, and what is grabbed for it now in the server's own terms.
 struct X11HotKeys::Grab final : Reference {
     Grab(X11HotKeys& service, const HotKeyName& keyName, std::uint32_t keyModifiers, HotKeyID keyID)
@@ -36,6 +38,7 @@ struct X11HotKeys::Grab final : Reference {
     const HotKeyName& name;
     const std::uint32_t modifiers;
     const HotKeyID id;
+    Holding holding = Holding::Own; ///< As of the last attempt.
     std::uint8_t serverKeyCode = 0; ///< 0 while nothing is grabbed.
     std::uint16_t serverModifiers = 0;
     std::vector<std::uint16_t> lockMasks;
@@ -72,30 +75,46 @@ std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(
     if (!name || !m_keyboard)
         return nullptr;
     auto grabbed = std::make_unique<Grab>(*this, *name, modifiers, id);
-    if (!acquire(*grabbed)) {
-        AppLog::write("HOTKEY %@ belongs to another program", grabbed->label());
+    acquire(*grabbed);
+    if (grabbed->holding == Holding::OfAnotherProgram)
         return nullptr;
-    }
     m_grabs.push_back(grabbed.get());
     return grabbed;
 }
 
-bool X11HotKeys::acquire(Grab& grab)
+/// Tries to get the key, and says in the log when that it is not ours is news.
+void X11HotKeys::acquire(Grab& grab)
 {
     grab.serverKeyCode = m_keyboard->keyCode(grab.name.place);
     grab.serverModifiers = static_cast<std::uint16_t>(
         (grab.modifiers & HotKey::optionKey ? m_keyboard->altMask() : 0)
         | (grab.modifiers & HotKey::commandKey ? m_keyboard->superMask() : 0));
     grab.lockMasks = m_keyboard->lockMasks();
-    // A key code of 0 would grab every key, and a keyboard without Alt or Super the plain one.
-    const bool isOnKeyboard = grab.serverKeyCode != 0
+    Holding holding = Holding::NotOnKeyboard;
+    if (isOnKeyboard(grab))
+        holding = grabKey(grab) ? Holding::Own : Holding::OfAnotherProgram;
+    if (holding != Holding::Own)
+        grab.serverKeyCode = 0;
+
+    if (std::exchange(grab.holding, holding) == holding)
+        return;
+    if (holding == Holding::NotOnKeyboard)
+        AppLog::write("HOTKEY %@ is not available on this keyboard", grab.label());
+    else if (holding == Holding::OfAnotherProgram)
+        AppLog::write("HOTKEY %@ belongs to another program", grab.label());
+}
+
+/// A key code of 0 would grab every key, and a keyboard without Alt or Super the plain one.
+bool X11HotKeys::isOnKeyboard(const Grab& grab) const
+{
+    return grab.serverKeyCode != 0
         && (!(grab.modifiers & HotKey::optionKey) || m_keyboard->altMask() != 0)
         && (!(grab.modifiers & HotKey::commandKey) || m_keyboard->superMask() != 0);
-    if (!isOnKeyboard) {
-        grab.serverKeyCode = 0;
-        return false;
-    }
+}
 
+/// Grabs the key with every combination of the locks, or not at all.
+bool X11HotKeys::grabKey(const Grab& grab)
+{
     std::vector<xcb_void_cookie_t> requests;
     for (const std::uint32_t root : m_roots) {
         for (const std::uint16_t locks : grab.lockMasks)
@@ -108,10 +127,8 @@ bool X11HotKeys::acquire(Grab& grab)
         const auto error = Xcb::owned(xcb_request_check(m_connection, request));
         isOwn = isOwn && !error;
     }
-    if (!isOwn) {
+    if (!isOwn)
         release(grab);
-        grab.serverKeyCode = 0;
-    }
     // What arrived while waiting for the replies lies in the connection's own queue, where the
     // notifier does not see it.
     readEventsSoon();
@@ -178,10 +195,8 @@ void X11HotKeys::keyboardChanged()
     for (const Grab* const grab : m_grabs)
         release(*grab);
     m_keyboard->load();
-    for (Grab* const grab : m_grabs) {
-        if (!acquire(*grab))
-            AppLog::write("HOTKEY %@ is not available on this keyboard", grab->label());
-    }
+    for (Grab* const grab : m_grabs)
+        acquire(*grab);
 }
 
 } // namespace Orvello

@@ -18,7 +18,8 @@ namespace Orvello {
 class X11Keyboard;
 
 /// Hot keys as key grabs on the root windows of an X server, whatever Caps, Num and Scroll Lock
-/// are. Keys keep their place when the layout changes.
+/// are. Keys keep their place when the layout changes, and one that the keyboard lacks is there as
+/// soon as the keyboard has it.
 class X11HotKeys final : public QObject, public HotKeys {
     Q_OBJECT
 
@@ -33,13 +34,16 @@ public:
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
 
 private:
+    enum class Holding;
     struct Grab;
 
     void readEvents();
     void readEventsSoon();
     void pressed(std::uint8_t keyCode, std::uint16_t state);
     void keyboardChanged();
-    bool acquire(Grab& grab);
+    void acquire(Grab& grab);
+    bool isOnKeyboard(const Grab& grab) const;
+    bool grabKey(const Grab& grab);
     void release(const Grab& grab);
     void forget(const Grab& grab);
 

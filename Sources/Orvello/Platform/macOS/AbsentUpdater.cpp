@@ -1,6 +1,7 @@
 #include "Orvello/Platform/macOS/AbsentUpdater.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Platform/macOS/MacUpdater.h"
 
 #include <utility>
 
@@ -14,6 +15,19 @@ AbsentUpdater::AbsentUpdater(QString reason)
 void AbsentUpdater::startUpdater(UpdaterDelegate&) { logAbsence(); }
 
 void AbsentUpdater::checkForUpdates() { logAbsence(); }
+
+void AbsentUpdater::setAutomaticallyChecksForUpdates(bool)
+{
+    for (const auto& changed : m_observers)
+        changed();
+}
+
+void AbsentUpdater::observeAutomaticChecks(std::function<void()> changed)
+{
+    m_observers.push_back(std::move(changed));
+}
+
+std::optional<QString> AbsentUpdater::builtInFeed() const { return feedOfBundle(); }
 
 void AbsentUpdater::logAbsence() const { AppLog::write("UPDATES unavailable: %@", m_reason); }
 

@@ -2,6 +2,8 @@
 
 #include "Orvello/Platform/Updater.h"
 
+#include <vector>
+
 namespace Orvello {
 
 /// The updater of a program that cannot update itself. It says why in the log.
@@ -12,17 +14,19 @@ public:
     void startUpdater(UpdaterDelegate& delegate) override;
     void checkForUpdates() override;
     bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool) override { }
-    void observeAutomaticChecks(std::function<void()>) override { }
+    /// Changes nothing, and says so to whoever shows the wish already.
+    void setAutomaticallyChecksForUpdates(bool on) override;
+    void observeAutomaticChecks(std::function<void()> changed) override;
     bool canCheckForUpdates() const override { return false; }
     std::optional<Date> lastUpdateCheckDate() const override { return std::nullopt; }
     void observeChecks(std::function<void()>) override { }
-    std::optional<QString> builtInFeed() const override { return std::nullopt; }
+    std::optional<QString> builtInFeed() const override;
 
 private:
     void logAbsence() const;
 
     QString m_reason;
+    std::vector<std::function<void()>> m_observers;
 };
 
 } // namespace Orvello

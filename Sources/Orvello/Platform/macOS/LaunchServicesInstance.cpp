@@ -4,7 +4,7 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-bool LaunchServicesInstance::claim(const QStringList&) { return true; }
+RunningInstance::Claim LaunchServicesInstance::claim(const QStringList&) { return Claim::Granted; }
 
 void LaunchServicesInstance::listen(Handlers handlers)
 {

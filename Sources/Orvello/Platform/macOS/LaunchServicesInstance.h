@@ -10,7 +10,7 @@ namespace Orvello {
 /// The system starts an application once, and tells the one that runs what else is asked of it.
 class LaunchServicesInstance final : public RunningInstance {
 public:
-    [[nodiscard]] bool claim(const QStringList& arguments) override;
+    [[nodiscard]] Claim claim(const QStringList& arguments) override;
 
     /// A second start is nothing: the menu bar has the menu.
     void listen(Handlers handlers) override;

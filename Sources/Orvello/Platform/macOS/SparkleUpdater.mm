@@ -73,13 +73,7 @@ void SparkleUpdater::observeChecks(std::function<void()> changed)
                 changed:std::move(changed)];
 }
 
-std::optional<QString> SparkleUpdater::builtInFeed() const
-{
-    const id feed = [NSBundle.mainBundle objectForInfoDictionaryKey:@"SUFeedURL"];
-    if (![feed isKindOfClass:[NSString class]])
-        return std::nullopt;
-    return qString(feed);
-}
+std::optional<QString> SparkleUpdater::builtInFeed() const { return feedOfBundle(); }
 
 std::unique_ptr<Updater> makeMacUpdater()
 {

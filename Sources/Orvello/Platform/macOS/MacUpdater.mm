@@ -1,0 +1,17 @@
+#include "Orvello/Platform/macOS/MacUpdater.h"
+
+#include "Orvello/Platform/macOS/CocoaText.h"
+
+#import <Foundation/Foundation.h>
+
+namespace Orvello {
+
+std::optional<QString> feedOfBundle()
+{
+    const id feed = [NSBundle.mainBundle objectForInfoDictionaryKey:@"SUFeedURL"];
+    if (![feed isKindOfClass:[NSString class]])
+        return std::nullopt;
+    return qString(feed);
+}
+
+} // namespace Orvello
