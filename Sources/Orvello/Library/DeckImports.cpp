@@ -45,7 +45,8 @@ DeckImports::DeckImports(const Services& services)
     for (const PresenterApp& app : services.presenters.apps())
         m_apps.push_back(&app);
     // Beside the item for its files.
-    std::ranges::stable_partition(m_apps, &PresenterApp::hasDeckFiles);
+    std::stable_partition(
+        m_apps.begin(), m_apps.end(), [](const PresenterApp* app) { return app->hasDeckFiles; });
 }
 
 DeckImports::~DeckImports() = default;
