@@ -1,6 +1,6 @@
 #include "Orvello/Shell/SystemPalette.h"
 
-#include "Orvello/Shell/Symbol.h"
+#include "Orvello/Views/Symbol.h"
 #include "Tests/Support/EventLoop.h"
 
 #include <QGuiApplication>
