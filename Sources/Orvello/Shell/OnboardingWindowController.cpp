@@ -75,7 +75,12 @@ void OnboardingWindowController::finish()
     m_settings.setOnboardingSeenVersion(version);
     // Later: the view is still handling the press or the close that led here.
     QMetaObject::invokeMethod(
-        this, [this] { std::exchange(m_onFinish, {})(); }, Qt::QueuedConnection);
+        this, &OnboardingWindowController::tellFinished, Qt::QueuedConnection);
+}
+
+void OnboardingWindowController::tellFinished()
+{
+    std::exchange(m_onFinish, {})(); // May destroy the controller.
 }
 
 } // namespace Orvello

@@ -43,6 +43,7 @@ public:
 
 private:
     void finish();
+    void tellFinished();
 
     SettingsStore& m_settings;
     std::function<void()> m_onFinish;
