@@ -37,6 +37,39 @@ class SwitchesTest(LaunchTest):
         again.shown()
         self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [], "it was seen")
 
+    def test_a_tour_that_a_quit_cut_short_comes_again(self):
+        App.set_defaults(self.desktop, onboardingSeenVersion=0)
+        for number in (signal.SIGTERM, signal.SIGINT):
+            app = App(self.desktop)
+            wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
+            time.sleep(0.5)  # The signal handlers come last in the launch.
+
+            self.assertEqual(app.quit(number), 0)
+
+            self.assertEqual(App.defaults(self.desktop).get("onboardingSeenVersion", 0), 0)
+            self.assertEqual(self.messages()[-1], "QUIT clean")
+        App(self.desktop)
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour once more")
+        self.assertEqual(self.desktop.windows_titled("Orvello"), [])
+
+    def test_all_switches_together(self):
+        feed = Feed(self, "2", "1.1")
+        App(self.desktop, "--no-stealth", "--onboarding", "--check-updates", "--voice", "--autostart",
+            "-OrvelloAppcastURL", feed.url)
+
+        tour = wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")[0]
+        wait_until(lambda: "UPDATES found 1.1 (2)" in self.messages(), what="the check")
+        wait_until(lambda: App.defaults(self.desktop).get("voiceFollow") is True, what="the setting")
+        # The offer has the prompter's title, the prompter itself waits for the end of the tour.
+        offer = wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the offer")
+        self.assertEqual(len(offer), 1)
+        self.desktop.run("xdotool", "windowactivate", "--sync", str(tour), "key", "alt+F4")
+        wait_until(lambda: len(self.desktop.windows_titled("Orvello")) == 2, what="the prompter")
+        launch = [line for line in self.messages() if line.startswith(("PANEL_UP", "UPDATES"))]
+        self.assertIn(" sharing=1 ", launch[0])
+        self.assertEqual(launch[1:], [f"UPDATES started auto=0 feed={feed.url}", "UPDATES found 1.1 (2)"])
+        self.assertFalse([line for line in self.messages() if line.startswith("STEALTH ON")])
+
     def test_onboarding_shows_the_tour_again(self):
         App(self.desktop, "--onboarding")
 
@@ -134,6 +167,23 @@ class SecondStartTest(LaunchTest):
                    what="all five addresses")
         self.assertEqual(len([line for line in self.messages() if line.startswith("LAUNCH")]), 1)
         self.assertEqual({app.process.poll() for app in starts}, {None, 0})
+
+    def test_a_start_beside_one_that_does_not_answer_fails(self):
+        app = App(self.desktop)
+        app.shown()
+        app.signal(signal.SIGSTOP)
+        self.addCleanup(app.signal, signal.SIGCONT)
+
+        second = App(self.desktop)
+
+        self.assertEqual(second.process.wait(30), 1)
+
+    def test_the_switches_of_a_start_during_the_launch_count(self):
+        starts = [App(self.desktop, "orvello:first"), App(self.desktop, "--onboarding")]
+
+        wait_until(lambda: sum(app.process.poll() is None for app in starts) == 1, what="one of two to end")
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
+        wait_until(lambda: "URL ignored: orvello:first" in self.messages(), what="the address")
 
     def test_after_the_end_of_the_first_the_next_one_runs(self):
         first = App(self.desktop)
