@@ -60,6 +60,9 @@ QRectF placeInWindow(const QQuickItem& item)
 
 void click(QQuickWindow& window, const QQuickItem& item)
 {
+    // Rows and layouts put their items in place no earlier than the next frame.
+    for (QQuickItem* placed : visibleItems(window))
+        placed->ensurePolished();
     QTest::mouseClick(&window, Qt::LeftButton, {}, placeInWindow(item).center().toPoint());
     drainEvents();
 }
