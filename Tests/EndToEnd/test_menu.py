@@ -266,11 +266,12 @@ class TrayMenuTest(unittest.TestCase):
         self.desktop.run("xdotool", "key", *["Down"] * number, "Return")
 
     def test_the_icon_is_drawn(self):
-        picture = self.desktop.screenshot()
+        def colours():
+            picture = self.desktop.screenshot()
+            return {picture.pixel(x, y) for x in range(self.x, self.x + self.width)
+                    for y in range(self.y, self.y + self.height)}
 
-        colours = {picture.pixel(x, y) for x in range(self.x, self.x + self.width)
-                   for y in range(self.y, self.y + self.height)}
-        self.assertGreater(len(colours), 3)
+        wait_until(lambda: len(colours()) > 3, what="the icon")
 
     def test_either_button_opens_the_menu_and_lines_can_be_chosen(self):
         for button in (1, 3):

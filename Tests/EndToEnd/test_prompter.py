@@ -226,7 +226,8 @@ class PrompterTest(unittest.TestCase):
     def test_the_first_user_signal_toggles_stealth_mode_and_a_second_one_toggles_it_back(self):
         app = App(self.desktop)
         app.shown()
-        applied = len(self.stealth_log())
+        applied = 3  # By the construction, the first show and the first delivery of the setting.
+        wait_until(lambda: len(self.stealth_log()) == applied, what="the launch to end")
 
         app.signal(signal.SIGUSR1)
         app.wait_for_log("DEBUG stealth toggled -> 0")

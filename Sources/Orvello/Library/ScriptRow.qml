@@ -53,6 +53,8 @@ ItemDelegate {
             spacing: 0
 
             Label {
+                id: label
+
                 Layout.fillWidth: true
                 text: root.title
                 textFormat: Text.PlainText
@@ -61,7 +63,7 @@ ItemDelegate {
                 color: root.textColor
 
                 ToolTip {
-                    visible: root.hovered && parent.truncated
+                    visible: root.hovered && label.truncated
                     delay: 700
                     // The shared one would take a title that looks like markup for it.
                     contentItem: Label {

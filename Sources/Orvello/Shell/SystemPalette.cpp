@@ -55,7 +55,7 @@ double luminance(const QColor& color)
 bool isReadable(const QColor& one, const QColor& other)
 {
     constexpr double enough = 4.5; // WCAG 2.1 AA, for text of ordinary size.
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({ luminance(one), luminance(other) });
     return (lighter + 0.05) / (darker + 0.05) >= enough;
 }
 
