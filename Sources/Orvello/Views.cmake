@@ -10,6 +10,7 @@ set(views
     Library/LibraryView.qml
     Library/ScriptRow.qml
     Library/ScriptSidebar.qml
+    Library/ScriptTitle.qml
     Library/ToolbarButton.qml
     Prompting/Capsule.qml
     Prompting/Countdown.qml

@@ -89,8 +89,18 @@ class SlideshowTest(unittest.TestCase):
         step()
         self.wait_for_news(f"SYNC slide={slide}", 1.0)
         wait_until(lambda: is_other(self.card(), before), 1.0, f"the notes of slide {slide}")
-        time.sleep(0.2)
-        return self.card()
+        return self.settled_card()
+
+    def settled_card(self):
+        """The card once two pictures of it are the same: the first one may lack lines that are still to come."""
+        cards = [self.card()]
+
+        def is_settled():
+            time.sleep(0.2)
+            cards.append(self.card())
+            return not is_other(cards[-1], cards[-2])
+        wait_until(is_settled, what="the card to be drawn")
+        return cards[-1]
 
     def assert_same(self, card, before):
         self.assertFalse(is_other(card, before))

@@ -52,25 +52,11 @@ ItemDelegate {
         ColumnLayout {
             spacing: 0
 
-            Label {
-                id: label
-
+            ScriptTitle {
                 Layout.fillWidth: true
                 text: root.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                maximumLineCount: 1
+                isHovered: root.hovered
                 color: root.textColor
-
-                ToolTip {
-                    visible: root.hovered && label.truncated
-                    delay: 700
-                    // The shared one would take a title that looks like markup for it.
-                    contentItem: Label {
-                        text: root.title
-                        textFormat: Text.PlainText
-                    }
-                }
             }
             Label {
                 Layout.fillWidth: true
