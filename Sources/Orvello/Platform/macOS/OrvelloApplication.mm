@@ -42,7 +42,8 @@ void recordUncaughtException(NSException* exception)
 
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender
 {
-    if (!target && isViewOfQt(self.keyWindow.firstResponder) && [CocoaMenu runActionOf:sender])
+    // Whether AppKit has found a target by now or not: it can only be the wrong one.
+    if (isViewOfQt(self.keyWindow.firstResponder) && [CocoaMenu runActionOf:sender])
         return YES;
     return [super sendAction:action to:target from:sender];
 }
