@@ -315,6 +315,39 @@ TEST_F(MainMenuTest, reachesAFieldOfQt)
     EXPECT_EQ(window.undone, 0) << "the window has no part in it";
 }
 
+NSEvent* commandKey(NSString* letter, bool withShift)
+{
+    const NSUInteger shift = withShift ? NSShiftKeyMask : 0;
+    return [NSEvent keyEventWithType:NSKeyDown
+                            location:NSZeroPoint
+                       modifierFlags:NSCommandKeyMask | shift
+                           timestamp:0
+                        windowNumber:0
+                             context:nil
+                          characters:letter
+         charactersIgnoringModifiers:letter
+                           isARepeat:NO
+                             keyCode:0];
+}
+
+TEST_F(MainMenuTest, answersItsKeys)
+{
+    WindowWithField qtWindow;
+    qtWindow.show();
+    qtWindow.requestActivate();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == &qtWindow; }));
+    WindowOfQt* const window = [[WindowOfQt alloc] init];
+    window.view = (NSResponder*)reinterpret_cast<void*>(qtWindow.winId());
+    application().windowWithKeyboard = window;
+
+    EXPECT_TRUE([[NSApp mainMenu] performKeyEquivalent:commandKey(@"z", false)]);
+    EXPECT_TRUE([[NSApp mainMenu] performKeyEquivalent:commandKey(@"Z", true)]);
+    EXPECT_TRUE([[NSApp mainMenu] performKeyEquivalent:commandKey(@"a", false)]);
+    EXPECT_FALSE([[NSApp mainMenu] performKeyEquivalent:commandKey(@"q", false)]);
+
+    EXPECT_EQ(qtWindow.field.commands, (QStringList { u"undo"_s, u"redo"_s, u"selectAll"_s }));
+}
+
 TEST_F(MainMenuTest, forgetsAQtFieldWhenAnotherWindowHasTheKeyboard)
 {
     WindowWithField qtWindow;
