@@ -28,13 +28,17 @@ function(orvello_add_library name)
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
 endfunction()
 
-# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text]): one GoogleTest program, its tests found by
-# CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform and makes the application
+# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text] [ENVIRONMENT name=value]): one GoogleTest
+# program, its tests found by CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform and makes the application
 # object.
 function(orvello_add_test name)
-    cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "" "PREFIX;ENVIRONMENT" "SOURCES;DEPENDS;LABELS" ${ARGN})
     if(NOT ARG_LABELS)
         set(ARG_LABELS unit)
+    endif()
+    set(environment "")
+    if(ARG_ENVIRONMENT)
+        set(environment ENVIRONMENT "${ARG_ENVIRONMENT}")
     endif()
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS} OrvelloWarnings)
@@ -42,7 +46,7 @@ function(orvello_add_test name)
         ${name}
         TEST_PREFIX "${ARG_PREFIX}"
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120)
+        PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120 ${environment})
 endfunction()
 
 # orvello_add_benchmark(Name SOURCES ... DEPENDS ...): one Google Benchmark program, run by `make bench`.

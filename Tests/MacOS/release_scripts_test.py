@@ -18,7 +18,12 @@ STAND_INS = {
     "ditto": 'if [ "$1" = -c ]; then touch "${@: -1}"; else cp -R "$1" "$2"; fi\n',
     "hdiutil": 'touch "${@: -1}"\n',
     "spctl": "",
-    "macdeployqt": "",
+    # Without arguments it fails and tells its options.
+    "macdeployqt": 'if [ $# -eq 0 ]; then echo "  -codesign=<ident> ${KNOWS}"; exit 1; fi\n',
+    # Each file names a system library, itself, and what the test says.
+    "otool": 'case $1 in -D) printf "%s:\\n/self/%s\\n" "$2" "${2##*/}" ;;\n'
+             '-L) printf "%s:\\n" "$2"; for needed in /usr/lib/libSystem.B.dylib @rpath/QtCore "/self/${2##*/}" $NEEDED; do\n'
+             'printf "\\t%s (compatibility version 1.0.0, current version 1.0.0)\\n" "$needed"; done ;; esac\n',
     "sips": 'touch "${@: -1}"\n',
     "iconutil": 'ls "${@: -1}" > "$4"\n',
     "plutil": 'sed -n "/<key>$2<.key>/{n;s/.*<string>\\(.*\\)<.string>.*/\\1/p;}" "${@: -1}"\n',
@@ -150,12 +155,42 @@ class ReleaseScriptsTest(unittest.TestCase):
         self.make_app(with_sparkle=False)
         (self.folder / "third_party/Sparkle/Sparkle.framework").mkdir(parents=True)
 
-        result = self.run_script("bundle")
+        result = self.run_script("bundle", KNOWS="-no-codesign")
 
         self.assertEqual(result.returncode, 0, result.stderr)
         self.assertTrue((self.app / SPARKLE).is_dir())
-        self.assertEqual(self.calls("macdeployqt"), [
-            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -no-codesign -always-overwrite"])
+        self.assertEqual(self.calls("macdeployqt")[1:], [
+            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -always-overwrite -no-codesign"])
+
+    def test_bundling_asks_no_macdeployqt_for_what_it_does_not_know(self):
+        self.make_app()
+
+        result = self.run_script("bundle")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(self.calls("macdeployqt")[1:], [
+            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -always-overwrite"])
+
+    def test_bundling_lets_only_homebrews_qt_find_homebrews_libraries(self):
+        self.make_app()
+        self.write_program("bin/brew", "echo /opt/homebrew\n")
+
+        self.run_script("bundle")
+        self.run_script("bundle", QT_ROOT="/opt/Qt")
+
+        self.assertEqual(self.calls("macdeployqt")[1::2], [
+            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -always-overwrite -libpath=/opt/homebrew/lib",
+            "macdeployqt build/Orvello.app -qmldir=Sources/Orvello -always-overwrite"])
+
+    def test_bundling_fails_if_a_library_was_left_out(self):
+        self.make_app()
+
+        result = self.run_script("bundle", NEEDED="/opt/homebrew/opt/libzip/lib/libzip.5.dylib")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("not everything is in the bundle", result.stderr)
+        self.assertIn("libqcocoa.dylib needs /opt/homebrew/opt/libzip/lib/libzip.5.dylib", result.stderr)
+        self.assertIn("Orvello needs /opt/homebrew", result.stderr)
 
     def test_bundling_without_sparkle_says_so_and_goes_on(self):
         self.make_app(with_sparkle=False)
@@ -279,7 +314,7 @@ class ReleaseScriptsTest(unittest.TestCase):
         steps = [line.split()[0] + (" " + line.split()[1] if line.startswith("xcrun") else "")
                  for line in self.record.read_text().splitlines() if line.split()[0] in
                  ("macdeployqt", "xcrun", "hdiutil", "spctl")]
-        self.assertEqual(steps, ["macdeployqt", "xcrun notarytool", "xcrun stapler", "hdiutil",
+        self.assertEqual(steps, ["macdeployqt", "macdeployqt", "xcrun notarytool", "xcrun stapler", "hdiutil",
                                  "xcrun notarytool", "xcrun stapler", "spctl"])
 
 

@@ -2,6 +2,7 @@
 
 #include "Orvello/Shell/Branding.h"
 #include "Orvello/Shell/Menu.h"
+#include "Orvello/Shell/MenuBar.h"
 #include "Tests/Support/FakePlatform.h"
 #include "Tests/Support/LogCapture.h"
 
@@ -74,15 +75,51 @@ TEST_F(QtStatusItemTest, opensItsMenuWithOrWithoutABar)
     QApplication::activePopupWidget()->close();
 }
 
-TEST_F(QtStatusItemTest, leavesTheMenuToTheMenuBar)
+/// Gives away an item and remembers what it was asked for.
+class FakeMenuBar final : public MenuBar {
+public:
+    class Item final : public StatusItem {
+        void openMenu() override { }
+    };
+
+    void setMainMenu(std::unique_ptr<Menu>) override { }
+    std::unique_ptr<StatusItem> makeStatusItem(
+        Menu& menu, const QIcon& itemGlyph, const QString& itemDescription) override
+    {
+        menuOfItem = &menu;
+        glyph = itemGlyph;
+        description = itemDescription;
+        auto made = std::make_unique<Item>();
+        item = made.get();
+        return made;
+    }
+
+    const Menu* menuOfItem = nullptr;
+    QIcon glyph;
+    QString description;
+    const StatusItem* item = nullptr;
+};
+
+TEST_F(QtStatusItemTest, leavesTheItemToAMenuBar)
 {
-    bar.isMenuBar = true;
-    QtStatusItem item(bar, menu);
+    FakeMenuBar menuBar;
+    bar.menuBarFake = &menuBar;
+
+    const std::unique_ptr<StatusItem> item = statusItemIn(bar, menu);
+
+    EXPECT_EQ(item.get(), menuBar.item);
+    EXPECT_EQ(menuBar.menuOfItem, &menu);
+    EXPECT_TRUE(menuBar.glyph.isMask());
+    EXPECT_EQ(menuBar.description, u"Orvello");
+    EXPECT_THAT(log.lines(), IsEmpty());
+}
+
+TEST_F(QtStatusItemTest, isTheItemOfOtherBars)
+{
+    const std::unique_ptr<StatusItem> item = statusItemIn(bar, menu);
     bar.tell(true);
 
-    item.openMenu();
-
-    EXPECT_FALSE(isMenuOpen());
+    EXPECT_THAT(log.lines(), ElementsAre("TRAY status item shown"));
 }
 
 TEST_F(QtStatusItemTest, survivesABarThatSpeaksAfterItsEnd)

@@ -29,10 +29,10 @@ namespace Orvello::Testing {
 /// A bar that comes and goes as a test says.
 class FakeStatusBar final : public StatusBar {
 public:
-    bool isPartOfMenuBar() const override { return isMenuBar; }
+    MenuBar* menuBar() override { return menuBarFake; }
     void observe(std::function<void(bool isThere)> changed) override { tell = std::move(changed); }
 
-    bool isMenuBar = false;
+    MenuBar* menuBarFake = nullptr;
     std::function<void(bool)> tell;
 };
 

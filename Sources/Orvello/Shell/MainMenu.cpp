@@ -12,9 +12,10 @@ std::unique_ptr<Menu> makeMainMenu(const EditingTarget& sendToFirstResponder)
     auto mainMenu = std::make_unique<Menu>();
     Menu& edit = mainMenu->addSubmenu(u"Edit"_s);
     const auto add = [&](const QString& title, const char* command, const QString& key) {
-        edit.addItem(title, [sendToFirstResponder, command] { sendToFirstResponder(command); })
-            .keyEquivalent
-            = key;
+        MenuItem& item = edit.addItem(
+            title, [sendToFirstResponder, command] { sendToFirstResponder(command); });
+        item.command = command;
+        item.keyEquivalent = key;
     };
     add(u"Undo"_s, "undo", u"z"_s);
     add(u"Redo"_s, "redo", u"Z"_s);

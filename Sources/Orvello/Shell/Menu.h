@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <functional>
@@ -14,6 +15,7 @@ class Menu;
 struct MenuItem {
     QString title; ///< Empty for a separator.
     std::function<void()> action; ///< None for a line that only tells something.
+    QByteArray command; ///< The editing command that the action sends, if it sends one.
     QString
         keyEquivalent; ///< The letter that is pressed with the command key; upper case: and shift.
     bool isCheckable = false;

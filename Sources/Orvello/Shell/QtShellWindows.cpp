@@ -39,7 +39,7 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
 
 std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
 {
-    return std::make_unique<QtStatusItem>(m_services.statusBar, menu);
+    return statusItemIn(m_services.statusBar, menu);
 }
 
 } // namespace Orvello

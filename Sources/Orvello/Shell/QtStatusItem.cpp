@@ -3,6 +3,7 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Platform/StatusBar.h"
 #include "Orvello/Shell/Branding.h"
+#include "Orvello/Shell/MenuBar.h"
 
 #include <QCursor>
 #include <QPointer>
@@ -13,8 +14,7 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 QtStatusItem::QtStatusItem(StatusBar& bar, Menu& menu)
-    : m_isInMenuBar(bar.isPartOfMenuBar())
-    , m_menu(menu)
+    : m_menu(menu)
 {
     bar.observe([self = QPointer(this)](bool isThere) {
         if (self)
@@ -24,11 +24,7 @@ QtStatusItem::QtStatusItem(StatusBar& bar, Menu& menu)
 
 QtStatusItem::~QtStatusItem() = default;
 
-void QtStatusItem::openMenu()
-{
-    if (!m_isInMenuBar)
-        m_menu.popup(QCursor::pos());
-}
+void QtStatusItem::openMenu() { m_menu.popup(QCursor::pos()); }
 
 void QtStatusItem::barChanged(bool isThere)
 {
@@ -42,8 +38,7 @@ void QtStatusItem::barChanged(bool isThere)
 /// Not before there is a bar: the toolkit looks for a host on the bus only once.
 void QtStatusItem::makeIcon()
 {
-    m_icon = std::make_unique<QSystemTrayIcon>(
-        m_isInMenuBar ? Branding::menuBarGlyph() : Branding::trayIcon());
+    m_icon = std::make_unique<QSystemTrayIcon>(Branding::trayIcon());
     m_icon->setToolTip(u"Orvello"_s);
     m_icon->setContextMenu(&m_menu);
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
@@ -53,6 +48,13 @@ void QtStatusItem::makeIcon()
         });
     m_icon->show();
     AppLog::write("TRAY status item shown");
+}
+
+std::unique_ptr<StatusItem> statusItemIn(StatusBar& bar, Menu& menu)
+{
+    if (MenuBar* const menuBar = bar.menuBar())
+        return menuBar->makeStatusItem(menu, Branding::menuBarGlyph(), u"Orvello"_s);
+    return std::make_unique<QtStatusItem>(bar, menu);
 }
 
 } // namespace Orvello

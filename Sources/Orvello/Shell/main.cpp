@@ -10,6 +10,7 @@
 #include "Orvello/Shell/AppDelegate.h"
 #include "Orvello/Shell/LaunchOptions.h"
 #include "Orvello/Shell/MainMenu.h"
+#include "Orvello/Shell/MenuBar.h"
 #include "Orvello/Shell/OrvelloApplication.h"
 #include "Orvello/Shell/QtShellWindows.h"
 #include "Orvello/Shell/Translation.h"
@@ -97,8 +98,8 @@ int main(int argc, char** argv)
     OrvelloApplication application(argc, argv);
     installTranslation(application);
     const std::unique_ptr<Platform> platform = std::move(earlyPlatform); // Ends before it.
-    if (platform->statusBar().isPartOfMenuBar())
-        application.setMainMenu(makeMainMenu(&sendToFocusObject));
+    if (MenuBar* const menuBar = platform->statusBar().menuBar())
+        menuBar->setMainMenu(makeMainMenu(&sendToFocusObject));
     migrate(*platform);
 
     AppDelegate delegate(

@@ -4,10 +4,10 @@
 #include "Orvello/Platform/macOS/CocoaText.h"
 #include "Orvello/Platform/macOS/CocoaUserDefaults.h"
 #include "Orvello/Platform/macOS/PropertyList.h"
+#include "Tests/MacOS/GNUstep/GNUstepTest.h"
 
 #include <QDateTime>
 #include <QRect>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -28,24 +28,6 @@ namespace Orvello {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// Over a database of its own.
-class GNUstepTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite()
-    {
-        static const QTemporaryDir folder;
-        NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
-        NSMutableDictionary* const configuration = [[GNUstepConfig(nil) mutableCopy] autorelease];
-        [configuration setObject:nsString(folder.path()) forKey:@"GNUSTEP_USER_DEFAULTS_DIR"];
-        GNUstepConfig(configuration);
-        [pool release];
-    }
-    ~GNUstepTest() override { [m_pool release]; }
-
-private:
-    NSAutoreleasePool* m_pool = [[NSAutoreleasePool alloc] init];
-};
 
 class PropertyListTest : public GNUstepTest {
 protected:

@@ -20,7 +20,7 @@ public:
     explicit LinuxStatusBar(QDBusConnection bus);
     ~LinuxStatusBar() override;
 
-    bool isPartOfMenuBar() const override { return false; }
+    MenuBar* menuBar() override { return nullptr; }
     void observe(std::function<void(bool isThere)> changed) override;
 
 private Q_SLOTS:

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "Orvello/Platform/StatusBar.h"
+#include "Orvello/Platform/macOS/CocoaMenuBar.h"
 
 namespace Orvello {
 
-/// The system's menu bar, which is never missing.
+/// The right side of the system's menu bar, which is never missing.
 class CocoaStatusBar final : public StatusBar {
 public:
-    bool isPartOfMenuBar() const override { return true; }
+    MenuBar* menuBar() override { return &m_menuBar; }
     void observe(std::function<void(bool isThere)> changed) override { changed(true); }
+
+private:
+    CocoaMenuBar m_menuBar;
 };
 
 } // namespace Orvello

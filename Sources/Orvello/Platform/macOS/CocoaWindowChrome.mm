@@ -12,11 +12,15 @@ namespace Orvello {
 bool CocoaWindowChrome::hideTitleBar(QWindow& window)
 {
     const QSize size = window.size();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)
+    // Flags for what follows, which Qt would take away again if it had not set it by itself.
+    window.setFlags(window.flags() | Qt::ExpandedClientAreaHint | Qt::NoTitleBarBackgroundHint);
+#endif
     window.create();
     NSView* const view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
     NSWindow* const nativeWindow = view.window;
     shielded([&] {
-        // Qt keeps this bit when it sets the style for its own flags.
+        // Up to Qt 6.8, which keeps this bit when it sets the style for its own flags.
         nativeWindow.styleMask |= NSWindowStyleMaskFullSizeContentView;
         nativeWindow.titlebarAppearsTransparent = YES;
         nativeWindow.titleVisibility = NSWindowTitleHidden;

@@ -2,9 +2,19 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
+#include "Orvello/Platform/macOS/CocoaMenu.h"
 #include "Orvello/Platform/macOS/CocoaText.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
 namespace {
+
+bool isViewOfQt(NSResponder* responder)
+{
+    const QWindow* const window = QGuiApplication::focusWindow();
+    return window && responder == (__bridge NSView*)reinterpret_cast<void*>(window->winId());
+}
 
 QString stackOf(NSException* exception)
 {
@@ -28,6 +38,14 @@ void recordUncaughtException(NSException* exception)
     Orvello::AppLog::write("EXCEPTION %@: %@\n%@", Orvello::qString(exception.name),
         Orvello::qString(exception.reason), stackOf(exception));
     [super reportException:exception];
+}
+
+- (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender
+{
+    // Whether AppKit has found a target by now or not: it can only be the wrong one.
+    if (isViewOfQt(self.keyWindow.firstResponder) && [CocoaMenu runActionOf:sender])
+        return YES;
+    return [super sendAction:action to:target from:sender];
 }
 
 @end

@@ -4,7 +4,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class NSEvent, NSGraphicsContext, NSScreen, NSView, NSWindow, UTType;
+@class NSEvent, NSGraphicsContext, NSMenu, NSScreen, NSView, NSWindow, UTType;
 
 @interface NSColor : NSObject <NSCopying>
 @property (class, strong, readonly) NSColor* clearColor;
@@ -126,6 +126,7 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 @property (readonly) BOOL canBecomeKeyWindow;
 @property (readonly) BOOL canBecomeMainWindow;
 @property (readonly) NSInteger windowNumber;
+@property (nullable, readonly, weak) NSResponder* firstResponder;
 - (instancetype)initWithContentRect:(NSRect)contentRect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backingStoreType
@@ -144,6 +145,68 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 
 @interface NSPanel : NSWindow
 @property (getter=isFloatingPanel) BOOL floatingPanel;
+@end
+
+@interface NSImageRep : NSObject <NSCopying>
+@property NSSize size;
+@end
+
+@interface NSBitmapImageRep : NSImageRep
++ (nullable instancetype)imageRepWithData:(NSData*)data;
+@end
+
+@interface NSImage : NSObject <NSCopying>
+@property (nullable, copy) NSString* accessibilityDescription;
+- (instancetype)initWithSize:(NSSize)size;
+- (void)addRepresentation:(NSImageRep*)imageRep;
+- (void)setTemplate:(BOOL)isTemplate; // A property, whose name is a keyword of C++.
+@end
+
+typedef NSInteger NSControlStateValue;
+static const NSControlStateValue NSControlStateValueOff = 0;
+static const NSControlStateValue NSControlStateValueOn = 1;
+
+@interface NSMenuItem : NSObject <NSCopying>
+@property (copy) NSString* title;
+@property (nullable, weak) id target;
+@property (nullable) SEL action;
+@property (nullable, assign) NSMenu* menu;
+@property (nullable, strong) NSMenu* submenu;
+@property (getter=isEnabled) BOOL enabled;
+@property NSControlStateValue state;
++ (NSMenuItem*)separatorItem;
+- (instancetype)initWithTitle:(NSString*)string
+                       action:(nullable SEL)selector
+                keyEquivalent:(NSString*)charCode;
+@end
+
+@protocol NSMenuDelegate <NSObject>
+@optional
+- (void)menuNeedsUpdate:(NSMenu*)menu;
+@end
+
+@interface NSMenu : NSObject <NSCopying>
+@property (nullable, weak) id<NSMenuDelegate> delegate;
+@property BOOL autoenablesItems;
+- (instancetype)initWithTitle:(NSString*)title;
+- (void)addItem:(NSMenuItem*)newItem;
+@end
+
+@interface NSButton : NSView
+@property (nullable, strong) NSImage* image;
+@end
+@interface NSStatusBarButton : NSButton
+@end
+
+static const CGFloat NSSquareStatusItemLength = -2.0;
+@interface NSStatusItem : NSObject
+@property (nullable, readonly, strong) NSStatusBarButton* button;
+@property (nullable, strong) NSMenu* menu;
+@end
+@interface NSStatusBar : NSObject
+@property (class, readonly, strong) NSStatusBar* systemStatusBar;
+- (NSStatusItem*)statusItemWithLength:(CGFloat)length;
+- (void)removeStatusItem:(NSStatusItem*)item;
 @end
 
 typedef NSInteger NSModalResponse;
@@ -173,6 +236,9 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @property (class, readonly, strong) __kindof NSApplication* sharedApplication;
 @property (nullable, readonly, strong) NSEvent* currentEvent;
 @property (readonly, getter=isActive) BOOL active;
+@property (nullable, readonly, weak) NSWindow* keyWindow;
+@property (nullable, strong) NSMenu* mainMenu;
+- (BOOL)sendAction:(SEL)action to:(nullable id)target from:(nullable id)sender;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
 - (void)activateIgnoringOtherApps:(BOOL)ignoreOtherApps;
 - (void)reportException:(NSException*)exception;

@@ -19,6 +19,7 @@ typedef bool BOOL;
 
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
+static const NSInteger NSNotFound = 0x7fffffffffffffff; // NSIntegerMax
 typedef double NSTimeInterval;
 typedef unsigned short unichar;
 typedef CGPoint NSPoint;
@@ -93,6 +94,7 @@ typedef NSUInteger NSKeyValueObservingOptions;
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
 - (void)addObject:(ObjectType)anObject;
+- (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)anObject;
 @end
 
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType>
@@ -196,6 +198,7 @@ typedef NS_OPTIONS(NSUInteger, NSSearchPathDomainMask) { NSUserDomainMask = 1 };
 
 extern "C" {
 void NSLog(NSString* format, ...) __attribute__((format(NSString, 1, 2)));
+SEL _Nullable NSSelectorFromString(NSString* aSelectorName);
 void NSSetUncaughtExceptionHandler(NSUncaughtExceptionHandler* _Nullable handler);
 extern const NSRect NSZeroRect;
 NSArray<NSString*>* NSSearchPathForDirectoriesInDomains(
