@@ -80,6 +80,8 @@ qt_add_qml_module(
             Prompting/PromptText.cpp
             Prompting/PromptText.h
             Shell/QmlTypes.h
+            Views/AccessibleButton.cpp
+            Views/AccessibleButton.h
             Views/Symbol.cpp
             Views/Symbol.h
             Views/SymbolDrawing.h

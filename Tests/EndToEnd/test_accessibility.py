@@ -1,6 +1,7 @@
 """A screen reader finds the prompter's text, its state and its buttons, and can press them."""
 
 import json
+import shutil
 import unittest
 
 from desktop import App, Desktop, wait_until
@@ -19,7 +20,8 @@ found = []
 def walk(node):
     states = node.get_state_set()
     found.append({"role": node.get_role_name(), "name": node.get_name(), "description": node.get_description(),
-                  "showing": states.contains(Atspi.StateType.SHOWING)})
+                  "showing": states.contains(Atspi.StateType.SHOWING),
+                  "enabled": states.contains(Atspi.StateType.ENABLED)})
     if len(sys.argv) > 1 and node.get_name() == sys.argv[1]:
         node.get_action_iface().do_action(0)
     for i in range(node.get_child_count()):
@@ -49,6 +51,11 @@ class AccessibilityTest(unittest.TestCase):
     def names(self, role):
         return [node["name"] for node in self.read() if node["role"] == role]
 
+    @staticmethod
+    def buttons(nodes):
+        """Whether they can be pressed, by their names."""
+        return {node["name"]: node["enabled"] for node in nodes if "button" in node["role"]}
+
     def write_deck(self):
         folder = App.folder(self.desktop)
         folder.mkdir(parents=True, exist_ok=True)
@@ -66,10 +73,10 @@ class AccessibilityTest(unittest.TestCase):
 
         pane = next(node for node in nodes if node["name"] == "Prompter")
         self.assertEqual(pane["description"], "paused")
-        self.assertIn({"role": "label", "name": "paused", "description": "Status", "showing": True}, nodes)
+        self.assertIn({"role": "label", "name": "paused", "description": "Status", "showing": True, "enabled": True},
+                      nodes)
         self.assertIn("Slide 1 / 2", [node["name"] for node in nodes])
-        buttons = [node["name"] for node in nodes if "button" in node["role"]]
-        self.assertEqual(buttons, ["Previous slide", "Next slide"])
+        self.assertEqual(self.buttons(nodes), {"Previous slide": False, "Next slide": True})
         self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
 
     def test_the_buttons_can_be_pressed(self):
@@ -81,7 +88,36 @@ class AccessibilityTest(unittest.TestCase):
         self.read("Next slide")
 
         wait_until(lambda: "The second slide." in self.names("label"), what="the next slide")
+        nodes = self.read()
+        self.assertIn("Slide 2 / 2", [node["name"] for node in nodes])
+        self.assertEqual(self.buttons(nodes), {"Previous slide": True, "Next slide": False})
+        self.read("Next slide")
         self.assertIn("Slide 2 / 2", [node["name"] for node in self.read()])
+
+    def test_the_countdown_and_the_share_notice_are_there(self):
+        notice = ("Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello "
+                  "again to clear it.")
+        zoom = self.desktop.scratch / "zoom"
+        shutil.copy("/usr/bin/sleep", zoom)
+        self.desktop.start([str(zoom), "120"])
+        # A slideshow is any window over the whole screen that says it is one of the presenter's.
+        self.desktop.start(["xterm", "-name", "soffice", "-fullscreen", "-e", "sleep", "120"])
+        App.set_defaults(self.desktop, countdownSeconds=10)
+        app = App(self.desktop, "--autostart")
+        app.shown()
+
+        def countdown():
+            return [node["name"] for node in self.read() if node["description"] == "Countdown"]
+        seconds = wait_until(countdown, what="the countdown")
+        self.assertIn(seconds[0], [str(number) for number in range(1, 11)])
+        self.assertNotIn(notice, [node["name"] for node in self.read()])
+
+        app.wait_for_log("PRESENTING=1 app=LibreOffice Impress")
+        self.desktop.run("xdotool", "key", "alt+super+p")
+        wait_until(lambda: not countdown(), what="the end of the countdown")
+        wait_until(lambda: notice in [node["name"] for node in self.read()], what="the notice")
+        self.read("Dismiss")
+        wait_until(lambda: notice not in [node["name"] for node in self.read()], what="the notice to go")
 
 
 if __name__ == "__main__":

@@ -50,6 +50,13 @@ class OnboardingTest(unittest.TestCase):
     def prompter(self):
         return self.desktop.windows_titled("Orvello")
 
+    def expect_that_it_comes_no_more(self):
+        self.assertEqual(self.app.quit(), 0)
+        self.app = App(self.desktop)
+        wait_until(self.prompter, what="the prompter at once")
+        time.sleep(0.5)
+        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
+
     def expect_finished(self):
         wait_until(self.prompter, what="the prompter")
         self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
@@ -69,12 +76,7 @@ class OnboardingTest(unittest.TestCase):
         self.wait_for_page(2)
         self.key("Return")
         self.expect_finished()
-        self.assertEqual(self.app.quit(), 0)
-
-        self.app = App(self.desktop)
-        wait_until(self.prompter, what="the prompter at once")
-        time.sleep(0.5)
-        self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
+        self.expect_that_it_comes_no_more()
 
     def test_the_buttons_lead_through_it(self):
         self.start()
@@ -104,13 +106,17 @@ class OnboardingTest(unittest.TestCase):
 
     def test_the_close_button_is_finishing(self):
         self.start()
+        self.assertEqual(self.page(), 0)
         self.click(652, 28)
         self.expect_finished()
+        self.expect_that_it_comes_no_more()
 
     def test_closing_by_the_window_manager_is_finishing(self):
         self.start()
+        self.assertEqual(self.page(), 0)
         self.key("alt+F4")
         self.expect_finished()
+        self.expect_that_it_comes_no_more()
 
     def test_a_tour_that_was_not_finished_comes_again(self):
         self.start()

@@ -6,7 +6,7 @@ import signal
 import time
 import unittest
 
-from desktop import App, Desktop, upward_shift, wait_until
+from desktop import PROGRAM, App, Desktop, upward_shift, wait_until
 
 GREEN = (48, 209, 88)
 ORANGE = (255, 159, 10)
@@ -187,6 +187,29 @@ class PrompterTest(unittest.TestCase):
             self.assertLessEqual(value, 255 * visibility + 6, f"row {row}")
             lit += value >= 255 * visibility - 6
         self.assertGreater(lit, 0.6 * (height - 30))
+
+    def test_it_draws_nothing_while_it_is_paused_and_unchanged(self):
+        self.write_library()
+        self.mouse("mousemove", 10, 880)
+        app = App(self.desktop, environment={"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop.debug=true"})
+        x, y, _, _ = app.shown()
+
+        def frames():
+            return (self.desktop.scratch / f"{PROGRAM.name}.log").read_text().lower().count("frame rendered")
+
+        def rests():
+            before = frames()
+            time.sleep(0.5)
+            return frames() == before
+        wait_until(rests, what="the last frame of the launch")
+        drawn = frames()
+        self.assertGreater(drawn, 0)
+        time.sleep(2.5)  # The watchdog has looked at the window, too.
+        self.assertEqual(frames(), drawn)
+
+        self.mouse("mousemove", x + 400, y + 100, "click", 5, "mousemove", 10, 880)
+        wait_until(lambda: frames() > drawn, what="the text to move")
+        wait_until(rests, what="the prompter to rest again")
 
     # Stealth Mode
 

@@ -1,14 +1,27 @@
 """The scripts window with real mouse and keys: after each step the file and the active script are what the user sees."""
 
+import os
+import pathlib
 import re
-import subprocess
+import shutil
 import time
 import unittest
+import zipfile
 
 from bus import SessionBus, TrayHost
 from desktop import App, Desktop, SOURCES, wait_until
 
-DECK_TOOL = SOURCES / "Tests" / "Support" / "make-deck"
+DRAG_SOURCE = pathlib.Path(os.environ["ORVELLO_DRAG_SOURCE"]).resolve()
+DECK = SOURCES / "Tests" / "Presentations" / "Decks" / "talk.pptx"
+FILE_DIALOG = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
+
+
+def write_deck_without_notes(path):
+    """The slides of a deck without what ties their notes to them."""
+    with zipfile.ZipFile(DECK) as deck, zipfile.ZipFile(path, "w") as silent:
+        for name in deck.namelist():
+            if not name.startswith("ppt/slides/_rels/"):
+                silent.writestr(name, deck.read(name))
 
 
 class ScriptsWindow:
@@ -41,11 +54,30 @@ class ScriptsWindow:
         self.desktop.run("xdotool", "mousemove", str(left + x % width), str(top + y % height), "click", "1")
         time.sleep(0.1)
 
+    def answer_alert(self):
+        """With its button, which is as far from its bottom edge as its text is from its left one."""
+        screen = self.desktop.screenshot()
+        left, top, width, height = self.geometry()
+        x, middle = width // 2 - 170, height // 2
+        face = screen.pixel(left + x, top + middle)
+        bottom = next(y for y in range(middle, height) if screen.pixel(left + x, top + y) != face)
+        self.click(width // 2 + 120, bottom - 32)
+
     def row(self, number):
         self.click(60, 18 + 25 * number) # Of rows without slides.
 
     def text(self):
         self.click(-200, 200)
+
+    def choose_file(self, path):
+        """Through the file dialog, with the keyboard."""
+        self.key("ctrl+o")
+        wait_until(lambda: self.desktop.windows_titled(FILE_DIALOG), what="the file dialog")
+        time.sleep(0.5)
+        self.type(str(path))
+        self.key("Return")
+        wait_until(lambda: not self.desktop.windows_titled(FILE_DIALOG), what="the file dialog to go")
+        wait_until(lambda: self.desktop.focused_window() == self.id, what="the keyboard")
 
     # Eyes
 
@@ -54,6 +86,18 @@ class ScriptsWindow:
         text = self.desktop.run("xwininfo", "-id", str(self.id))
         return tuple(int(re.search(name + r": +(-?\d+)", text)[1])
                      for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+    def pixel(self, x, y):
+        """At a place in the window; negative ones count from its right and bottom edges."""
+        left, top, width, height = self.geometry()
+        return self.desktop.screenshot().pixel(left + x % width, top + y % height)
+
+    def shows_alert(self):
+        """An alert dims what is behind it: the empty right of the editor."""
+        return 0 < max(self.pixel(-10, 100)) < 250
+
+    def wait_for_first_frame(self):
+        wait_until(lambda: min(self.pixel(-10, 100)) == 255, what="an editor")
 
     def titles(self):
         return [script["title"] for script in App.library(self.desktop)]
@@ -167,6 +211,13 @@ class ScriptsWindowTest(unittest.TestCase):
         window.key(*["ctrl+z"] * 30)
         window.wait_for_active(title="One", body="")
         self.assertEqual(App.library(self.desktop)[0]["body"], "Body of Two")
+        window.row(0)
+        window.text()
+        window.key(*["ctrl+shift+z"] * 30)
+        window.row(1)
+        window.wait_for_active(title="One", body="")
+        self.assertEqual(App.library(self.desktop)[0]["body"], "Body of Two")
+        window.text()
         window.key(*["ctrl+shift+z"] * 30)
         window.wait_for_active(title="One", body="Body of One")
         window.row(0)
@@ -178,35 +229,88 @@ class ScriptsWindowTest(unittest.TestCase):
 
     def test_a_deck_is_imported_through_the_file_dialog_with_the_keyboard_alone(self):
         deck = self.desktop.scratch / "Quarterly review.pptx"
-        subprocess.run(["/usr/bin/python3", str(DECK_TOOL), "--slides", "3", "--output", str(deck)],
-                       check=True, timeout=180, capture_output=True)
-        message = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
+        shutil.copy(DECK, deck)
         window = self.start()
 
         window.key("Tab", "Tab", "Tab", "space") # To the import menu.
         time.sleep(0.3)
         window.key("Down", "Return")
-        wait_until(lambda: self.desktop.windows_titled(message), what="the file dialog")
+        wait_until(lambda: self.desktop.windows_titled(FILE_DIALOG), what="the file dialog")
         time.sleep(0.5)
         window.key("Escape")
-        wait_until(lambda: not self.desktop.windows_titled(message), what="the file dialog to go")
+        wait_until(lambda: not self.desktop.windows_titled(FILE_DIALOG), what="the file dialog to go")
         self.assertEqual(window.titles(), ["Welcome to Orvello"])
 
-        window.key("ctrl+o")
-        wait_until(lambda: self.desktop.windows_titled(message), what="the file dialog")
-        time.sleep(0.5)
-        window.type(str(deck))
-        window.key("Return")
+        window.choose_file(deck)
         window.wait_for_titles("Quarterly review", "Welcome to Orvello")
         window.wait_for_active(title="Quarterly review", deckSource="Quarterly review.pptx")
         body = window.active()["body"]
-        wait_until(lambda: self.desktop.focused_window() == window.id, what="the keyboard")
 
         window.click(-200, 250)
         window.type("x")
         window.key("BackSpace", "ctrl+v", "shift+Tab", "End")
         window.type(" 2")
         window.wait_for_active(title="Quarterly review 2", body=body)
+
+    def test_alerts_are_answered_with_keys_and_mouse(self):
+        broken = self.desktop.scratch / "broken.pptx"
+        broken.write_text("This is no package.")
+        silent = self.desktop.scratch / "Silent.pptx"
+        write_deck_without_notes(silent)
+        window = self.start()
+        window.wait_for_first_frame()
+
+        window.choose_file(broken)
+        wait_until(window.shows_alert, what="that the import failed")
+        window.type("xyz")
+        window.key("Return")
+        wait_until(lambda: not window.shows_alert(), what="the alert to go")
+        self.assertEqual(window.titles(), ["Welcome to Orvello"])
+        self.assertNotIn("xyz", window.active()["body"])
+
+        window.choose_file(silent)
+        wait_until(window.shows_alert, what="that there are no notes")
+        window.wait_for_active(title="Silent", deckSource="Silent.pptx")
+        self.assertEqual({slide["notes"] for slide in window.active()["slides"]}, {""})
+        time.sleep(0.5)
+        window.answer_alert()
+        wait_until(lambda: not window.shows_alert(), what="the alert to go")
+        window.key("ctrl+n")
+        window.wait_for_titles("Untitled", "Silent", "Welcome to Orvello")
+
+    def test_decks_are_dropped_on_the_window(self):
+        deck, notes = self.desktop.scratch / "Dropped.pptx", self.desktop.scratch / "notes.txt"
+        shutil.copy(DECK, deck)
+        notes.write_text("No deck.")
+        window = self.start()
+        window.wait_for_first_frame()
+        x, y, width, height = window.geometry()
+        edge = window.pixel(1, 200)
+
+        def drag(*files):
+            """Drags the files over the window and returns how its edge looks, and what became of them."""
+            log = self.desktop.scratch / f"{DRAG_SOURCE.name}.log"
+            log.unlink(missing_ok=True)
+            # It stays: what was dropped is asked of it afterwards.
+            self.desktop.start([str(DRAG_SOURCE), "40", "500", *map(str, files)])
+            wait_until(lambda: "ready" in log.read_text(), what="the files")
+            self.desktop.run("xdotool", "mousemove", "80", "540", "mousedown", "1")
+            for step in range(1, 9):
+                self.desktop.run("xdotool", "mousemove", str(80 + (x + width // 2 - 80) * step // 8),
+                                 str(540 + (y + height // 2 - 540) * step // 8))
+            time.sleep(0.5)
+            looks = window.pixel(1, 200)
+            self.desktop.run("xdotool", "mouseup", "1")
+            outcome = wait_until(lambda: log.read_text().split()[1:], what="the end of the drag")
+            return looks, outcome[0]
+
+        self.assertEqual(drag(notes), (edge, "refused"))
+        looks, outcome = drag(notes, deck)
+        self.assertEqual(outcome, "copied")
+        self.assertNotEqual(looks, edge)
+        window.wait_for_titles("Dropped", "Welcome to Orvello")
+        window.wait_for_active(title="Dropped", deckSource="Dropped.pptx")
+        wait_until(lambda: window.pixel(1, 200) == edge, what="the edge as it was")
 
     def test_a_megabyte_is_pasted(self):
         window = self.start()

@@ -1,12 +1,15 @@
 """The settings window of the real program, worked with mouse and keys: what is changed in it is stored and in effect at once."""
 
 import http.server
+import json
+import re
 import threading
 import time
 import unittest
 
 from bus import SessionBus, TrayHost
 from desktop import App, Desktop, wait_until
+from sound import SoundServer, speech
 
 WIDTH, HEIGHT = 500, 780
 
@@ -185,19 +188,77 @@ class SettingsWindowTest(unittest.TestCase):
         self.wait_for("stealthMode", True)
         wait_until(badge, what="the badge to come back")
 
-    def test_the_other_toggles_and_the_sensitivity_are_stored(self):
+    def test_slide_tracking_is_in_effect_at_once(self):
+        folder = App.folder(self.desktop)
+        folder.mkdir(parents=True)
+        slides = [{"index": 1, "title": "Welcome", "notes": "Good morning."}, {"index": 2, "notes": "Second."}]
+        (folder / "scripts.json").write_text(json.dumps([{
+            "id": "6F9619FF-8B86-D011-B42D-00CF4FC964FF", "title": "Deck", "body": "Good morning.",
+            "createdAt": 8e8, "updatedAt": 8e8, "slides": slides, "deckSource": "Deck.pptx"}]))
+        self.start()
+        x, y, width, height = self.panel
+        # Where the slide chip is.
+        corner = lambda: self.desktop.screenshot().rows(x + width - 60, y + height - 26, 50, 20)
+        self.app.wait_for_log("SYNC active=1")
+        self.open()
+        with_chip = corner()
+
+        self.go_to("slideSync")
+        self.key("space")
+        self.wait_for("slideSync", False)
+        self.app.wait_for_log("SYNC active=0")
+        wait_until(lambda: corner() != with_chip, what="the chip to go")
+        self.key("space")
+        self.wait_for("slideSync", True)
+        wait_until(lambda: corner() == with_chip, what="the chip to come back")
+
+    def test_the_plain_key_is_in_effect_at_the_next_slideshow(self):
+        def present(news):
+            """A slideshow is any window over the whole screen that says it is one of the presenter's."""
+            before = App.log_text(self.desktop)
+            slideshow = self.desktop.start(["xterm", "-name", "soffice", "-fullscreen", "-e", "sleep", "60"])
+            wait_until(lambda: news in App.log_text(self.desktop)[len(before):], what=news)
+            slideshow.terminate()
+            slideshow.wait(10)
+            wait_until(lambda: "PRESENTING=0" in App.log_text(self.desktop)[len(before):], what="the end of it")
+            return App.log_text(self.desktop)[len(before):]
         self.start()
         self.open()
 
-        for control, after in (("voiceFollow", True), ("slideshowPauseKey", False), ("slideSync", False)):
-            self.go_to(control)
-            self.key("space")
-            self.wait_for(control, after)
-        wait_until(lambda: any("VAD" in line for line in App.log_messages(self.desktop)), what="the microphone")
+        self.go_to("slideshowPauseKey")
+        self.key("space")
+        self.wait_for("slideshowPauseKey", False)
+        self.assertNotIn("plain-P", present("PRESENTING=1"))
 
-        self.key("shift+Tab", "shift+Tab", "shift+Tab")
+        wait_until(lambda: self.desktop.focused_window() == self.window, what="the keyboard")
+        self.key("space")
+        self.wait_for("slideshowPauseKey", True)
+        self.assertIn("plain-P disarmed", present("plain-P armed (slideshow)"))
+
+    def test_the_sensitivity_is_in_effect_at_once(self):
+        sound = SoundServer(environment=self.desktop.environment)
+        self.addCleanup(sound.close)
+        sound.start_server()
+        self.start()
+        self.open()
+        self.go_to("voiceFollow")
+        self.key("space")
+        self.wait_for("voiceFollow", True)
+        self.app.wait_for_log("VAD listening")
+
+        def threshold():
+            """What a voice has to exceed, as the next speaker finds it."""
+            before = len(App.log_text(self.desktop))
+            news = lambda: re.findall(r"speaking=(\d) rms=\S+ thr=(\S+)", App.log_text(self.desktop)[before:])
+            sound.play((speech("Good morning everybody.", sound.scratch), "air"))
+            wait_until(lambda: len(news()) >= 2 and news()[-1][0] == "0", what="speech and the silence after it")
+            return news()[0]
+        self.assertEqual(threshold(), ("1", "0.0063"))
+
+        self.go_to("voiceSensitivity")
         self.key("End")
         self.wait_for("voiceSensitivity", 1)
+        self.assertEqual(threshold(), ("1", "0.0016"))
 
     def test_the_countdown_is_picked_and_counts(self):
         App.set_defaults(self.desktop, countdownSeconds=4)
@@ -274,6 +335,22 @@ class CheckNowTest(SettingsWindowTest):
         self.assertIn("SULastCheckTime", App.defaults(self.desktop))
 
 
+    def test_automatic_checks_begin_and_end_at_once(self):
+        self.answers.set()
+        self.start("-OrvelloAppcastURL", self.feed)
+        self.open()
+        time.sleep(1)
+        self.assertEqual(self.requests, 0)
+
+        self.go_to("automatic checks")
+        self.key("space")
+        self.wait_for("SUEnableAutomaticChecks", True)
+        wait_until(lambda: self.requests == 1, what="the check that is due")
+
+        self.key("space")
+        self.wait_for("SUEnableAutomaticChecks", False)
+
+
 class LowScreenTest(SettingsWindowTest):
     height = 600
 
@@ -297,6 +374,7 @@ def load_tests(loader, tests, pattern):
     """Each test once, not again in the classes that only lend its tools."""
     suite = unittest.TestSuite(loader.loadTestsFromTestCase(SettingsWindowTest))
     suite.addTest(CheckNowTest("test_it_is_grey_while_a_check_runs"))
+    suite.addTest(CheckNowTest("test_automatic_checks_begin_and_end_at_once"))
     suite.addTest(LowScreenTest("test_it_fits_and_scrolls"))
     return suite
 

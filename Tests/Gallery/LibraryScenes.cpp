@@ -4,8 +4,10 @@
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"
 
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPalette>
 #include <QTest>
 
@@ -68,9 +70,17 @@ public:
         services().openPanel.choice = path;
         press(Qt::Key_O, Qt::ControlModifier);
     }
+    void dragOver(const QString& path)
+    {
+        m_dragged.setUrls({ QUrl::fromLocalFile(path) });
+        QDragEnterEvent event(
+            QPoint(360, 200), Qt::CopyAction, &m_dragged, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window(), &event);
+    }
 
 private:
     const QPalette m_desktop;
+    QMimeData m_dragged;
     Play m_play;
     std::optional<LibraryServices> m_services;
     std::optional<LibraryWindow> m_window;
@@ -156,6 +166,8 @@ void importSavedCopy(LibraryStage& stage)
     process.finish(1, 1, {}, "busy");
 }
 
+void dragADeckOver(LibraryStage& stage) { stage.dragOver(u"/tmp/Quarterly review.pptx"_s); }
+
 Scene scene(const QString& name, const LibraryStage::Play& play, bool isDark = false,
     double scale = 1, const QList<Script>& scripts = library())
 {
@@ -178,6 +190,8 @@ Scenes libraryScenes()
         scene(u"import failed"_s, failToImport),
         scene(u"no speaker notes"_s, importSilentDeck),
         scene(u"the saved copy imported"_s, importSavedCopy),
+        scene(u"a deck dragged over it"_s, dragADeckOver),
+        scene(u"a deck dragged over it, dark"_s, dragADeckOver, true),
         scene(
             u"a script, dark"_s, [](LibraryStage&) {}, true),
         scene(u"a deck, dark"_s, showDeck, true),

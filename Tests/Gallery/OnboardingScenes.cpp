@@ -2,6 +2,7 @@
 
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/OnboardingWindowController.h"
+#include "Tests/Gallery/Editions.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWorkspace.h"
@@ -17,13 +18,15 @@ enum class Zoom { Absent, Installed };
 /// The welcome tour, turned to one of its pages.
 class OnboardingStage final : public Stage {
 public:
-    OnboardingStage(int page, Zoom zoom)
+    OnboardingStage(int page, Zoom zoom, Edition edition)
+        : m_words(edition)
     {
         if (zoom == Zoom::Installed)
             workspace.installed.append(u"us.zoom.xos"_s);
         qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
-        controller.emplace(
-            OnboardingWindowController::Services { settings, workspace, chrome, false }, [] {});
+        controller.emplace(OnboardingWindowController::Services { settings, workspace, chrome,
+                               canExcludeFromCapture(edition) },
+            [] {});
         qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
     }
@@ -35,12 +38,22 @@ public:
     Testing::FakeWorkspace workspace;
     Testing::FakeWindowChrome chrome;
     std::optional<OnboardingWindowController> controller;
+
+private:
+    StageWords m_words;
 };
 
-Scene tour(const QString& name, int page, Zoom zoom = Zoom::Absent, double scale = 1)
+Scene tour(const QString& name, int page, Zoom zoom = Zoom::Absent, double scale = 1,
+    Edition edition = Edition::Linux)
 {
     return { u"Welcome tour: "_s + name,
-        [=] { return std::make_unique<OnboardingStage>(page, zoom); }, Wallpaper::None, scale };
+        [=] { return std::make_unique<OnboardingStage>(page, zoom, edition); }, Wallpaper::None,
+        scale };
+}
+
+Scene tourOnAMac(const QString& name, int page, Zoom zoom = Zoom::Absent)
+{
+    return tour(name + u", on a Mac"_s, page, zoom, 1, Edition::MacOS);
 }
 
 } // namespace
@@ -52,6 +65,10 @@ Scenes onboardingScenes()
         tour(u"privacy"_s, 1),
         tour(u"privacy, with Zoom"_s, 1, Zoom::Installed),
         tour(u"setup"_s, 2),
+        tourOnAMac(u"welcome"_s, 0),
+        tourOnAMac(u"privacy"_s, 1),
+        tourOnAMac(u"privacy, with Zoom"_s, 1, Zoom::Installed),
+        tourOnAMac(u"setup"_s, 2),
         tour(u"welcome, 2x"_s, 0, Zoom::Absent, 2),
         tour(u"privacy, with Zoom, 2x"_s, 1, Zoom::Installed, 2),
         tour(u"setup, 2x"_s, 2, Zoom::Absent, 2),

@@ -4,6 +4,7 @@
 #include "Orvello/Shell/SettingsWindow.h"
 #include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
+#include "Tests/Gallery/Editions.h"
 #include "Tests/Gallery/Palettes.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeMicActivity.h"
@@ -36,15 +37,17 @@ class SettingsStage final : public Stage {
 public:
     using Play = std::function<void(SettingsStage&)>;
 
-    SettingsStage(Look look, Extent extent, Play play, QString section)
+    SettingsStage(Look look, Extent extent, Play play, QString section, Edition edition)
         : m_palette(look)
+        , m_words(edition)
         , m_extent(extent)
         , m_section(std::move(section))
         , m_play(std::move(play))
     {
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, false });
+        settingsWindow.emplace(
+            SettingsWindow::Services { settings, voice, updates, canExcludeFromCapture(edition) });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -116,6 +119,7 @@ private:
     }
 
     StagePalette m_palette;
+    StageWords m_words;
     const Extent m_extent;
     const QString m_section;
     const Play m_play;
@@ -124,11 +128,17 @@ private:
 const SettingsStage::Play asItIs = [](SettingsStage&) {};
 
 Scene settings(const QString& name, Look look, Extent extent,
-    const SettingsStage::Play& play = asItIs, const QString& section = {}, double scale = 1)
+    const SettingsStage::Play& play = asItIs, const QString& section = {}, double scale = 1,
+    Edition edition = Edition::Linux)
 {
     return { u"Settings: "_s + name,
-        [=] { return std::make_unique<SettingsStage>(look, extent, play, section); },
+        [=] { return std::make_unique<SettingsStage>(look, extent, play, section, edition); },
         Wallpaper::None, scale };
+}
+
+Scene settingsOnAMac(const QString& name, Look look)
+{
+    return settings(name + u", on a Mac"_s, look, Extent::All, asItIs, {}, 1, Edition::MacOS);
 }
 
 Scene voice(const QString& name, Look look, const SettingsStage::Play& play)
@@ -172,6 +182,8 @@ Scenes settingsScenes()
         settings(u"light"_s, Look::Light, Extent::All),
         settings(u"dark"_s, Look::Dark, Extent::All),
         settings(u"the window"_s, Look::Light, Extent::Window),
+        settingsOnAMac(u"light"_s, Look::Light),
+        settingsOnAMac(u"dark"_s, Look::Dark),
         voice(u"listening"_s, Look::Light, listen),
         voice(u"during a call"_s, Look::Dark, listenDuringACall),
         voice(u"denied"_s, Look::Light, listenForbidden),

@@ -208,6 +208,19 @@ TEST_F(PrompterPanelControllerTest, reportsARefusedShape)
         log.lines(), ElementsAre("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"));
 }
 
+TEST_F(PrompterPanelControllerTest, reportsARegionThatCannotBeMade)
+{
+    built();
+    state().refusesRegions = true;
+
+    controller->applyStealthMode(true);
+
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+    EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=false mode=both shape=0"));
+    EXPECT_THAT(
+        log.lines(), ElementsAre("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"));
+}
+
 TEST_F(PrompterPanelControllerTest, usesTheShapeAloneWhenToldSo)
 {
     qputenv("ORVELLO_STEALTH", "shape");
@@ -320,6 +333,22 @@ TEST_F(PrompterPanelControllerTest, dropsTheSecondTryWhenStealthIsOffByThen)
     EXPECT_THAT(stealthMessages(), IsEmpty());
 }
 
+TEST_F(PrompterPanelControllerTest, takesItsSecondTryWithIt)
+{
+    panel.number = 0;
+    built();
+    controller->reassertStealth();
+    forget();
+
+    controller.reset();
+    panel.number = 57;
+    stage.time.advance(0.5);
+
+    EXPECT_THAT(stealthMessages(), IsEmpty());
+    EXPECT_THAT(panel.sharingTypesSet, IsEmpty());
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+}
+
 // Resizing
 
 TEST_F(PrompterPanelControllerTest, coversAResizedPanelAtOnce)
@@ -361,6 +390,29 @@ TEST_F(PrompterPanelControllerTest, ignoresResizesWhileStealthIsOff)
     EXPECT_THAT(stealthMessages(), IsEmpty());
 }
 
+TEST_F(PrompterPanelControllerTest, coversAResizedPanelWhateverTheMechanismsInUse)
+{
+    qputenv("ORVELLO_STEALTH", "flag");
+    built();
+
+    Q_EMIT panel.didResize();
+
+    EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
+    EXPECT_THAT(panel.sharingTypesSet, IsEmpty());
+    EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
+}
+
+TEST_F(PrompterPanelControllerTest, saysThatItReappliedEvenWithoutARegion)
+{
+    built();
+    state().refusesRegions = true;
+
+    Q_EMIT panel.didResize();
+
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+    EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
+}
+
 TEST_F(PrompterPanelControllerTest, saysThatItReappliedEvenWithoutAWindow)
 {
     panel.number = 0;
@@ -389,6 +441,64 @@ TEST_F(PrompterPanelControllerTest, waitsForTheEndOfACallAndThenCoversSilently)
     forget();
     setInCall(false);
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 800, 300)));
+    EXPECT_THAT(stealthMessages(), IsEmpty());
+}
+
+TEST_F(PrompterPanelControllerTest, postponesADragOnceAtItsEndAndCoversItAfterTheCall)
+{
+    built();
+    setInCall(true);
+    forget();
+
+    panel.liveResize = true;
+    for (const double width : { 760.0, 800.0, 840.0 }) {
+        panel.frameNow.setSize({ width, 300 });
+        Q_EMIT panel.didResize();
+    }
+    EXPECT_THAT(stealthMessages(), IsEmpty());
+    panel.liveResize = false;
+    Q_EMIT panel.didEndLiveResize();
+    EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapply postponed (in call)"));
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+
+    setInCall(false);
+    EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 840, 300)));
+    setInCall(true);
+    setInCall(false);
+    EXPECT_EQ(state().shapeCalls.size(), 1) << "the call's end settles it";
+}
+
+TEST_F(PrompterPanelControllerTest, leavesADragThatOutlastsItsCallToItsEnd)
+{
+    built();
+    setInCall(true);
+    forget();
+
+    panel.liveResize = true;
+    panel.frameNow.setSize({ 800, 300 });
+    Q_EMIT panel.didResize();
+    setInCall(false);
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
+    panel.liveResize = false;
+    Q_EMIT panel.didEndLiveResize();
+
+    EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 800, 300)));
+    EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
+}
+
+TEST_F(PrompterPanelControllerTest, takesWhatItPostponedWithIt)
+{
+    built();
+    setInCall(true);
+    Q_EMIT panel.didResize();
+    forget();
+
+    controller.reset();
+    setInCall(false);
+    Q_EMIT panel.didResize();
+    Q_EMIT panel.didEndLiveResize();
+
+    EXPECT_THAT(state().shapeCalls, IsEmpty());
     EXPECT_THAT(stealthMessages(), IsEmpty());
 }
 
@@ -459,6 +569,18 @@ TEST_F(PrompterPanelControllerTest, waitsForAVisibleWindowToGetItsNumber)
     panel.number = 0;
 
     stage.time.advance(4.0);
+
+    EXPECT_THAT(stealthMessages(), IsEmpty());
+}
+
+TEST_F(PrompterPanelControllerTest, takesItsWatchdogWithIt)
+{
+    built();
+    panel.visible = true;
+    panel.number = 99;
+
+    controller.reset();
+    stage.time.advance(10.0);
 
     EXPECT_THAT(stealthMessages(), IsEmpty());
 }

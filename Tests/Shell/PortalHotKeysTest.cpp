@@ -5,7 +5,9 @@
 #include "Tests/Support/PrivateBus.h"
 
 #include <QDBusArgument>
+#include <QDBusMetaType>
 #include <QDBusVirtualObject>
+#include <QMap>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -15,9 +17,38 @@
 #include <vector>
 
 namespace Orvello {
+
+/// A shortcut as it goes over the bus. Not the program's own type, so that each checks the other.
+struct WiredShortcut {
+    QString id;
+    QVariantMap properties;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const WiredShortcut& shortcut)
+{
+    argument.beginStructure();
+    argument << shortcut.id << shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, WiredShortcut& shortcut)
+{
+    argument.beginStructure();
+    argument >> shortcut.id >> shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace Orvello
+
+Q_DECLARE_METATYPE(Orvello::WiredShortcut)
+
+namespace Orvello {
 namespace {
 
 using namespace Qt::StringLiterals;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
@@ -30,6 +61,8 @@ public:
     explicit FakePortal(QDBusConnection connection)
         : bus(std::move(connection))
     {
+        qDBusRegisterMetaType<WiredShortcut>();
+        qDBusRegisterMetaType<QList<WiredShortcut>>();
         bus.registerVirtualObject(
             u"/org/freedesktop/portal/desktop"_s, this, QDBusConnection::SubPath);
         bus.registerService(u"org.freedesktop.portal.Desktop"_s);
@@ -57,7 +90,13 @@ public:
     }
 
     QDBusConnection bus;
+    /// What the user does with a shortcut that is to be bound.
+    enum class Choice { TakePreferred, GiveNoKeys, LeaveOut };
+
     uint answer = 0; ///< 1 is the user's refusal.
+    bool makesSessions = true;
+    bool tellsWhatIsBound = true;
+    QMap<QString, Choice> choices; ///< By the shortcut; without one it gets its keys.
     QStringList calls;
     QStringList triggers; ///< What was bound.
     QString session;
@@ -68,23 +107,25 @@ private:
         const QVariantMap options = argument<QVariantMap>(message, 0);
         session = u"/org/freedesktop/portal/desktop/session/x/"_s
             + options.value(u"session_handle_token"_s).toString();
-        respond(message, options, { { u"session_handle"_s, session } });
+        respond(message, options,
+            makesSessions ? QVariantMap { { u"session_handle"_s, session } } : QVariantMap());
     }
 
     void bindShortcuts(const QDBusMessage& message)
     {
-        const auto list = message.arguments().at(1).value<QDBusArgument>();
-        list.beginArray();
-        while (!list.atEnd()) {
-            QString id;
-            QVariantMap properties;
-            list.beginStructure();
-            list >> id >> properties;
-            list.endStructure();
-            triggers.append(id + u'=' + properties.value(u"preferred_trigger"_s).toString());
+        QList<WiredShortcut> bound;
+        for (const auto& shortcut : argument<QList<WiredShortcut>>(message, 1)) {
+            const QString trigger = shortcut.properties.value(u"preferred_trigger"_s).toString();
+            triggers.append(shortcut.id + u'=' + trigger);
+            if (choices.value(shortcut.id) == Choice::LeaveOut)
+                continue;
+            const bool hasKeys = choices.value(shortcut.id) != Choice::GiveNoKeys;
+            bound.append(
+                { shortcut.id, { { u"trigger_description"_s, hasKeys ? trigger : QString() } } });
         }
-        list.endArray();
-        respond(message, argument<QVariantMap>(message, 3), {});
+        respond(message, argument<QVariantMap>(message, 3),
+            tellsWhatIsBound ? QVariantMap { { u"shortcuts"_s, QVariant::fromValue(bound) } }
+                             : QVariantMap());
     }
 
     template <typename Value>
@@ -194,6 +235,70 @@ TEST_F(PortalHotKeysTest, grabsTheKeysWhenTheUserDeclines)
     EXPECT_TRUE(waitUntil([&] { return !grabs.registered.empty(); }));
     reference.reset();
     EXPECT_TRUE(grabs.registered.empty());
+}
+
+TEST_F(PortalHotKeysTest, grabsTheKeysThatTheUserLeavesOut)
+{
+    FakePortal portal(bus.connect());
+    portal.choices = { { u"Alt+Super+P"_s, FakePortal::Choice::LeaveOut },
+        { u"Alt+Super+Up"_s, FakePortal::Choice::GiveNoKeys } };
+    start();
+    auto p = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto up = keys->registerHotKey(HotKey::keyUp, optionCommand, { 0, 2 });
+    const auto down = keys->registerHotKey(HotKey::keyDown, optionCommand, { 0, 3 });
+
+    ASSERT_TRUE(waitUntil([&] { return !log.lines().empty(); }));
+
+    EXPECT_THAT(log.lines(),
+        ElementsAre("HOTKEY the desktop's portal does not hold Alt+Super+P, Alt+Super+Up"));
+    EXPECT_EQ(grabs.registered.size(), 2);
+    grabs.press(HotKey::keyP, optionCommand);
+    grabs.press(HotKey::keyUp, optionCommand);
+    EXPECT_THAT(pressed, ElementsAre(1, 2));
+    portal.activate(u"Alt+Super+Down"_s);
+    EXPECT_TRUE(waitUntil([&] { return pressed.size() == 3; }));
+    EXPECT_THAT(pressed, ElementsAre(1, 2, 3));
+
+    p.reset();
+    EXPECT_EQ(grabs.registered.size(), 1);
+}
+
+TEST_F(PortalHotKeysTest, takesAKeyThatTheUserAssignsLater)
+{
+    FakePortal portal(bus.connect());
+    portal.choices = { { u"Alt+Super+P"_s, FakePortal::Choice::LeaveOut } };
+    start();
+    const auto p = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    ASSERT_TRUE(waitUntil([&] { return !log.lines().empty(); }));
+
+    portal.activate(u"Alt+Super+P"_s);
+
+    EXPECT_TRUE(waitUntil([&] { return !pressed.empty(); }));
+}
+
+TEST_F(PortalHotKeysTest, grabsTheKeysWhenThePortalDoesNotTellWhatItBound)
+{
+    FakePortal portal(bus.connect());
+    portal.tellsWhatIsBound = false;
+    start();
+
+    const auto p = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+
+    EXPECT_TRUE(waitUntil([&] { return !grabs.registered.empty(); }));
+    EXPECT_THAT(log.lines(), Contains("HOTKEY the desktop's portal does not hold Alt+Super+P"));
+}
+
+TEST_F(PortalHotKeysTest, grabsTheKeysWhenThePortalMakesNoSession)
+{
+    FakePortal portal(bus.connect());
+    portal.makesSessions = false;
+    start();
+
+    const auto p = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+
+    EXPECT_TRUE(waitUntil([&] { return !grabs.registered.empty(); }));
+    EXPECT_THAT(log.lines(), ElementsAre("HOTKEY no portal holds the keys: no session"));
+    EXPECT_THAT(portal.calls, ElementsAre(u"CreateSession"_s));
 }
 
 TEST_F(PortalHotKeysTest, closesTheSessionWithItsLastKey)

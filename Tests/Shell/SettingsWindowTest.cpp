@@ -5,7 +5,12 @@
 #include "Tests/Support/ViewItems.h"
 #include "Tests/Voice/VoiceFixture.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +19,30 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace Orvello::Testing;
+
+/// What is seen of a translucent colour on an opaque one.
+QColor over(const QColor& color, const QColor& below)
+{
+    const auto mix = [&color](float a, float b) { return b + (a - b) * color.alphaF(); };
+    return QColor::fromRgbF(mix(color.redF(), below.redF()), mix(color.greenF(), below.greenF()),
+        mix(color.blueF(), below.blueF()));
+}
+
+/// WCAG 2.1, "contrast ratio".
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double channel) {
+            return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+            + 0.0722 * linear(color.blueF());
+    };
+    const auto [darker, lighter] = std::minmax({ luminance(one), luminance(other) });
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor colorOf(const QQuickItem& item) { return item.property("color").value<QColor>(); }
 
 /// The window on a screen that nobody sees, worked with mouse and keys.
 class SettingsWindowTest : public VoiceFixture {
@@ -304,6 +333,30 @@ TEST_F(SettingsWindowTest, bindsEachToggleBothWays)
         (settings.*toggle.set)(!before);
         EXPECT_EQ(item.property("checked").toBool(), !before) << label.toStdString();
     }
+}
+
+TEST_F(SettingsWindowTest, showsASwitchThatIsOff)
+{
+    const QPalette before = QGuiApplication::palette();
+    for (const QColor& desktop : { QColor(239, 239, 239), QColor(50, 50, 50) }) {
+        QGuiApplication::setPalette({ desktop, desktop });
+        open();
+        const auto& track = *control(u"Scroll while I speak, pause when I pause"_s)
+                                 .property("indicator")
+                                 .value<QQuickItem*>();
+        const QQuickItem* card = &track;
+        while (card->property("radius") != 8.0)
+            card = card->parentItem();
+
+        const auto stands = [&] {
+            constexpr double least = 3; // WCAG 2.1 AA, for controls.
+            const QColor seen = over(colorOf(track), colorOf(*card));
+            return contrast(seen, colorOf(*card)) >= least && contrast(seen, Qt::white) >= least;
+        };
+        // The colour takes its time. The knob is white.
+        EXPECT_TRUE(QTest::qWaitFor(stands)) << colorOf(track).name(QColor::HexArgb).toStdString();
+    }
+    QGuiApplication::setPalette(before);
 }
 
 TEST_F(SettingsWindowTest, takesAClickOnTheLabelForOneOnTheSwitch)

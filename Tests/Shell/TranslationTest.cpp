@@ -57,9 +57,23 @@ TEST_F(TranslationTest, fallsBackOnEnglishForALanguageWithoutAFile)
 
 TEST_F(TranslationTest, keepsTheWordsThatAreTrueEverywhere)
 {
+    // Beside each of them a text of the same context that is adapted, because in a context that
+    // nobody has every text stays as it is.
+    struct Page {
+        const char* context;
+        const char* kept;
+        const char* adapted;
+    };
     installFor(QLocale(QLocale::English));
 
-    EXPECT_EQ(QCoreApplication::translate("LibraryView", "Scripts"), QStringLiteral("Scripts"));
+    for (const Page& page : { Page { "OnboardingSetupPage", "Start / pause", "Menu bar" },
+             Page { "OnboardingWelcomePage", "Follows your voice", "Invisible on screen shares" },
+             Page { "ShortcutSettings", "Back to top", "⌥⌘R" } }) {
+        EXPECT_EQ(
+            QCoreApplication::translate(page.context, page.kept), QString::fromUtf8(page.kept));
+        EXPECT_NE(QCoreApplication::translate(page.context, page.adapted),
+            QString::fromUtf8(page.adapted));
+    }
 }
 
 } // namespace

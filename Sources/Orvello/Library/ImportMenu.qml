@@ -19,8 +19,13 @@ ToolbarButton {
     Menu {
         id: menu
 
-        width: 250
         palette: root.palette // Popups do not inherit the window's.
+        // On a dark editor the style's own edge cannot be seen.
+        background: Rectangle {
+            implicitWidth: 250
+            color: root.palette.base
+            border.color: Qt.alpha(root.palette.windowText, 0.3)
+        }
 
         Instantiator {
             model: root.imports.titles

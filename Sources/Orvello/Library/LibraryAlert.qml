@@ -16,6 +16,11 @@ Dialog {
     visible: imports.isShowingAlert
     closePolicy: Popup.CloseOnEscape
     padding: 20
+    // On a dark window the style's own edge cannot be seen.
+    background: Rectangle {
+        color: root.palette.window
+        border.color: Qt.alpha(root.palette.windowText, 0.3)
+    }
     onClosed: imports.dismissAlert()
     onOpened: button.forceActiveFocus(Qt.PopupFocusReason)
 

@@ -15,26 +15,31 @@ Item {
     implicitWidth: 18
     implicitHeight: 18
 
-    Accessible.role: Accessible.Button
-    Accessible.name: description
-    Accessible.focusable: false
-    Accessible.onPressAction: root.press()
-
     function press() {
         if (!isInert)
             pressed();
     }
 
-    Symbol {
-        anchors.centerIn: parent
-        width: 10
-        height: 10
-        name: root.symbol
-        color: Qt.rgba(1, 1, 1, root.isInert ? 0.25 : 0.8)
-    }
-
     MouseArea {
         anchors.fill: parent
         onClicked: root.press()
+    }
+
+    // A disabled item takes no press, so this is not the whole button.
+    AccessibleButton {
+        anchors.fill: parent
+        enabled: !root.isInert
+        name: root.description
+        onPressed: root.press()
+
+        Accessible.role: Accessible.Button
+
+        Symbol {
+            anchors.centerIn: parent
+            width: 10
+            height: 10
+            name: root.symbol
+            color: Qt.rgba(1, 1, 1, root.isInert ? 0.25 : 0.8)
+        }
     }
 }

@@ -29,6 +29,18 @@ SettingsRow {
         to: root.to
         value: root.value
         onMoved: root.moved(value)
+        // White like the knobs of the switches: on a dark desktop the style's own is hardly to be seen.
+        handle: Rectangle {
+            x: slider.leftPadding + slider.visualPosition * (slider.availableWidth - width)
+            y: slider.topPadding + (slider.availableHeight - height) / 2
+            implicitWidth: 16
+            implicitHeight: 16
+            radius: 8
+            color: "white"
+            border.width: slider.visualFocus ? 2 : 1
+            border.color: slider.visualFocus ? root.palette.highlight : Qt.alpha("black", 0.5)
+            scale: slider.pressed ? 0.92 : 1
+        }
         Accessible.name: root.label
         Accessible.onIncreaseAction: root.nudge(root.step)
         Accessible.onDecreaseAction: root.nudge(-root.step)

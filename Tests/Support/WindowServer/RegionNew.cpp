@@ -4,7 +4,7 @@ using namespace Orvello::Testing::WindowServerStandIn;
 
 extern "C" std::int32_t CGSNewRegionWithRect(const Rect* rect, const void** region)
 {
-    if (state().regionError == 0)
-        *region = made(*rect, "new");
+    static const Rect unusable {};
+    *region = state().regionError == 0 ? made(*rect, "new") : &unusable;
     return state().regionError;
 }

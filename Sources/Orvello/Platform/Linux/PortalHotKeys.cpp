@@ -51,6 +51,22 @@ const QString shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 
+/// The shortcuts that an answer to the binding says can be pressed. Portals differ in whether they
+/// leave out those that the user gave no keys, or describe their keys with an empty text.
+QStringList pressable(const QVariantMap& results)
+{
+    const auto list = results.value(u"shortcuts"_s).value<QDBusArgument>();
+    if (list.currentSignature() != u"a(sa{sv})"_s)
+        return {};
+    QStringList ids;
+    for (const PortalShortcut& shortcut : qdbus_cast<QList<PortalShortcut>>(list)) {
+        const QVariant keys = shortcut.properties.value(u"trigger_description"_s);
+        if (!keys.isValid() || !keys.toString().isEmpty())
+            ids.append(shortcut.id);
+    }
+    return ids;
+}
+
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
@@ -116,7 +132,10 @@ void PortalHotKeys::createSession()
     const QVariantMap options { { u"session_handle_token"_s, u"orvello"_s } };
     request(u"CreateSession"_s, { options }, [this](const QVariantMap& results) {
         m_session = results.value(u"session_handle"_s).toString();
-        bindShortcuts();
+        if (m_session.isEmpty())
+            giveUp(u"no session"_s);
+        else
+            bindShortcuts();
     });
 }
 
@@ -132,7 +151,24 @@ void PortalHotKeys::bindShortcuts()
     request(u"BindShortcuts"_s,
         { QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(shortcuts),
             QString(), QVariantMap() },
-        [](const QVariantMap&) { AppLog::write("HOTKEY the desktop's portal holds the keys"); });
+        [this](const QVariantMap& results) { bound(results); });
+}
+
+/// The session stays, also without a key: the user can give the keys to it later.
+void PortalHotKeys::bound(const QVariantMap& results)
+{
+    const QStringList held = pressable(results);
+    QStringList leftOut;
+    for (Shortcut* const shortcut : m_shortcuts) {
+        if (held.contains(shortcut->text()))
+            continue;
+        leftOut.append(shortcut->text());
+        grab(*shortcut);
+    }
+    if (leftOut.isEmpty())
+        AppLog::write("HOTKEY the desktop's portal holds the keys");
+    else
+        AppLog::write("HOTKEY the desktop's portal does not hold %@", leftOut.join(u", "_s));
 }
 
 void PortalHotKeys::request(
@@ -179,8 +215,13 @@ void PortalHotKeys::giveUp(const QString& reason)
         return;
     AppLog::write("HOTKEY no portal holds the keys: %@", reason);
     for (Shortcut* const shortcut : m_shortcuts)
-        shortcut->fallback
-            = m_fallback.registerHotKey(shortcut->name.keyCode, shortcut->modifiers, shortcut->id);
+        grab(*shortcut);
+}
+
+void PortalHotKeys::grab(Shortcut& shortcut)
+{
+    shortcut.fallback
+        = m_fallback.registerHotKey(shortcut.name.keyCode, shortcut.modifiers, shortcut.id);
 }
 
 void PortalHotKeys::activated(const QDBusObjectPath& session, const QString& shortcut)

@@ -19,8 +19,8 @@ namespace Orvello {
 struct HotKeyName;
 
 /// Hot keys on a Wayland session, where grabbing keys is the desktop's alone: through the
-/// GlobalShortcuts portal, which asks the user once. Keys that it does not take, all of them where
-/// there is no such portal, go to another service.
+/// GlobalShortcuts portal, which asks the user once. Keys that it or the user does not take, all of
+/// them where there is no such portal, go to another service.
 ///
 /// A key without modifiers is never offered to the portal: it comes and goes with each slideshow,
 /// and the portal would ask the user each time, in front of the audience.
@@ -47,8 +47,10 @@ private:
 
     void createSession();
     void bindShortcuts();
+    void bound(const QVariantMap& results);
     void request(const QString& method, const QVariantList& arguments, const Answer& answer);
     void giveUp(const QString& reason);
+    void grab(Shortcut& shortcut);
     void forget(const Shortcut& shortcut);
 
     QDBusConnection m_bus;
