@@ -132,6 +132,12 @@ class Desktop(contextlib.ExitStack):
         found = self.run_any("xdotool", "search", "--onlyvisible", "--name", f"^{title}$")
         return [int(line) for line in found.split()]
 
+    def frame(self, window):
+        """The window's (x, y, width, height) on the screen."""
+        text = self.run("xdotool", "getwindowgeometry", "--shell", str(window))
+        values = dict(line.split("=") for line in text.split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
     def focused_window(self):
         return int(self.run("xdotool", "getwindowfocus").strip())
 
@@ -249,9 +255,7 @@ class App:
 
     def geometry(self):
         """The panel's (x, y, width, height) on the screen."""
-        text = self.desktop.run("xdotool", "getwindowgeometry", "--shell", str(self.window()))
-        values = dict(line.split("=") for line in text.split())
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        return self.desktop.frame(self.window())
 
     def signal(self, number):
         self.process.send_signal(number)

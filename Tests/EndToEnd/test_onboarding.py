@@ -21,9 +21,7 @@ class OnboardingTest(unittest.TestCase):
         wait_until(lambda: self.page() is not None, what="the first frame")
 
     def frame(self):
-        text = self.desktop.run("xdotool", "getwindowgeometry", "--shell", str(self.window))
-        values = dict(line.split("=") for line in text.split())
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        return self.desktop.frame(self.window)
 
     def page(self):
         """The number of the page by its dots; none while they change."""
