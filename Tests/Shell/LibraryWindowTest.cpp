@@ -280,6 +280,15 @@ TEST_F(LibraryWindowTest, listsAScriptWithoutTitleAsUntitled)
     EXPECT_NE(showing(u"Untitled"_s), nullptr);
 }
 
+TEST_F(LibraryWindowTest, readsADecksTitleOutAsItIs)
+{
+    click(showing(u"Two"_s));
+    library().updateActive(u"50%1 or 100%2"_s, {});
+    settle();
+
+    EXPECT_NE(named(u"50%1 or 100%2, 2 slides"_s), nullptr);
+}
+
 TEST_F(LibraryWindowTest, letsADecksTitleBeEditedButNotItsBody)
 {
     const QString body = library().scripts()[1].body;
