@@ -149,6 +149,25 @@ TEST_F(LibraryWindowTest, keepsTheSidebarAndTheEditorWithinTheirWidths)
     EXPECT_GT(editor()->width(), 1300);
 }
 
+TEST_F(LibraryWindowTest, letsTheSidebarBeDraggedToItsBounds)
+{
+    const QQuickItem* list = named(u"Scripts"_s);
+    const auto dragTo = [&](int x) {
+        const int edge = qRound(list->width()) + 1;
+        QTest::mousePress(&view(), Qt::LeftButton, {}, QPoint(edge, 200));
+        for (int step = 1; step <= 10; ++step)
+            QTest::mouseMove(&view(), QPoint(edge + (x - edge) * step / 10, 200));
+        QTest::mouseRelease(&view(), Qt::LeftButton, {}, QPoint(x, 200));
+        settle();
+    };
+    EXPECT_EQ(list->width(), 210);
+
+    dragTo(20);
+    EXPECT_EQ(list->width(), 180);
+    dragTo(700);
+    EXPECT_EQ(list->width(), 280);
+}
+
 TEST_F(LibraryWindowTest, showsTheActiveScript)
 {
     EXPECT_EQ(titleField(), u"One"_s);
