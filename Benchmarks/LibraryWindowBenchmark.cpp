@@ -122,7 +122,7 @@ public:
         runMainLoop(2000);
     }
 
-    QQuickWindow& window() { return library.window(); }
+    QQuickWindow& window() { return library.view(); }
 
     /// Milliseconds from the action to the next frame of the scripts window.
     double untilSeen(const std::function<void()>& action)

@@ -30,6 +30,7 @@ set(views
     Settings/OnboardingFeature.qml
     Settings/OnboardingFooter.qml
     Settings/OnboardingHeading.qml
+    Settings/OnboardingIconButton.qml
     Settings/OnboardingKeyRow.qml
     Settings/OnboardingPage.qml
     Settings/OnboardingPrivacyPage.qml

@@ -1,14 +1,13 @@
 #include "Tests/Gallery/Scenes.h"
 
 #include "Orvello/Shell/LibraryWindow.h"
+#include "Tests/Gallery/Palettes.h"
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"
 
 #include <QDragEnterEvent>
 #include <QFile>
-#include <QGuiApplication>
 #include <QMimeData>
-#include <QPalette>
 #include <QTest>
 
 #include <optional>
@@ -21,38 +20,21 @@ namespace {
 
 using Testing::LibraryServices;
 
-/// The palette of a dark desktop.
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x31, 0x31, 0x31), QColor(0x2b, 0x2b, 0x2b));
-    palette.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
-    palette.setColor(QPalette::Highlight, QColor(0x30, 0x6c, 0xb8));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(0xa0, 0xa0, 0xa0));
-    return palette;
-}
-
 /// The scripts window over the real library.
 class LibraryStage final : public Stage {
 public:
     using Play = std::function<void(LibraryStage&)>;
 
-    LibraryStage(const QList<Script>& scripts, Play play, bool isDark)
-        : m_desktop(QGuiApplication::palette())
+    LibraryStage(const QList<Script>& scripts, Play play, Look look)
+        : m_palette(look)
         , m_play(std::move(play))
     {
-        QGuiApplication::setPalette(isDark ? darkPalette() : m_desktop);
         m_services.emplace(scripts);
         m_window.emplace(m_services->ofWindow());
         window().setFlags(Qt::FramelessWindowHint);
     }
-    ~LibraryStage() override
-    {
-        m_window.reset();
-        QGuiApplication::setPalette(m_desktop);
-    }
 
-    QQuickWindow& window() override { return m_window->window(); }
+    QQuickWindow& window() override { return m_window->view(); }
     LibraryServices& services() { return *m_services; }
     void play() override
     {
@@ -79,7 +61,7 @@ public:
     }
 
 private:
-    const QPalette m_desktop;
+    StagePalette m_palette;
     QMimeData m_dragged;
     Play m_play;
     std::optional<LibraryServices> m_services;
@@ -168,11 +150,11 @@ void importSavedCopy(LibraryStage& stage)
 
 void dragADeckOver(LibraryStage& stage) { stage.dragOver(u"/tmp/Quarterly review.pptx"_s); }
 
-Scene scene(const QString& name, const LibraryStage::Play& play, bool isDark = false,
+Scene scene(const QString& name, const LibraryStage::Play& play, Look look = Look::Light,
     double scale = 1, const QList<Script>& scripts = library())
 {
     return { u"Scripts: "_s + name,
-        [=] { return std::make_unique<LibraryStage>(scripts, play, isDark); }, Wallpaper::None,
+        [=] { return std::make_unique<LibraryStage>(scripts, play, look); }, Wallpaper::None,
         scale };
 }
 
@@ -191,14 +173,14 @@ Scenes libraryScenes()
         scene(u"no speaker notes"_s, importSilentDeck),
         scene(u"the saved copy imported"_s, importSavedCopy),
         scene(u"a deck dragged over it"_s, dragADeckOver),
-        scene(u"a deck dragged over it, dark"_s, dragADeckOver, true),
+        scene(u"a deck dragged over it, dark"_s, dragADeckOver, Look::Dark),
         scene(
-            u"a script, dark"_s, [](LibraryStage&) {}, true),
-        scene(u"a deck, dark"_s, showDeck, true),
-        scene(u"the import menu, dark"_s, openMenu, true),
-        scene(u"import failed, dark"_s, failToImport, true),
-        scene(u"a deck, 2x"_s, showDeck, false, 2),
-        scene(u"writing, dark, 2x"_s, write, true, 2),
+            u"a script, dark"_s, [](LibraryStage&) {}, Look::Dark),
+        scene(u"a deck, dark"_s, showDeck, Look::Dark),
+        scene(u"the import menu, dark"_s, openMenu, Look::Dark),
+        scene(u"import failed, dark"_s, failToImport, Look::Dark),
+        scene(u"a deck, 2x"_s, showDeck, Look::Light, 2),
+        scene(u"writing, dark, 2x"_s, write, Look::Dark, 2),
     };
 }
 

@@ -2,16 +2,19 @@
 
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/LibraryServices.h"
+#include "Tests/Support/ViewItems.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QQuickItem>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <optional>
 
 namespace Orvello {
@@ -49,7 +52,7 @@ protected:
         Testing::drainEvents();
     }
 
-    QQuickWindow& view() { return window->window(); }
+    QQuickView& view() { return window->view(); }
     LibraryStore& library() { return services->library; }
     const Script& active() { return *library().activeScript(); }
 
@@ -65,33 +68,20 @@ protected:
         settle();
     }
 
-    /// Every visible item below the root of which the condition holds.
-    QList<QQuickItem*> itemsWhere(const std::function<bool(const QQuickItem&)>& holds)
-    {
-        QList<QQuickItem*> result;
-        collect(*view().contentItem(), holds, result);
-        return result;
-    }
     QQuickItem* named(const QString& name)
     {
-        const auto items = itemsWhere([&](const QQuickItem& item) {
-            QAccessibleInterface* accessible
-                = QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(&item));
-            return accessible && accessible->text(QAccessible::Name) == name;
-        });
-        return items.isEmpty() ? nullptr : items.first();
+        return itemWhere(
+            [&](const QQuickItem& item) { return Testing::accessibleName(item) == name; });
     }
     QQuickItem* showing(const QString& text)
     {
-        const auto items = itemsWhere(
+        return itemWhere(
             [&](const QQuickItem& item) { return item.property("text").toString() == text; });
-        return items.isEmpty() ? nullptr : items.first();
     }
     void click(QQuickItem* item)
     {
         ASSERT_NE(item, nullptr);
-        const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        QTest::mouseClick(&view(), Qt::LeftButton, {}, middle.toPoint());
+        Testing::click(view(), *item);
         settle();
     }
 
@@ -106,16 +96,11 @@ protected:
     std::optional<LibraryWindow> window;
 
 private:
-    static void collect(const QQuickItem& item, const std::function<bool(const QQuickItem&)>& holds,
-        QList<QQuickItem*>& result)
+    QQuickItem* itemWhere(const std::function<bool(const QQuickItem&)>& holds)
     {
-        for (QQuickItem* child : item.childItems()) {
-            if (!child->isVisible() || child->opacity() == 0)
-                continue;
-            if (holds(*child))
-                result.append(child);
-            collect(*child, holds, result);
-        }
+        const QList<QQuickItem*> items = Testing::visibleItems(view());
+        const auto item = std::ranges::find_if(items, [&](auto* each) { return holds(*each); });
+        return item == items.end() ? nullptr : *item;
     }
 };
 
@@ -124,6 +109,12 @@ TEST_F(LibraryWindowTest, hasItsTitleAndSize)
     EXPECT_EQ(view().title(), u"Scripts"_s);
     EXPECT_EQ(view().size(), QSize(720, 480));
     EXPECT_EQ(view().minimumSize(), QSize(660, 440));
+}
+
+TEST_F(LibraryWindowTest, comesUpInTheMiddleOfTheScreen)
+{
+    const QPoint middle = view().screen()->availableGeometry().center();
+    EXPECT_LE((view().geometry().center() - middle).manhattanLength(), 2);
 }
 
 TEST_F(LibraryWindowTest, isHiddenWhenClosedAndComesBackAsItWas)
@@ -156,6 +147,25 @@ TEST_F(LibraryWindowTest, keepsTheSidebarAndTheEditorWithinTheirWidths)
     settle();
     EXPECT_LE(list->width(), 280);
     EXPECT_GT(editor()->width(), 1300);
+}
+
+TEST_F(LibraryWindowTest, letsTheSidebarBeDraggedToItsBounds)
+{
+    const QQuickItem* list = named(u"Scripts"_s);
+    const auto dragTo = [&](int x) {
+        const int edge = qRound(list->width()) + 1;
+        QTest::mousePress(&view(), Qt::LeftButton, {}, QPoint(edge, 200));
+        for (int step = 1; step <= 10; ++step)
+            QTest::mouseMove(&view(), QPoint(edge + (x - edge) * step / 10, 200));
+        QTest::mouseRelease(&view(), Qt::LeftButton, {}, QPoint(x, 200));
+        settle();
+    };
+    EXPECT_EQ(list->width(), 210);
+
+    dragTo(20);
+    EXPECT_EQ(list->width(), 180);
+    dragTo(700);
+    EXPECT_EQ(list->width(), 280);
 }
 
 TEST_F(LibraryWindowTest, showsTheActiveScript)
@@ -289,6 +299,15 @@ TEST_F(LibraryWindowTest, listsAScriptWithoutTitleAsUntitled)
     EXPECT_NE(showing(u"Untitled"_s), nullptr);
 }
 
+TEST_F(LibraryWindowTest, readsADecksTitleOutAsItIs)
+{
+    click(showing(u"Two"_s));
+    library().updateActive(u"50%1 or 100%2"_s, {});
+    settle();
+
+    EXPECT_NE(named(u"50%1 or 100%2, 2 slides"_s), nullptr);
+}
+
 TEST_F(LibraryWindowTest, letsADecksTitleBeEditedButNotItsBody)
 {
     const QString body = library().scripts()[1].body;
@@ -408,9 +427,7 @@ TEST_F(LibraryWindowTest, reachesEveryControlWithTheTabKey)
 {
     QStringList reached;
     for (int i = 0; i < 6; ++i) {
-        QAccessibleInterface* focused
-            = QAccessible::queryAccessibleInterface(view().activeFocusItem());
-        reached.append(focused ? focused->text(QAccessible::Name) : QString());
+        reached.append(Testing::accessibleName(*view().activeFocusItem()));
         press(Qt::Key_Tab);
     }
 
@@ -493,6 +510,24 @@ TEST_F(LibraryWindowTest, importsDroppedDecks)
     settle();
 
     EXPECT_NE(showing(u"Import failed"_s), nullptr);
+}
+
+TEST_F(LibraryWindowTest, showsTheAlertsOfSeveralDecksOneAfterTheOther)
+{
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(services->folders.path + u"/One.pptx"_s),
+        QUrl::fromLocalFile(services->folders.path + u"/Two.pptx"_s) });
+    QDropEvent drop(QPointF(300, 200), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(300, 200), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view(), &enter);
+    QCoreApplication::sendEvent(&view(), &drop);
+    settle();
+
+    press(Qt::Key_Return);
+    EXPECT_NE(showing(u"Import failed"_s), nullptr);
+
+    press(Qt::Key_Escape);
+    EXPECT_EQ(showing(u"Import failed"_s), nullptr);
 }
 
 TEST_F(LibraryWindowTest, refusesOtherThingsThatAreDragged)

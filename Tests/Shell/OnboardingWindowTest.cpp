@@ -214,6 +214,7 @@ TEST_F(OnboardingWindowTest, drawsTheDotOfThePageOut)
     EXPECT_EQ(widths(), QList<double>({ 18, 6, 6 }));
 
     pressButton(u"Continue"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return widths()[1] > 6 && widths()[1] < 18; }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return widths() == QList<double>({ 6, 18, 6 }); }));
 }
 

@@ -112,7 +112,7 @@ Pane {
             spacing: 16
 
             Label {
-                text: root.editor.wordCount
+                text: root.editor.wordCountText
                 font.pixelSize: 11
             }
             Label {

@@ -58,9 +58,9 @@ Pane {
             Repeater {
                 id: pages
 
-                model: root.library.open
+                model: root.library.openScripts
                 delegate: EditorPage {
-                    isActive: editor === root.library.open.active
+                    isActive: editor === root.library.openScripts.active
                     visible: isActive
                     // A long text out of sight is not worth setting anew at each size of the window.
                     anchors.fill: isActive ? parent : undefined

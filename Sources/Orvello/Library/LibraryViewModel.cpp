@@ -7,7 +7,7 @@ namespace Orvello {
 LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
     : m_library(services.library)
     , m_scripts(services.library)
-    , m_open(services.library)
+    , m_openScripts(services.library)
     , m_imports(services)
 {
 }

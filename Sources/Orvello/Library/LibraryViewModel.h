@@ -10,7 +10,7 @@ namespace Orvello {
 class LibraryViewModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(Orvello::ScriptListModel* scripts READ scripts CONSTANT FINAL)
-    Q_PROPERTY(Orvello::OpenScripts* open READ open CONSTANT FINAL)
+    Q_PROPERTY(Orvello::OpenScripts* openScripts READ openScripts CONSTANT FINAL)
     Q_PROPERTY(Orvello::DeckImports* imports READ imports CONSTANT FINAL)
 
 public:
@@ -18,7 +18,7 @@ public:
     ~LibraryViewModel() override;
 
     ScriptListModel* scripts() { return &m_scripts; }
-    OpenScripts* open() { return &m_open; }
+    OpenScripts* openScripts() { return &m_openScripts; }
     DeckImports* imports() { return &m_imports; }
 
     Q_INVOKABLE void addScript();
@@ -27,7 +27,7 @@ public:
 private:
     LibraryStore& m_library;
     ScriptListModel m_scripts;
-    OpenScripts m_open;
+    OpenScripts m_openScripts;
     DeckImports m_imports;
 };
 

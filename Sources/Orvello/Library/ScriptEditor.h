@@ -18,7 +18,7 @@ class ScriptEditor final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
     Q_PROPERTY(QString body READ body NOTIFY bodyChanged FINAL)
-    Q_PROPERTY(QString wordCount READ wordCountText NOTIFY bodyChanged FINAL)
+    Q_PROPERTY(QString wordCountText READ wordCountText NOTIFY bodyChanged FINAL)
     Q_PROPERTY(bool isDeck READ isDeck CONSTANT FINAL)
     Q_PROPERTY(QString deckNotice READ deckNotice CONSTANT FINAL)
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)

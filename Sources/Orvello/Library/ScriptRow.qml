@@ -23,7 +23,7 @@ ItemDelegate {
     rightPadding: 16
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: isDeck ? qsTr("%1, %2").arg(title).arg(slides) : title
+    Accessible.name: isDeck ? title + ", " + slides : title
     Accessible.selectable: true
     Accessible.selected: isActive
 

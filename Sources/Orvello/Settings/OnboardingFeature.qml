@@ -27,7 +27,7 @@ RowLayout {
             width: 24
             height: 24
             name: root.symbol
-            color: "#b4b8ff"
+            color: OnboardingStyle.symbol
         }
     }
 

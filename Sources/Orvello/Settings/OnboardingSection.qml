@@ -39,7 +39,7 @@ Rectangle {
                 Layout.preferredWidth: 20
                 Layout.preferredHeight: 20
                 name: root.symbol
-                color: "#b4b8ff"
+                color: OnboardingStyle.symbol
             }
             OnboardingText {
                 Layout.fillWidth: true

@@ -7,6 +7,8 @@ QtObject {
     readonly property color glow: "#2b2d78"
     readonly property color accent: "#7f85ff"
     readonly property color button: "#565cdb"
+    readonly property color symbol: "#b4b8ff"
+    readonly property color done: "#5ee08a"
     readonly property color highlight: "#ffd152" // The line being read, on the application's icon.
     readonly property color text: "#f5f5f7"
     readonly property color secondaryText: Qt.rgba(0.96, 0.96, 0.97, 0.72)

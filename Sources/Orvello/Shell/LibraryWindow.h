@@ -3,12 +3,15 @@
 #include "Orvello/Library/LibraryViewModel.h"
 #include "Orvello/Shell/ShellWindows.h"
 
+#include <QCoreApplication>
 #include <QQuickView>
 
 namespace Orvello {
 
 /// The scripts window. Closing it hides it, with everything that is open in it.
 class LibraryWindow final : public ShellWindow {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::LibraryWindow)
+
 public:
     using Services = DeckImports::Services; ///< All of them must outlive the window.
 
@@ -17,14 +20,11 @@ public:
 
     void makeKeyAndOrderFront() override;
 
-    QQuickWindow& window() { return m_view; }
+    QQuickView& view() { return m_view; }
 
 private:
-    void centre();
-
     LibraryViewModel m_library;
     QQuickView m_view;
-    bool m_wasShown = false;
 };
 
 } // namespace Orvello

@@ -4,10 +4,8 @@
 #include "Orvello/Platform/Workspace.h"
 #include "Orvello/Prompting/PromptFont.h"
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/ViewWindow.h"
 #include "Orvello/Shell/WindowPlacement.h"
-
-#include <QQmlEngine>
-#include <QQuickItem>
 
 #include <utility>
 
@@ -32,22 +30,18 @@ OnboardingWindowController::OnboardingWindowController(
     , m_onFinish(std::move(onFinish))
     , m_tour(initialPage(), services.workspace.isInstalled(u"us.zoom.xos"_s))
 {
-    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setTitle(tr("Welcome to Orvello"));
-    m_view.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint
-        | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    m_view.setFlags(ViewWindow::titledAndClosable);
     m_view.setColor(background);
-    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_view.resize(contentSize);
     const bool hasSystemCloseButton = services.chrome.hideTitleBar(m_view);
-    m_view.setInitialProperties({
-        { u"tour"_s, QVariant::fromValue(&m_tour) },
-        { u"headingFamily"_s, PromptFont::family() },
-        { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
-        { u"hasCloseButton"_s, !hasSystemCloseButton },
-    });
-    m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/OnboardingView.qml"_s));
-    Q_ASSERT(m_view.rootObject()); // The view is part of the program.
+    ViewWindow::load(m_view, u"OnboardingView"_s,
+        {
+            { u"tour"_s, QVariant::fromValue(&m_tour) },
+            { u"headingFamily"_s, PromptFont::family() },
+            { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
+            { u"hasCloseButton"_s, !hasSystemCloseButton },
+        });
 
     connect(&m_tour, &OnboardingTour::left, this, [this] {
         finish();

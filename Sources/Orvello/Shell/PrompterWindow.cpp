@@ -4,8 +4,8 @@
 #include "Orvello/Prompting/PromptFont.h"
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/ViewWindow.h"
 
-#include <QQmlEngine>
 #include <QQuickItem>
 
 namespace Orvello {
@@ -19,24 +19,21 @@ PrompterWindow::PrompterWindow(const Services& services)
     , m_slideStatus(services.deck)
     , m_shareWarning(services.presentation, services.settings, services.engine)
 {
-    m_view.engine()->addImportPath(u"qrc:/qt/qml"_s);
     m_view.setTitle(u"Orvello"_s);
     m_view.setColor(Qt::transparent);
-    m_view.setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view.setInitialProperties({
-        { u"engine"_s, QVariant::fromValue(&services.engine) },
-        { u"settings"_s, QVariant::fromValue(&services.settings) },
-        { u"lines"_s, QVariant::fromValue(&m_lines) },
-        { u"status"_s, QVariant::fromValue(&m_status) },
-        { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
-        { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
-        { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
-        { u"promptText"_s, services.deck.promptText() },
-        { u"fontFamily"_s, PromptFont::family() },
-        { u"forceCapturable"_s, services.forceCapturable },
-    });
-    m_view.setSource(QUrl(u"qrc:/qt/qml/Orvello/PrompterView.qml"_s));
-    Q_ASSERT(m_view.rootObject()); // The view is part of the program.
+    ViewWindow::load(m_view, u"PrompterView"_s,
+        {
+            { u"engine"_s, QVariant::fromValue(&services.engine) },
+            { u"settings"_s, QVariant::fromValue(&services.settings) },
+            { u"lines"_s, QVariant::fromValue(&m_lines) },
+            { u"status"_s, QVariant::fromValue(&m_status) },
+            { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+            { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
+            { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
+            { u"promptText"_s, services.deck.promptText() },
+            { u"fontFamily"_s, PromptFont::family() },
+            { u"forceCapturable"_s, services.forceCapturable },
+        });
 
     followDeck(services.deck, services.engine);
 }

@@ -17,6 +17,11 @@ QRect centered(const QSize& wanted, const QRect& available)
 
 void bringToFront(QWindow& window)
 {
+    constexpr const char* wasPlaced = "wasPlaced";
+    if (!window.property(wasPlaced).toBool()) {
+        window.setProperty(wasPlaced, true);
+        window.setGeometry(centered(window.size(), window.screen()->availableGeometry()));
+    }
     // QWindow::show() would also end a maximized or full-screen state.
     window.setWindowStates(window.windowStates() & ~Qt::WindowStates(Qt::WindowMinimized));
     window.setVisible(true);
@@ -26,16 +31,11 @@ void bringToFront(QWindow& window)
 
 void bringToFront(QWindow& window, const QSize& wanted)
 {
-    const QRect place = centered(wanted, window.screen()->availableGeometry());
     if (!window.isVisible()) {
-        window.setMinimumSize(place.size());
-        window.setMaximumSize(place.size());
-        window.resize(place.size());
-    }
-    const bool isFirstTime = !window.property("wasPlaced").toBool();
-    if (isFirstTime) {
-        window.setProperty("wasPlaced", true);
-        window.setPosition(place.topLeft());
+        const QSize size = centered(wanted, window.screen()->availableGeometry()).size();
+        window.setMinimumSize(size);
+        window.setMaximumSize(size);
+        window.resize(size);
     }
     bringToFront(window);
 }

@@ -15,11 +15,11 @@ inline constexpr int titleBarHeight = 40;
 /// together with its title bar.
 [[nodiscard]] QRect centered(const QSize& wanted, const QRect& available);
 
-/// Shows the window in front of all others and gives it the keyboard.
+/// Shows the window in front of all others and gives it the keyboard. At the first time it is
+/// centred on its screen.
 void bringToFront(QWindow& window);
 
-/// The same for a window of fixed size. At the first time it is centred on its screen; where it
-/// does not fit, it is smaller.
+/// The same for a window of fixed size, which is smaller on a screen where it does not fit.
 void bringToFront(QWindow& window, const QSize& wanted);
 
 } // namespace Orvello::WindowPlacement
