@@ -54,9 +54,9 @@ const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
-    Shortcut(PortalHotKeys& service, const HotKeyName& keyName, std::uint32_t keyModifiers,
+    Shortcut(PortalHotKeys& portal, const HotKeyName& keyName, std::uint32_t keyModifiers,
         HotKeyID keyID)
-        : keys(service)
+        : keys(portal)
         , name(keyName)
         , modifiers(keyModifiers)
         , id(keyID)
