@@ -28,6 +28,11 @@ function(orvello_add_library name)
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
 endfunction()
 
+# What the sanitizer presets build, and nothing else: the programs of the unit tests, and those of them in which threads
+# meet. The label of the latter is unit-threads, so that a pattern of labels with "unit" selects both.
+add_custom_target(unit-tests)
+add_custom_target(thread-tests)
+
 # orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text]): one GoogleTest program, its tests found by
 # CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform and makes the application
 # object.
@@ -43,6 +48,12 @@ function(orvello_add_test name)
         TEST_PREFIX "${ARG_PREFIX}"
         DISCOVERY_TIMEOUT 120
         PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120)
+    if(ARG_LABELS MATCHES "unit")
+        add_dependencies(unit-tests ${name})
+    endif()
+    if(ARG_LABELS MATCHES "threads")
+        add_dependencies(thread-tests ${name})
+    endif()
 endfunction()
 
 # orvello_add_benchmark(Name SOURCES ... DEPENDS ...): one Google Benchmark program, run by `make bench`.
