@@ -17,7 +17,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -52,6 +54,14 @@ QList<Script> bigLibrary()
     for (int i = 0; i < 10; ++i)
         scripts.append(LibraryServices::script(u"Script %1"_s.arg(i), prose(megabyte)));
     return scripts;
+}
+
+/// Runs the main loop, which QTest::qWait does not: it sleeps for ten milliseconds at a time.
+void runMainLoop(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 /// Knocks at the main loop from another thread, over and over, and notes the longest time that it
@@ -109,7 +119,7 @@ public:
         library.makeKeyAndOrderFront();
         if (!QTest::qWaitForWindowExposed(&window()))
             std::fprintf(stderr, "The window is not to be seen.\n");
-        QTest::qWait(2000);
+        runMainLoop(2000);
     }
 
     QQuickWindow& window() { return library.window(); }
@@ -169,7 +179,7 @@ void measure(const char* what, Program& program, int times, const std::function<
         const double before = processorTime();
         seen.push_back(program.untilSeen(action));
         busy.push_back(processorTime() - before);
-        QTest::qWait(60);
+        runMainLoop(60);
         stalls.push_back(program.stalls.takeWorst());
     }
     std::printf("%-46s %s %s %s\n", what, summary(seen).c_str(), summary(busy).c_str(),
@@ -181,7 +191,7 @@ void goToMiddle(Program& program)
     QTest::mouseClick(&program.window(), Qt::LeftButton, {}, QPoint(500, 250));
     for (int i = 0; i < 400; ++i)
         QTest::keyClick(&program.window(), Qt::Key_PageDown);
-    QTest::qWait(500);
+    runMainLoop(500);
 }
 
 void typeIntoALongScript()

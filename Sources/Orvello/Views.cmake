@@ -85,6 +85,13 @@ qt_add_qml_module(
             Views/SymbolDrawing.h
             Views/TourSymbols.cpp
     QML_FILES ${views})
+
+# The C++ that Qt makes of each view takes seconds to compile, nearly all of them for the same headers.
+get_target_property(viewSources OrvelloViews SOURCES)
+list(FILTER viewSources INCLUDE REGEX "^(Prompting|Shell|Views)/")
+set_source_files_properties(${viewSources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+set_target_properties(OrvelloViews PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+
 target_include_directories(OrvelloViews PRIVATE Shell Views) # The generated registration includes by name alone.
 qt_add_shaders(
     OrvelloViews OrvelloShaders

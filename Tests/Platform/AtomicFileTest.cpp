@@ -47,6 +47,19 @@ protected:
             .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     }
 
+    /// How many files are open that have no name any more, and so take room that nobody sees.
+    static int openFilesWithoutName()
+    {
+        int count = 0;
+        for (int descriptor = 0; descriptor < 1024; ++descriptor) {
+            struct stat status { };
+            if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)
+                && status.st_nlink == 0)
+                ++count;
+        }
+        return count;
+    }
+
     QTemporaryDir folder;
     QString path = inFolder(u"file"_s);
 };
@@ -283,6 +296,37 @@ TEST_F(AtomicFileTest, servesThreadsThatReplaceTheSameFile)
     ASSERT_EQ(bytes.size(), size);
     EXPECT_EQ(bytes.count(bytes.front()), size);
     EXPECT_EQ(names(), QStringList { u"file"_s });
+}
+
+TEST_F(AtomicFileTest, keepsOnlyAFewOldFilesForFreeingThemLater)
+{
+    const std::string bytes(100'000, 'a');
+    for (int i = 0; i < 200; ++i) {
+        ASSERT_TRUE(AtomicFile::replace(path, bytes));
+        ASSERT_LE(openFilesWithoutName(), 5);
+    }
+}
+
+TEST_F(AtomicFileTest, freesEveryOldFile)
+{
+    for (int i = 0; i < 20; ++i)
+        ASSERT_TRUE(AtomicFile::replace(path, "new"));
+
+    for (int i = 0; i < 1000 && openFilesWithoutName() > 0; ++i)
+        ::usleep(1000); // Another thread is at it.
+    EXPECT_EQ(openFilesWithoutName(), 0);
+}
+
+TEST_F(AtomicFileTest, replacesAFileThatItMayNotRead)
+{
+    put(path, "old");
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0200), 0);
+
+    EXPECT_TRUE(AtomicFile::replace(path, "new"));
+
+    EXPECT_EQ(permissions(path), 0200u);
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(contents(path), "new");
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QRandomGenerator>
+#include <QSemaphore>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <array>
@@ -74,6 +76,57 @@ std::optional<std::string> followLinks(std::filesystem::path path)
     return std::nullopt;
 }
 
+/// Closes files on a thread of its own. Whoever closes a file without a name last waits until its
+/// bytes are freed, and, if they are still on their way to the disk, for the disk: most of what a
+/// key press would cost that saves ten megabytes for the second time within seconds.
+class BackgroundCloser {
+public:
+    static BackgroundCloser& shared()
+    {
+        static BackgroundCloser closer; // Closes what is left when the process exits.
+        return closer;
+    }
+
+    void close(int descriptor)
+    {
+        if (!m_places.tryAcquire()) { // A disk that cannot keep up slows the writer down.
+            ::close(descriptor);
+            return;
+        }
+        m_thread.start([this, descriptor] {
+            ::close(descriptor);
+            m_places.release();
+        });
+    }
+
+private:
+    BackgroundCloser() { m_thread.setMaxThreadCount(1); }
+
+    static constexpr int mostWaiting = 4;
+
+    QSemaphore m_places { mostWaiting };
+    QThreadPool m_thread;
+};
+
+/// Keeps a file that is about to lose its name, so that it is not freed there and then.
+class OldFile {
+public:
+    explicit OldFile(const std::string& path)
+        : m_descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+    }
+    ~OldFile()
+    {
+        if (m_descriptor >= 0)
+            BackgroundCloser::shared().close(m_descriptor);
+    }
+    OldFile(const OldFile&) = delete;
+    OldFile& operator=(const OldFile&) = delete;
+
+private:
+    int m_descriptor; ///< Negative if there is none, or none that may be read.
+};
+
 /// A new file beside the one that it is going to replace. Removed again unless it took its place.
 class TemporaryFile {
 public:
@@ -127,21 +180,24 @@ bool replace(const QString& path, std::span<const std::string_view> pieces)
     const auto target = followLinks(QFile::encodeName(path).toStdString());
     if (!target)
         return false;
-    struct stat old { };
-    const bool isReplacing = ::stat(target->c_str(), &old) == 0;
-    if (isReplacing && !S_ISREG(old.st_mode))
+    struct stat status { };
+    const bool isReplacing = ::stat(target->c_str(), &status) == 0;
+    if (isReplacing && !S_ISREG(status.st_mode))
         return false;
 
     // Nobody may read the new bytes who could not read the old ones, not even meanwhile.
     TemporaryFile file(*target, isReplacing ? 0600 : 0666);
     if (!file.isOpen() || !file.write(pieces))
         return false;
-    if (isReplacing && !file.setPermissions(old.st_mode & 07777))
+    if (isReplacing && !file.setPermissions(status.st_mode & 07777))
         return false;
     // No fsync(2): it would stall every key press on a slow disk. A rename over an existing file
     // already makes ext4 (auto_da_alloc) and Btrfs write its data out first, so that a power cut,
     // too, leaves one of the two files whole there.
-    return file.close() && file.moveTo(*target);
+    if (!file.close())
+        return false;
+    const OldFile old(*target);
+    return file.moveTo(*target);
 }
 
 bool replace(const QString& path, std::string_view bytes)
