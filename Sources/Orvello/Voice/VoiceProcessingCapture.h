@@ -12,7 +12,6 @@ class SampleListener;
 
 /// Captures through a voice-processing unit: brings one up step by step and hands its samples on.
 /// Main thread, but for the samples.
-// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): clang-tidy 14 overlooks `final`.
 class VoiceProcessingCapture final : private VoiceProcessingUnit::Listener {
 public:
     /// Longer blocks are skipped: the audio thread must not grow its buffer.
