@@ -4,7 +4,7 @@
 #   make test                   build and run every test
 #   make bench                  print the measured speed and memory
 #   make gallery               every window in every state on one picture, build/gallery.png
-#   make sanitize               the unit tests under AddressSanitizer, UBSan and ThreadSanitizer
+#   make sanitize               the unit tests under AddressSanitizer and UBSan, those with threads under ThreadSanitizer
 #   make format                 lay the sources out;  make tidy: static analysis
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)

@@ -45,7 +45,7 @@ void stepThroughDeck(benchmark::State& state)
 {
     DeckFixture deck(state.range(0));
     bool isForward = true;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         isForward ? deck.controller.showNextSlide() : deck.controller.showPreviousSlide();
         isForward = !isForward;
     }
@@ -58,7 +58,7 @@ void recomputeWholeDeck(benchmark::State& state)
     DeckFixture deck(state.range(0));
     deck.settings.setSlideSync(false);
     Testing::drainEvents();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         deck.controller.showNextSlide();
 }
 BENCHMARK(recomputeWholeDeck)->Arg(10)->Arg(10000)->Unit(benchmark::kMicrosecond);

@@ -118,7 +118,7 @@ public:
             [this] { lines.setText(deck.promptText()); });
         library.makeKeyAndOrderFront();
         if (!QTest::qWaitForWindowExposed(&window()))
-            std::fprintf(stderr, "The window is not to be seen.\n");
+            std::fputs("The window is not to be seen.\n", stderr);
         runMainLoop(2000);
     }
 
@@ -163,8 +163,8 @@ std::string summary(std::vector<double> values)
 {
     std::ranges::sort(values);
     std::array<char, 64> text {};
-    std::snprintf(
-        text.data(), text.size(), "%6.1f (%6.1f)", values[values.size() / 2], values.back());
+    static_cast<void>(std::snprintf(
+        text.data(), text.size(), "%6.1f (%6.1f)", values[values.size() / 2], values.back()));
     return text.data();
 }
 
@@ -257,7 +257,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    static_cast<void>(std::setvbuf(stdout, nullptr, _IOLBF, 0));
     const QApplication application(argc, argv);
     std::printf("%-46s %s %s %s\n", "Milliseconds: median (worst)", "until it is seen",
         "of processor", "longest stall");

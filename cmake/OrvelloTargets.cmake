@@ -28,9 +28,14 @@ function(orvello_add_library name)
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
 endfunction()
 
+# What the sanitizer presets build, and nothing else: the programs of the unit tests, and those of them in which threads
+# meet. The label of the latter is unit-threads, so that a pattern of labels with "unit" selects both.
+add_custom_target(unit-tests)
+add_custom_target(thread-tests)
+
 # orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text] [ENVIRONMENT name=value]): one GoogleTest
-# program, its tests found by CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform and makes the application
-# object.
+# program, its tests found by CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform
+# and makes the application object.
 function(orvello_add_test name)
     cmake_parse_arguments(ARG "" "PREFIX;ENVIRONMENT" "SOURCES;DEPENDS;LABELS" ${ARGN})
     if(NOT ARG_LABELS)
@@ -47,6 +52,12 @@ function(orvello_add_test name)
         TEST_PREFIX "${ARG_PREFIX}"
         DISCOVERY_TIMEOUT 120
         PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120 ${environment})
+    if(ARG_LABELS MATCHES "unit")
+        add_dependencies(unit-tests ${name})
+    endif()
+    if(ARG_LABELS MATCHES "threads")
+        add_dependencies(thread-tests ${name})
+    endif()
 endfunction()
 
 # orvello_add_benchmark(Name SOURCES ... DEPENDS ...): one Google Benchmark program, run by `make bench`.

@@ -52,8 +52,10 @@ protected:
     {
         int count = 0;
         for (int descriptor = 0; descriptor < 1024; ++descriptor) {
+            // By name, because fstat(2) would use what another thread may be closing.
+            const std::string name = "/dev/fd/" + std::to_string(descriptor);
             struct stat status { };
-            if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)
+            if (::stat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode)
                 && status.st_nlink == 0)
                 ++count;
         }

@@ -1,5 +1,6 @@
 #include "Orvello/Platform/Linux/X11HotKeys.h"
 
+#include "Orvello/Platform/Linux/XcbXkb.h"
 #include "Tests/Support/LogCapture.h"
 #include "Tests/Support/PrivateXServer.h"
 
@@ -14,11 +15,6 @@
 #include <optional>
 #include <vector>
 #include <xcb/xcb.h>
-
-// The header has a field named like a C++ keyword.
-#define explicit explicit_field
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace Orvello {
 namespace {

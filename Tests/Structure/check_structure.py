@@ -4,6 +4,7 @@
     check_structure.py includes   a folder includes only folders that its layer may see
     check_structure.py platforms  nothing outside Platform/ asks for an operating system
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
+    check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
     check_structure.py format     the sources are laid out as clang-format does it
     check_structure.py translations LUPDATE   what a translation replaces stands in the sources
 """
@@ -92,6 +93,20 @@ def check_library():
     return problems
 
 
+def check_threads():
+    starts_thread = re.compile(r"std::(?:thread|async)\b|\bQThread\b|\bpthread_create\b")
+    problems = []
+    for listing in sources("/CMakeLists.txt"):
+        for name, call in re.findall(r"orvello_add_test\(\s*(\w+)([^)]*)\)", listing.read_text()):
+            labels = re.search(r"LABELS\s+(\S+)", call)
+            if labels and labels.group(1) != "unit":
+                continue
+            problems += [f"{source.relative_to(ROOT)} starts a thread, but {name} lacks the label unit-threads"
+                         for source in (listing.parent / word for word in re.findall(r"\S+\.(?:cpp|h)", call))
+                         if source.exists() and starts_thread.search(source.read_text())]
+    return problems
+
+
 def check_format():
     files = [str(path) for path in sources(".h", ".cpp", ".mm")]
     result = subprocess.run(["clang-format", "--dry-run", "--Werror", *files],
@@ -119,7 +134,7 @@ def check_translations():
 
 
 CHECKS = {"paths": check_paths, "includes": check_includes, "platforms": check_platforms,
-          "library": check_library, "format": check_format, "translations": check_translations}
+          "library": check_library, "threads": check_threads, "format": check_format, "translations": check_translations}
 
 if __name__ == "__main__":
     found = CHECKS[sys.argv[1]]()

@@ -44,7 +44,7 @@ QString LibraryFile::preparedPath() const
 
 QList<Script> LibraryFile::load()
 {
-    const QList<Script> scripts
+    QList<Script> scripts
         = ScriptCoding::decode(contents(preparedPath())).value_or(QList<Script> {});
     // Now rather than at the first save, so that the first key press is as quick as any other.
     encodeChanges(scripts);
@@ -57,13 +57,13 @@ void LibraryFile::save(const QList<Script>& scripts)
 
     std::vector<std::string_view> pieces;
     pieces.reserve(static_cast<std::size_t>(m_encoded.size()) * 2 + 2);
-    pieces.push_back("[");
+    pieces.emplace_back("[");
     for (const QByteArray& script : m_encoded) {
         if (pieces.size() > 1)
-            pieces.push_back(",");
+            pieces.emplace_back(",");
         pieces.emplace_back(script.constData(), static_cast<std::size_t>(script.size()));
     }
-    pieces.push_back("]");
+    pieces.emplace_back("]");
 
     static_cast<void>(AtomicFile::replace(preparedPath(), pieces));
 }

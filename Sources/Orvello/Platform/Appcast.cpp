@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace Orvello::Appcast {
 
@@ -23,9 +24,9 @@ struct Enclosure {
 
 class Reader {
 public:
-    Reader(const QByteArray& xml, const QString& operatingSystem)
+    Reader(const QByteArray& xml, QString operatingSystem)
         : m_xml(xml)
-        , m_operatingSystem(operatingSystem)
+        , m_operatingSystem(std::move(operatingSystem))
     {
     }
 

@@ -2,18 +2,20 @@
 
 #include <QFile>
 #include <QRandomGenerator>
-#include <QSemaphore>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <condition_variable>
+#include <deque>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <sys/uio.h>
+#include <thread>
 #include <unistd.h>
 
 namespace Orvello::AtomicFile {
@@ -87,25 +89,56 @@ public:
         return closer;
     }
 
+    ~BackgroundCloser()
+    {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_isEnding = true;
+        }
+        m_changed.notify_one();
+        m_thread.join();
+    }
+    BackgroundCloser(const BackgroundCloser&) = delete;
+    BackgroundCloser& operator=(const BackgroundCloser&) = delete;
+
     void close(int descriptor)
     {
-        if (!m_places.tryAcquire()) { // A disk that cannot keep up slows the writer down.
+        std::unique_lock lock(m_mutex);
+        if (m_waiting.size() >= mostWaiting) { // A disk that cannot keep up slows the writer down.
+            lock.unlock();
             ::close(descriptor);
             return;
         }
-        m_thread.start([this, descriptor] {
-            ::close(descriptor);
-            m_places.release();
-        });
+        m_waiting.push_back(descriptor);
+        lock.unlock();
+        m_changed.notify_one();
     }
 
 private:
-    BackgroundCloser() { m_thread.setMaxThreadCount(1); }
+    BackgroundCloser() = default;
 
-    static constexpr int mostWaiting = 4;
+    void run()
+    {
+        std::unique_lock lock(m_mutex);
+        while (true) {
+            m_changed.wait(lock, [this] { return m_isEnding || !m_waiting.empty(); });
+            if (m_waiting.empty())
+                return;
+            const int descriptor = m_waiting.front();
+            lock.unlock();
+            ::close(descriptor);
+            lock.lock();
+            m_waiting.pop_front(); // Only now, so that the one being closed counts as well.
+        }
+    }
 
-    QSemaphore m_places { mostWaiting };
-    QThreadPool m_thread;
+    static constexpr std::size_t mostWaiting = 4;
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::deque<int> m_waiting;
+    bool m_isEnding = false;
+    std::thread m_thread { [this] { run(); } }; // Last, because it uses all of the others.
 };
 
 /// Keeps a file that is about to lose its name, so that it is not freed there and then.

@@ -4,11 +4,13 @@
 #include <QDesktopServices>
 #include <QFileOpenEvent>
 
+#include <utility>
+
 namespace Orvello {
 
-OpenedUrls::OpenedUrls(const QString& scheme, QObject* parent)
+OpenedUrls::OpenedUrls(QString scheme, QObject* parent)
     : QObject(parent)
-    , m_scheme(scheme)
+    , m_scheme(std::move(scheme))
 {
     QCoreApplication::instance()->installEventFilter(this);
     QDesktopServices::setUrlHandler(m_scheme, this, "open");

@@ -14,7 +14,7 @@ class OpenedUrls final : public QObject {
     Q_OBJECT
 
 public:
-    explicit OpenedUrls(const QString& scheme, QObject* parent = nullptr);
+    explicit OpenedUrls(QString scheme, QObject* parent = nullptr);
     ~OpenedUrls() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -18,6 +18,8 @@ Failure(Error) -> Failure<Error>;
 template <typename Value, typename Error>
 class [[nodiscard]] Result {
 public:
+    // NOLINTBEGIN(google-explicit-constructor): like std::expected, so that a function can just
+    // return its value or its Failure.
     Result(Value value)
         : m_state(std::in_place_index<0>, std::move(value))
     {
@@ -26,6 +28,7 @@ public:
         : m_state(std::in_place_index<1>, std::move(failure.error))
     {
     }
+    // NOLINTEND(google-explicit-constructor)
 
     bool has_value() const { return m_state.index() == 0; }
     explicit operator bool() const { return has_value(); }

@@ -7,14 +7,11 @@
 #include <QPainterPath>
 
 #include <algorithm>
-#include <initializer_list>
 #include <utility>
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> all)
 {
@@ -26,6 +23,8 @@ QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> all)
     }
     return path;
 }
+
+namespace {
 
 // The symbols of the scripts window.
 

@@ -2,7 +2,10 @@
 
 #include <QHash>
 #include <QPainterPath>
+#include <QPointF>
 #include <QString>
+
+#include <initializer_list>
 
 namespace Orvello {
 
@@ -13,6 +16,9 @@ struct SymbolDrawing {
     QPainterPath fill;
     double side = 10; ///< Of the square.
 };
+
+/// A path through each of the lists of points.
+[[nodiscard]] QPainterPath lines(std::initializer_list<std::initializer_list<QPointF>> all);
 
 /// The symbols of the welcome tour, which are shown larger and drawn finer than the others.
 [[nodiscard]] QHash<QString, SymbolDrawing> tourSymbols();

@@ -1,8 +1,5 @@
 #include "Orvello/Views/SymbolDrawing.h"
 
-#include <QList>
-#include <QPolygonF>
-
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -27,14 +24,6 @@ QPainterPath rounded(const QRectF& rectangle, double radius)
     return path;
 }
 
-QPainterPath lines(const QList<QPolygonF>& polylines)
-{
-    QPainterPath path;
-    for (const QPolygonF& polyline : polylines)
-        path.addPolygon(polyline);
-    return path;
-}
-
 /// One shape in front of another, with a gap around the one in front.
 QPainterPath before(const QPainterPath& front, const QPainterPath& back)
 {
@@ -48,7 +37,7 @@ SymbolDrawing eyeSlash()
     outline.quadTo({ 5, 9.9 }, { 0.6, 5 });
     QPainterPath iris;
     iris.addEllipse(QPointF(5, 5), 1.5, 1.5);
-    const QPainterPath slash = lines({ { { { 1.7, 1.3 }, { 8.3, 8.7 } } } });
+    const QPainterPath slash = lines({ { { 1.7, 1.3 }, { 8.3, 8.7 } } });
     const QPainterPath eye = stroked(outline, pen).united(iris);
     return { .fill = eye.subtracted(stroked(slash, 2.6 * pen)).united(stroked(slash, pen)) };
 }
@@ -58,7 +47,7 @@ SymbolDrawing waveform()
     QPainterPath bars;
     double x = 0.9;
     for (const double height : { 1.4, 4.6, 8.2, 5.4, 7.0, 2.6 }) {
-        bars.addPath(lines({ { { { x, 5 - height / 2 }, { x, 5 + height / 2 } } } }));
+        bars.addPath(lines({ { { x, 5 - height / 2 }, { x, 5 + height / 2 } } }));
         x += 1.64;
     }
     return { .strokes = bars, .penWidth = pen };
@@ -80,7 +69,7 @@ SymbolDrawing checkmarkShieldFill()
     shield.cubicTo({ 2.8, 9 }, { 1, 7.2 }, { 1, 4.8 });
     shield.lineTo(1, 1.7);
     shield.quadTo({ 3.2, 1.6 }, { 5, 0.3 });
-    const QPainterPath mark = lines({ { { { 3.1, 5.1 }, { 4.5, 6.5 }, { 7, 3.6 } } } });
+    const QPainterPath mark = lines({ { { 3.1, 5.1 }, { 4.5, 6.5 }, { 7, 3.6 } } });
     return { .fill = shield.subtracted(stroked(mark, 1.1)) };
 }
 
@@ -122,7 +111,7 @@ SymbolDrawing videoFill()
 {
     QPainterPath camera = rounded({ 0.4, 2.3, 6.2, 5.4 }, 1.3);
     const QPainterPath lens
-        = lines({ { { { 7.4, 4.5 }, { 9.3, 3.2 }, { 9.3, 6.8 }, { 7.4, 5.5 }, { 7.4, 4.5 } } } });
+        = lines({ { { 7.4, 4.5 }, { 9.3, 3.2 }, { 9.3, 6.8 }, { 7.4, 5.5 }, { 7.4, 4.5 } } });
     camera.addPath(lens.united(stroked(lens, 0.5)));
     return { .fill = camera };
 }
@@ -136,8 +125,7 @@ SymbolDrawing docOnDoc()
 
 SymbolDrawing checkmark()
 {
-    return { .strokes = lines({ { { { 1.4, 5.4 }, { 3.9, 7.9 }, { 8.6, 2.3 } } } }),
-        .penWidth = 1.1 };
+    return { .strokes = lines({ { { 1.4, 5.4 }, { 3.9, 7.9 }, { 8.6, 2.3 } } }), .penWidth = 1.1 };
 }
 
 } // namespace

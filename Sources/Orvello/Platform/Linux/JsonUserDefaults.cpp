@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Preferences take a few kilobytes; no file of this size holds them.
-constexpr qint64 maximumSize = 64 * 1024 * 1024;
+constexpr qint64 maximumSize = 64LL * 1024 * 1024;
 
 std::optional<QVariantMap> readPreferences(const QString& path)
 {

@@ -70,9 +70,9 @@ QStringList pressable(const QVariantMap& results)
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
-    Shortcut(PortalHotKeys& service, const HotKeyName& keyName, std::uint32_t keyModifiers,
+    Shortcut(PortalHotKeys& portal, const HotKeyName& keyName, std::uint32_t keyModifiers,
         HotKeyID keyID)
-        : keys(service)
+        : keys(portal)
         , name(keyName)
         , modifiers(keyModifiers)
         , id(keyID)

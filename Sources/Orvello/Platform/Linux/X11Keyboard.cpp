@@ -1,17 +1,13 @@
 #include "Orvello/Platform/Linux/X11Keyboard.h"
 
 #include "Orvello/Platform/Linux/Xcb.h"
+#include "Orvello/Platform/Linux/XcbXkb.h"
 
 #include <algorithm>
 #include <span>
 #include <xcb/xcb.h>
 #include <xkbcommon/xkbcommon-x11.h>
 #include <xkbcommon/xkbcommon.h>
-
-// The header has a field named like a C++ keyword.
-#define explicit explicit_field
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace Orvello {
 
@@ -29,7 +25,7 @@ std::vector<std::uint16_t> combinations(std::span<const std::uint16_t> masks)
             all.push_back(static_cast<std::uint16_t>(all[i] | mask));
     }
     std::ranges::sort(all);
-    all.erase(std::ranges::unique(all).begin(), all.end());
+    all.erase(std::unique(all.begin(), all.end()), all.end());
     return all;
 }
 

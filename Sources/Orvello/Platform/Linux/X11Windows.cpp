@@ -5,7 +5,6 @@
 #include <QByteArrayView>
 
 #include <algorithm>
-#include <ranges>
 #include <span>
 #include <xcb/randr.h>
 #include <xcb/xcb.h>
@@ -116,13 +115,14 @@ std::optional<X11WindowClass> X11Windows::activeWindowClass() const
 std::optional<std::vector<X11Windows::Window>> X11Windows::fromTop() const
 {
     xcb_connection_t* connection = m_connection.get();
-    const auto stacking = rootWindows(m_stackingAtom, XCB_ATOM_WINDOW);
+    auto stacking = rootWindows(m_stackingAtom, XCB_ATOM_WINDOW);
     if (!stacking)
         return std::nullopt;
+    std::ranges::reverse(*stacking);
 
     std::vector<WindowRequests> requests;
     requests.reserve(stacking->size());
-    for (const xcb_window_t window : *stacking | std::views::reverse) {
+    for (const xcb_window_t window : *stacking) {
         requests.push_back({
             xcb_get_window_attributes(connection, window),
             xcb_get_geometry(connection, window),
