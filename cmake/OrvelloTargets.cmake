@@ -8,6 +8,10 @@ target_include_directories(OrvelloBase INTERFACE ${PROJECT_SOURCE_DIR}/Sources)
 target_compile_definitions(
     OrvelloBase INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
                           QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+    # Warnings are errors, and these versions warn of what 6.4 has no other name for.
+    target_compile_definitions(OrvelloBase INTERFACE QT_WARN_DEPRECATED_UP_TO=0x060400)
+endif()
 # Dozens of programs are linked here, and mold takes a tenth of the time of the default linker.
 find_program(ORVELLO_MOLD mold)
 if(LINUX AND ORVELLO_MOLD)

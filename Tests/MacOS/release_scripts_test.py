@@ -68,6 +68,10 @@ class ReleaseScriptsTest(unittest.TestCase):
             path = self.app / "Contents" / name
             path.parent.mkdir(parents=True, exist_ok=True)
             path.touch()
+        # macdeployqt moves the plugins of QML modules to PlugIns and leaves links behind.
+        link = self.app / "Contents/Resources/qml/QtQuick/libqcocoa.dylib"
+        link.parent.mkdir(parents=True)
+        link.symlink_to("../../../PlugIns/platforms/libqcocoa.dylib")
         plist = (ROOT / "Resources/macOS/Info.plist.in").read_text()
         for key, value in {"PROJECT_VERSION": "2.1", "ORVELLO_BUILD_NUMBER": "57",
                            "CMAKE_OSX_DEPLOYMENT_TARGET": "13.0", "ORVELLO_UPDATE_KEYS": ""}.items():
@@ -276,6 +280,19 @@ class ReleaseScriptsTest(unittest.TestCase):
         self.assertEqual(enclosure.get("length"), "1234")
         self.assertEqual(enclosure.get(f"{{{namespace}}}edSignature"), "c2lnbmF0dXJl")
 
+    def test_the_feed_entry_is_well_formed_whatever_the_addresses_are(self):
+        self.make_app()
+        (self.folder / "build/Orvello.dmg").touch()
+        self.write_program("third_party/Sparkle/bin/sign_update", SIGN_UPDATE)
+        image, notes = "https://example.org/get?file=Orvello&arch=arm64", "https://example.org/notes?a=<1>&b=\"2\""
+
+        result = self.run_script("appcast-item", "build/Orvello.dmg", image, notes)
+
+        namespace = "http://www.andymatuschak.org/xml-namespaces/sparkle"
+        item = xml.etree.ElementTree.fromstring(f'<rss xmlns:sparkle="{namespace}">{result.stdout}</rss>')[0]
+        self.assertEqual(item.find("enclosure").get("url"), image)
+        self.assertEqual(item.findtext(f"{{{namespace}}}releaseNotesLink"), notes)
+
     def test_the_feed_entry_needs_an_https_address_and_the_signer(self):
         self.make_app()
         (self.folder / "build/Orvello.dmg").touch()
@@ -330,6 +347,27 @@ class PapersTest(unittest.TestCase):
         for key in ("NSMicrophoneUsageDescription", "NSAppleEventsUsageDescription", "LSMinimumSystemVersion",
                     "CFBundleShortVersionString", "CFBundleVersion", "CFBundleURLTypes", "CFBundleIconFile"):
             self.assertTrue(info[key], key)
+
+    def test_the_update_keys_are_well_formed_whatever_the_address_is(self):
+        import plistlib
+
+        feed = "https://example.org/feed?channel=stable&arch=arm64"
+        with tempfile.TemporaryDirectory() as folder:
+            script = pathlib.Path(folder) / "configure.cmake"
+            script.write_text(f"""
+                set(PROJECT_SOURCE_DIR {ROOT})
+                include({ROOT}/cmake/OrvelloMacBundle.cmake)
+                orvello_update_keys(ORVELLO_UPDATE_KEYS)
+                configure_file({ROOT}/Resources/macOS/Info.plist.in {folder}/Info.plist @ONLY)
+                """)
+            subprocess.run(["cmake", f"-DORVELLO_FEED_URL={feed}", "-DORVELLO_UPDATE_PUBLIC_KEY=a2V5+/=", "-P", script],
+                           check=True, capture_output=True)
+            info = plistlib.loads((pathlib.Path(folder) / "Info.plist").read_bytes())
+        self.assertEqual(info["SUFeedURL"], feed)
+        self.assertEqual(info["SUPublicEDKey"], "a2V5+/=")
+
+    def test_only_builds_without_a_certificate_let_other_libraries_in(self):
+        import plistlib
 
         rights = plistlib.loads((ROOT / "Resources/macOS/Orvello.entitlements").read_bytes())
         self.assertEqual(rights, {"com.apple.security.device.audio-input": True,

@@ -24,7 +24,6 @@ bool CocoaWindowChrome::hideTitleBar(QWindow& window)
         nativeWindow.styleMask |= NSWindowStyleMaskFullSizeContentView;
         nativeWindow.titlebarAppearsTransparent = YES;
         nativeWindow.titleVisibility = NSWindowTitleHidden;
-        nativeWindow.movableByWindowBackground = YES;
         nativeWindow.appearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
         // The content has grown by the height of the title bar.
         [nativeWindow setContentSize:cgSize(size)];

@@ -20,7 +20,7 @@ public:
 
 private:
     struct Engine; // Keeps AVFAudio out of this header.
-    std::shared_ptr<Engine> m_engine; ///< Shared with nobody for long: see the observer.
+    std::shared_ptr<Engine> m_engine; ///< Shared only while the main thread reacts to a change.
 };
 
 } // namespace Orvello

@@ -2,6 +2,8 @@
 
 #include "Orvello/Platform/macOS/CocoaText.h"
 
+#include <QCoreApplication>
+
 #include <mutex>
 #include <span>
 
@@ -50,19 +52,58 @@ QString description(NSException* exception)
 
 } // namespace
 
-struct EngineMicrophone::Engine {
-    AVAudioEngine* engine = [[AVAudioEngine alloc] init];
+struct EngineMicrophone::Engine : std::enable_shared_from_this<Engine> {
+    AVAudioEngine* engine = nil;
     id<NSObject> configurationObserver = nil;
     std::shared_ptr<TapOutlet> outlet; ///< While there is a tap.
     AVAudioFrameCount blockFrames = 0;
     QString tapError; ///< Why the tap could not be installed; start() reports it.
     bool isStarted = false;
 
+    Engine() = default;
+    ~Engine();
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    void renew();
+    void stopObserving();
     void installTap();
     void removeTap();
     Result<std::monostate, QString> start();
     void restart();
 };
+
+EngineMicrophone::Engine::~Engine() { stopObserving(); }
+
+/// An engine may keep the formats of the device that it met first. A new one asks again.
+void EngineMicrophone::Engine::renew()
+{
+    stopObserving();
+    engine = [[AVAudioEngine alloc] init];
+    // The engine posts from a queue of its own, for which its deallocation waits. So the block must
+    // not wait for the main thread, as delivery by the main queue would, nor hold the engine.
+    const std::weak_ptr<Engine> concerned = weak_from_this();
+    configurationObserver = [NSNotificationCenter.defaultCenter
+        addObserverForName:AVAudioEngineConfigurationChangeNotification
+                    object:engine
+                     queue:nil
+                usingBlock:^(NSNotification*) {
+                    QMetaObject::invokeMethod(
+                        QCoreApplication::instance(),
+                        [concerned] {
+                            if (const auto changed = concerned.lock())
+                                changed->restart();
+                        },
+                        Qt::QueuedConnection);
+                }];
+}
+
+void EngineMicrophone::Engine::stopObserving()
+{
+    if (configurationObserver)
+        [NSNotificationCenter.defaultCenter removeObserver:configurationObserver];
+    configurationObserver = nil;
+}
 
 /// AVFAudio raises exceptions where an input has no usable format or a tap already.
 void EngineMicrophone::Engine::installTap()
@@ -106,13 +147,16 @@ Result<std::monostate, QString> EngineMicrophone::Engine::start()
     return std::monostate {};
 }
 
-/// Another device, or another format of the same one, has stopped the engine and made the tap's
-/// format wrong.
+/// Another device, or another format of the same one, has stopped the engine.
 void EngineMicrophone::Engine::restart()
 {
     if (!isStarted || !outlet)
         return;
     removeTap();
+    installTap();
+    if (start())
+        return;
+    renew();
     installTap();
     static_cast<void>(start()); // Without a device there is nothing to hear until one comes.
 }
@@ -120,29 +164,26 @@ void EngineMicrophone::Engine::restart()
 EngineMicrophone::EngineMicrophone()
     : m_engine(std::make_shared<Engine>())
 {
-    // A notification that already waits in the main queue comes even after its observer has gone.
-    const std::weak_ptr<Engine> waiting = m_engine;
-    m_engine->configurationObserver = [NSNotificationCenter.defaultCenter
-        addObserverForName:AVAudioEngineConfigurationChangeNotification
-                    object:m_engine->engine
-                     queue:NSOperationQueue.mainQueue
-                usingBlock:^(NSNotification*) {
-                    if (const auto engine = waiting.lock())
-                        engine->restart();
-                }];
+    m_engine->renew();
 }
 
 EngineMicrophone::~EngineMicrophone()
 {
-    [NSNotificationCenter.defaultCenter removeObserver:m_engine->configurationObserver];
     removeTap();
     stop();
 }
 
 double EngineMicrophone::sampleRate()
 {
+    if (!m_engine->outlet)
+        m_engine->renew();
     @try {
-        return [m_engine->engine.inputNode outputFormatForBus:inputBus].sampleRate;
+        AVAudioInputNode* const node = m_engine->engine.inputNode;
+        AVAudioFormat* const device = [node inputFormatForBus:inputBus];
+        // Without a device the node's output goes on promising samples.
+        if (device.channelCount == 0 || !(device.sampleRate > 0))
+            return 0;
+        return [node outputFormatForBus:inputBus].sampleRate;
     } @catch (NSException*) {
         return 0; // No input node without an input device.
     }

@@ -20,11 +20,13 @@ extern AVMediaType const AVMediaTypeAudio;
                 completionHandler:(void (^)(BOOL granted))handler;
 @end
 
+typedef UInt32 AVAudioChannelCount;
 typedef UInt32 AVAudioFrameCount;
 typedef NSUInteger AVAudioNodeBus;
 
 @interface AVAudioFormat : NSObject
 @property (nonatomic, readonly) double sampleRate;
+@property (nonatomic, readonly) AVAudioChannelCount channelCount;
 @end
 
 @interface AVAudioTime : NSObject
@@ -37,6 +39,7 @@ typedef NSUInteger AVAudioNodeBus;
 
 typedef void (^AVAudioNodeTapBlock)(AVAudioPCMBuffer* buffer, AVAudioTime* when);
 @interface AVAudioNode : NSObject
+- (AVAudioFormat*)inputFormatForBus:(AVAudioNodeBus)bus;
 - (AVAudioFormat*)outputFormatForBus:(AVAudioNodeBus)bus;
 - (void)installTapOnBus:(AVAudioNodeBus)bus
              bufferSize:(AVAudioFrameCount)bufferSize

@@ -180,9 +180,7 @@ typedef NSString* NSNotificationName;
 @interface NSNotification : NSObject <NSCopying>
 @end
 
-@interface NSOperationQueue : NSObject
-@property (class, readonly, strong) NSOperationQueue* mainQueue;
-@end
+@class NSOperationQueue;
 
 @interface NSNotificationCenter : NSObject
 @property (class, readonly, strong) NSNotificationCenter* defaultCenter;
