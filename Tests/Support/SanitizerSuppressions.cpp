@@ -11,5 +11,7 @@ const char* __lsan_default_suppressions()
         // Qt Quick 6.4 does not free the textures of its software renderer with the last window.
         "leak:QSGTexture::QSGTexture\n"
         // The Objective-C runtime keeps what it knows of classes until the process ends.
-        "leak:libobjc.so\n";
+        "leak:libobjc.so\n"
+        // So does GNUstep with its own constants and caches.
+        "leak:libgnustep-base.so\n";
 }

@@ -45,7 +45,7 @@ public:
         , m_handler(std::move(handler))
     {
         if (::pipe(m_pipe.data()) != 0) {
-            std::signal(signal, SIG_IGN);
+            static_cast<void>(std::signal(signal, SIG_IGN));
             return;
         }
         makeQuiet(m_pipe[0]);
@@ -64,7 +64,7 @@ public:
 
     ~PipeSubscription() override
     {
-        std::signal(m_signal, SIG_IGN);
+        static_cast<void>(std::signal(m_signal, SIG_IGN));
         pipeOfSignal[static_cast<std::size_t>(m_signal)] = 0;
         m_notifier.reset();
         for (const int end : m_pipe) {

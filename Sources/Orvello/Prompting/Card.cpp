@@ -105,7 +105,7 @@ private:
 
     void add(QPointF point, const QColor& color)
     {
-        const float alpha = static_cast<float>(color.alphaF());
+        const auto alpha = static_cast<float>(color.alphaF());
         const auto premultiplied
             = [&](float part) { return static_cast<uchar>(std::lround(part * alpha * 255)); };
         (m_vertex++)

@@ -64,7 +64,7 @@ void append(QByteArray& json, const QVariantMap& map)
 void appendDouble(QByteArray& json, double number)
 {
     if (!std::isfinite(number)) {
-        json += "{\"$double\": \"" + QByteArray::number(number) + "\"}";
+        json += R"({"$double": ")" + QByteArray::number(number) + "\"}";
         return;
     }
     const qsizetype start = json.size();
@@ -96,7 +96,7 @@ void append(QByteArray& json, const QVariant& value)
         Json::appendString(json, value.toString());
         return;
     case QMetaType::QByteArray:
-        json += "{\"$data\": \"" + value.toByteArray().toBase64() + "\"}";
+        json += R"({"$data": ")" + value.toByteArray().toBase64() + "\"}";
         return;
     case QMetaType::QDateTime:
         json += "{\"$date\": ";
