@@ -38,7 +38,9 @@ Options:
   -Key value       use this text for a preference, for this run only
 
 Environment:
-  ORVELLO_IMPORT_PPTX   import the .pptx file at this path at launch
+  ORVELLO_IMPORT_PPTX      import the .pptx file at this path at launch
+  ORVELLO_ONBOARDING_PAGE  open the welcome tour on this page, 0 to 2
+  ORVELLO_STEALTH          hide the prompter by "flag" or by "shape" alone, for experiments
 
 Signals:
   SIGUSR1          turn Stealth Mode on or off
