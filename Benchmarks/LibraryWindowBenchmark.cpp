@@ -118,7 +118,7 @@ public:
             [this] { lines.setText(deck.promptText()); });
         library.makeKeyAndOrderFront();
         if (!QTest::qWaitForWindowExposed(&window()))
-            std::fputs("The window is not to be seen.\n", stderr);
+            static_cast<void>(std::fputs("The window is not to be seen.\n", stderr));
         runMainLoop(2000);
     }
 
