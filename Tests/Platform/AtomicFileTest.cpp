@@ -51,7 +51,7 @@ protected:
     static int openFilesWithoutName()
     {
         int count = 0;
-        for (int descriptor = 0; descriptor < 1024; ++descriptor) {
+        for (int descriptor = 0; descriptor < 64; ++descriptor) {
             // By name, because fstat(2) would use what another thread may be closing.
             const std::string name = "/dev/fd/" + std::to_string(descriptor);
             struct stat status { };
@@ -302,8 +302,9 @@ TEST_F(AtomicFileTest, servesThreadsThatReplaceTheSameFile)
 
 TEST_F(AtomicFileTest, keepsOnlyAFewOldFilesForFreeingThemLater)
 {
-    const std::string bytes(100'000, 'a');
-    for (int i = 0; i < 200; ++i) {
+    // Long enough that a disk takes longer to free one than the kernel to take the next.
+    const std::string bytes(4'000'000, 'a');
+    for (int i = 0; i < 40; ++i) {
         ASSERT_TRUE(AtomicFile::replace(path, bytes));
         ASSERT_LE(openFilesWithoutName(), 5);
     }

@@ -17,6 +17,7 @@
 #include <sys/uio.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace Orvello::AtomicFile {
 
