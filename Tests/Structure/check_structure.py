@@ -51,6 +51,27 @@ def read_graph(path):
     return libraries, targets
 
 
+def check_picture(libraries):
+    """The picture of ARCHITECTURE.md: each library once, above all that it depends on."""
+    picture = re.search(r"CMake's graph. -->\n```\n(.*?)```", (ROOT / "ARCHITECTURE.md").read_text(), re.DOTALL).group(1)
+    folders = {folder for folder, _ in libraries.values()}
+    line_of, problems = {}, []
+    for number, line in enumerate(picture.splitlines()):
+        for word in re.findall(r"[\w/]+", line):
+            if word in line_of and word in folders:
+                problems.append(f"ARCHITECTURE.md draws {word} twice")
+            elif "/" in word and not (SOURCES / word).is_dir():
+                problems.append(f"ARCHITECTURE.md draws {word}, which does not exist")
+            line_of[word] = number
+    for folder, depends in libraries.values():
+        if folder not in line_of:
+            problems.append(f"ARCHITECTURE.md does not draw {folder}")
+            continue
+        problems += [f"ARCHITECTURE.md draws {folder} no higher than {libraries[other][0]}, on which it depends" for other in depends
+                     if line_of.get(libraries[other][0], -1) <= line_of[folder]]
+    return problems
+
+
 def check_graph():
     libraries, targets = read_graph(sys.argv[2])
     problems = []
@@ -68,6 +89,8 @@ def check_graph():
                  if is_adapter(other) and not folder.startswith(MAY_LINK_ADAPTERS)]
     problems += [f"{folder} links {other}" for name, (folder, depends) in libraries.items() for other in depends
                  if is_adapter(other) and not is_adapter(name)]
+
+    problems += check_picture(libraries)
 
     # What is named but not included would draw arrows that are not there. Headers are followed, as the compiler does.
     by_folder = {folder: set(depends) for folder, depends in libraries.values()}
