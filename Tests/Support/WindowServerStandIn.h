@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Prompting/CaptureExclusion.h"
+#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 
 #include <cstdint>
 #include <ostream>
