@@ -62,5 +62,3 @@ target_link_libraries(OrvelloViews PUBLIC OrvelloBase ${dependencies} Qt6::Quick
 add_library(OrvelloViewsAndPlugin INTERFACE)
 target_link_libraries(OrvelloViewsAndPlugin INTERFACE OrvelloViews OrvelloViewsplugin)
 add_library(Orvello::ShellViews ALIAS OrvelloViewsAndPlugin)
-
-add_test(NAME qmllint COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target OrvelloViews_qmllint)
