@@ -1,5 +1,5 @@
 # What `make deb` makes of the installed files: build/orvello_<version>_<architecture>.deb. CPack packs what `make install`
-# installs; debhelper would want a second list of it. Included last, because CPack writes down what is set by then.
+# installs; debhelper would want a second list of it.
 
 # Libraries are found in the program. QML modules are not: a test compares these packages with what the views import.
 set(qml_packages
