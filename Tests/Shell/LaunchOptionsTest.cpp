@@ -33,14 +33,6 @@ TEST(LaunchOptionsTest, asksForNothingByItself)
     EXPECT_TRUE(options.urls.isEmpty());
 }
 
-TEST(LaunchOptionsTest, tellsOfEachSwitchAndVariableInTheHelp)
-{
-    for (const QString& name : { u"--help"_s, u"--version"_s, u"--no-stealth"_s, u"--onboarding"_s,
-             u"--check-updates"_s, u"--voice"_s, u"--autostart"_s, u"ORVELLO_IMPORT_PPTX"_s,
-             u"ORVELLO_ONBOARDING_PAGE"_s, u"ORVELLO_STEALTH"_s, u"SIGUSR1"_s, u"SIGUSR2"_s })
-        EXPECT_TRUE(LaunchOptions::helpText().contains(name)) << qPrintable(name);
-}
-
 TEST(LaunchOptionsTest, takesAddressesThatAreNoValues)
 {
     EXPECT_THAT(

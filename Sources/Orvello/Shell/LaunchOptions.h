@@ -29,8 +29,6 @@ struct LaunchOptions {
 
     /// Without the program's name.
     static LaunchOptions fromArguments(const QStringList& arguments);
-
-    static QString helpText();
 };
 
 } // namespace Orvello

@@ -8,6 +8,7 @@
 #include "Orvello/Platform/UserDefaults.h"
 #include "Orvello/Settings/LegacyMigration.h"
 #include "Orvello/Shell/AppDelegate.h"
+#include "Orvello/Shell/CommandLineTable.h"
 #include "Orvello/Shell/LaunchOptions.h"
 #include "Orvello/Shell/MainMenu.h"
 #include "Orvello/Shell/MenuBar.h"
@@ -79,7 +80,7 @@ int main(int argc, char** argv)
     const LaunchOptions options = LaunchOptions::fromArguments(arguments);
     if (options.help || options.version) {
         print(stdout,
-            options.help ? LaunchOptions::helpText()
+            options.help ? CommandLineTable::helpText()
                          : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
         return 0;
     }
