@@ -5,6 +5,7 @@
 #include "Orvello/Platform/Observe.h"
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/StatusBar.h"
+#include "Orvello/Platform/UserDefaults.h"
 #include "Orvello/Presentations/AppleScriptPresenters.h"
 #include "Orvello/Presentations/ImpressPresenter.h"
 #include "Orvello/Presentations/PptxImporter.h"
@@ -23,6 +24,8 @@
 #include <utility>
 
 namespace Orvello {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -64,6 +67,7 @@ AppDelegate::AppDelegate(
     LibraryStore::adoptShared(m_library);
     HotKeyCenter::adoptShared(m_hotKeys);
     addPresenters();
+    quitAtSignals();
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -93,17 +97,17 @@ void AppDelegate::applicationDidFinishLaunching()
     subscribe();
     m_presentation.start();
     followSlideTracking();
-    importDeckFromEnvironment();
+    importDecks();
     m_plainPKey = std::make_unique<PlainPKey>(
         PlainPKey::Services { HotKeyCenter::shared(), m_settings, m_presentation },
         [this] { m_engine().toggle(); });
-    if (m_options.autostart)
-        m_engine().start();
+    scroll(m_options);
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
+    openWindows(m_options);
     m_hasLaunched = true;
-    for (const LaunchOptions& options : std::exchange(m_earlyStarts, {}))
-        follow(options);
+    for (const EarlyStart& start : std::exchange(m_earlyStarts, {}))
+        follow(start.options, start.answer);
 }
 
 void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
@@ -122,27 +126,79 @@ void AppDelegate::handle(const QList<QUrl>& urls)
         AppLog::write("Orvello URL ignored: %@", url.toString(QUrl::FullyEncoded));
 }
 
-void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
+void AppDelegate::applicationStartedAgain(
+    const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
     applicationOpen(options.urls);
     if (!m_hasLaunched)
-        m_earlyStarts.push_back(options);
-    else if (options.asksRunningProgram())
-        follow(options);
-    else
+        m_earlyStarts.push_back({ options, answer });
+    else if (!follow(options, answer) && options.urls.isEmpty())
         m_statusItem->openMenu();
 }
 
-void AppDelegate::follow(const LaunchOptions& options)
+/// Whether there was anything that this process can do, which addresses are not.
+bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
+    QStringList decks = options.files;
+    if (!options.importedPath.isEmpty())
+        decks.prepend(options.importedPath);
+    QStringList refusals;
+    for (const QString& deck : decks) {
+        if (const auto problem = importDeck(deck))
+            refusals.append(deck + u": "_s + *problem);
+    }
+    const bool hasDecks = refusals.isEmpty();
+    // Before anything that may keep the user, and with it the other process, waiting.
+    answer(options.mistakes + refusals + comesTooLate(options));
+
     if (options.onboarding)
         showOnboarding();
     if (options.checkUpdates)
         m_updates.checkForUpdates();
     if (options.voice)
         m_settings.setVoiceFollow(true);
+    if (hasDecks)
+        scroll(options);
+    openWindows(options);
+    return !decks.isEmpty() || options.onboarding || options.checkUpdates || options.voice
+        || options.autostart || options.toggle || options.scripts || options.settings;
+}
+
+/// What would have to be different from the launch on.
+QStringList AppDelegate::comesTooLate(const LaunchOptions& options) const
+{
+    const QString text = tr("%1 counts only at the launch: quit the Orvello that runs first");
+    QStringList refusals;
+    if (options.noStealth && !m_options.noStealth)
+        refusals.append(text.arg(u"--no-stealth"_s));
+    for (auto pair = options.preferences.begin(); pair != options.preferences.end(); ++pair) {
+        const QVariant current = m_platform.userDefaults().value(pair.key());
+        if (current.toString() != pair.value().toString())
+            refusals.append(text.arg(u'-' + pair.key() + u' ' + pair.value().toString()));
+    }
+    for (auto variable = options.environment.begin(); variable != options.environment.end();
+         ++variable) {
+        const bool isImport = variable.key() == u"ORVELLO_IMPORT_PPTX"_s;
+        if (!isImport && variable.value() != m_options.environment.value(variable.key()))
+            refusals.append(text.arg(variable.key()));
+    }
+    return refusals;
+}
+
+void AppDelegate::scroll(const LaunchOptions& options)
+{
     if (options.autostart)
         m_engine().start();
+    if (options.toggle)
+        m_engine().toggle();
+}
+
+void AppDelegate::openWindows(const LaunchOptions& options)
+{
+    if (options.scripts)
+        m_commands->openLibrary();
+    if (options.settings)
+        m_commands->openSettings();
 }
 
 void AppDelegate::makePanel()
@@ -272,15 +328,34 @@ void AppDelegate::followSlideTracking()
         changeOf(m_library, &LibraryStore::scriptsChanged));
 }
 
-void AppDelegate::importDeckFromEnvironment()
+void AppDelegate::importDecks()
 {
-    constexpr const char* variable = "ORVELLO_IMPORT_PPTX";
-    if (!qEnvironmentVariableIsSet(variable))
-        return;
-    const auto imported = m_library.importPptx(qEnvironmentVariable(variable));
-    if (!imported)
-        AppLog::write(
-            "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));
+    if (!m_options.importedPath.isEmpty())
+        importDeck(m_options.importedPath);
+    for (const QString& file : m_options.files)
+        importDeck(file);
+}
+
+/// Returns what kept it from being imported, in words for the user.
+std::optional<QString> AppDelegate::importDeck(const QString& path)
+{
+    const auto imported = m_library.importPptx(path);
+    if (imported)
+        return std::nullopt;
+    const QString problem = PptxImporter::description(imported.error());
+    AppLog::write("Orvello IMPORT_PPTX failed: %@", problem);
+    return problem;
+}
+
+/// A kill, Ctrl-C or the end of the terminal is an ordinary quit: the session ends cleanly and
+/// leaves no marker. Not where the parent has it ignored, as nohup does.
+void AppDelegate::quitAtSignals()
+{
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP }) {
+        if (!m_platform.processSignals().isIgnored(signal))
+            m_signals.push_back(
+                m_platform.processSignals().handle(signal, [] { QCoreApplication::exit(); }));
+    }
 }
 
 void AppDelegate::installSignalHandlers()
@@ -292,10 +367,6 @@ void AppDelegate::installSignalHandlers()
             "Orvello DEBUG stealth toggled -> %d", static_cast<int>(m_settings.stealthMode()));
     }));
     m_signals.push_back(processSignals.handle(SIGUSR2, [this] { togglePanel(); }));
-
-    // A kill or Ctrl-C is an ordinary quit: the session ends cleanly and leaves no marker.
-    for (const int signal : { SIGTERM, SIGINT })
-        m_signals.push_back(processSignals.handle(signal, [this] { m_commands->terminate(); }));
 }
 
 } // namespace Orvello
