@@ -689,6 +689,19 @@ TEST_F(AppDelegateTest, runsEachHotKey)
     EXPECT_TRUE(platform.panel->isVisible());
 }
 
+TEST_F(AppDelegateTest, tellsTheDesktopWhatEachKeyDoes)
+{
+    launchAndSettle();
+    QStringList told;
+    for (const HotKeyPurpose& purpose : platform.hotKeysFake.purposes)
+        told.append(purpose.name + u": "_s + purpose.description);
+
+    EXPECT_THAT(told,
+        ElementsAre(u"toggle: Start or pause scrolling"_s, u"faster: Scroll faster"_s,
+            u"slower: Scroll slower"_s, u"restart: Go back to the top of the script"_s,
+            u"hide: Show or hide the prompter"_s));
+}
+
 TEST_F(AppDelegateTest, keepsTheSpeedKeysInsideTheirBounds)
 {
     launchAndSettle();

@@ -2,6 +2,7 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Platform/DesktopServices.h"
+#include "Orvello/Platform/HotKeys.h"
 #include "Orvello/Platform/Observe.h"
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/StatusBar.h"
@@ -219,7 +220,8 @@ void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
         m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
-        m_platform.statusBar(), m_panel->canExcludeFromCapture() });
+        m_platform.statusBar(), m_platform.hotKeys().assignedKeys(),
+        m_panel->canExcludeFromCapture() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
             *m_windows, m_platform.operatingSystemVersion() },
@@ -277,15 +279,30 @@ void AppDelegate::setupStatusItem()
 
 void AppDelegate::registerHotKeys()
 {
-    constexpr std::uint32_t modifiers = HotKey::commandKey | HotKey::optionKey;
-    HotKeyCenter& center = HotKeyCenter::shared();
-    center.registerHotKey(HotKey::keyP, modifiers, [this] { m_engine().toggle(); });
-    center.registerHotKey(HotKey::keyUp, modifiers,
-        [this] { m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed)); });
-    center.registerHotKey(HotKey::keyDown, modifiers,
-        [this] { m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed)); });
-    center.registerHotKey(HotKey::keyR, modifiers, [this] { m_engine().setOffset(0); });
-    center.registerHotKey(HotKey::keyH, modifiers, [this] { togglePanel(); });
+    for (const HotKeyTable::Entry& key : HotKeyTable::entries())
+        HotKeyCenter::shared().registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
+            [this, command = key.command] { run(command); });
+}
+
+void AppDelegate::run(HotKeyTable::Command command)
+{
+    switch (command) {
+    case HotKeyTable::Command::Toggle:
+        m_engine().toggle();
+        break;
+    case HotKeyTable::Command::Faster:
+        m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed));
+        break;
+    case HotKeyTable::Command::Slower:
+        m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed));
+        break;
+    case HotKeyTable::Command::Restart:
+        m_engine().setOffset(0);
+        break;
+    case HotKeyTable::Command::Hide:
+        togglePanel();
+        break;
+    }
 }
 
 void AppDelegate::startUpdates()

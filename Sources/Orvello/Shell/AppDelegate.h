@@ -13,6 +13,7 @@
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/AppCommands.h"
 #include "Orvello/Shell/HotKeyCenter.h"
+#include "Orvello/Shell/HotKeyTable.h"
 #include "Orvello/Shell/LaunchOptions.h"
 #include "Orvello/Shell/Lazy.h"
 #include "Orvello/Shell/ShellWindows.h"
@@ -78,6 +79,7 @@ private:
     void onboardingFinished();
     void setupStatusItem();
     void registerHotKeys();
+    void run(HotKeyTable::Command command);
     void startUpdates();
     void subscribe();
     void followSlideTracking();

@@ -1,5 +1,6 @@
 #include "Orvello/Shell/OnboardingWindowController.h"
 
+#include "Orvello/Platform/AssignedKeys.h"
 #include "Orvello/Platform/WindowChrome.h"
 #include "Orvello/Platform/Workspace.h"
 #include "Orvello/Prompting/PromptFont.h"
@@ -39,6 +40,7 @@ OnboardingWindowController::OnboardingWindowController(
         {
             { u"tour"_s, QVariant::fromValue(&m_tour) },
             { u"headingFamily"_s, PromptFont::family() },
+            { u"assignedKeys"_s, QVariant::fromValue(&services.assignedKeys) },
             { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
             { u"hasCloseButton"_s, !hasSystemCloseButton },
         });

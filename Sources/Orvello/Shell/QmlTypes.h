@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Library/LibraryViewModel.h"
+#include "Orvello/Platform/AssignedKeys.h"
 #include "Orvello/Prompting/Card.h"
 #include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
@@ -19,6 +20,13 @@
 
 /// What the views know the services as. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
+
+struct AssignedKeysType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::AssignedKeys)
+    QML_NAMED_ELEMENT(AssignedKeys)
+    QML_UNCREATABLE("The program makes it.")
+};
 
 struct CardType {
     Q_GADGET

@@ -45,8 +45,6 @@ QString displayLetters(const QString& display)
     return letters;
 }
 
-} // namespace
-
 // A connection of its own, because the shared one must not be made before the application object.
 QDBusConnection connectionTo(const QString& address, const QString& name)
 {

@@ -25,6 +25,7 @@
 #include "Version.h"
 
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QSysInfo>
 
 #include <memory>
@@ -58,9 +59,12 @@ struct Desktop {
 struct Session {
     explicit Session(bool isWayland)
     {
-        // Only the portal can be asked by a program that has no keyboard of its own there.
+        // Only the portal can be asked by a program that has no keyboard of its own there. On a
+        // connection of its own: the toolkit may have asked a portal something on the shared one.
         if (isWayland && bus.isConnected())
-            portalKeys.emplace(bus, x11Keys);
+            portalKeys.emplace(
+                QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"hot keys"_s),
+                QGuiApplication::desktopFileName(), x11Keys);
     }
 
     HotKeys& hotKeys()
