@@ -189,7 +189,7 @@ class SignalsTest(LaunchTest):
 
     def test_closing_its_terminal_is_an_ordinary_quit(self):
         terminal = self.desktop.start(["xterm", "-e", str(PROGRAM)])
-        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")
+        wait_until(lambda: [line for line in self.messages() if line.startswith("PANEL_UP")], what="the prompter")
 
         terminal.send_signal(signal.SIGHUP)
 

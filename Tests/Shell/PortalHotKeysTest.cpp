@@ -6,6 +6,7 @@
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
+#include <QDBusPendingCall>
 #include <QDBusVirtualObject>
 #include <QMap>
 #include <QTest>
