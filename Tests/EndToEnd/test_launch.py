@@ -131,7 +131,7 @@ class SwitchesTest(LaunchTest):
     def test_the_windows_that_a_start_asks_for_open(self):
         App(self.desktop, "--scripts", "--settings")
 
-        wait_until(lambda: self.desktop.windows_titled("Orvello Scripts"), what="the scripts window")
+        wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts window")
         window = wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings window")[0]
         self.assertIn('"app.orvello.Orvello"', self.desktop.run("xprop", "-id", str(window), "_KDE_NET_WM_DESKTOP_FILE"))
 
@@ -312,7 +312,7 @@ class SecondStartTest(LaunchTest):
             f"orvello: {self.desktop.scratch}/broken.pptx: The file could not be opened as a PowerPoint package.",
             "orvello: --no-stealth counts only at the launch: quit the Orvello that runs first",
             "orvello: -textColorName Yellow counts only at the launch: quit the Orvello that runs first"])
-        wait_until(lambda: self.desktop.windows_titled("Orvello Scripts"), what="what it can do")
+        wait_until(lambda: self.desktop.windows_titled("Scripts"), what="what it can do")
 
     def test_a_mistake_does_not_reach_the_one_that_runs(self):
         app = App(self.desktop)
@@ -322,7 +322,7 @@ class SecondStartTest(LaunchTest):
 
         self.assertEqual(status, 2)
         self.assertIn("did you mean --settings?", text)
-        self.assertEqual(self.desktop.windows_titled("Orvello Scripts"), [])
+        self.assertEqual(self.desktop.windows_titled("Scripts"), [])
 
     def test_one_runs_on_each_display(self):
         app = App(self.desktop)
