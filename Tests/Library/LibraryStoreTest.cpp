@@ -290,11 +290,5 @@ TEST_F(LibraryStoreTest, isTheSharedOneOnceAdopted)
     EXPECT_EQ(&LibraryStore::shared(), &store);
 }
 
-TEST_F(LibraryStoreTest, joinsADecksNotes)
-{
-    EXPECT_EQ(
-        LibraryStore::joinedBody({ { 1, std::nullopt, u""_s } }), u"— Slide 1 —\n(no notes)"_s);
-}
-
 } // namespace
 } // namespace Orvello

@@ -3,7 +3,6 @@
 #include "Orvello/Library/ScriptCoding.h"
 #include "Orvello/Platform/AtomicFile.h"
 #include "Orvello/Platform/Folders.h"
-#include "Orvello/Platform/JsonReader.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,11 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A thousand times what somebody has who writes a lot.
+constexpr qint64 largestFile = 1'000'000'000;
+
 QByteArray contents(const QString& path)
 {
     // A pipe or a device in the file's place could block the launch or never end.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > Json::maximumSize
+    if (!QFileInfo(path).isFile() || file.size() > largestFile
         || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
     return file.readAll();

@@ -183,9 +183,4 @@ QUuid LibraryStore::addDeck(
     return addOnTop(script);
 }
 
-QString LibraryStore::joinedBody(const QList<SlideNote>& slides)
-{
-    return Orvello::joinedBody(slides);
-}
-
 } // namespace Orvello

@@ -61,9 +61,6 @@ public:
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
-    /// The body of a deck script.
-    [[nodiscard]] static QString joinedBody(const QList<SlideNote>& slides);
-
 Q_SIGNALS:
     void scriptsChanged();
     void activeScriptIDChanged();

@@ -1,6 +1,7 @@
 #include "Orvello/Presentations/DeckController.h"
 
 #include "Orvello/Library/LibraryStore.h"
+#include "Orvello/Library/UuidText.h"
 #include "Orvello/Platform/Observe.h"
 #include "Orvello/Settings/SettingsStore.h"
 
@@ -30,7 +31,7 @@ bool isSameText(const QString& a, const QString& b)
 
 QString unitKey(const Script* script, const std::optional<qint64>& slide)
 {
-    const QString id = script ? script->id.toString(QUuid::WithoutBraces).toUpper() : QString(u'-');
+    const QString id = script ? UuidText::format(script->id) : QString(u'-');
     return id + u'|' + (slide ? "true"_L1 : "false"_L1) + u'|'
         + QString::number(slide.value_or(-1));
 }
