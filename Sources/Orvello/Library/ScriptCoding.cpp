@@ -117,7 +117,8 @@ QByteArray encode(const Script& script)
 {
     QByteArray json = QJsonDocument(object(script)).toJson(QJsonDocument::Compact);
     // Qt drops a byte order mark at the beginning of a text that it reads, unless it is escaped.
-    json.replace("\"\uFEFF", "\"\\uFEFF");
+    if (json.contains('\xEF')) // Rare, and quickly seen.
+        json.replace("\"\uFEFF", "\"\\uFEFF");
     return json;
 }
 
