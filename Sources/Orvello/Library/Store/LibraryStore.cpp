@@ -1,0 +1,230 @@
+#include "Orvello/Library/Store/LibraryStore.h"
+
+#include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Library/Records/UuidText.h"
+#include "Orvello/Library/Records/WelcomeScript.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+LibraryStore* sharedStore = nullptr;
+
+const QString activeScriptIDKey = u"activeScriptID"_s;
+const QString singleScriptKey = u"script"_s; // The one script of the first versions.
+
+/// A leading dot starts a hidden file's name, not an extension.
+QString withoutExtension(const QString& fileName)
+{
+    const qsizetype dot = fileName.lastIndexOf(u'.');
+    return dot > 0 ? fileName.first(dot) : fileName;
+}
+
+} // namespace
+
+LibraryStore& LibraryStore::shared()
+{
+    Q_ASSERT(sharedStore);
+    return *sharedStore;
+}
+
+void LibraryStore::adoptShared(LibraryStore& store)
+{
+    Q_ASSERT(!sharedStore);
+    sharedStore = &store;
+}
+
+LibraryStore::LibraryStore(
+    UserDefaults& defaults, const Folders& folders, const TimeSource& time, QObject* parent)
+    : QObject(parent)
+    , m_defaults(defaults)
+    , m_time(time)
+    , m_file(folders)
+    , m_scripts(m_file.load())
+{
+    if (const auto storedID = DefaultsValue::asString(m_defaults.value(activeScriptIDKey)))
+        assignActiveScriptID(UuidText::parse(*storedID));
+    if (m_scripts.isEmpty())
+        makeFirstScript();
+    if (!m_activeScriptID)
+        assignActiveScriptID(firstScriptID());
+}
+
+LibraryStore::~LibraryStore()
+{
+    if (sharedStore == this)
+        sharedStore = nullptr;
+}
+
+void LibraryStore::makeFirstScript()
+{
+    const auto singleScript = DefaultsValue::asString(m_defaults.value(singleScriptKey));
+    const Script script = singleScript
+        ? Script::create(u"My Script"_s, *singleScript, m_time.date())
+        : Script::create(WelcomeScript::title(), WelcomeScript::body(), m_time.date());
+    m_scripts = { script };
+    assignActiveScriptID(script.id);
+    m_defaults.remove(singleScriptKey);
+    persistActiveScriptID();
+    m_file.save(m_scripts);
+}
+
+void LibraryStore::setActiveScriptID(std::optional<QUuid> id)
+{
+    if (assignActiveScriptID(id))
+        Q_EMIT activeScriptIDChanged();
+}
+
+bool LibraryStore::assignActiveScriptID(std::optional<QUuid> id)
+{
+    const bool isAnother = std::exchange(m_activeScriptID, id) != id;
+    persistActiveScriptID();
+    return isAnother;
+}
+
+void LibraryStore::persistActiveScriptID()
+{
+    if (m_activeScriptID)
+        m_defaults.setValue(activeScriptIDKey, UuidText::format(*m_activeScriptID));
+    else
+        m_defaults.remove(activeScriptIDKey);
+}
+
+const Script* LibraryStore::activeScript() const
+{
+    const auto active = std::ranges::find(
+        m_scripts, m_activeScriptID, [](const Script& script) { return std::optional(script.id); });
+    if (active != m_scripts.end())
+        return &*active;
+    return m_scripts.isEmpty() ? nullptr : &m_scripts.first();
+}
+
+std::optional<QUuid> LibraryStore::firstScriptID() const
+{
+    return m_scripts.isEmpty() ? std::nullopt : std::optional(m_scripts.first().id);
+}
+
+QUuid LibraryStore::addScript()
+{
+    return addOnTop(Script::create(u"Untitled"_s, {}, m_time.date()));
+}
+
+QUuid LibraryStore::addOnTop(const Script& script)
+{
+    m_scripts.prepend(script);
+    const bool isNewlyActive = assignActiveScriptID(script.id);
+    publish({ .kind = LibraryChange::Kind::Inserted, .row = 0, .id = script.id });
+    if (isNewlyActive)
+        Q_EMIT activeScriptIDChanged();
+    return script.id;
+}
+
+void LibraryStore::publish(const LibraryChange& change)
+{
+    m_file.save(m_scripts, change);
+    Q_EMIT scriptsChanged(change);
+}
+
+void LibraryStore::remove(QUuid id)
+{
+    const auto hasID = [id](const Script& script) { return script.id == id; };
+    const auto remaining = std::ranges::find_if_not(std::as_const(m_scripts), hasID);
+    const bool isAnotherActive = m_activeScriptID == id
+        && assignActiveScriptID(
+            remaining == m_scripts.cend() ? std::nullopt : std::optional(remaining->id));
+
+    auto script = std::ranges::find_if(std::as_const(m_scripts), hasID);
+    if (script == m_scripts.cend())
+        m_file.save(m_scripts);
+    while (script != m_scripts.cend()) {
+        const qsizetype row = script - m_scripts.cbegin();
+        m_scripts.removeAt(row);
+        publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
+        script = std::ranges::find_if(std::as_const(m_scripts), hasID); // A file may have it twice.
+    }
+
+    if (isAnotherActive)
+        Q_EMIT activeScriptIDChanged();
+}
+
+void LibraryStore::updateActive(
+    const std::optional<QString>& title, const std::optional<QString>& body)
+{
+    Script* const script = editedScript();
+    if (!script)
+        return;
+
+    LibraryChange change;
+    if (title) {
+        change.isOtherTitle = *title != script->title;
+        script->title = *title;
+    }
+    if (body && *body != script->body) {
+        change.body = TextEdit { 0, script->body.size(), body->size() };
+        script->body = *body;
+    }
+    edit(*script, change);
+}
+
+void LibraryStore::editActive(qsizetype position, qsizetype removed, const QString& inserted)
+{
+    Script* const script = editedScript();
+    if (!script)
+        return;
+
+    Q_ASSERT(position >= 0 && removed >= 0 && position + removed <= script->body.size());
+    script->body.replace(position, removed, inserted);
+    edit(*script, { .body = TextEdit { position, removed, inserted.size() } });
+}
+
+/// The active script, or the first if none is active. Null if that id names no script.
+Script* LibraryStore::editedScript()
+{
+    const std::optional<QUuid> id = m_activeScriptID ? m_activeScriptID : firstScriptID();
+    const auto script = std::ranges::find(
+        m_scripts, id, [](const Script& candidate) { return std::optional(candidate.id); });
+    return script == m_scripts.end() ? nullptr : &*script;
+}
+
+void LibraryStore::edit(Script& script, LibraryChange change)
+{
+    script.updatedAt = m_time.date();
+    change.kind = LibraryChange::Kind::Edited;
+    change.row = &script - m_scripts.constData();
+    change.id = script.id;
+    publish(change);
+}
+
+Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
+    const QString& path, const std::optional<QString>& source)
+{
+    const auto slides = PptxImporter::importNotes(path);
+    if (!slides)
+        return Failure { slides.error() };
+
+    const QString fileName = QFileInfo(path).fileName();
+    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides->size(), fileName);
+
+    return addDeck(withoutExtension(fileName), *slides, source.value_or(fileName));
+}
+
+QUuid LibraryStore::addDeck(
+    const QString& title, const QList<SlideNote>& slides, const QString& source)
+{
+    Script script = Script::create(title, joinedBody(slides), m_time.date());
+    script.slides = slides;
+    script.deckSource = source;
+    return addOnTop(script);
+}
+
+} // namespace Orvello
