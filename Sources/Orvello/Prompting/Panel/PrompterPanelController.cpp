@@ -116,7 +116,8 @@ bool PrompterPanelController::hideFromCaptures(bool isHidden, qint64 windowNumbe
 bool PrompterPanelController::applyShape(bool on, const QString& mode)
 {
     const bool isWanted = on && mode != u"flag";
-    return m_captureExclusion.setExcluded(isWanted, m_hiding.windowNumber(), m_panel.frame().size());
+    return m_captureExclusion.setExcluded(
+        isWanted, m_hiding.windowNumber(), m_panel.frame().size());
 }
 
 void PrompterPanelController::reassertStealth()
