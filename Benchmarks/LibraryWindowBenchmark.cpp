@@ -7,7 +7,6 @@
 
 #include "Orvello/Platform/QtTimeSource.h"
 #include "Orvello/Presentations/DeckController.h"
-#include "Orvello/Prompting/PromptFont.h"
 #include "Orvello/Prompting/PromptLines.h"
 #include "Orvello/Settings/SettingsStore.h"
 #include "Orvello/Shell/LibraryWindow.h"
@@ -111,7 +110,6 @@ public:
     explicit Program(const QList<Script>& scripts)
         : services(scripts)
     {
-        lines.setFontFamily(PromptFont::family());
         lines.setTextWidth(664);
         lines.setVisibleHeight(200);
         QObject::connect(&deck, &DeckController::promptTextChanged, &lines,

@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/PromptFont.h"
 #include "Orvello/Prompting/PromptText.h"
+#include "Tests/Prompting/ShownText.h"
 #include "Tests/Support/PrompterServices.h"
 
 #include <QFontInfo>
@@ -77,7 +78,7 @@ protected:
         const PromptTypography& typography = lines().shownTypography();
         const QFontMetricsF metrics(typography.font);
         for (const PromptLine& line : lines().visibleLines()) {
-            if (line.text == text)
+            if (Testing::shownText(line) == text)
                 return { (item.width() - typography.width) / 2,
                     line.baseline - metrics.ascent() - lines().visibleTop(), typography.width,
                     std::ceil(metrics.ascent() + metrics.descent()) };

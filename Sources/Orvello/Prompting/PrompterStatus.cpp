@@ -34,6 +34,12 @@ QStringList PrompterStatus::labels()
     return labels;
 }
 
+void PrompterStatus::setVisibleInRecordings(bool isVisible)
+{
+    if (std::exchange(m_isVisibleInRecordings, isVisible) != isVisible)
+        Q_EMIT visibleInRecordingsChanged();
+}
+
 const PrompterStatus::Appearance& PrompterStatus::appearance(State state)
 {
     static const std::array<Appearance, 5> appearances { {

@@ -3,7 +3,7 @@ import QtQuick
 import Orvello
 
 // The dark card with the script, moved up by the scroll engine, and the small status elements at
-// its edges. It tells the engine the two heights and the hovering that the engine cannot know.
+// its edges.
 Item {
     id: root
 
@@ -14,35 +14,15 @@ Item {
     required property LevelMeter levelMeter
     required property SlideStatus slideStatus
     required property ShareWarning shareWarning
-    required property string promptText
     required property string fontFamily
     required property bool forceCapturable
-    property bool visibleInRecordings: false // Stealth Mode is wanted where nothing can hide the panel.
 
-    readonly property double textWidth: Math.max(width - 56, 100)
     readonly property int edge: 6
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Prompter"
     Accessible.description: status.label
 
-    onHeightChanged: engine.setViewportHeight(height)
-    Component.onCompleted: {
-        engine.setViewportHeight(height);
-        engine.setContentHeight(lines.contentHeight);
-    }
-
-    Connections {
-        target: root.lines
-        function onContentHeightChanged() {
-            root.engine.setContentHeight(root.lines.contentHeight);
-        }
-    }
-
-    Binding { target: root.lines; property: "fontFamily"; value: root.fontFamily }
-    Binding { target: root.lines; property: "fontSize"; value: root.settings.fontSize }
-    Binding { target: root.lines; property: "textWidth"; value: root.textWidth }
-    Binding { target: root.lines; property: "text"; value: root.promptText }
     Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
 
     HoverHandler {
@@ -61,7 +41,7 @@ Item {
         color: root.settings.textColor
 
         Accessible.role: Accessible.StaticText
-        Accessible.name: root.promptText
+        Accessible.name: root.lines.text
     }
 
     Countdown {
@@ -101,7 +81,7 @@ Item {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: root.edge
-        visible: root.forceCapturable || root.visibleInRecordings
+        visible: root.forceCapturable || root.status.isVisibleInRecordings
         message: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
     }
 }
