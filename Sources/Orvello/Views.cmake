@@ -85,8 +85,6 @@ qt_add_qml_module(
             Views/AccessibleButton.h
             Views/Symbol.cpp
             Views/Symbol.h
-            Views/SymbolDrawing.h
-            Views/TourSymbols.cpp
     QML_FILES ${views})
 
 # The C++ that Qt makes of each view takes seconds to compile, nearly all of them for the same headers.
@@ -103,9 +101,15 @@ qt_add_shaders(
     BASE Prompting
     FILES Prompting/FadingText.vert Prompting/FadingText.frag
     OUTPUTS FadingText.vert.qsb FadingText.frag.qsb)
+file(GLOB icons CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/Resources/Icons/*.svg)
+qt_add_resources(
+    OrvelloViews OrvelloIcons
+    PREFIX /Orvello/Icons
+    BASE ${PROJECT_SOURCE_DIR}/Resources/Icons
+    FILES ${icons})
 target_link_libraries(
     OrvelloViews PUBLIC OrvelloBase Orvello::Commands Orvello::LibraryView Orvello::Prompting Orvello::Settings
-                        Orvello::Voice Qt6::Quick)
+                        Orvello::Voice Qt6::Quick Qt6::Svg)
 
 # A static QML module needs its plugin linked as well.
 add_library(OrvelloViewsAndPlugin INTERFACE)
