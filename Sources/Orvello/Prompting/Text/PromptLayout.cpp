@@ -1,0 +1,199 @@
+#include "Orvello/Prompting/Text/PromptLayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <optional>
+
+namespace Orvello {
+
+namespace {
+
+/// The bits that a line's start has.
+constexpr quint32 startMask = (1U << 30) - 1;
+constexpr qsizetype longestText = startMask;
+
+/// How many characters, from the first end of a paragraph on, are that end.
+qsizetype paragraphEndLength(QStringView fromEnd) { return fromEnd.startsWith(u"\r\n") ? 2 : 1; }
+
+/// Where the paragraph begins that contains `position`, if that is less than a piece away.
+std::optional<qsizetype> nearParagraphStart(QStringView text, qsizetype position)
+{
+    const qsizetype stop = std::max<qsizetype>(position - PromptPiece::longest, 0);
+    for (qsizetype i = position; i > stop; --i) {
+        if (isParagraphEnd(text[i - 1]))
+            return i;
+    }
+    return stop == 0 ? std::optional<qsizetype>(0) : std::nullopt;
+}
+
+} // namespace
+
+PromptLayout::PromptLayout(const QString& text, const PromptTypography& typography)
+    : m_text(text.left(longestText))
+    , m_typography(typography)
+    , m_isComplete(m_text.isEmpty())
+{
+    const PromptPiece empty(QString(), 0, false, typography);
+    m_fontAscent = empty.line(0).ascent();
+    m_fontDescent = empty.line(0).descent();
+}
+
+PromptLayout PromptLayout::edited(const QString& text, const TextEdit& edit) const
+{
+    PromptLayout result(text, m_typography);
+    const qsizetype size = m_text.size() - edit.removed + edit.inserted;
+    if (!result.m_isComplete && result.m_text.size() == size) {
+        result.keepTail(*this, edit.position + edit.removed);
+        result.keepLinesBefore(*this, edit.position);
+    }
+    return result;
+}
+
+void PromptLayout::keepLinesBefore(const PromptLayout& previous, qsizetype change)
+{
+    // A line feed may have come or gone behind a carriage return: a change of that line, too.
+    if (change > 0 && m_text[change - 1] == u'\r')
+        --change;
+
+    // A piece knows its own characters and whether the text ends behind them.
+    const qsizetype kept
+        = nearParagraphStart(m_text, change).value_or(change - PromptPiece::longest);
+    auto next = std::ranges::lower_bound(
+        previous.m_lines, kept, {}, [](const Line& line) { return line.start; });
+    next = std::find_if(
+        next, previous.m_lines.end(), [](const Line& line) { return line.beginsPiece; });
+
+    m_lines.assign(previous.m_lines.begin(), next);
+    if (next == previous.m_lines.end()) {
+        m_position = previous.m_position;
+        m_nextTop = previous.m_nextTop;
+        return;
+    }
+    m_position = { next->start, bool(next->isRightToLeft) };
+    m_nextTop = next->top;
+}
+
+void PromptLayout::keepTail(const PromptLayout& previous, qsizetype firstUnchanged)
+{
+    auto first = std::ranges::upper_bound(
+        previous.m_lines, firstUnchanged, {}, [](const Line& line) { return line.start; });
+    first = std::find_if(first, previous.m_lines.end(),
+        [&](const Line& line) { return isParagraphEnd(previous.m_text[line.start - 1]); });
+    if (first == previous.m_lines.end())
+        return;
+
+    const auto shift = static_cast<int>(m_text.size() - previous.m_text.size());
+    m_tail = { { first, previous.m_lines.end() }, previous.m_position, previous.m_nextTop,
+        previous.m_isComplete };
+    m_tail.end.start += shift;
+    for (Line& line : m_tail.lines)
+        line.start = static_cast<quint32>(static_cast<int>(line.start) + shift) & startMask;
+}
+
+bool PromptLayout::reuseTail()
+{
+    if (m_tail.lines.empty() || m_position.start != m_tail.lines.front().start)
+        return false;
+
+    const double lift = m_nextTop - m_tail.lines.front().top;
+    for (Line& line : m_tail.lines)
+        line.top += lift;
+    m_lines.insert(m_lines.end(), m_tail.lines.begin(), m_tail.lines.end());
+    m_position = m_tail.end;
+    m_nextTop = m_tail.nextTop + lift;
+    m_isComplete = m_tail.isComplete;
+    m_tail = {};
+    return true;
+}
+
+void PromptLayout::step()
+{
+    if (m_isComplete || reuseTail())
+        return;
+
+    const PromptPiece piece(m_text, m_position.start, m_position.isRightToLeft, m_typography);
+    const int lineCount = piece.lineCount();
+    if (piece.endsParagraph()) {
+        append(piece, lineCount);
+        endParagraph(piece.end());
+    } else if (lineCount > 1) {
+        // More text may follow on the last line: it is laid out again, with that text.
+        append(piece, lineCount - 1);
+        m_position = { piece.lineStart(lineCount - 1), piece.isRightToLeft() };
+    } else {
+        // A single line that long consists of characters without width; it is cut here.
+        append(piece, lineCount);
+        m_position = { piece.end(), piece.isRightToLeft() };
+    }
+}
+
+void PromptLayout::append(const PromptPiece& piece, int lineCount)
+{
+    for (int i = 0; i < lineCount; ++i) {
+        const QTextLine line = piece.line(i);
+        const double ascent = std::max(line.ascent(), m_fontAscent);
+        const double descent = std::max(line.descent(), m_fontDescent);
+        const auto start = static_cast<quint32>(piece.lineStart(i));
+        m_lines.push_back({ m_nextTop, start & startMask, i == 0, piece.isRightToLeft(),
+            static_cast<float>(ascent) });
+        m_nextTop += std::ceil(ascent + descent) + m_typography.lineSpacing;
+    }
+}
+
+void PromptLayout::endParagraph(qsizetype end)
+{
+    const QStringView fromEnd = QStringView(m_text).sliced(end);
+    m_isComplete = fromEnd.isEmpty();
+    m_position = { end + (m_isComplete ? 0 : paragraphEndLength(fromEnd)), false };
+    if (m_isComplete)
+        m_lines.shrink_to_fit();
+}
+
+double PromptLayout::height() const
+{
+    return m_lines.empty() ? 0 : m_nextTop - m_typography.lineSpacing;
+}
+
+double PromptLayout::smallestPitch() const
+{
+    return std::ceil(m_fontAscent + m_fontDescent) + m_typography.lineSpacing;
+}
+
+qsizetype PromptLayout::lineStart(Index line) const { return at(line).start; }
+
+std::vector<PromptLine> PromptLayout::lines(
+    Index first, Index end, const std::vector<PromptLine>& known) const
+{
+    std::vector<PromptLine> result;
+    for (Index line = first; line < end; ++line) {
+        Index begin = line;
+        while (!at(begin).beginsPiece)
+            --begin;
+        const auto isSame
+            = [&](const PromptLine& other) { return other.piece->start() == lineStart(begin); };
+        const auto same = std::ranges::find_if(known, isSame);
+        std::shared_ptr<const PromptPiece> piece;
+        if (!result.empty() && isSame(result.back()))
+            piece = result.back().piece;
+        else if (same != known.end())
+            piece = same->piece;
+        else
+            piece = std::make_shared<PromptPiece>(
+                m_text, lineStart(begin), at(begin).isRightToLeft, m_typography);
+        result.push_back(
+            { std::move(piece), static_cast<int>(line - begin), at(line).top + at(line).ascent });
+    }
+    return result;
+}
+
+std::pair<PromptLayout::Index, PromptLayout::Index> PromptLayout::linesBetween(
+    double top, double bottom) const
+{
+    const auto from = std::ranges::upper_bound(m_lines, top, {}, &Line::top);
+    const auto to = std::ranges::lower_bound(m_lines, bottom, {}, &Line::top);
+    const Index first = std::max<Index>(from - m_lines.begin() - 1, 0);
+    return { first, std::max<Index>(to - m_lines.begin(), first) };
+}
+
+} // namespace Orvello

@@ -1,0 +1,179 @@
+#include "Orvello/Prompting/Text/PromptLines.h"
+
+#include "Orvello/Foundation/Assign.h"
+#include "Orvello/Prompting/Text/PromptFont.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How long the main loop is kept at a time, in seconds: a quarter of a frame.
+constexpr double sliceBudget = 0.004;
+
+/// Signs in colour, where this is installed: else the search for a font that has them would end at
+/// the first plain one. macOS has a fixed order of its own.
+constexpr auto emojiFamily = "Noto Color Emoji"_L1;
+
+constexpr double largestFontSize = 1000;
+
+/// Relative to the font's size.
+constexpr double relativeLineSpacing = 0.28;
+
+/// Lines just outside the visible part are ready, too: their accents may reach into it.
+constexpr double margin = 8;
+
+double heightOf(const PromptLayout& layout) { return layout.height() * layout.typography().scale; }
+
+} // namespace
+
+PromptLines::PromptLines(TimeSource& time, QObject* parent)
+    : QObject(parent)
+    , m_time(time)
+{
+}
+
+PromptLines::~PromptLines() = default;
+
+void PromptLines::setText(const QString& text)
+{
+    if (!assign(m_text, text))
+        return;
+    restart();
+    Q_EMIT textChanged();
+}
+
+void PromptLines::edit(const QString& text, const TextEdit& edit)
+{
+    m_text = text;
+    if (canLayOut())
+        layOut(newest().edited(text, edit));
+    Q_EMIT textChanged();
+}
+
+void PromptLines::setFontSize(double points)
+{
+    if (assign(m_fontSize, points))
+        restart();
+}
+
+void PromptLines::setTextWidth(double points)
+{
+    if (assign(m_textWidth, points))
+        restart();
+}
+
+PromptTypography PromptLines::typography() const
+{
+    const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
+    QFont font(QStringList { PromptFont::family(), emojiFamily });
+    const double wholeSize = std::ceil(size);
+    font.setPixelSize(static_cast<int>(wholeSize));
+    font.setWeight(QFont::DemiBold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    const double scale = size / wholeSize;
+    return { font, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
+}
+
+void PromptLines::setVisibleTop(double points)
+{
+    if (assign(m_visibleTop, points))
+        showVisibleLines();
+}
+
+void PromptLines::setVisibleHeight(double points)
+{
+    if (assign(m_visibleHeight, points))
+        showVisibleLines();
+}
+
+bool PromptLines::isLaidOut() const { return !m_next && m_shown.isComplete(); }
+
+std::size_t PromptLines::positionBytes() const
+{
+    return static_cast<std::size_t>(m_shown.lineCount()) * PromptLayout::bytesPerLine;
+}
+
+PromptLayout& PromptLines::newest() { return m_next ? *m_next : m_shown; }
+
+/// Whether size and width are known, and numbers.
+bool PromptLines::canLayOut() const { return m_fontSize > 0 && m_textWidth > 0; }
+
+void PromptLines::restart()
+{
+    if (canLayOut())
+        layOut(PromptLayout(m_text, typography()));
+}
+
+void PromptLines::layOut(PromptLayout layout)
+{
+    m_next = std::move(layout);
+    layOutSlice();
+}
+
+void PromptLines::layOutSlice()
+{
+    const double start = m_time.now();
+    PromptLayout& layout = newest();
+    while (!layout.isComplete() && m_time.now() - start < sliceBudget)
+        layout.step();
+
+    m_slice.reset();
+    if (!layout.isComplete())
+        m_slice = m_time.callAfter(0, [this] { layOutSlice(); });
+    adoptWhenReady();
+    updateContentHeight();
+}
+
+void PromptLines::adoptWhenReady()
+{
+    const double visibleBottom = m_visibleTop + m_visibleHeight + margin;
+    const bool isReady = m_next
+        && (m_next->isComplete() || heightOf(*m_next) >= visibleBottom || m_shown.lineCount() == 0);
+    if (!isReady) {
+        showVisibleLines();
+        return;
+    }
+    const PromptTypography before = m_shown.typography();
+    m_shown = *std::exchange(m_next, std::nullopt);
+    m_visibleRange.reset();
+    showVisibleLines();
+    if (m_shown.typography() != before)
+        Q_EMIT shownTypographyChanged();
+}
+
+void PromptLines::updateContentHeight()
+{
+    const PromptLayout& layout = newest();
+    const double height
+        = layout.isComplete() ? heightOf(layout) : std::max(heightOf(layout), m_contentHeight);
+    if (assign(m_contentHeight, height))
+        Q_EMIT contentHeightChanged();
+}
+
+void PromptLines::showVisibleLines()
+{
+    const double scale = m_shown.typography().scale;
+    const auto range = m_shown.linesBetween(
+        (m_visibleTop - margin) / scale, (m_visibleTop + m_visibleHeight + margin) / scale);
+    const auto before = std::exchange(m_visibleRange, range);
+    if (before == range)
+        return;
+    // Lines of an earlier layout are no help in this one.
+    std::vector<PromptLine> lines = m_shown.lines(
+        range.first, range.second, before ? m_visibleLines : std::vector<PromptLine>());
+    const bool isSame = std::ranges::equal(
+        lines, m_visibleLines, [](const PromptLine& line, const PromptLine& shown) {
+            return line.baseline == shown.baseline && line.looksLike(shown);
+        });
+    m_visibleLines = std::move(lines);
+    if (!isSame)
+        Q_EMIT visibleLinesChanged();
+}
+
+} // namespace Orvello

@@ -1,0 +1,64 @@
+#include "Orvello/Shell/Windows/PrompterWindow.h"
+
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
+#include "Orvello/Prompting/Text/PromptFont.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Windows/ViewWindow.h"
+
+#include <QQuickItem>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+PrompterWindow::PrompterWindow(const Services& services)
+    : m_lines(services.time)
+    , m_status(services.engine)
+    , m_levelMeter(services.voice)
+    , m_slideStatus(services.deck)
+    , m_shareWarning(services.presentation, services.settings, services.engine)
+{
+    connectText(services);
+    m_view.setTitle(u"Orvello"_s);
+    m_view.setColor(Qt::transparent);
+    ViewWindow::load(m_view, u"PrompterView"_s,
+        {
+            { u"engine"_s, QVariant::fromValue(&services.engine) },
+            { u"settings"_s, QVariant::fromValue(&services.settings) },
+            { u"lines"_s, QVariant::fromValue(&m_lines) },
+            { u"status"_s, QVariant::fromValue(&m_status) },
+            { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+            { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
+            { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
+            { u"fontFamily"_s, PromptFont::family() },
+            { u"forceCapturable"_s, services.forceCapturable },
+        });
+}
+
+PrompterWindow::~PrompterWindow() = default;
+
+void PrompterWindow::setVisibleInRecordings(bool isVisible)
+{
+    m_status.setVisibleInRecordings(isVisible);
+}
+
+/// The text and its size go from the services to the layout, its height from there to the engine.
+void PrompterWindow::connectText(const Services& services)
+{
+    const auto follow = [this](const auto& source, auto changed, const auto& takeOver) {
+        connect(&source, changed, this, takeOver);
+        takeOver();
+    };
+    follow(services.settings, &SettingsStore::fontSizeChanged,
+        [this, &settings = services.settings] { m_lines.setFontSize(settings.fontSize()); });
+    follow(services.deck, &DeckController::promptTextChanged,
+        [this, &deck = services.deck] { m_lines.setText(deck.promptText()); });
+    follow(m_lines, &PromptLines::contentHeightChanged,
+        [this, &engine = services.engine] { engine.setContentHeight(m_lines.contentHeight()); });
+    // Every slide's notes start at the top.
+    connect(&services.deck, &DeckController::slideChangeTokenChanged, this,
+        [&engine = services.engine] { engine.setOffset(0); });
+}
+
+} // namespace Orvello
