@@ -2,6 +2,7 @@
 # (Shell/Views/QmlTypes.h). Link Orvello::ShellViews, add the import path "qrc:/qt/qml", load "qrc:/qt/qml/Orvello/<View>.qml".
 
 get_property(files GLOBAL PROPERTY ORVELLO_VIEWS)
+list(APPEND files ${CMAKE_CURRENT_SOURCE_DIR}/Shell/Views/SymbolButton.qml)
 # The module is flat, whatever folder a view lies in.
 set(views)
 foreach(file ${files})

@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/View/PromptText.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Prompting/View/FadingTextNode.h"
 
 #include <QQuickWindow>
@@ -67,7 +68,7 @@ void PromptText::setLines(PromptLines* lines)
 
 void PromptText::setColor(const QColor& color)
 {
-    if (std::exchange(m_color, color) == color)
+    if (!assign(m_color, color))
         return;
     redrawAllLines();
     Q_EMIT colorChanged();

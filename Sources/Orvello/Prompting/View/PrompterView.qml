@@ -17,8 +17,6 @@ Item {
     required property string fontFamily
     required property bool forceCapturable
 
-    readonly property int edge: 6
-
     Accessible.role: Accessible.Pane
     Accessible.name: "Prompter"
     Accessible.description: status.label
@@ -55,7 +53,7 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: statusBadge.top
-        anchors.margins: root.edge
+        anchors.margins: CardStyle.edge
         warning: root.shareWarning
     }
 
@@ -63,7 +61,7 @@ Item {
         id: statusBadge
         anchors.left: parent.left
         anchors.bottom: parent.bottom
-        anchors.margins: root.edge
+        anchors.margins: CardStyle.edge
         status: root.status
         meter: root.levelMeter
     }
@@ -71,8 +69,8 @@ Item {
     SlideChip {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        anchors.margins: root.edge
-        maximumWidth: parent.width - statusBadge.width - 3 * root.edge
+        anchors.margins: CardStyle.edge
+        maximumWidth: parent.width - statusBadge.width - 3 * CardStyle.edge
         visible: root.slideStatus.isShown
         status: root.slideStatus
     }
@@ -80,7 +78,7 @@ Item {
     RecordingBadge {
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.margins: root.edge
+        anchors.margins: CardStyle.edge
         visible: root.forceCapturable || root.status.isVisibleInRecordings
         message: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
     }
