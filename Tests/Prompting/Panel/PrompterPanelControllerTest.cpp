@@ -37,7 +37,7 @@ protected:
         controller = std::make_unique<PrompterPanelController>(
             PrompterPanelController::Services {
                 panel, engine, settings, stage.monitor, stage.time, screens, folders },
-            forceCapturable);
+            forceCapturable, CaptureExclusion(lookUp()));
         Testing::drainEvents();
         return *controller;
     }

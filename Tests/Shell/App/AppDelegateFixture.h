@@ -35,7 +35,8 @@ protected:
             [this](const ShellWindows::Services&) {
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::fromArguments(arguments));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+        platform.journal.clear();
     }
 
     void launch(const QStringList& arguments = {})

@@ -6,7 +6,6 @@
 #include "Orvello/Platform/Desktop/Screens.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 
@@ -29,11 +28,13 @@ QString onOrOff(bool on) { return on ? u"ON"_s : u"OFF"_s; }
 
 } // namespace
 
-PrompterPanelController::PrompterPanelController(const Services& services, bool forceCapturable)
+PrompterPanelController::PrompterPanelController(
+    const Services& services, bool forceCapturable, const CaptureExclusion& captureExclusion)
     : m_panel(services.panel)
     , m_presentation(services.presentation)
     , m_time(services.time)
     , m_stealthLog(services.folders)
+    , m_captureExclusion(captureExclusion)
     , m_forceCapturable(forceCapturable)
 {
     placePanel(services.screens);
@@ -46,7 +47,7 @@ PrompterPanelController::PrompterPanelController(const Services& services, bool 
     m_stealthWatchdog = m_time.callEvery(watchdogPeriod, [this] { checkWindow(); });
     AppLog::write("Orvello PANEL_UP frame=%@ sharing=%ld sckExclude=%d",
         PanelFrame::description(m_panel.frame()), static_cast<long>(m_panel.sharingType()),
-        static_cast<int>(CaptureExclusion::isUsable()));
+        static_cast<int>(m_captureExclusion.isUsable()));
 }
 
 PrompterPanelController::~PrompterPanelController() = default;
@@ -113,7 +114,7 @@ bool PrompterPanelController::applySharingType(SharingType desired, qint64 windo
 bool PrompterPanelController::applyShape(bool on, const QString& mode)
 {
     const bool isWanted = on && mode != u"flag";
-    return CaptureExclusion::setExcluded(isWanted, m_panel.windowNumber(), m_panel.frame().size());
+    return m_captureExclusion.setExcluded(isWanted, m_panel.windowNumber(), m_panel.frame().size());
 }
 
 void PrompterPanelController::reassertStealth()
@@ -155,7 +156,7 @@ void PrompterPanelController::reapplyShapeOrPostpone()
 
 void PrompterPanelController::coverCurrentFrame()
 {
-    CaptureExclusion::setExcluded(true, m_panel.windowNumber(), m_panel.frame().size());
+    m_captureExclusion.setExcluded(true, m_panel.windowNumber(), m_panel.frame().size());
 }
 
 void PrompterPanelController::callChanged(bool inCall)

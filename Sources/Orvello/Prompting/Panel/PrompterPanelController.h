@@ -2,6 +2,7 @@
 
 #include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 #include "Orvello/Prompting/Panel/StealthLog.h"
 
 #include <QObject>
@@ -42,7 +43,8 @@ public:
     };
 
     /// With `forceCapturable` Stealth Mode never takes effect.
-    PrompterPanelController(const Services& services, bool forceCapturable);
+    PrompterPanelController(const Services& services, bool forceCapturable,
+        const CaptureExclusion& captureExclusion = CaptureExclusion());
     ~PrompterPanelController() override;
 
     NativePanel& panel() { return m_panel; }
@@ -80,6 +82,7 @@ private:
     PresentationMonitor& m_presentation;
     TimeSource& m_time;
     StealthLog m_stealthLog;
+    const CaptureExclusion m_captureExclusion;
     const bool m_forceCapturable;
     bool m_stealthOn = false;
     bool m_wantsStealth = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Library/Window/LibraryViewModel.h"
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/Card.h"
@@ -20,6 +21,13 @@
 
 /// What the views know the services as. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
+
+struct AssignedKeysType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::AssignedKeys)
+    QML_NAMED_ELEMENT(AssignedKeys)
+    QML_UNCREATABLE("The program makes it.")
+};
 
 struct CardType {
     Q_GADGET
