@@ -113,7 +113,7 @@ public:
         lines.setTextWidth(664);
         lines.setVisibleHeight(200);
         QObject::connect(&deck, &DeckController::promptTextChanged, &lines,
-            [this] { lines.setText(deck.promptText()); });
+            [this](const TextEdit& edit) { lines.edit(deck.promptText(), edit); });
         library.makeKeyAndOrderFront();
         if (!QTest::qWaitForWindowExposed(&window()))
             static_cast<void>(std::fputs("The window is not to be seen.\n", stderr));

@@ -256,6 +256,16 @@ TEST_F(PrompterViewTest, takesOverAChangedText)
     EXPECT_FALSE(placeOfLine(u"One"_s).isValid());
 }
 
+TEST_F(PrompterViewTest, showsALetterThatIsTyped)
+{
+    services.library.editActive(3, 0, u"s"_s);
+    Testing::drainEvents();
+
+    EXPECT_TRUE(placeOfLine(u"Ones"_s).isValid());
+    EXPECT_TRUE(placeOfLine(u"Two"_s).isValid());
+    EXPECT_EQ(lines().text(), u"Ones\nTwo\nThree"_s);
+}
+
 TEST_F(PrompterViewTest, showsTheCountdownInTheMiddle)
 {
     settings.setCountdownSeconds(3);

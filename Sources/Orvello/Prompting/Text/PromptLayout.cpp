@@ -172,11 +172,10 @@ std::vector<PromptLine> PromptLayout::lines(
             --begin;
         const auto isSame
             = [&](const PromptLine& other) { return other.piece->start() == lineStart(begin); };
-        const auto same = std::ranges::find_if(known, isSame);
         std::shared_ptr<const PromptPiece> piece;
         if (!result.empty() && isSame(result.back()))
             piece = result.back().piece;
-        else if (same != known.end())
+        else if (const auto same = std::ranges::find_if(known, isSame); same != known.end())
             piece = same->piece;
         else
             piece = std::make_shared<PromptPiece>(

@@ -52,10 +52,12 @@ void PrompterWindow::connectText(const Services& services)
     };
     follow(services.settings, &SettingsStore::fontSizeChanged,
         [this, &settings = services.settings] { m_lines.setFontSize(settings.fontSize()); });
-    follow(services.deck, &DeckController::promptTextChanged,
-        [this, &deck = services.deck] { m_lines.setText(deck.promptText()); });
     follow(m_lines, &PromptLines::contentHeightChanged,
         [this, &engine = services.engine] { engine.setContentHeight(m_lines.contentHeight()); });
+    m_lines.setText(services.deck.promptText());
+    connect(&services.deck, &DeckController::promptTextChanged, this,
+        [this, &deck = services.deck](
+            const TextEdit& edit) { m_lines.edit(deck.promptText(), edit); });
     // Every slide's notes start at the top.
     connect(&services.deck, &DeckController::slideChangeTokenChanged, this,
         [&engine = services.engine] { engine.setOffset(0); });
