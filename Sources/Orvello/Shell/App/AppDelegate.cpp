@@ -2,6 +2,7 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Observe.h"
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/Platform.h"
@@ -221,7 +222,7 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
         m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
         m_platform.statusBar(), m_platform.hotKeys().assignedKeys(),
-        m_panel->canExcludeFromCapture() });
+        m_panel->captureHiding().isPossible() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
             *m_windows, m_platform.operatingSystemVersion() },
@@ -238,14 +239,14 @@ void AppDelegate::showFirstWindow()
 
 void AppDelegate::showPanel()
 {
-    m_panelController->panel().orderFrontRegardless();
+    m_panelController->panel().show();
     m_panelController->reassertStealth();
 }
 
 void AppDelegate::togglePanel()
 {
     if (m_panelController->panel().isVisible())
-        m_panelController->panel().orderOut();
+        m_panelController->panel().hide();
     else
         showPanel();
 }
