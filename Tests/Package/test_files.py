@@ -125,6 +125,16 @@ class ReferenceTest(unittest.TestCase):
         self.assertEqual(sorted(self.complete_in_bash("--")), sorted(switches()))
         self.assertEqual(self.complete_in_bash("--vers"), ["--version"])
 
+    def test_bash_completes_decks_and_folders(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name in "one.pptx", "two.PPTX", "three.odt":
+                (pathlib.Path(folder) / name).touch()
+            (pathlib.Path(folder) / "talks").mkdir()
+
+            offered = {pathlib.Path(path).name for path in self.complete_in_bash(folder + "/")}
+
+        self.assertEqual(offered, {"one.pptx", "two.PPTX", "talks"})
+
     def test_zsh_describes_every_switch(self):
         script = SHARE / "zsh/site-functions/_orvello"
         # What the function hands to zsh's own one for command lines.

@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/Screens.h"
@@ -73,9 +74,8 @@ void PrompterPanelController::applyStealthMode(bool on)
 {
     const bool wasVisibleInRecordings = isVisibleInRecordings();
     const bool effective = on && !m_forceCapturable;
-    const bool isChange = effective != m_stealthOn;
+    const bool isChange = assign(m_stealthOn, effective);
     m_wantsStealth = on;
-    m_stealthOn = effective;
     const QString mode = stealthMechanisms();
     const bool isHidden = effective && mode != u"shape";
 

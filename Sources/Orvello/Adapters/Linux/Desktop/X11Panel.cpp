@@ -2,6 +2,7 @@
 
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 namespace Orvello {
 
@@ -221,7 +221,7 @@ void X11Panel::endGesture()
 /// A window that is shown, or only moved, is told of its size again.
 void X11Panel::announceSize()
 {
-    if (std::exchange(m_announcedSize, m_window.size()) != m_window.size())
+    if (assign(m_announcedSize, m_window.size()))
         Q_EMIT resized();
 }
 
