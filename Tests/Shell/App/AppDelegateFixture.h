@@ -31,11 +31,12 @@ protected:
     void construct(const QStringList& arguments = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            platform,
+            AppDelegate::Platforms { platform, platform, platform },
             [this](const ShellWindows::Services&) {
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::fromArguments(arguments));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+        platform.journal.clear();
     }
 
     void launch(const QStringList& arguments = {})
