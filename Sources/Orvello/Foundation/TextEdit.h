@@ -16,8 +16,7 @@ struct TextEdit {
     constexpr TextEdit followedBy(const TextEdit& next) const
     {
         const qsizetype begin = std::min(position, next.position);
-        const qsizetype endBetween
-            = std::max(position + inserted, next.position + next.removed);
+        const qsizetype endBetween = std::max(position + inserted, next.position + next.removed);
         return { begin, endBetween - inserted + removed - begin,
             endBetween - next.removed + next.inserted - begin };
     }

@@ -83,14 +83,14 @@ protected:
         "log STEALTH ON wid=42 fresh=1 mode=both sckExcludeApplied=0",
         "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=0 sckExclude=0",
         "windows made ready" };
-    const Lines panelShown { "panel ordered front",
+    const Lines panelShown { "panel shown",
         "log STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0" };
     const Lines capturablePanelMade { "panel made", "with the icon set",
         "panel hidden from captures", "panel capturable",
         "log STEALTH OFF wid=42 fresh=1 mode=both sckExcludeApplied=0",
         "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=1 sckExclude=0",
         "windows made ready" };
-    const Lines capturablePanelShown { "panel ordered front",
+    const Lines capturablePanelShown { "panel shown",
         "log STEALTH OFF wid=42 fresh=0 mode=both sckExcludeApplied=0" };
     const Lines tourShown { "onboarding window made", "application activated",
         "onboarding window in front" };
@@ -182,7 +182,7 @@ TEST_F(AppDelegateTest, showsThePanelWhenTheTourIsFinished)
     windows.finishOnboarding();
 
     EXPECT_TRUE(platform.panel->isVisible());
-    EXPECT_THAT(platform.journal, Contains("panel ordered front"));
+    EXPECT_THAT(platform.journal, Contains("panel shown"));
     EXPECT_EQ(windows.openOnboardings, 1) << "the window is still closing";
     Testing::drainEvents();
     EXPECT_EQ(windows.openOnboardings, 0);
@@ -218,7 +218,7 @@ TEST_F(AppDelegateTest, neverHidesThePanelFromCapturesWithNoStealth)
         settings().setStealthMode(wanted);
         Testing::drainEvents();
 
-        EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::ReadOnly);
+        EXPECT_FALSE(platform.panel->hidden);
     }
 }
 
@@ -229,7 +229,7 @@ TEST_F(AppDelegateTest, knowsItsSwitchesOnlyAsWholeArguments)
     EXPECT_FALSE(settings().voiceFollow());
     EXPECT_FALSE(engine().isRunning());
     EXPECT_TRUE(platform.panel->isVisible());
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    EXPECT_TRUE(platform.panel->hidden);
 }
 
 // The subscriptions
@@ -237,12 +237,12 @@ TEST_F(AppDelegateTest, knowsItsSwitchesOnlyAsWholeArguments)
 TEST_F(AppDelegateTest, followsTheStealthSetting)
 {
     launchAndSettle();
-    ASSERT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    ASSERT_TRUE(platform.panel->hidden);
 
     settings().setStealthMode(false);
     Testing::drainEvents();
 
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::ReadOnly);
+    EXPECT_FALSE(platform.panel->hidden);
 }
 
 TEST_F(AppDelegateTest, startsAndStopsListeningWithTheVoiceSetting)
@@ -454,7 +454,7 @@ TEST_F(StartedAgainTest, opensTheMenuForASwitchThatComesTooLate)
     startAgain({ u"--no-stealth"_s });
 
     EXPECT_EQ(windows.openedMenus, 1);
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    EXPECT_TRUE(platform.panel->hidden);
 }
 
 TEST_F(StartedAgainTest, leavesItToTheLaunchToShowWhatThereIsToSee)

@@ -538,7 +538,7 @@ TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)
 
     click(view(), toggle);
     EXPECT_TRUE(updater.isAutomatic);
-    updater.setAutomaticallyChecksForUpdates(false);
+    updater.setOn(false);
     drainEvents();
     EXPECT_FALSE(toggle.property("checked").toBool());
 }

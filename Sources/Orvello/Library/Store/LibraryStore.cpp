@@ -1,6 +1,7 @@
 #include "Orvello/Library/Store/LibraryStore.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
@@ -87,7 +88,7 @@ void LibraryStore::setActiveScriptID(std::optional<QUuid> id)
 
 bool LibraryStore::assignActiveScriptID(std::optional<QUuid> id)
 {
-    const bool isAnother = std::exchange(m_activeScriptID, id) != id;
+    const bool isAnother = assign(m_activeScriptID, id);
     persistActiveScriptID();
     return isAnother;
 }

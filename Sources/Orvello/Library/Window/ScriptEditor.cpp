@@ -1,5 +1,6 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Library/Window/WordCount.h"
 
@@ -74,7 +75,7 @@ QString ScriptEditor::deckNotice() const
 
 void ScriptEditor::setEditable(bool isEditable)
 {
-    if (std::exchange(m_isEditable, isEditable) == isEditable)
+    if (!assign(m_isEditable, isEditable))
         return;
     store();
     Q_EMIT editableChanged();

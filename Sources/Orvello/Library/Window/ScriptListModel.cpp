@@ -1,5 +1,6 @@
 #include "Orvello/Library/Window/ScriptListModel.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 
 #include <algorithm>
@@ -88,7 +89,7 @@ void ScriptListModel::followActiveScript()
     const std::optional<QUuid> id = m_library.activeScriptID();
     const auto active = std::ranges::find_if(m_rows, [&](const Row& row) { return row.id == id; });
     const int row = active == m_rows.end() ? -1 : static_cast<int>(active - m_rows.begin());
-    if (std::exchange(m_activeRow, row) != row)
+    if (assign(m_activeRow, row))
         Q_EMIT activeRowChanged();
 }
 

@@ -1,5 +1,6 @@
 #include "Orvello/Presentations/Slideshow/DeckController.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Store/LibraryStore.h"
@@ -78,9 +79,8 @@ void DeckController::followLiveSlide(const std::optional<qint64>& slide)
 
 void DeckController::setSyncState(SlideSyncService::State state)
 {
-    if (state == m_syncState)
+    if (!assign(m_syncState, state))
         return;
-    m_syncState = state;
     Q_EMIT syncStateChanged();
 }
 
@@ -135,11 +135,6 @@ std::optional<TextEdit> DeckController::editTo(const Unit& unit, bool isOtherUni
 
 void DeckController::publish(const Script* script, const Unit& unit)
 {
-    const auto assign = [](auto& member, const auto& value) {
-        const bool isOther = member != value;
-        member = value;
-        return isOther;
-    };
     const bool isOtherUnit = assign(m_lastUnitKey, unitKey(script, unit.slide));
     if (isOtherUnit)
         ++m_slideChangeToken;

@@ -1,5 +1,6 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>
@@ -111,9 +112,8 @@ void ImpressPresenter::change(const QString& question, Completion completion)
 
 void ImpressPresenter::setChanging(bool isChanging)
 {
-    if (isChanging == m_isChanging)
+    if (!assign(m_isChanging, isChanging))
         return;
-    m_isChanging = isChanging;
     Q_EMIT isChangingChanged();
 }
 

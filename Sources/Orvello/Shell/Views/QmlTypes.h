@@ -5,6 +5,7 @@
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/Card.h"
+#include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
@@ -32,6 +33,13 @@ struct CardType {
     Q_GADGET
     QML_FOREIGN(Orvello::Card)
     QML_NAMED_ELEMENT(Card)
+};
+
+struct CardStyleType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::CardStyle)
+    QML_NAMED_ELEMENT(CardStyle)
+    QML_SINGLETON
 };
 
 struct ScrollEngineType {
