@@ -6,7 +6,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
 
 namespace Orvello {
 
@@ -19,19 +18,12 @@ constexpr double pollSeconds = 0.5;
 /// The system's error number for an Apple event that the user has not authorised.
 constexpr QStringView notAuthorised = u"-1743";
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
-
 /// The number of a slide: a decimal integer of at least 1 between white space, and nothing else.
 std::optional<qint64> slideNumber(const QString& output)
 {
-    const QString trimmed = output.trimmed();
-    const bool hasSign = trimmed.startsWith(u'+') || trimmed.startsWith(u'-');
-    const QStringView digits = QStringView(trimmed).sliced(hasSign ? 1 : 0);
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit))
-        return std::nullopt;
-    bool fits = false;
-    const qint64 number = trimmed.toLongLong(&fits);
-    return fits && number >= 1 ? std::optional(number) : std::nullopt;
+    bool isNumber = false;
+    const qint64 number = output.toLongLong(&isNumber);
+    return isNumber && number >= 1 ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
