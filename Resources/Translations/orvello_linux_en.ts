@@ -11,7 +11,7 @@
     </message>
 </context>
 <context>
-    <name>OnboardingPrivacyPage</name>
+    <name>TourPrivacyPage</name>
     <message>
         <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
         <translation>One rule keeps your notes off the recording: share a window, never the whole screen.</translation>
@@ -34,7 +34,7 @@
     </message>
 </context>
 <context>
-    <name>OnboardingSetupPage</name>
+    <name>TourSetupPage</name>
     <message>
         <source>⌥⌘P</source>
         <translation>Alt+Super+P</translation>
@@ -61,7 +61,7 @@
     </message>
 </context>
 <context>
-    <name>OnboardingWelcomePage</name>
+    <name>TourWelcomePage</name>
     <message>
         <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
         <translation>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</translation>
@@ -84,7 +84,7 @@
     </message>
 </context>
 <context>
-    <name>OnboardingZoomCard</name>
+    <name>TourZoomCard</name>
     <message>
         <source>Using Zoom? Set this once</source>
         <translation>Using Zoom? Share a window</translation>
@@ -106,7 +106,7 @@
     </message>
 </context>
 <context>
-    <name>Orvello::OnboardingTour</name>
+    <name>Orvello::WelcomeTour</name>
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</translation>

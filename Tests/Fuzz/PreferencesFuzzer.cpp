@@ -1,7 +1,7 @@
 // Any bytes for a file of preferences: they count as empty, or give values that survive being
 // written. Either way a change is kept.
 
-#include "Orvello/Platform/Linux/JsonUserDefaults.h"
+#include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
 
 #include <QDir>
 #include <QFile>

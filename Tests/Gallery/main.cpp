@@ -5,7 +5,7 @@
 // Beside the sheet a folder of its name holds the pictures one by one. The sheet is painted here;
 // the windows are shown by one further process for each scale, on the display there is.
 
-#include "Orvello/Shell/Translation.h"
+#include "Orvello/Shell/App/Translation.h"
 #include "Tests/Gallery/ContactSheet.h"
 #include "Tests/Gallery/Rendering.h"
 #include "Tests/Gallery/Scenes.h"

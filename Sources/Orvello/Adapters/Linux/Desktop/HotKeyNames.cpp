@@ -1,0 +1,42 @@
+#include "Orvello/Adapters/Linux/Desktop/HotKeyNames.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Orvello {
+
+namespace {
+
+constexpr std::array<HotKeyName, 5> names { {
+    { HotKey::keyP, "AD10", "p", "P" },
+    { HotKey::keyUp, "UP", "Up", "Up" },
+    { HotKey::keyDown, "DOWN", "Down", "Down" },
+    { HotKey::keyR, "AD04", "r", "R" },
+    { HotKey::keyH, "AC06", "h", "H" },
+} };
+
+std::string joined(std::uint32_t modifiers, const char* option, const char* command)
+{
+    return std::string(modifiers & HotKey::optionKey ? option : "")
+        + (modifiers & HotKey::commandKey ? command : "");
+}
+
+} // namespace
+
+const HotKeyName* hotKeyName(std::uint32_t keyCode)
+{
+    const auto* const name = std::ranges::find(names, keyCode, &HotKeyName::keyCode);
+    return name != names.end() ? name : nullptr;
+}
+
+std::string hotKeyLabel(const HotKeyName& name, std::uint32_t modifiers)
+{
+    return joined(modifiers, "Alt+", "Super+") + name.label;
+}
+
+std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers)
+{
+    return joined(modifiers, "ALT+", "LOGO+") + name.symbol;
+}
+
+} // namespace Orvello

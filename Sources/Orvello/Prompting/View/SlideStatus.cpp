@@ -1,0 +1,102 @@
+#include "Orvello/Prompting/View/SlideStatus.h"
+
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Prompting/View/SignalColors.h"
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Appearance {
+    QString label;
+    QColor color;
+};
+
+const Appearance& live()
+{
+    static const Appearance appearance { u"Live"_s, SignalColors::green };
+    return appearance;
+}
+
+const Appearance& noAccess()
+{
+    static const Appearance appearance { u"No access"_s, SignalColors::red };
+    return appearance;
+}
+
+const Appearance& manual()
+{
+    static const Appearance appearance { u"Manual"_s, QColor::fromRgbF(1, 1, 1, 0.5F) };
+    return appearance;
+}
+
+const Appearance& appearanceOf(SlideSyncService::State state)
+{
+    switch (state) {
+    case SlideSyncService::State::Live:
+        return live();
+    case SlideSyncService::State::Denied:
+        return noAccess();
+    case SlideSyncService::State::Idle:
+    case SlideSyncService::State::Manual:
+        break;
+    }
+    return manual();
+}
+
+QString positionOf(qint64 number, qint64 count) { return u"%1 / %2"_s.arg(number).arg(count); }
+
+} // namespace
+
+SlideStatus::SlideStatus(DeckController& deck, QObject* parent)
+    : QObject(parent)
+    , m_deck(deck)
+{
+    for (const auto signal : { &DeckController::trackingActiveChanged,
+             &DeckController::displayIndexChanged, &DeckController::slideCountChanged,
+             &DeckController::slideTitleChanged, &DeckController::syncStateChanged })
+        connect(&deck, signal, this, &SlideStatus::changed);
+}
+
+bool SlideStatus::isShown() const { return m_deck.trackingActive(); }
+
+QString SlideStatus::position() const
+{
+    return positionOf(m_deck.displayIndex() + 1, m_deck.slideCount());
+}
+
+QString SlideStatus::widestPosition() const
+{
+    return positionOf(m_deck.slideCount(), m_deck.slideCount());
+}
+
+QString SlideStatus::title() const { return m_deck.slideTitle().value_or(QString()); }
+
+bool SlideStatus::canGoBack() const { return m_deck.displayIndex() > 0; }
+
+bool SlideStatus::canGoOn() const { return m_deck.displayIndex() < m_deck.slideCount() - 1; }
+
+QString SlideStatus::stateLabel() const { return appearanceOf(m_deck.syncState()).label; }
+
+QColor SlideStatus::stateColor() const { return appearanceOf(m_deck.syncState()).color; }
+
+QStringList SlideStatus::stateLabels()
+{
+    return { live().label, noAccess().label, manual().label };
+}
+
+void SlideStatus::goBack()
+{
+    if (canGoBack())
+        m_deck.showPreviousSlide();
+}
+
+void SlideStatus::goOn()
+{
+    if (canGoOn())
+        m_deck.showNextSlide();
+}
+
+} // namespace Orvello

@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Layouts
+
+// A key, as on a keyboard, and what it does.
+RowLayout {
+    id: root
+
+    required property string key
+    required property string label
+
+    Layout.fillWidth: true
+    spacing: 12
+    Accessible.role: Accessible.StaticText
+    Accessible.name: key + ": " + label
+
+    Rectangle {
+        Layout.preferredWidth: 120
+        implicitHeight: 26
+        radius: 6
+        color: Qt.rgba(1, 1, 1, 0.09)
+        border.color: Qt.rgba(1, 1, 1, 0.12)
+
+        TourText {
+            anchors.centerIn: parent
+            text: root.key
+            color: TourStyle.text
+            font.pixelSize: 12
+            font.weight: Font.Medium
+            lineHeight: 1
+            Accessible.ignored: true
+        }
+    }
+    TourText {
+        Layout.fillWidth: true
+        text: root.label
+        lineHeight: 1
+        Accessible.ignored: true
+    }
+}

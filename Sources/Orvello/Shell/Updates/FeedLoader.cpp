@@ -1,0 +1,92 @@
+#include "Orvello/Shell/Updates/FeedLoader.h"
+
+#include <QHostAddress>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int maximumRedirects = 5;
+
+/// Replies may be in the middle of a signal when they are no longer wanted.
+void dispose(QNetworkReply* reply)
+{
+    reply->disconnect();
+    reply->abort();
+    reply->manager()->deleteLater();
+}
+
+bool isThisMachine(const QString& host)
+{
+    return host == u"localhost" || QHostAddress(host).isLoopback();
+}
+
+} // namespace
+
+FeedLoader::FeedLoader(TimeSource& time)
+    : m_time(time)
+    , m_reply(nullptr, &dispose)
+{
+}
+
+FeedLoader::~FeedLoader() = default;
+
+bool FeedLoader::isSecure(const QUrl& url)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    return url.scheme() == u"https" || (url.scheme() == u"http" && isThisMachine(url.host()));
+}
+
+void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
+{
+    m_answer = std::move(answer);
+    QNetworkRequest request(url);
+    request.setMaximumRedirectsAllowed(maximumRedirects);
+    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
+    // Compression would only let a small answer become a huge document.
+    request.setRawHeader("Accept-Encoding", "identity");
+
+    // A network of its own, so that no cookie and no dead connection outlives the document. Its
+    // redirects never lead from TLS to anything else.
+    m_reply.reset((new QNetworkAccessManager(this))->get(request));
+    connect(m_reply.get(), &QNetworkReply::redirected, this, [this](const QUrl& target) {
+        if (!isSecure(target))
+            this->answer(Failure { u"The server redirects to an insecure address."_s });
+    });
+    connect(m_reply.get(), &QNetworkReply::readyRead, this, [this] {
+        if (m_reply->bytesAvailable() > maximumBytes)
+            this->answer(Failure { u"The document is too large."_s });
+    });
+    connect(m_reply.get(), &QNetworkReply::finished, this, [this] { this->answer(document()); });
+    m_timeout = m_time.callAfter(timeoutSeconds,
+        [this] { this->answer(Failure { u"The server did not answer in time."_s }); });
+}
+
+Result<QByteArray, QString> FeedLoader::document() const
+{
+    constexpr int ok = 200;
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (m_reply->error() != QNetworkReply::NoError)
+        return Failure { m_reply->errorString() };
+    if (status != ok)
+        return Failure { u"The server answers with status %1."_s.arg(status) };
+    return m_reply->readAll();
+}
+
+void FeedLoader::answer(const Result<QByteArray, QString>& result)
+{
+    m_timeout.reset();
+    m_reply.reset();
+    if (const Answer answer = std::exchange(m_answer, nullptr))
+        answer(result);
+}
+
+} // namespace Orvello

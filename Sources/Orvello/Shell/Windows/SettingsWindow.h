@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Orvello/Settings/Window/SettingsForm.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+
+#include <QCoreApplication>
+#include <QQuickView>
+
+namespace Orvello {
+
+class SettingsStore;
+class UpdateController;
+class VoiceActivityEngine;
+
+/// The window of the preferences. Closing it hides it.
+class SettingsWindow final : public ShellWindow {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
+
+public:
+    static constexpr QSize contentSize { 500, 780 }; ///< In points, where the screen has the room.
+
+    /// All of them must outlive the window.
+    struct Services {
+        SettingsStore& settings;
+        VoiceActivityEngine& voice;
+        UpdateController& updates;
+        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
+    };
+
+    explicit SettingsWindow(const Services& services);
+
+    void makeKeyAndOrderFront() override;
+
+    QQuickView& view() { return m_view; }
+
+private:
+    SettingsForm m_form;
+    QQuickView m_view;
+};
+
+} // namespace Orvello
