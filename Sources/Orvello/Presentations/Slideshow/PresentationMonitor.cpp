@@ -60,7 +60,6 @@ void PresentationMonitor::poll()
 void PresentationMonitor::pollPresentingApp()
 {
     const std::optional<QString> app = detectPresentingApp();
-    const bool isOther = app != m_presentingApp;
     const bool isTransition = app.has_value() != m_isPresenting;
     m_presentingApp = app;
     m_isPresenting = app.has_value();
@@ -70,8 +69,6 @@ void PresentationMonitor::pollPresentingApp()
             "Orvello PRESENTING=%d app=%@", app ? 1 : 0, app ? *app : QStringLiteral("-"));
         Q_EMIT isPresentingChanged();
     }
-    if (isOther)
-        Q_EMIT presentingAppChanged();
 }
 
 void PresentationMonitor::pollMeetingApps()

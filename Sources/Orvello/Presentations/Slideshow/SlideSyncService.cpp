@@ -6,7 +6,6 @@
 
 #include <QPointer>
 
-
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -52,7 +51,7 @@ void SlideSyncService::setActive(bool on)
         m_isInFlight = false;
         setState(State::Idle);
         setLiveSlide(std::nullopt);
-        setApp(nullptr);
+        m_app = nullptr;
     }
     AppLog::write("Orvello SYNC active=%d", on ? 1 : 0);
 }
@@ -71,7 +70,7 @@ void SlideSyncService::tick()
 void SlideSyncService::follow(const PresenterApp& app)
 {
     if (m_app != &app) {
-        setApp(&app);
+        m_app = &app;
         if (m_state == State::Denied)
             setState(State::Manual); // Another application gets a fresh chance.
         AppLog::write("Orvello SYNC following %@", app.logName);
@@ -85,7 +84,7 @@ void SlideSyncService::follow(const PresenterApp& app)
 void SlideSyncService::standBy()
 {
     setLiveSlide(std::nullopt);
-    setApp(nullptr);
+    m_app = nullptr;
     if (m_state == State::Live)
         setState(State::Manual);
 }
@@ -132,14 +131,6 @@ void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
         return;
     m_liveSlide = slide;
     Q_EMIT liveSlideChanged();
-}
-
-void SlideSyncService::setApp(const PresenterApp* app)
-{
-    if (app == m_app)
-        return;
-    m_app = app;
-    Q_EMIT appChanged();
 }
 
 } // namespace Orvello

@@ -67,7 +67,6 @@ void PrompterPanelController::applyStealthMode(bool on)
 {
     const bool wasVisibleInRecordings = isVisibleInRecordings();
     const bool effective = on && !m_forceCapturable;
-    const bool isChange = effective != m_stealthOn;
     m_wantsStealth = on;
     m_stealthOn = effective;
     const QString mode = stealthMechanisms();
@@ -87,8 +86,6 @@ void PrompterPanelController::applyStealthMode(bool on)
         + (applied ? u"1"_s : u"0"_s));
     AppLog::write("Orvello STEALTH %@ wid=%ld fresh=%d mode=%@ sckExcludeApplied=%d",
         onOrOff(effective), wid, static_cast<int>(fresh), mode, static_cast<int>(applied));
-    if (isChange)
-        Q_EMIT stealthOnChanged();
     if (isVisibleInRecordings() != wasVisibleInRecordings)
         Q_EMIT visibleInRecordingsChanged();
 }

@@ -60,9 +60,6 @@ AppDelegate::AppDelegate(
           [&platform] { platform.desktopServices().activateApplication(); } })
     , m_hotKeys(platform.hotKeys())
 {
-    SettingsStore::adoptShared(m_settings);
-    LibraryStore::adoptShared(m_library);
-    HotKeyCenter::adoptShared(m_hotKeys);
     addPresenters();
 }
 
@@ -94,9 +91,9 @@ void AppDelegate::applicationDidFinishLaunching()
     m_presentation.start();
     followSlideTracking();
     importDeckFromEnvironment();
-    m_plainPKey = std::make_unique<PlainPKey>(
-        PlainPKey::Services { HotKeyCenter::shared(), m_settings, m_presentation },
-        [this] { m_engine().toggle(); });
+    m_plainPKey
+        = std::make_unique<PlainPKey>(PlainPKey::Services { m_hotKeys, m_settings, m_presentation },
+            [this] { m_engine().toggle(); });
     if (m_options.autostart)
         m_engine().start();
     handle(std::exchange(m_pendingURLs, {}));
@@ -222,14 +219,13 @@ void AppDelegate::setupStatusItem()
 void AppDelegate::registerHotKeys()
 {
     constexpr std::uint32_t modifiers = HotKey::commandKey | HotKey::optionKey;
-    HotKeyCenter& center = HotKeyCenter::shared();
-    center.registerHotKey(HotKey::keyP, modifiers, [this] { m_engine().toggle(); });
-    center.registerHotKey(HotKey::keyUp, modifiers,
+    m_hotKeys.registerHotKey(HotKey::keyP, modifiers, [this] { m_engine().toggle(); });
+    m_hotKeys.registerHotKey(HotKey::keyUp, modifiers,
         [this] { m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed)); });
-    center.registerHotKey(HotKey::keyDown, modifiers,
+    m_hotKeys.registerHotKey(HotKey::keyDown, modifiers,
         [this] { m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed)); });
-    center.registerHotKey(HotKey::keyR, modifiers, [this] { m_engine().setOffset(0); });
-    center.registerHotKey(HotKey::keyH, modifiers, [this] { togglePanel(); });
+    m_hotKeys.registerHotKey(HotKey::keyR, modifiers, [this] { m_engine().setOffset(0); });
+    m_hotKeys.registerHotKey(HotKey::keyH, modifiers, [this] { togglePanel(); });
 }
 
 void AppDelegate::startUpdates()

@@ -1,5 +1,7 @@
 #include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
 
+#include "Orvello/Foundation/DefaultsValue.h"
+
 #include "Tests/Support/FileObstacles.h"
 
 #include <QDir>
