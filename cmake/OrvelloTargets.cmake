@@ -113,11 +113,11 @@ add_custom_target(thread-tests)
 # What `make bench` builds, and nothing else does.
 add_custom_target(benchmarks)
 
-# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text] [ENVIRONMENT name=value]): one GoogleTest
-# program, its tests found by CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform
-# and makes the application object.
+# orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [ENVIRONMENT name=value]): one GoogleTest program, which is one
+# test of CTest's: a process for each of its cases would spend most of the time on starting. The shared main chooses the
+# offscreen Qt platform and makes the application object. Single cases: run the program with --gtest_filter.
 function(orvello_add_test name)
-    cmake_parse_arguments(ARG "" "PREFIX;ENVIRONMENT" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "" "ENVIRONMENT" "SOURCES;DEPENDS;LABELS" ${ARGN})
     if(NOT ARG_LABELS)
         set(ARG_LABELS unit)
     endif()
@@ -127,11 +127,8 @@ function(orvello_add_test name)
     endif()
     add_executable(${name} ${ARG_SOURCES})
     orvello_use(${name} OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS})
-    gtest_discover_tests(
-        ${name}
-        TEST_PREFIX "${ARG_PREFIX}"
-        DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 120 ${environment})
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT 600 ${environment})
     if(ARG_LABELS MATCHES "unit")
         add_dependencies(unit-tests ${name})
     endif()

@@ -25,7 +25,7 @@ public:
             workspace.installed.append(u"us.zoom.xos"_s);
         qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
         controller.emplace(OnboardingWindowController::Services { settings, workspace, chrome,
-                               canExcludeFromCapture(edition) },
+                               assignedKeys, canExcludeFromCapture(edition) },
             [] {});
         qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
@@ -37,6 +37,7 @@ public:
     SettingsStore settings { defaults };
     Testing::FakeWorkspace workspace;
     Testing::FakeWindowChrome chrome;
+    AssignedKeys assignedKeys;
     std::optional<OnboardingWindowController> controller;
 
 private:

@@ -46,8 +46,8 @@ public:
     {
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(
-            SettingsWindow::Services { settings, voice, updates, canExcludeFromCapture(edition) });
+        settingsWindow.emplace(SettingsWindow::Services {
+            settings, voice, updates, assignedKeys, canExcludeFromCapture(edition) });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -88,6 +88,7 @@ public:
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
+    AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;
 
 private:

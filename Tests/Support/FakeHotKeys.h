@@ -37,6 +37,13 @@ public:
         return std::make_unique<FakeReference>(*this, id.id);
     }
 
+    std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
+        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override
+    {
+        purposes.push_back(purpose);
+        return registerHotKey(keyCode, modifiers, id);
+    }
+
     /// Presses a key; does nothing if it is not registered.
     void press(std::uint32_t keyCode, std::uint32_t modifiers)
     {
@@ -56,6 +63,7 @@ public:
         Key key;
     };
     std::vector<Registration> registrations; ///< Every attempt, in order.
+    std::vector<HotKeyPurpose> purposes; ///< Of those attempts that named one.
     std::map<std::uint32_t, Key> registered; ///< What holds now, by id.
     int installations = 0;
     bool isOwnedByAnother = false;

@@ -39,8 +39,9 @@ public:
 /// The only process.
 class FakeRunningInstance final : public RunningInstance {
 public:
-    Claim claim(const QStringList&) override { return Claim::Granted; }
+    Outcome claim(const ProgramStart&) override { return {}; }
     void listen(Handlers newHandlers) override { handlers = std::move(newHandlers); }
+    void release() override { }
 
     Handlers handlers;
 };

@@ -37,7 +37,8 @@ protected:
                 m_library = &services.library;
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::fromArguments(arguments));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+        platform.journal.clear();
     }
 
     void launch(const QStringList& arguments = {})

@@ -116,7 +116,7 @@ TEST_F(StatusMenuTest, offersToPauseWhileTheTextScrolls)
 
 TEST_F(StatusMenuTest, offersToHideAVisiblePrompter)
 {
-    panel.orderFrontRegardless();
+    panel.show();
 
     menu.needsUpdate();
 
@@ -142,7 +142,7 @@ TEST_F(StatusMenuTest, checksTheModesThatAreOn)
 TEST_F(StatusMenuTest, keepsWhatItSaysUntilItOpensAgain)
 {
     settings.setVoiceFollow(true);
-    panel.orderFrontRegardless();
+    panel.show();
 
     EXPECT_FALSE(item(4).isChecked);
     EXPECT_EQ(item(7).title, u"Show Prompter  (⌥⌘H)");

@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/OnboardingWindowController.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeUserDefaults.h"
@@ -28,7 +29,8 @@ protected:
     void open()
     {
         controller = std::make_unique<OnboardingWindowController>(
-            OnboardingWindowController::Services { settings, workspace, chrome, true },
+            OnboardingWindowController::Services {
+                settings, workspace, chrome, assignedKeys, true },
             [this] { ++finishes; });
         controller->makeKeyAndOrderFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
@@ -63,6 +65,7 @@ protected:
     SettingsStore settings { defaults };
     FakeWorkspace workspace;
     FakeWindowChrome chrome;
+    AssignedKeys assignedKeys;
     int finishes = 0;
     std::unique_ptr<OnboardingWindowController> controller;
 };
@@ -150,6 +153,17 @@ TEST_F(OnboardingWindowTest, saysEverythingOnTheLastPage)
         EXPECT_TRUE(showsText(view(), QString::fromUtf16(text)))
             << QString::fromUtf16(text).toStdString();
     EXPECT_FALSE(showsText(view(), u"Continue"_s));
+}
+
+TEST_F(OnboardingWindowTest, showsTheKeysAsTheDesktopNamesThem)
+{
+    assignedKeys.setTriggers({ { u"hide"_s, u"Press <Super><Alt>h"_s } });
+
+    openOn("2");
+
+    EXPECT_TRUE(showsText(view(), u"Press <Super><Alt>h"_s));
+    EXPECT_FALSE(showsText(view(), u"⌥⌘H"_s));
+    EXPECT_TRUE(showsText(view(), u"⌥⌘P"_s)) << "which the desktop leaves to the program";
 }
 
 TEST_F(OnboardingWindowTest, speaksOfZoomOnlyToThoseWhoHaveIt)
@@ -288,7 +302,7 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 {
     qint64 seen = -1;
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, true },
+        OnboardingWindowController::Services { settings, workspace, chrome, assignedKeys, true },
         [&] { seen = settings.onboardingSeenVersion(); });
     controller->makeKeyAndOrderFront();
 
@@ -301,7 +315,8 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
 {
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, true }, [this] {
+        OnboardingWindowController::Services { settings, workspace, chrome, assignedKeys, true },
+        [this] {
             ++finishes;
             controller.reset();
         });

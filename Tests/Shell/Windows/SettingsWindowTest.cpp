@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/ViewItems.h"
@@ -7,6 +8,7 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -52,8 +54,8 @@ protected:
     void open(bool canExcludeFromCapture = true)
     {
         window.reset();
-        window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, updates, canExcludeFromCapture });
+        window = std::make_unique<SettingsWindow>(SettingsWindow::Services {
+            settings, *engine, updates, assignedKeys, canExcludeFromCapture });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -107,6 +109,7 @@ protected:
 
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
+    AssignedKeys assignedKeys;
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -464,6 +467,30 @@ TEST_F(SettingsWindowTest, explainsEachSetting)
             << QString::fromUtf16(text).toStdString();
 }
 
+TEST_F(SettingsWindowTest, showsTheKeysAsTheDesktopNamesThem)
+{
+    assignedKeys.setTriggers({ { u"toggle"_s, u"Press <Ctrl><Alt>space"_s },
+        { u"faster"_s, u"Meta+Up"_s }, { u"slower"_s, u"Meta+Down"_s } });
+
+    EXPECT_TRUE(showsText(view(), u"Press <Ctrl><Alt>space"_s));
+    EXPECT_FALSE(showsText(view(), u"⌥⌘P"_s));
+    EXPECT_TRUE(showsText(view(), u"Meta+Up  /  Meta+Down"_s));
+    EXPECT_TRUE(showsText(view(), u"⌥⌘H"_s)) << "which the desktop leaves to the program";
+}
+
+TEST_F(SettingsWindowTest, opensTheDesktopsOwnWindowForTheKeysWhereThereIsOne)
+{
+    const QSignalSpy requests(&assignedKeys, &AssignedKeys::configurationRequested);
+    EXPECT_EQ(controlNamed(view(), u"Change Shortcuts…"_s), nullptr);
+
+    assignedKeys.setCanConfigure(true);
+    drainEvents();
+    QTest::qWait(50); // The row finds its place.
+    click(view(), control(u"Change Shortcuts…"_s));
+
+    EXPECT_EQ(requests.count(), 1);
+}
+
 TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
 {
     const QString warning
@@ -511,7 +538,7 @@ TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)
 
     click(view(), toggle);
     EXPECT_TRUE(updater.isAutomatic);
-    updater.setAutomaticallyChecksForUpdates(false);
+    updater.setOn(false);
     drainEvents();
     EXPECT_FALSE(toggle.property("checked").toBool());
 }

@@ -73,6 +73,12 @@ private:
 
 } // namespace
 
+bool PosixProcessSignals::isIgnored(int signal) const
+{
+    struct sigaction action { };
+    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
 std::unique_ptr<ProcessSignals::Subscription> PosixProcessSignals::handle(
     int signal, std::function<void()> handler)
 {

@@ -1,5 +1,6 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>

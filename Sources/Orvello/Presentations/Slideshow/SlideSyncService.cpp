@@ -1,6 +1,7 @@
 #include "Orvello/Presentations/Slideshow/SlideSyncService.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
@@ -40,9 +41,8 @@ SlideSyncService::~SlideSyncService() = default;
 
 void SlideSyncService::setActive(bool on)
 {
-    if (on == m_isActive)
+    if (!assign(m_isActive, on))
         return;
-    m_isActive = on;
     if (on) {
         setState(State::Manual);
         m_timer = m_time.callEvery(pollSeconds, [this] { tick(); });
@@ -119,17 +119,15 @@ void SlideSyncService::complete(const PresenterApp& app, const ScriptResult& res
 
 void SlideSyncService::setState(State state)
 {
-    if (state == m_state)
+    if (!assign(m_state, state))
         return;
-    m_state = state;
     Q_EMIT stateChanged();
 }
 
 void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
 {
-    if (slide == m_liveSlide)
+    if (!assign(m_liveSlide, slide))
         return;
-    m_liveSlide = slide;
     Q_EMIT liveSlideChanged();
 }
 

@@ -1,10 +1,10 @@
 #include "Orvello/Prompting/View/PrompterStatus.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Prompting/View/SignalColors.h"
+#include "Orvello/Prompting/View/CardStyle.h"
 
 #include <array>
-#include <utility>
 
 namespace Orvello {
 
@@ -34,14 +34,20 @@ QStringList PrompterStatus::labels()
     return labels;
 }
 
+void PrompterStatus::setVisibleInRecordings(bool isVisible)
+{
+    if (assign(m_isVisibleInRecordings, isVisible))
+        Q_EMIT visibleInRecordingsChanged();
+}
+
 const PrompterStatus::Appearance& PrompterStatus::appearance(State state)
 {
     static const std::array<Appearance, 5> appearances { {
-        { u"get ready"_s, SignalColors::yellow },
-        { u"hover pause"_s, SignalColors::orange },
-        { u"paused"_s, SignalColors::orange },
-        { u"listening…"_s, SignalColors::yellow },
-        { u"scrolling"_s, SignalColors::green },
+        { u"get ready"_s, CardStyle::yellow },
+        { u"hover pause"_s, CardStyle::orange },
+        { u"paused"_s, CardStyle::orange },
+        { u"listening…"_s, CardStyle::yellow },
+        { u"scrolling"_s, CardStyle::green },
     } };
     return appearances[static_cast<std::size_t>(state)];
 }
@@ -62,7 +68,7 @@ PrompterStatus::State PrompterStatus::stateOfEngine() const
 void PrompterStatus::update()
 {
     const State state = stateOfEngine();
-    if (std::exchange(m_state, state) != state)
+    if (assign(m_state, state))
         Q_EMIT changed();
 }
 

@@ -1,7 +1,7 @@
 #include "Orvello/Prompting/View/SlideStatus.h"
 
 #include "Orvello/Presentations/Slideshow/DeckController.h"
-#include "Orvello/Prompting/View/SignalColors.h"
+#include "Orvello/Prompting/View/CardStyle.h"
 
 namespace Orvello {
 
@@ -16,13 +16,13 @@ struct Appearance {
 
 const Appearance& live()
 {
-    static const Appearance appearance { u"Live"_s, SignalColors::green };
+    static const Appearance appearance { u"Live"_s, CardStyle::green };
     return appearance;
 }
 
 const Appearance& noAccess()
 {
-    static const Appearance appearance { u"No access"_s, SignalColors::red };
+    static const Appearance appearance { u"No access"_s, CardStyle::red };
     return appearance;
 }
 

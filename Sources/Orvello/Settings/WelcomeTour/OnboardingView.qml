@@ -8,6 +8,7 @@ Rectangle {
     id: root
 
     required property WelcomeTour tour
+    required property AssignedKeys assignedKeys
     required property string headingFamily
     required property bool canExcludeFromCapture // Whether Stealth Mode has an effect here.
     required property bool hasCloseButton // Where the system draws none above the content.
@@ -68,6 +69,7 @@ Rectangle {
         }
         TourSetupPage {
             current: root.tour.page
+            assignedKeys: root.assignedKeys
             headingFamily: root.headingFamily
         }
     }

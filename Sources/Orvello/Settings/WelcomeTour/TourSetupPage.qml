@@ -1,11 +1,15 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
+import Orvello
 
 TourPage {
     id: root
 
     required property string headingFamily
+    required property AssignedKeys assignedKeys
+
+    readonly property var triggers: assignedKeys.triggers // By what the key does.
 
     number: 2
     columnWidth: 600
@@ -39,19 +43,19 @@ TourPage {
             title: qsTr("Shortcuts")
 
             TourKeyRow {
-                key: qsTr("⌥⌘P")
+                key: root.triggers.toggle ?? qsTr("⌥⌘P")
                 label: qsTr("Start / pause")
             }
             TourKeyRow {
-                key: qsTr("⌥⌘↑ ↓")
+                key: root.triggers.faster && root.triggers.slower ? root.triggers.faster + "  /  " + root.triggers.slower : qsTr("⌥⌘↑ ↓")
                 label: qsTr("Speed")
             }
             TourKeyRow {
-                key: qsTr("⌥⌘R")
+                key: root.triggers.restart ?? qsTr("⌥⌘R")
                 label: qsTr("Back to top")
             }
             TourKeyRow {
-                key: qsTr("⌥⌘H")
+                key: root.triggers.hide ?? qsTr("⌥⌘H")
                 label: qsTr("Show / hide")
             }
             TourKeyRow {

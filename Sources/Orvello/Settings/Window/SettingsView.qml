@@ -13,6 +13,7 @@ Pane {
     required property SettingsForm form
     required property VoiceActivityEngine voice
     required property UpdateController updates
+    required property AssignedKeys assignedKeys
     required property string version
     required property bool canExcludeFromCapture
 
@@ -79,7 +80,9 @@ Pane {
                 settings: root.settings
                 canExcludeFromCapture: root.canExcludeFromCapture
             }
-            ShortcutSettings {}
+            ShortcutSettings {
+                assignedKeys: root.assignedKeys
+            }
             UpdateSettings {
                 updates: root.updates
                 version: root.version

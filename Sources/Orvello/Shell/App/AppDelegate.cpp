@@ -2,9 +2,12 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Observe.h"
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
+#include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/Platform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
@@ -23,6 +26,8 @@
 #include <utility>
 
 namespace Orvello {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -61,6 +66,7 @@ AppDelegate::AppDelegate(
     , m_hotKeys(platform.hotKeys())
 {
     addPresenters();
+    quitAtSignals();
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -90,17 +96,17 @@ void AppDelegate::applicationDidFinishLaunching()
     subscribe();
     m_presentation.start();
     followSlideTracking();
-    importDeckFromEnvironment();
+    importDecks();
     m_plainPKey
         = std::make_unique<PlainPKey>(PlainPKey::Services { m_hotKeys, m_settings, m_presentation },
             [this] { m_engine().toggle(); });
-    if (m_options.autostart)
-        m_engine().start();
+    scroll(m_options);
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
+    openWindows(m_options);
     m_hasLaunched = true;
-    for (const LaunchOptions& options : std::exchange(m_earlyStarts, {}))
-        follow(options);
+    for (const EarlyStart& start : std::exchange(m_earlyStarts, {}))
+        follow(start.options, start.answer);
 }
 
 void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
@@ -119,27 +125,79 @@ void AppDelegate::handle(const QList<QUrl>& urls)
         AppLog::write("Orvello URL ignored: %@", url.toString(QUrl::FullyEncoded));
 }
 
-void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
+void AppDelegate::applicationStartedAgain(
+    const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
     applicationOpen(options.urls);
     if (!m_hasLaunched)
-        m_earlyStarts.push_back(options);
-    else if (options.asksRunningProgram())
-        follow(options);
-    else
+        m_earlyStarts.push_back({ options, answer });
+    else if (!follow(options, answer) && options.urls.isEmpty())
         m_statusItem->openMenu();
 }
 
-void AppDelegate::follow(const LaunchOptions& options)
+/// Whether there was anything that this process can do, which addresses are not.
+bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
+    QStringList decks = options.files;
+    if (!options.importedPath.isEmpty())
+        decks.prepend(options.importedPath);
+    QStringList refusals;
+    for (const QString& deck : decks) {
+        if (const auto problem = importDeck(deck))
+            refusals.append(deck + u": "_s + *problem);
+    }
+    const bool hasDecks = refusals.isEmpty();
+    // Before anything that may keep the user, and with it the other process, waiting.
+    answer(options.mistakes + refusals + comesTooLate(options));
+
     if (options.onboarding)
         showOnboarding();
     if (options.checkUpdates)
         m_updates.checkForUpdates();
     if (options.voice)
         m_settings.setVoiceFollow(true);
+    if (hasDecks)
+        scroll(options);
+    openWindows(options);
+    return !decks.isEmpty() || options.onboarding || options.checkUpdates || options.voice
+        || options.autostart || options.toggle || options.scripts || options.settings;
+}
+
+/// What would have to be different from the launch on.
+QStringList AppDelegate::comesTooLate(const LaunchOptions& options) const
+{
+    const QString text = tr("%1 counts only at the launch: quit the Orvello that runs first");
+    QStringList refusals;
+    if (options.noStealth && !m_options.noStealth)
+        refusals.append(text.arg(u"--no-stealth"_s));
+    for (auto pair = options.preferences.begin(); pair != options.preferences.end(); ++pair) {
+        const QVariant current = m_platform.userDefaults().value(pair.key());
+        if (current.toString() != pair.value().toString())
+            refusals.append(text.arg(u'-' + pair.key() + u' ' + pair.value().toString()));
+    }
+    for (auto variable = options.environment.begin(); variable != options.environment.end();
+         ++variable) {
+        const bool isImport = variable.key() == u"ORVELLO_IMPORT_PPTX"_s;
+        if (!isImport && variable.value() != m_options.environment.value(variable.key()))
+            refusals.append(text.arg(variable.key()));
+    }
+    return refusals;
+}
+
+void AppDelegate::scroll(const LaunchOptions& options)
+{
     if (options.autostart)
         m_engine().start();
+    if (options.toggle)
+        m_engine().toggle();
+}
+
+void AppDelegate::openWindows(const LaunchOptions& options)
+{
+    if (options.scripts)
+        m_commands->openLibrary();
+    if (options.settings)
+        m_commands->openSettings();
 }
 
 void AppDelegate::makePanel()
@@ -160,7 +218,8 @@ void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
         m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
-        m_platform.statusBar(), m_panel->canExcludeFromCapture() });
+        m_platform.statusBar(), m_platform.hotKeys().assignedKeys(),
+        m_panel->captureHiding().isPossible() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
             *m_windows, m_platform.operatingSystemVersion() },
@@ -177,14 +236,14 @@ void AppDelegate::showFirstWindow()
 
 void AppDelegate::showPanel()
 {
-    m_panelController->panel().orderFrontRegardless();
+    m_panelController->panel().show();
     m_panelController->reassertStealth();
 }
 
 void AppDelegate::togglePanel()
 {
     if (m_panelController->panel().isVisible())
-        m_panelController->panel().orderOut();
+        m_panelController->panel().hide();
     else
         showPanel();
 }
@@ -218,14 +277,30 @@ void AppDelegate::setupStatusItem()
 
 void AppDelegate::registerHotKeys()
 {
-    constexpr std::uint32_t modifiers = HotKey::commandKey | HotKey::optionKey;
-    m_hotKeys.registerHotKey(HotKey::keyP, modifiers, [this] { m_engine().toggle(); });
-    m_hotKeys.registerHotKey(HotKey::keyUp, modifiers,
-        [this] { m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed)); });
-    m_hotKeys.registerHotKey(HotKey::keyDown, modifiers,
-        [this] { m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed)); });
-    m_hotKeys.registerHotKey(HotKey::keyR, modifiers, [this] { m_engine().setOffset(0); });
-    m_hotKeys.registerHotKey(HotKey::keyH, modifiers, [this] { togglePanel(); });
+    for (const HotKeyTable::Entry& key : HotKeyTable::entries())
+        m_hotKeys.registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
+            [this, command = key.command] { run(command); });
+}
+
+void AppDelegate::run(HotKeyTable::Command command)
+{
+    switch (command) {
+    case HotKeyTable::Command::Toggle:
+        m_engine().toggle();
+        break;
+    case HotKeyTable::Command::Faster:
+        m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed));
+        break;
+    case HotKeyTable::Command::Slower:
+        m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed));
+        break;
+    case HotKeyTable::Command::Restart:
+        m_engine().setOffset(0);
+        break;
+    case HotKeyTable::Command::Hide:
+        togglePanel();
+        break;
+    }
 }
 
 void AppDelegate::startUpdates()
@@ -268,15 +343,34 @@ void AppDelegate::followSlideTracking()
         changeOf(m_library, &LibraryStore::scriptsChanged));
 }
 
-void AppDelegate::importDeckFromEnvironment()
+void AppDelegate::importDecks()
 {
-    constexpr const char* variable = "ORVELLO_IMPORT_PPTX";
-    if (!qEnvironmentVariableIsSet(variable))
-        return;
-    const auto imported = m_library.importPptx(qEnvironmentVariable(variable));
-    if (!imported)
-        AppLog::write(
-            "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));
+    if (!m_options.importedPath.isEmpty())
+        importDeck(m_options.importedPath);
+    for (const QString& file : m_options.files)
+        importDeck(file);
+}
+
+/// Returns what kept it from being imported, in words for the user.
+std::optional<QString> AppDelegate::importDeck(const QString& path)
+{
+    const auto imported = m_library.importPptx(path);
+    if (imported)
+        return std::nullopt;
+    const QString problem = PptxImporter::description(imported.error());
+    AppLog::write("Orvello IMPORT_PPTX failed: %@", problem);
+    return problem;
+}
+
+/// A kill, Ctrl-C or the end of the terminal is an ordinary quit: the session ends cleanly and
+/// leaves no marker. Not where the parent has it ignored, as nohup does.
+void AppDelegate::quitAtSignals()
+{
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP }) {
+        if (!m_platform.processSignals().isIgnored(signal))
+            m_signals.push_back(
+                m_platform.processSignals().handle(signal, [] { QCoreApplication::exit(); }));
+    }
 }
 
 void AppDelegate::installSignalHandlers()
@@ -288,10 +382,6 @@ void AppDelegate::installSignalHandlers()
             "Orvello DEBUG stealth toggled -> %d", static_cast<int>(m_settings.stealthMode()));
     }));
     m_signals.push_back(processSignals.handle(SIGUSR2, [this] { togglePanel(); }));
-
-    // A kill or Ctrl-C is an ordinary quit: the session ends cleanly and leaves no marker.
-    for (const int signal : { SIGTERM, SIGINT })
-        m_signals.push_back(processSignals.handle(signal, [this] { m_commands->terminate(); }));
 }
 
 } // namespace Orvello

@@ -2,6 +2,7 @@
 
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Platform/Early/ProcessSignals.h"
+#include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Presentations/Presenters/AppleScriptRunner.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 #include "Orvello/Presentations/Slideshow/DeckController.h"
@@ -13,6 +14,7 @@
 #include "Orvello/Shell/App/Lazy.h"
 #include "Orvello/Shell/Commands/AppCommands.h"
 #include "Orvello/Shell/Commands/HotKeyCenter.h"
+#include "Orvello/Shell/Commands/HotKeyTable.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
 #include "Orvello/Shell/Commands/StatusMenu.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
@@ -24,6 +26,7 @@
 #include <QUrl>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Orvello {
@@ -56,9 +59,10 @@ public:
     void applicationOpen(const QList<QUrl>& urls);
 
     /// The user has started the program once more, while it runs. Does what that start asks for, at
-    /// the end of the launch at the earliest. A start that asks for nothing opens the menu, unless
-    /// the launch is about to show what there is to see.
-    void applicationStartedAgain(const LaunchOptions& options);
+    /// the end of the launch at the earliest, and answers what it could not do. A start that asks
+    /// for nothing opens the menu, unless the launch is about to show what there is to see.
+    void applicationStartedAgain(
+        const LaunchOptions& options, const RunningInstance::Answer& answer);
 
     /// Opens the welcome tour, or brings it to the front.
     void showOnboarding();
@@ -75,12 +79,18 @@ private:
     void onboardingFinished();
     void setupStatusItem();
     void registerHotKeys();
+    void run(HotKeyTable::Command command);
     void startUpdates();
     void subscribe();
     void followSlideTracking();
-    void importDeckFromEnvironment();
-    void follow(const LaunchOptions& options);
+    void importDecks();
+    std::optional<QString> importDeck(const QString& path);
+    void openWindows(const LaunchOptions& options);
+    void scroll(const LaunchOptions& options);
+    bool follow(const LaunchOptions& options, const RunningInstance::Answer& answer);
+    QStringList comesTooLate(const LaunchOptions& options) const;
     static void handle(const QList<QUrl>& urls);
+    void quitAtSignals();
     void installSignalHandlers();
 
     // In this order: what is made later uses what was made before.
@@ -115,7 +125,11 @@ private:
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
     QList<QUrl> m_pendingURLs;
     bool m_hasLaunched = false;
-    std::vector<LaunchOptions> m_earlyStarts; ///< Of before the end of the launch.
+    struct EarlyStart {
+        LaunchOptions options;
+        RunningInstance::Answer answer;
+    };
+    std::vector<EarlyStart> m_earlyStarts; ///< Those before the end of the launch.
 };
 
 } // namespace Orvello

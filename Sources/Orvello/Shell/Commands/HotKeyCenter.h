@@ -28,9 +28,16 @@ public:
     /// Ids are never used twice; running out of them ends the process.
     std::uint32_t registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers, Action action);
 
+    /// The same for a key that the desktop may list and assign by its purpose.
+    std::uint32_t registerHotKeyFor(const HotKeyPurpose& purpose, std::uint32_t keyCode,
+        std::uint32_t modifiers, Action action);
+
     void unregister(std::uint32_t id); ///< An unknown id is ignored.
 
 private:
+    using Registration = std::function<std::unique_ptr<HotKeys::Reference>(HotKeyID)>;
+
+    std::uint32_t add(Action action, const Registration& registration);
     void pressed(HotKeyID key) const;
 
     HotKeys& m_system;

@@ -6,6 +6,7 @@
 namespace Orvello {
 
 class AppleScriptRunner;
+class AssignedKeys;
 class LibraryStore;
 class Menu;
 class OpenPanel;
@@ -43,6 +44,7 @@ public:
         OpenPanel& openPanel;
         WindowChrome& windowChrome;
         StatusBar& statusBar;
+        AssignedKeys& assignedKeys;
         bool canExcludeFromCapture; ///< Whether Stealth Mode can hide the prompter here.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;

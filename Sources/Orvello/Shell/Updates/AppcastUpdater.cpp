@@ -30,7 +30,7 @@ AppcastUpdater::AppcastUpdater(const Services& services, QString version, QStrin
 {
 }
 
-void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
+void AppcastUpdater::start(UpdaterDelegate& delegate)
 {
     m_delegate = &delegate;
     announceChecks();
@@ -38,7 +38,7 @@ void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
     // user who asks for a check before that is not asked whether to check.
     m_nextCheck = m_services.time.callAfter(0, [this] {
         askPermissionOnce();
-        schedule();
+        scheduleNextCheck();
     });
 }
 
@@ -56,35 +56,35 @@ void AppcastUpdater::askPermissionOnce()
     m_services.user.askPermission([this](bool isAllowed) {
         // The settings window may have answered meanwhile.
         if (!m_services.defaults.value(automaticKey).isValid())
-            setAutomaticallyChecksForUpdates(isAllowed);
+            setOn(isAllowed);
     });
 }
 
-bool AppcastUpdater::automaticallyChecksForUpdates() const
+bool AppcastUpdater::isOn() const
 {
     return DefaultsValue::asBoolean(m_services.defaults.value(automaticKey)).value_or(false);
 }
 
-void AppcastUpdater::setAutomaticallyChecksForUpdates(bool on)
+void AppcastUpdater::setOn(bool on)
 {
-    const bool isChange = automaticallyChecksForUpdates() != on;
+    const bool isChange = isOn() != on;
     m_services.defaults.setValue(automaticKey, on);
     if (!isChange)
         return;
     for (const auto& changed : m_observers)
         changed();
     // Whoever switches has logged that first by then.
-    m_nextCheck = m_services.time.callAfter(0, [this] { schedule(); });
+    m_nextCheck = m_services.time.callAfter(0, [this] { scheduleNextCheck(); });
 }
 
-void AppcastUpdater::observeAutomaticChecks(std::function<void()> changed)
+void AppcastUpdater::observe(std::function<void()> changed)
 {
     m_observers.push_back(std::move(changed));
 }
 
-bool AppcastUpdater::canCheckForUpdates() const { return m_delegate && m_phase != Phase::Loading; }
+bool AppcastUpdater::canCheck() const { return m_delegate && m_phase != Phase::Loading; }
 
-std::optional<Date> AppcastUpdater::lastUpdateCheckDate() const
+std::optional<Date> AppcastUpdater::lastCheck() const
 {
     const std::optional<double> last
         = DefaultsValue::asNumber(m_services.defaults.value(lastCheckKey));
@@ -108,10 +108,10 @@ void AppcastUpdater::enter(Phase phase)
     announceChecks();
 }
 
-void AppcastUpdater::schedule()
+void AppcastUpdater::scheduleNextCheck()
 {
     m_nextCheck.reset();
-    if (!m_delegate || !automaticallyChecksForUpdates() || feed().isEmpty())
+    if (!m_delegate || !isOn() || feed().isEmpty())
         return;
     const double delay = secondsUntilNextCheck();
     if (delay > 0)
@@ -121,7 +121,7 @@ void AppcastUpdater::schedule()
 
 double AppcastUpdater::secondsUntilNextCheck() const
 {
-    const std::optional<Date> last = lastUpdateCheckDate();
+    const std::optional<Date> last = lastCheck();
     if (!last)
         return 0;
     const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
@@ -129,7 +129,7 @@ double AppcastUpdater::secondsUntilNextCheck() const
     return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
 }
 
-void AppcastUpdater::checkForUpdates() { check(Origin::User); }
+void AppcastUpdater::check() { check(Origin::User); }
 
 void AppcastUpdater::check(Origin origin)
 {
@@ -224,7 +224,7 @@ void AppcastUpdater::finish(const QString& outcome)
     if (m_origin == Origin::User && !outcome.isEmpty())
         m_services.user.showOutcome(outcome);
     m_origin = Origin::Schedule;
-    schedule();
+    scheduleNextCheck();
 }
 
 } // namespace Orvello

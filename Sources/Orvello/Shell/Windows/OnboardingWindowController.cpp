@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/OnboardingWindowController.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Platform/Desktop/WindowChrome.h"
 #include "Orvello/Platform/Desktop/Workspace.h"
 #include "Orvello/Prompting/Text/PromptFont.h"
@@ -39,6 +40,7 @@ OnboardingWindowController::OnboardingWindowController(
         {
             { u"tour"_s, QVariant::fromValue(&m_tour) },
             { u"headingFamily"_s, PromptFont::family() },
+            { u"assignedKeys"_s, QVariant::fromValue(&services.assignedKeys) },
             { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
             { u"hasCloseButton"_s, !hasSystemCloseButton },
         });

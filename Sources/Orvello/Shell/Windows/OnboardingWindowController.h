@@ -10,6 +10,7 @@
 
 namespace Orvello {
 
+class AssignedKeys;
 class SettingsStore;
 class WindowChrome;
 class Workspace;
@@ -27,6 +28,7 @@ public:
         SettingsStore& settings;
         const Workspace& workspace;
         WindowChrome& chrome;
+        AssignedKeys& assignedKeys;
         bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
     };
 

@@ -25,15 +25,16 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
-    return std::make_unique<SettingsWindow>(SettingsWindow::Services { m_services.settings,
-        m_services.voice, m_services.updates, m_services.canExcludeFromCapture });
+    return std::make_unique<SettingsWindow>(
+        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
+            m_services.assignedKeys, m_services.canExcludeFromCapture });
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
 {
     return std::make_unique<OnboardingWindowController>(
         OnboardingWindowController::Services { m_services.settings, m_services.workspace,
-            m_services.windowChrome, m_services.canExcludeFromCapture },
+            m_services.windowChrome, m_services.assignedKeys, m_services.canExcludeFromCapture },
         std::move(onFinish));
 }
 

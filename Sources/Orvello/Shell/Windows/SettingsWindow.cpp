@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/SystemPalette.h"
@@ -27,6 +28,7 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"updates"_s, QVariant::fromValue(&services.updates) },
             { u"version"_s, QString::fromLatin1(version) },
+            { u"assignedKeys"_s, QVariant::fromValue(&services.assignedKeys) },
             { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
         });
 }

@@ -8,6 +8,7 @@
 
 namespace Orvello {
 
+class AssignedKeys;
 class SettingsStore;
 class UpdateController;
 class VoiceActivityEngine;
@@ -24,6 +25,7 @@ public:
         SettingsStore& settings;
         VoiceActivityEngine& voice;
         UpdateController& updates;
+        AssignedKeys& assignedKeys;
         bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
     };
 

@@ -25,10 +25,12 @@
 #include "Version.h"
 
 #include <QDBusConnection>
+#include <QGuiApplication>
 #include <QSysInfo>
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <xcb/xcb.h>
 
 namespace Orvello {
@@ -57,9 +59,12 @@ struct Desktop {
 struct Session {
     explicit Session(bool isWayland)
     {
-        // Only the portal can be asked by a program that has no keyboard of its own there.
+        // Only the portal can be asked by a program that has no keyboard of its own there. On a
+        // connection of its own: the toolkit may have asked a portal something on the shared one.
         if (isWayland && bus.isConnected())
-            portalKeys.emplace(bus, x11Keys);
+            portalKeys.emplace(
+                QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"hot keys"_s),
+                QGuiApplication::desktopFileName(), x11Keys);
     }
 
     HotKeys& hotKeys()
@@ -92,8 +97,8 @@ struct Updates {
 /// and a display or a sound server that nobody asks for is not connected to.
 class LinuxPlatform final : public Platform {
 public:
-    explicit LinuxPlatform(const QStringList& arguments)
-        : m_userDefaults(m_folders.configuration(), u"app.orvello"_s, arguments)
+    explicit LinuxPlatform(QStringList arguments)
+        : m_arguments(std::move(arguments))
     {
     }
 
@@ -107,7 +112,13 @@ public:
     }
 
     TimeSource& time() override { return m_time; }
-    UserDefaults& userDefaults() override { return m_userDefaults; }
+    /// Read at the first use: until the claim another process may write them.
+    UserDefaults& userDefaults() override
+    {
+        if (!m_userDefaults)
+            m_userDefaults.emplace(m_folders.configuration(), u"app.orvello"_s, m_arguments);
+        return *m_userDefaults;
+    }
     Folders& folders() override { return m_folders; }
     SystemLog& systemLog() override { return m_systemLog; }
     ProcessSignals& processSignals() override { return m_processSignals; }
@@ -131,7 +142,7 @@ public:
     Updater& updater() override
     {
         if (!m_updates)
-            m_updates.emplace(m_time, m_userDefaults, session().services);
+            m_updates.emplace(m_time, userDefaults(), session().services);
         return m_updates->updater;
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
@@ -150,7 +161,7 @@ public:
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
-        return std::make_unique<X11Panel>(view, m_userDefaults);
+        return std::make_unique<X11Panel>(view, userDefaults());
     }
 
 private:
@@ -164,14 +175,16 @@ private:
 
     QtTimeSource m_time;
     XdgFolders m_folders;
-    JsonUserDefaults m_userDefaults;
+    const QStringList m_arguments;
+    std::optional<JsonUserDefaults> m_userDefaults;
     Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
     FileDialog m_openPanel;
     FramelessChrome m_windowChrome;
     std::optional<Desktop> m_desktop;
-    BusInstance m_runningInstance;
+    BusInstance m_runningInstance { { qEnvironmentVariable("DISPLAY"),
+        m_folders.applicationSupport() + u"/Orvello/logs"_s, {} } };
     std::optional<Session> m_session;
     std::optional<Updates> m_updates;
     std::optional<PulseSound> m_sound;
