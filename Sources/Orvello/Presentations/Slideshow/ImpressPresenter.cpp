@@ -1,6 +1,5 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
-#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>

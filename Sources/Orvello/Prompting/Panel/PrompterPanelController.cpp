@@ -1,7 +1,6 @@
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/Screens.h"
