@@ -191,7 +191,7 @@ class SignalsTest(LaunchTest):
         terminal = self.desktop.start(["xterm", "-e", str(PROGRAM)])
         wait_until(lambda: [line for line in self.messages() if line.startswith("PANEL_UP")], what="the prompter")
 
-        terminal.send_signal(signal.SIGHUP)
+        terminal.kill()
 
         wait_until(lambda: self.messages()[-1] == "QUIT clean", what="the clean end")
         wait_until(lambda: not App.marker(self.desktop).exists(), what="the marker to go")

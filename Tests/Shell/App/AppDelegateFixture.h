@@ -31,7 +31,7 @@ protected:
     void construct(const QStringList& arguments = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            platform,
+            AppDelegate::Platforms { platform, platform, platform },
             [this](const ShellWindows::Services& services) {
                 m_settings = &services.settings;
                 m_library = &services.library;

@@ -3,11 +3,13 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
-#include "Orvello/Platform/Desktop/Platform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
@@ -39,31 +41,34 @@ constexpr double fastestSpeed = 240;
 } // namespace
 
 AppDelegate::AppDelegate(
-    Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options)
-    : m_platform(platform)
+    const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
+    : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
-    , m_settings(platform.userDefaults())
-    , m_library(platform.userDefaults(), platform.folders(), platform.time())
-    , m_scriptRunner(platform.childProcess())
-    , m_micActivity(platform.audioProcesses(), QCoreApplication::applicationPid())
-    , m_engine([this] { return std::make_unique<ScrollEngine>(m_settings, m_platform.time()); })
+    , m_settings(platforms.early.userDefaults())
+    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time())
+    , m_scriptRunner(platforms.early.childProcess())
+    , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
+    , m_engine(
+          [this] { return std::make_unique<ScrollEngine>(m_settings, m_platforms.early.time()); })
     , m_voice([this] {
         return std::make_unique<VoiceActivityEngine>(m_settings,
-            VoiceActivityEngine::Ports { m_platform.time(), m_platform.microphonePermission(),
-                m_platform.voiceProcessing(), m_platform.rawMicrophone(), m_micActivity,
-                m_platform.workspace() });
+            VoiceActivityEngine::Ports { m_platforms.early.time(),
+                m_platforms.sound.microphonePermission(), m_platforms.sound.voiceProcessing(),
+                m_platforms.sound.rawMicrophone(), m_micActivity,
+                m_platforms.desktop.workspace() });
     })
-    , m_presentation({ m_presenters, platform.workspace(), platform.windowServer(), m_micActivity,
-          platform.time() })
+    , m_presentation({ m_presenters, platforms.desktop.workspace(),
+          platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
     , m_slideSync([this] {
-        return std::make_unique<SlideSyncService>(m_presentation, m_presenters, m_platform.time());
+        return std::make_unique<SlideSyncService>(
+            m_presentation, m_presenters, m_platforms.early.time());
     })
     , m_deck(
           [this] { return std::make_unique<DeckController>(m_library, m_settings, m_slideSync()); })
-    , m_updates({ platform.updater(), platform.userDefaults(),
-          [&platform] { platform.desktopServices().activateApplication(); } })
-    , m_hotKeys(platform.hotKeys())
+    , m_updates({ platforms.desktop.updater(), platforms.early.userDefaults(),
+          [this] { m_platforms.desktop.desktopServices().activateApplication(); } })
+    , m_hotKeys(platforms.desktop.hotKeys())
 {
     addPresenters();
     quitAtSignals();
@@ -75,7 +80,7 @@ void AppDelegate::addPresenters()
 {
     m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
     m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
-    if (HelperProcess* helper = m_platform.impressHelper()) {
+    if (HelperProcess* helper = m_platforms.desktop.impressHelper()) {
         m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
         m_presenters.add(m_impress->row());
         m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
@@ -171,7 +176,7 @@ QStringList AppDelegate::comesTooLate(const LaunchOptions& options) const
     if (options.noStealth && !m_options.noStealth)
         refusals.append(text.arg(u"--no-stealth"_s));
     for (auto pair = options.preferences.begin(); pair != options.preferences.end(); ++pair) {
-        const QVariant current = m_platform.userDefaults().value(pair.key());
+        const QVariant current = m_platforms.early.userDefaults().value(pair.key());
         if (current.toString() != pair.value().toString())
             refusals.append(text.arg(u'-' + pair.key() + u' ' + pair.value().toString()));
     }
@@ -205,25 +210,36 @@ void AppDelegate::makePanel()
     ScrollEngine& engine = m_engine();
     VoiceActivityEngine& voice = m_voice();
     DeckController& deck = m_deck();
-    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services {
-        engine, m_settings, voice, m_presentation, deck, m_platform.time(), m_options.noStealth });
-    m_panel = m_platform.makePanel(m_prompterWindow->window());
+    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services { .engine = engine,
+        .settings = m_settings,
+        .voice = voice,
+        .presentation = m_presentation,
+        .deck = deck,
+        .time = m_platforms.early.time(),
+        .forceCapturable = m_options.noStealth });
+    m_panel = m_platforms.desktop.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
-        PrompterPanelController::Services { *m_panel, engine, m_settings, m_presentation,
-            m_platform.time(), m_platform.screens(), m_platform.folders() },
+        PrompterPanelController::Services { .panel = *m_panel,
+            .engine = engine,
+            .settings = m_settings,
+            .presentation = m_presentation,
+            .time = m_platforms.early.time(),
+            .screens = m_platforms.desktop.screens(),
+            .folders = m_platforms.early.folders() },
         m_options.noStealth);
 }
 
 void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
-        m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
-        m_platform.statusBar(), m_platform.hotKeys().assignedKeys(),
-        m_panel->captureHiding().isPossible() });
-    m_commands = std::make_unique<AppCommands>(
-        AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
-            *m_windows, m_platform.operatingSystemVersion() },
-        AppCommands::Delegate { [this] { togglePanel(); }, [this] { showOnboarding(); } });
+        m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
+        m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
+        m_platforms.desktop.hotKeys().assignedKeys(), m_panel->captureHiding().isPossible() });
+    m_commands
+        = std::make_unique<AppCommands>(AppCommands::Services { m_engine(), m_settings, m_updates,
+                                            m_platforms.desktop.desktopServices(), *m_windows,
+                                            m_platforms.early.operatingSystemVersion() },
+            AppCommands::Delegate { [this] { togglePanel(); }, [this] { showOnboarding(); } });
 }
 
 void AppDelegate::showFirstWindow()
@@ -252,7 +268,7 @@ void AppDelegate::showOnboarding()
 {
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
-    m_platform.desktopServices().activateApplication();
+    m_platforms.desktop.desktopServices().activateApplication();
     m_onboarding->makeKeyAndOrderFront();
 }
 
@@ -367,15 +383,15 @@ std::optional<QString> AppDelegate::importDeck(const QString& path)
 void AppDelegate::quitAtSignals()
 {
     for (const int signal : { SIGTERM, SIGINT, SIGHUP }) {
-        if (!m_platform.processSignals().isIgnored(signal))
-            m_signals.push_back(
-                m_platform.processSignals().handle(signal, [] { QCoreApplication::exit(); }));
+        if (!m_platforms.early.processSignals().isIgnored(signal))
+            m_signals.push_back(m_platforms.early.processSignals().handle(
+                signal, [] { QCoreApplication::exit(); }));
     }
 }
 
 void AppDelegate::installSignalHandlers()
 {
-    ProcessSignals& processSignals = m_platform.processSignals();
+    ProcessSignals& processSignals = m_platforms.early.processSignals();
     m_signals.push_back(processSignals.handle(SIGUSR1, [this] {
         m_settings.setStealthMode(!m_settings.stealthMode());
         AppLog::write(

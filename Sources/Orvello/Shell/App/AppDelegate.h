@@ -31,12 +31,14 @@
 
 namespace Orvello {
 
+class DesktopPlatform;
+class EarlyPlatform;
 class ImpressAdviceDialog;
 class ImpressPresenter;
 class PlainPKey;
-class Platform;
 class PrompterWindow;
 class RightClickFilter;
+class SoundPlatform;
 class StatusItem;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
@@ -45,8 +47,15 @@ class AppDelegate final : public QObject {
     Q_OBJECT
 
 public:
-    /// `platform` must outlive the delegate.
-    AppDelegate(Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options);
+    /// All that the system does. All of it must outlive the delegate.
+    struct Platforms {
+        EarlyPlatform& early;
+        DesktopPlatform& desktop;
+        SoundPlatform& sound;
+    };
+
+    AppDelegate(
+        const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options);
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -94,7 +103,7 @@ private:
     void installSignalHandlers();
 
     // In this order: what is made later uses what was made before.
-    Platform& m_platform;
+    const Platforms m_platforms;
     const ShellWindows::Factory m_makeWindows;
     const LaunchOptions m_options;
     SettingsStore m_settings;

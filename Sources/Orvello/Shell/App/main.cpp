@@ -1,11 +1,13 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
-#include "Orvello/Platform/Desktop/Platform.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/Folders.h"
 #include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Settings/Store/LegacyMigration.h"
 #include "Orvello/Shell/App/AppDelegate.h"
@@ -44,7 +46,7 @@ void print(std::FILE* stream, const QString& text)
     static_cast<void>(std::fputs(text.toLocal8Bit().constData(), stream));
 }
 
-AppLog::Session sessionOn(Platform& platform)
+AppLog::Session sessionOn(EarlyPlatform& platform)
 {
     return {
         .applicationSupport = platform.folders().applicationSupport().toStdString(),
@@ -57,7 +59,7 @@ AppLog::Session sessionOn(Platform& platform)
 }
 
 /// Before any settings are read.
-void migrate(Platform& platform)
+void migrate(EarlyPlatform& platform)
 {
     const auto former = platform.userDefaultsOf(LegacyMigration::formerDomain.toString());
     LegacyMigration::runIfNeeded(
@@ -144,28 +146,30 @@ int main(int argc, char** argv)
         print(stderr, u"Try \"orvello --help\".\n"_s);
         return ExitStatus::mistaken;
     }
-    std::unique_ptr<Platform> earlyPlatform = Platform::create(arguments);
-    const RunningInstance::Outcome outcome = earlyPlatform->runningInstance().claim(start);
+    std::unique_ptr<EarlyPlatform> firstStep = EarlyPlatform::create(arguments);
+    const RunningInstance::Outcome outcome = firstStep->runningInstance().claim(start);
     if (outcome.claim != RunningInstance::Claim::Granted)
         return finishAfter(outcome);
 
-    AppLog::start(sessionOn(*earlyPlatform));
+    AppLog::start(sessionOn(*firstStep));
     CrashGuard::install();
-    guardSession(earlyPlatform->runningInstance());
-    if (const QString obstacle = earlyPlatform->prepareApplication(); !obstacle.isEmpty()) {
+    guardSession(firstStep->runningInstance());
+    if (const QString obstacle = DesktopPlatform::prepare(); !obstacle.isEmpty()) {
         AppLog::write("LAUNCH failed: %@", obstacle);
         AppLog::endSession();
         return ExitStatus::cannotRun;
     }
     OrvelloApplication application(argc, argv);
     installTranslation(application);
-    const std::unique_ptr<Platform> platform = std::move(earlyPlatform); // Ends before it.
-    if (MenuBar* const menuBar = platform->statusBar().menuBar())
+    const std::unique_ptr<EarlyPlatform> early = std::move(firstStep); // Ends before it.
+    const std::unique_ptr<DesktopPlatform> desktop = DesktopPlatform::create(*early);
+    if (MenuBar* const menuBar = desktop->statusBar().menuBar())
         menuBar->setMainMenu(makeMainMenu(&sendToFocusObject));
-    migrate(*platform);
+    migrate(*early);
+    const std::unique_ptr<SoundPlatform> sound = SoundPlatform::create();
 
     AppDelegate delegate(
-        *platform,
+        { .early = *early, .desktop = *desktop, .sound = *sound },
         [](const ShellWindows::Services& services) {
             return std::make_unique<QtShellWindows>(services);
         },
@@ -173,7 +177,7 @@ int main(int argc, char** argv)
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
         &AppDelegate::applicationWillTerminate);
     delegate.applicationOpen(options.urls);
-    listen(platform->runningInstance(), delegate);
+    listen(early->runningInstance(), delegate);
     QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);
     return OrvelloApplication::exec();
 }

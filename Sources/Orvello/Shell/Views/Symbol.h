@@ -8,8 +8,8 @@
 
 namespace Orvello {
 
-/// One of the small drawings in Resources/Icons in a colour, sharp at any size and scale, as large as
-/// fits and in the middle. The names are those of the macOS symbols that they look like.
+/// One of the small drawings in Resources/Icons in a colour, sharp at any size and scale, as large
+/// as fits and in the middle. The names are those of the macOS symbols that they look like.
 class Symbol : public QQuickPaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
