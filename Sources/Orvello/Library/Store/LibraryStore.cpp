@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-LibraryStore* sharedStore = nullptr;
-
 const QString activeScriptIDKey = u"activeScriptID"_s;
 const QString singleScriptKey = u"script"_s; // The one script of the first versions.
 
@@ -32,18 +30,6 @@ QString withoutExtension(const QString& fileName)
 }
 
 } // namespace
-
-LibraryStore& LibraryStore::shared()
-{
-    Q_ASSERT(sharedStore);
-    return *sharedStore;
-}
-
-void LibraryStore::adoptShared(LibraryStore& store)
-{
-    Q_ASSERT(!sharedStore);
-    sharedStore = &store;
-}
 
 LibraryStore::LibraryStore(
     UserDefaults& defaults, const Folders& folders, const TimeSource& time, QObject* parent)
@@ -59,12 +45,6 @@ LibraryStore::LibraryStore(
         makeFirstScript();
     if (!m_activeScriptID)
         assignActiveScriptID(firstScriptID());
-}
-
-LibraryStore::~LibraryStore()
-{
-    if (sharedStore == this)
-        sharedStore = nullptr;
 }
 
 void LibraryStore::makeFirstScript()

@@ -20,15 +20,10 @@ class LibraryStore final : public QObject {
     Q_OBJECT
 
 public:
-    /// The process's one store; `adoptShared` names it once, at launch.
-    static LibraryStore& shared();
-    static void adoptShared(LibraryStore& store);
-
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
     LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
         QObject* parent = nullptr);
-    ~LibraryStore() override;
 
     const QList<Script>& scripts() const { return m_scripts; }
 

@@ -1,6 +1,5 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
-#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>
@@ -98,23 +97,16 @@ void ImpressPresenter::disallow(Completion completion)
 void ImpressPresenter::change(const QString& question, Completion completion)
 {
     m_isAdviceDue = false; // The user has found the way.
-    setChanging(true);
+    m_isChanging = true;
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {
             if (!self)
                 return;
-            self->setChanging(false);
+            self->m_isChanging = false;
             const bool isDone = result.status == 0;
             completion(
                 { isDone, (isDone ? result.standardOutput : result.standardError).trimmed() });
         });
-}
-
-void ImpressPresenter::setChanging(bool isChanging)
-{
-    if (!assign(m_isChanging, isChanging))
-        return;
-    Q_EMIT isChangingChanged();
 }
 
 } // namespace Orvello

@@ -70,9 +70,6 @@ AppDelegate::AppDelegate(
           [this] { m_platforms.desktop.desktopServices().activateApplication(); } })
     , m_hotKeys(platforms.desktop.hotKeys())
 {
-    SettingsStore::adoptShared(m_settings);
-    LibraryStore::adoptShared(m_library);
-    HotKeyCenter::adoptShared(m_hotKeys);
     addPresenters();
     quitAtSignals();
 }
@@ -105,9 +102,9 @@ void AppDelegate::applicationDidFinishLaunching()
     m_presentation.start();
     followSlideTracking();
     importDecks();
-    m_plainPKey = std::make_unique<PlainPKey>(
-        PlainPKey::Services { HotKeyCenter::shared(), m_settings, m_presentation },
-        [this] { m_engine().toggle(); });
+    m_plainPKey
+        = std::make_unique<PlainPKey>(PlainPKey::Services { m_hotKeys, m_settings, m_presentation },
+            [this] { m_engine().toggle(); });
     scroll(m_options);
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
@@ -297,7 +294,7 @@ void AppDelegate::setupStatusItem()
 void AppDelegate::registerHotKeys()
 {
     for (const HotKeyTable::Entry& key : HotKeyTable::entries())
-        HotKeyCenter::shared().registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
+        m_hotKeys.registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
             [this, command = key.command] { run(command); });
 }
 

@@ -22,15 +22,13 @@ UpdateItem updateItem(const AppcastItem& item) { return { item.version, item.dis
 
 } // namespace
 
-AppcastUpdater::AppcastUpdater(const Services& services, Appcast::Host host, QString feed)
+AppcastUpdater::AppcastUpdater(const Services& services, QString version, QString feed)
     : m_services(services)
-    , m_host(std::move(host))
+    , m_version(std::move(version))
     , m_builtInFeed(std::move(feed))
     , m_loader(services.time)
 {
 }
-
-AppcastUpdater::~AppcastUpdater() = default;
 
 void AppcastUpdater::start(UpdaterDelegate& delegate)
 {
@@ -151,7 +149,7 @@ void AppcastUpdater::check(Origin origin)
         return abort({ u"There is no valid update feed."_s, UpdateError::invalidFeed });
     if (!FeedLoader::isSecure(url))
         return abort({ u"The update feed is not secure."_s, UpdateError::insecureFeed });
-    m_loader.load(url, u"Orvello/"_s + m_host.version,
+    m_loader.load(url, u"Orvello/"_s + m_version,
         [this](const Result<QByteArray, QString>& document) { loaded(document); });
 }
 
@@ -160,11 +158,11 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
     if (!document)
         return abort(
             { u"The update feed cannot be read: "_s + document.error(), UpdateError::download });
-    const auto items = Appcast::parse(*document, m_host.operatingSystem);
+    const auto items = Appcast::parse(*document, u"linux"_s);
     if (!items)
         return abort(
             { u"The update feed makes no sense: "_s + items.error(), UpdateError::appcastParse });
-    const AppcastItem* const item = Appcast::newest(*items, m_host);
+    const AppcastItem* const item = Appcast::newest(*items, m_version);
     const bool isSkipped = item && m_origin == Origin::Schedule
         && DefaultsValue::asString(m_services.defaults.value(skippedKey)) == item->version;
     if (item && !isSkipped)
