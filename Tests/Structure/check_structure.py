@@ -140,7 +140,7 @@ def check_walls():
             lines = [f'#if {"!" if other in (name, *depends) else ""}__has_include("Orvello/{path}")\n#error wrong {other}\n#endif'
                      for other, path in header.items()]
             problems += [f"{folder} {'does not see' if other in (name, *depends) else 'sees'} {other}"
-                         for other in re.findall(r"#error wrong (\w+)", complaint(*lines))]
+                         for other in sorted(set(re.findall(r"#error wrong (\w+)", complaint(*lines))))]
             if name == "Foundation":
                 for other, is_found in (("Foundation", True), ("LibraryStore", False)):
                     answer = complaint(f'#include "Orvello/{header[other]}"')
