@@ -130,21 +130,22 @@ def check_walls():
                 continue # Headers alone, or another platform's.
             words = shlex.split(flags["command"])
             words = words[next(i for i, word in enumerate(words) if "/" in word and "ccache" not in word):words.index("-o")]
-            words = [word for i, word in enumerate(words) if word not in ("-MD", "-MT", "-MF") and words[i - 1] not in ("-MT", "-MF")]
+            options = ("-MT", "-MF", "-include") # With the word after it; a precompiled header is no wall.
+            words = [word for i, word in enumerate(words) if word not in ("-MD", *options) and words[i - 1] not in options]
 
-            def compiles(*lines):
+            def complaint(*lines):
                 probe.write_text("\n".join(lines) + "\n")
-                return subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=flags["directory"], capture_output=True).returncode == 0
+                return subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=flags["directory"], capture_output=True, text=True).stderr
 
-            include = lambda other: f'#include "Orvello/{header[other]}"'
-            seen = [other for other in (name, *depends) if other in header]
-            if not compiles(*(f'#if !__has_include("Orvello/{header[other]}")\n#error\n#endif' for other in seen)):
-                problems.append(f"{folder} does not see what it names")
-            unseen = [other for other in header if other not in (name, *depends)]
-            if not compiles(*(f'#if __has_include("Orvello/{header[other]}")\n#error {other}\n#endif' for other in unseen)):
-                problems.append(f"{folder} sees what it does not name")
-            if name == "Foundation" and (not compiles(include("Foundation")) or compiles(include("LibraryStore"))):
-                problems.append("Foundation compiles an include of Library/Store, or none at all")
+            lines = [f'#if {"!" if other in (name, *depends) else ""}__has_include("Orvello/{path}")\n#error wrong {other}\n#endif'
+                     for other, path in header.items()]
+            problems += [f"{folder} {'does not see' if other in (name, *depends) else 'sees'} {other}"
+                         for other in sorted(set(re.findall(r"#error wrong (\w+)", complaint(*lines))))]
+            if name == "Foundation":
+                for other, is_found in (("Foundation", True), ("LibraryStore", False)):
+                    answer = complaint(f'#include "Orvello/{header[other]}"')
+                    if ("No such file" in answer or "not found" in answer) == is_found or is_found == bool(answer):
+                        problems.append(f"{folder} on an include of {header[other]}: {answer}")
     return problems
 
 
