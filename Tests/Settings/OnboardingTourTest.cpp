@@ -1,5 +1,7 @@
 #include "Orvello/Settings/OnboardingTour.h"
 
+#include "Tests/Support/FactsOf.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QSignalSpy>
@@ -38,7 +40,7 @@ TEST(OnboardingTourTest, startsOnTheFirstPageForWhatIsNoDecimalInteger)
 
 TEST(OnboardingTourTest, turnsThePagesBothWays)
 {
-    OnboardingTour tour(0, false);
+    OnboardingTour tour(0, false, Testing::factsOfAMac());
     const QSignalSpy turned(&tour, &OnboardingTour::pageChanged);
     EXPECT_TRUE(tour.isFirstPage());
 
@@ -56,7 +58,7 @@ TEST(OnboardingTourTest, turnsThePagesBothWays)
 
 TEST(OnboardingTourTest, goesNoFurtherBackThanTheFirstPage)
 {
-    OnboardingTour tour(0, false);
+    OnboardingTour tour(0, false, Testing::factsOfAMac());
     const QSignalSpy turned(&tour, &OnboardingTour::pageChanged);
 
     tour.goBack();
@@ -67,7 +69,7 @@ TEST(OnboardingTourTest, goesNoFurtherBackThanTheFirstPage)
 
 TEST(OnboardingTourTest, endsFromTheLastPage)
 {
-    OnboardingTour tour(2, false);
+    OnboardingTour tour(2, false, Testing::factsOfAMac());
     const QSignalSpy left(&tour, &OnboardingTour::left);
 
     tour.goOn();
@@ -79,7 +81,7 @@ TEST(OnboardingTourTest, endsFromTheLastPage)
 TEST(OnboardingTourTest, canBeSkippedFromEveryPage)
 {
     for (int page = 0; page < OnboardingTour::pageCount; ++page) {
-        OnboardingTour tour(page, false);
+        OnboardingTour tour(page, false, Testing::factsOfAMac());
         const QSignalSpy left(&tour, &OnboardingTour::left);
 
         tour.skip();
@@ -90,12 +92,18 @@ TEST(OnboardingTourTest, canBeSkippedFromEveryPage)
 
 TEST(OnboardingTourTest, copiesThePathToZoomsSettingAsPlainText)
 {
-    const OnboardingTour tour(1, true);
+    const OnboardingTour tour(1, true, Testing::factsOfAMac());
 
     tour.copyZoomPath();
 
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
         u"Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture with window filtering\" (or \"Previous operating systems\")"_s);
+}
+
+TEST(OnboardingTourTest, namesNoSettingThatZoomDoesNotHave)
+{
+    EXPECT_EQ(OnboardingTour(1, true, Testing::factsOfALinuxDesktop()).zoomPath(),
+        u"Zoom → Share Screen → \"your slides' window\" (not \"Entire Screen\")"_s);
 }
 
 } // namespace

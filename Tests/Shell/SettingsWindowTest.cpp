@@ -49,11 +49,11 @@ class SettingsWindowTest : public VoiceFixture {
 protected:
     void SetUp() override { open(); }
 
-    void open(bool canExcludeFromCapture = true)
+    void open(const Facts& facts = factsOfAMac())
     {
         window.reset();
         window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, updates, canExcludeFromCapture });
+            SettingsWindow::Services { settings, *engine, updates, keys, facts });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -107,6 +107,7 @@ protected:
 
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
+    FakeHotKeys keys;
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -470,9 +471,24 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
         = u"This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off."_s;
     EXPECT_FALSE(showsText(view(), warning));
 
-    open(false);
+    open(factsOfALinuxDesktop());
 
     EXPECT_TRUE(showsText(view(), warning));
+}
+
+TEST_F(SettingsWindowTest, saysNothingOfAMacOnALinuxDesktop)
+{
+    keys.modifiersLabel = u"Alt+Super+"_s;
+    open(factsOfALinuxDesktop());
+
+    for (const QString& text : visibleTexts(view())) {
+        for (const QString& untrue : { u"⌥"_s, u"⌘"_s, u"Mac"_s, u"macOS"_s, u"Keynote"_s,
+                 u"PowerPoint"_s, u"QuickTime"_s, u"System Settings"_s, u"are signed"_s })
+            EXPECT_FALSE(text.contains(untrue)) << text.toStdString();
+    }
+    EXPECT_TRUE(showsText(view(), u"Alt+Super+↑  /  Alt+Super+↓"_s));
+    EXPECT_TRUE(showsText(view(),
+        u"While a LibreOffice Impress slideshow is on-screen (where the cursor is hidden, so hover-to-pause can't work), a plain P pauses or resumes. It's active only during the slideshow, so it won't interfere with typing elsewhere. Alt+Super+P always works too."_s));
 }
 
 TEST_F(SettingsWindowTest, greysTheCheckOutWhileTheUpdaterCannotCheck)

@@ -3,6 +3,7 @@
 #include "Orvello/Platform/Platform.h"
 #include "Orvello/Platform/RunningInstance.h"
 #include "Orvello/Platform/StatusBar.h"
+#include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeAudioProcesses.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeDesktopServices.h"
@@ -66,6 +67,7 @@ public:
     ChildProcess& childProcess() override { return childProcessFake; }
     RunningInstance& runningInstance() override { return runningInstanceFake; }
     QString operatingSystemVersion() const override { return QStringLiteral("Version 14.5"); }
+    Facts facts() const override { return factsFake; }
     std::unique_ptr<UserDefaults> userDefaultsOf(const QString&) override
     {
         return std::make_unique<FakeUserDefaults>();
@@ -102,6 +104,7 @@ public:
     }
 
     Journal journal;
+    Facts factsFake = factsOfAMac();
     ManualTimeSource manualTime;
     FakeUserDefaults userDefaultsFake;
     FakeFolders foldersFake;

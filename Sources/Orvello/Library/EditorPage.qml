@@ -9,6 +9,7 @@ Pane {
     id: root
 
     required property ScriptEditor editor
+    required property facts facts
     property bool isActive: false
     property bool isLoaded: false
 
@@ -119,7 +120,8 @@ Pane {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignRight
                 elide: Text.ElideRight
-                text: qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
+                text: root.facts.isMac ? qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
+                                       : qsTr("Shown in the prompter · autosaved locally, nothing leaves your computer")
                 font.pixelSize: 11
             }
         }

@@ -2,6 +2,7 @@
 
 #include "Orvello/Library/LibraryFile.h"
 #include "Orvello/Library/Script.h"
+#include "Orvello/Platform/Facts.h"
 #include "Orvello/Platform/Result.h"
 #include "Orvello/Presentations/PptxImporter.h"
 
@@ -30,7 +31,7 @@ public:
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
     LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
-        QObject* parent = nullptr);
+        const Facts& facts, QObject* parent = nullptr);
     ~LibraryStore() override;
 
     const QList<Script>& scripts() const { return m_scripts; }
@@ -69,7 +70,7 @@ Q_SIGNALS:
     void activeScriptIDChanged();
 
 private:
-    void makeFirstScript();
+    void makeFirstScript(const Facts& facts);
     QUuid addOnTop(const Script& script);
     std::optional<QUuid> firstScriptID() const;
 

@@ -1,5 +1,6 @@
 #include "Orvello/Platform/Appcast.h"
 
+#include <QCoreApplication>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -35,12 +36,13 @@ public:
         while (!m_xml.atEnd()) {
             const QXmlStreamReader::TokenType token = m_xml.readNext();
             if (token == QXmlStreamReader::DTD)
-                m_xml.raiseError(u"It declares a document type."_s);
+                m_xml.raiseError(QCoreApplication::translate(
+                    "Orvello::Appcast", "It declares a document type."));
             else if (token == QXmlStreamReader::StartElement)
                 readRoot();
         }
         if (!m_xml.hasError() && !m_hasChannel)
-            m_xml.raiseError(u"It is no RSS feed."_s);
+            m_xml.raiseError(QCoreApplication::translate("Orvello::Appcast", "It is no RSS feed."));
         if (m_xml.hasError())
             return Failure { m_xml.errorString() };
         return std::move(m_items);
@@ -59,7 +61,8 @@ private:
     void readRoot()
     {
         if (!isPlain("rss"_L1))
-            return m_xml.raiseError(u"It is no RSS feed."_s);
+            return m_xml.raiseError(
+                QCoreApplication::translate("Orvello::Appcast", "It is no RSS feed."));
         while (m_xml.readNextStartElement()) {
             if (isPlain("channel"_L1))
                 readChannel();

@@ -67,7 +67,7 @@ void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
     connect(m_reply.get(), &QNetworkReply::readyRead, this, &FeedLoader::received);
     connect(m_reply.get(), &QNetworkReply::finished, this, &FeedLoader::finished);
     m_timeout = m_time.callAfter(
-        timeoutSeconds, [this] { fail(u"The server did not answer in time."_s); });
+        timeoutSeconds, [this] { fail(tr("The server did not answer in time.")); });
 }
 
 void FeedLoader::redirected(const QUrl& target)
@@ -77,14 +77,14 @@ void FeedLoader::redirected(const QUrl& target)
     if (isSecure(target) && !isDowngrade)
         Q_EMIT m_reply->redirectAllowed();
     else
-        fail(u"The server redirects to an insecure address."_s);
+        fail(tr("The server redirects to an insecure address."));
 }
 
 void FeedLoader::received()
 {
     m_document += m_reply->read(maximumBytes + 1 - m_document.size());
     if (m_document.size() > maximumBytes)
-        fail(u"The document is too large."_s);
+        fail(tr("The document is too large."));
 }
 
 void FeedLoader::finished()
@@ -94,7 +94,7 @@ void FeedLoader::finished()
         return fail(m_reply->errorString());
     constexpr int ok = 200;
     if (status.toInt() != ok)
-        return fail(u"The server answers with status %1."_s.arg(status.toInt()));
+        return fail(tr("The server answers with status %1.").arg(status.toInt()));
     received(); // What is left; a document that is too large is answered there.
     if (m_answer)
         answer(std::exchange(m_document, {}));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -55,6 +57,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<Reference> registerHotKey(
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
         = 0;
+
+    /// What people call the key with these modifiers here: "⌥⌘P", or "Alt+Super+P".
+    virtual QString label(std::uint32_t keyCode, std::uint32_t modifiers) const = 0;
 };
 
 } // namespace Orvello

@@ -9,7 +9,7 @@ Rectangle {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: number
-    Accessible.description: "Countdown"
+    Accessible.description: qsTr("Countdown")
 
     radius: 16
     color: Qt.rgba(0, 0, 0, 0.6)

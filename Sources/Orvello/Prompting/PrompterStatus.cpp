@@ -3,12 +3,9 @@
 #include "Orvello/Prompting/ScrollEngine.h"
 #include "Orvello/Prompting/SignalColors.h"
 
-#include <array>
 #include <utility>
 
 namespace Orvello {
-
-using namespace Qt::StringLiterals;
 
 PrompterStatus::PrompterStatus(const ScrollEngine& engine, QObject* parent)
     : QObject(parent)
@@ -34,16 +31,26 @@ QStringList PrompterStatus::labels()
     return labels;
 }
 
-const PrompterStatus::Appearance& PrompterStatus::appearance(State state)
+PrompterStatus::Appearance PrompterStatus::appearance(State state)
 {
-    static const std::array<Appearance, 5> appearances { {
-        { u"get ready"_s, SignalColors::yellow },
-        { u"hover pause"_s, SignalColors::orange },
-        { u"paused"_s, SignalColors::orange },
-        { u"listening…"_s, SignalColors::yellow },
-        { u"scrolling"_s, SignalColors::green },
-    } };
-    return appearances[static_cast<std::size_t>(state)];
+    switch (state) {
+    case State::GetReady:
+        //: On the card, at most about 20 characters: the countdown runs.
+        return { tr("get ready"), SignalColors::yellow };
+    case State::HoverPause:
+        //: On the card, at most about 20 characters: the pointer over the card holds the text.
+        return { tr("hover pause"), SignalColors::orange };
+    case State::Paused:
+        //: On the card, at most about 20 characters: the text stands still.
+        return { tr("paused"), SignalColors::orange };
+    case State::Listening:
+        //: On the card, at most about 20 characters: the text waits for the user to speak.
+        return { tr("listening…"), SignalColors::yellow };
+    case State::Scrolling:
+        break;
+    }
+    //: On the card, at most about 20 characters: the text moves.
+    return { tr("scrolling"), SignalColors::green };
 }
 
 PrompterStatus::State PrompterStatus::stateOfEngine() const

@@ -36,7 +36,7 @@ private:
         QColor color;
     };
 
-    static const Appearance& appearance(State state);
+    static Appearance appearance(State state);
     State stateOfEngine() const;
     void update();
 

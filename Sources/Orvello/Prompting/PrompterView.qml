@@ -23,9 +23,11 @@ Item {
     readonly property int edge: 6
 
     Accessible.role: Accessible.Pane
-    Accessible.name: "Prompter"
+    Accessible.name: qsTr("Prompter")
     Accessible.description: status.label
 
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     onHeightChanged: engine.setViewportHeight(height)
     Component.onCompleted: {
         engine.setViewportHeight(height);
@@ -102,6 +104,7 @@ Item {
         anchors.top: parent.top
         anchors.margins: root.edge
         visible: root.forceCapturable || root.visibleInRecordings
-        message: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
+        //: On the card, at most about 40 characters: others can see the prompter.
+        message: root.forceCapturable ? qsTr("DEBUG — VISIBLE IN RECORDINGS") : qsTr("VISIBLE IN RECORDINGS")
     }
 }

@@ -12,8 +12,10 @@ Capsule {
     required property double maximumWidth
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: "Slide " + status.position
-    Accessible.description: status.title ? status.title + ", " + status.stateLabel : status.stateLabel
+    //: Read aloud. %1: which slide of how many, as in "2 / 14".
+    Accessible.name: qsTr("Slide %1").arg(status.position)
+    //: Read aloud. %1: the slide's title; %2: who turns the slides, as in "Live".
+    Accessible.description: status.title ? qsTr("%1, %2").arg(status.title).arg(status.stateLabel) : status.stateLabel
 
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
@@ -52,7 +54,7 @@ Capsule {
 
         SymbolButton {
             symbol: "chevron.left"
-            description: "Previous slide"
+            description: qsTr("Previous slide")
             isInert: !root.status.canGoBack
             onPressed: root.status.goBack()
         }
@@ -75,7 +77,7 @@ Capsule {
 
         SymbolButton {
             symbol: "chevron.right"
-            description: "Next slide"
+            description: qsTr("Next slide")
             isInert: !root.status.canGoOn
             onPressed: root.status.goOn()
         }

@@ -5,6 +5,7 @@
 #include "Orvello/Platform/Folders.h"
 #include "Orvello/Platform/UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -68,7 +69,8 @@ std::optional<QJsonArray> withWelcomeScriptRefreshed(
         QJsonObject script = element.toObject();
         if (script.value("title"_L1) != "Welcome to Drumlin"_L1)
             continue;
-        script.insert("title"_L1, "Welcome to Orvello"_L1);
+        script.insert("title"_L1,
+            QCoreApplication::translate("Orvello::WelcomeScript", "Welcome to Orvello"));
         script.insert("body"_L1, sampleText);
         element = script;
         isChanged = true;

@@ -5,13 +5,14 @@ import QtQuick.Layouts
 RowLayout {
     id: root
 
-    required property string key
+    required property string keys
     required property string label
 
     Layout.fillWidth: true
     spacing: 12
     Accessible.role: Accessible.StaticText
-    Accessible.name: key + ": " + label
+    //: Read aloud. %1: keys; %2: what they do.
+    Accessible.name: qsTr("%1: %2").arg(keys).arg(label)
 
     Rectangle {
         Layout.preferredWidth: 120
@@ -22,7 +23,7 @@ RowLayout {
 
         OnboardingText {
             anchors.centerIn: parent
-            text: root.key
+            text: root.keys
             color: OnboardingStyle.text
             font.pixelSize: 12
             font.weight: Font.Medium

@@ -1,11 +1,14 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
+import Orvello
 
 OnboardingPage {
     id: root
 
     required property string headingFamily
+    required property ShortcutList shortcuts
+    required property facts facts
 
     number: 2
     columnWidth: 600
@@ -38,38 +41,27 @@ OnboardingPage {
             symbol: "keyboard"
             title: qsTr("Shortcuts")
 
-            OnboardingKeyRow {
-                key: qsTr("⌥⌘P")
-                label: qsTr("Start / pause")
+            Repeater {
+                model: root.shortcuts
+                delegate: OnboardingKeyRow {}
             }
             OnboardingKeyRow {
-                key: qsTr("⌥⌘↑ ↓")
-                label: qsTr("Speed")
-            }
-            OnboardingKeyRow {
-                key: qsTr("⌥⌘R")
-                label: qsTr("Back to top")
-            }
-            OnboardingKeyRow {
-                key: qsTr("⌥⌘H")
-                label: qsTr("Show / hide")
-            }
-            OnboardingKeyRow {
-                key: qsTr("P")
+                keys: "P"
                 label: qsTr("Pause during a slideshow")
             }
             OnboardingKeyRow {
-                key: qsTr("Hover")
+                //: Instead of a key: the pointer rests on the prompter.
+                keys: qsTr("Hover")
                 label: qsTr("Pause instantly")
             }
         }
         OnboardingSection {
             Layout.preferredWidth: 244
             symbol: "menubar.rectangle"
-            title: qsTr("Menu bar")
+            title: root.facts.hasMenuBar ? qsTr("Menu bar") : qsTr("Tray menu")
 
             Repeater {
-                model: [qsTr("Start / pause scrolling"), qsTr("Voice-Follow Scrolling"), qsTr("Slide Tracking"), qsTr("Stealth Mode")]
+                model: root.shortcuts.menuLines
                 delegate: OnboardingText {
                     required property string modelData
 
@@ -94,7 +86,8 @@ OnboardingPage {
             OnboardingText {
                 Layout.fillWidth: true
                 Layout.topMargin: 4
-                text: qsTr("… and Scripts, where you write or import what you say, Settings, and this tour.")
+                text: root.facts.hasMenuBar ? qsTr("… and Scripts, where you write or import what you say, Settings, and this tour.")
+                                            : qsTr("… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.")
             }
         }
     }

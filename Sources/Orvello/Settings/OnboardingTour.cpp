@@ -23,9 +23,11 @@ int OnboardingTour::pageNamed(const QString& text)
     return isInRange ? std::min(page, pageCount - 1) : pageCount - 1;
 }
 
-OnboardingTour::OnboardingTour(int initialPage, bool zoomIsInstalled, QObject* parent)
+OnboardingTour::OnboardingTour(
+    int initialPage, bool zoomIsInstalled, const Facts& facts, QObject* parent)
     : QObject(parent)
     , zoomInstalled(zoomIsInstalled)
+    , m_facts(facts)
     , m_page(std::clamp(initialPage, 0, pageCount - 1))
 {
 }
@@ -52,11 +54,15 @@ void OnboardingTour::turnTo(int page)
     Q_EMIT pageChanged();
 }
 
-void OnboardingTour::copyZoomPath() const
+void OnboardingTour::copyZoomPath() const { QGuiApplication::clipboard()->setText(zoomPath()); }
+
+QString OnboardingTour::zoomPath() const
 {
-    QGuiApplication::clipboard()->setText(
-        tr("Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
-           "with window filtering\" (or \"Previous operating systems\")"));
+    if (!m_facts.zoomChoosesCapture)
+        return tr("Zoom → Share Screen → \"your slides' window\" (not \"Entire Screen\")");
+    return tr(
+        "Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
+        "with window filtering\" (or \"Previous operating systems\")");
 }
 
 } // namespace Orvello

@@ -9,9 +9,12 @@ Rectangle {
 
     required property OnboardingTour tour
     required property string headingFamily
-    required property bool canExcludeFromCapture // Whether Stealth Mode has an effect here.
+    required property ShortcutList shortcuts
+    required property facts facts
     required property bool hasCloseButton // Where the system draws none above the content.
 
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     color: OnboardingStyle.background
 
     Rectangle {
@@ -59,16 +62,19 @@ Rectangle {
         OnboardingWelcomePage {
             current: root.tour.page
             headingFamily: root.headingFamily
+            facts: root.facts
         }
         OnboardingPrivacyPage {
             current: root.tour.page
             headingFamily: root.headingFamily
             tour: root.tour
-            canExcludeFromCapture: root.canExcludeFromCapture
+            facts: root.facts
         }
         OnboardingSetupPage {
             current: root.tour.page
             headingFamily: root.headingFamily
+            shortcuts: root.shortcuts
+            facts: root.facts
         }
     }
 

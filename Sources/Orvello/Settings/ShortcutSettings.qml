@@ -1,22 +1,16 @@
+pragma ComponentBehavior: Bound
 import QtQuick
+import Orvello
 
 SettingsSection {
+    id: root
+
+    required property ShortcutList shortcuts
+
     title: qsTr("Keyboard shortcuts (global)")
 
-    SettingsShortcut {
-        label: qsTr("Start / pause scrolling")
-        keys: qsTr("⌥⌘P")
-    }
-    SettingsShortcut {
-        label: qsTr("Speed up / down")
-        keys: qsTr("⌥⌘↑  /  ⌥⌘↓")
-    }
-    SettingsShortcut {
-        label: qsTr("Back to top")
-        keys: qsTr("⌥⌘R")
-    }
-    SettingsShortcut {
-        label: qsTr("Show / hide prompter")
-        keys: qsTr("⌥⌘H")
+    Repeater {
+        model: root.shortcuts
+        delegate: SettingsShortcut {}
     }
 }

@@ -24,22 +24,13 @@
 
 namespace Orvello {
 
-namespace {
-
-// What the speed keys do, in points per second.
-constexpr double speedStep = 10;
-constexpr double slowestSpeed = 15;
-constexpr double fastestSpeed = 240;
-
-} // namespace
-
 AppDelegate::AppDelegate(
     Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options)
     : m_platform(platform)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
     , m_settings(platform.userDefaults())
-    , m_library(platform.userDefaults(), platform.folders(), platform.time())
+    , m_library(platform.userDefaults(), platform.folders(), platform.time(), platform.facts())
     , m_scriptRunner(platform.childProcess())
     , m_micActivity(platform.audioProcesses(), QCoreApplication::applicationPid())
     , m_engine([this] { return std::make_unique<ScrollEngine>(m_settings, m_platform.time()); })
@@ -163,11 +154,15 @@ void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
         m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
-        m_platform.statusBar(), m_panel->canExcludeFromCapture() });
+        m_platform.statusBar(), m_platform.hotKeys(), m_platform.facts() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
-            *m_windows, m_platform.operatingSystemVersion() },
-        AppCommands::Delegate { [this] { togglePanel(); }, [this] { showOnboarding(); } });
+            *m_windows, m_platform.facts() },
+        AppCommands::Delegate {
+            .togglePanel = [this] { togglePanel(); },
+            .isPanelVisible = [this] { return m_panel->isVisible(); },
+            .showOnboarding = [this] { showOnboarding(); },
+        });
 }
 
 void AppDelegate::showFirstWindow()
@@ -210,9 +205,8 @@ void AppDelegate::onboardingFinished()
 
 void AppDelegate::setupStatusItem()
 {
-    m_statusMenu
-        = std::make_unique<StatusMenu>(StatusMenu::State { m_engine(), m_settings, *m_panel },
-            *m_commands, AppCommands::versionText());
+    m_statusMenu = std::make_unique<StatusMenu>(
+        *m_commands, m_platform.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClicks>(
@@ -221,15 +215,11 @@ void AppDelegate::setupStatusItem()
 
 void AppDelegate::registerHotKeys()
 {
-    constexpr std::uint32_t modifiers = HotKey::commandKey | HotKey::optionKey;
-    HotKeyCenter& center = HotKeyCenter::shared();
-    center.registerHotKey(HotKey::keyP, modifiers, [this] { m_engine().toggle(); });
-    center.registerHotKey(HotKey::keyUp, modifiers,
-        [this] { m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed)); });
-    center.registerHotKey(HotKey::keyDown, modifiers,
-        [this] { m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed)); });
-    center.registerHotKey(HotKey::keyR, modifiers, [this] { m_engine().setOffset(0); });
-    center.registerHotKey(HotKey::keyH, modifiers, [this] { togglePanel(); });
+    for (const Command& command : Commands::all()) {
+        if (command.key)
+            HotKeyCenter::shared().registerHotKey(command.key->code, command.key->modifiers,
+                [this, run = command.run] { (m_commands.get()->*run)(); });
+    }
 }
 
 void AppDelegate::startUpdates()

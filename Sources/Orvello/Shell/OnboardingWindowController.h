@@ -2,6 +2,7 @@
 
 #include "Orvello/Settings/OnboardingTour.h"
 #include "Orvello/Shell/ShellWindows.h"
+#include "Orvello/Shell/ShortcutList.h"
 
 #include <QObject>
 #include <QQuickView>
@@ -27,7 +28,8 @@ public:
         SettingsStore& settings;
         const Workspace& workspace;
         WindowChrome& chrome;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the tour may say of this machine.
     };
 
     /// `onFinish` is called once, through the main event loop, by whichever way the user leaves. It
@@ -49,6 +51,7 @@ private:
     std::function<void()> m_onFinish;
     bool m_finished = false;
     OnboardingTour m_tour;
+    ShortcutList m_shortcuts;
     QQuickView m_view;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Orvello/Library/LibraryViewModel.h"
+#include "Orvello/Platform/Facts.h"
 #include "Orvello/Prompting/Card.h"
 #include "Orvello/Prompting/LevelMeter.h"
 #include "Orvello/Prompting/PromptLines.h"
@@ -12,6 +13,7 @@
 #include "Orvello/Settings/OnboardingTour.h"
 #include "Orvello/Settings/SettingsForm.h"
 #include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Shell/ShortcutList.h"
 #include "Orvello/Shell/UpdateController.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
@@ -19,6 +21,19 @@
 
 /// What the views know the services as. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
+
+struct FactsType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Facts)
+    QML_VALUE_TYPE(facts)
+};
+
+struct ShortcutListType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ShortcutList)
+    QML_NAMED_ELEMENT(ShortcutList)
+    QML_UNCREATABLE("The program makes it.")
+};
 
 struct CardType {
     Q_GADGET

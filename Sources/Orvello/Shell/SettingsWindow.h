@@ -2,6 +2,7 @@
 
 #include "Orvello/Settings/SettingsForm.h"
 #include "Orvello/Shell/ShellWindows.h"
+#include "Orvello/Shell/ShortcutList.h"
 
 #include <QCoreApplication>
 #include <QQuickView>
@@ -24,7 +25,8 @@ public:
         SettingsStore& settings;
         VoiceActivityEngine& voice;
         UpdateController& updates;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the window may say of this machine.
     };
 
     explicit SettingsWindow(const Services& services);
@@ -35,6 +37,7 @@ public:
 
 private:
     SettingsForm m_form;
+    ShortcutList m_shortcuts;
     QQuickView m_view;
 };
 

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Orvello/Platform/Facts.h"
+
 #include <functional>
 #include <memory>
 
 namespace Orvello {
 
 class AppleScriptRunner;
+class HotKeys;
 class LibraryStore;
 class Menu;
 class OpenPanel;
@@ -43,7 +46,8 @@ public:
         OpenPanel& openPanel;
         WindowChrome& windowChrome;
         StatusBar& statusBar;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode can hide the prompter here.
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the windows may say of this machine.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

@@ -56,8 +56,8 @@ AppLog::Session sessionOn(Platform& platform)
 void migrate(Platform& platform)
 {
     const auto former = platform.userDefaultsOf(LegacyMigration::formerDomain.toString());
-    LegacyMigration::runIfNeeded(
-        { platform.userDefaults(), *former, platform.folders(), WelcomeScript::body() });
+    LegacyMigration::runIfNeeded({ platform.userDefaults(), *former, platform.folders(),
+        WelcomeScript::body(platform.facts()) });
 }
 
 /// From now on the delegate hears what the system and later starts ask for.

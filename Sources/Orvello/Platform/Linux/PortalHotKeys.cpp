@@ -127,6 +127,11 @@ std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKey(
     return shortcut;
 }
 
+QString PortalHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
+{
+    return m_fallback.label(keyCode, modifiers);
+}
+
 void PortalHotKeys::createSession()
 {
     const QVariantMap options { { u"session_handle_token"_s, u"orvello"_s } };
