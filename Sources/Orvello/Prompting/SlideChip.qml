@@ -17,6 +17,7 @@ Capsule {
     //: Read aloud. %1: the slide's title; %2: who turns the slides, as in "Live".
     Accessible.description: status.title ? qsTr("%1, %2").arg(status.title).arg(status.stateLabel) : status.stateLabel
 
+    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
 
@@ -53,7 +54,7 @@ Capsule {
         height: parent.height
 
         SymbolButton {
-            symbol: "chevron.left"
+            symbol: root.isMirrored ? "chevron.right" : "chevron.left"
             description: qsTr("Previous slide")
             isInert: !root.status.canGoBack
             onPressed: root.status.goBack()
@@ -76,7 +77,7 @@ Capsule {
         }
 
         SymbolButton {
-            symbol: "chevron.right"
+            symbol: root.isMirrored ? "chevron.left" : "chevron.right"
             description: qsTr("Next slide")
             isInert: !root.status.canGoOn
             onPressed: root.status.goOn()
