@@ -9,31 +9,28 @@
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test bench gallery sanitize format tidy build clean
+.PHONY: run test bench gallery sanitize format tidy clean
 
+# The program alone needs no test package. In a folder that is configured with the tests, they stay: to configure without
+# them would throw away what is built of them.
 run:
 	@tools/setup build
-	@$(MAKE) --no-print-directory build ORVELLO_TARGET=orvello
+	@tools/build $(if $(wildcard build/CMakeCache.txt),,-DBUILD_TESTING=OFF) orvello
 	@tools/run "$(DECK)"
 
 test:
 	@tools/setup test
-	@$(MAKE) --no-print-directory build
+	@tools/build -DBUILD_TESTING=ON all
 	@ctest --preset release
-
-ORVELLO_TARGET := all
-build:
-	@cmake --preset release > build.log 2>&1 || { cat build.log; rm -f build.log; exit 1; }; rm -f build.log
-	@cmake --build --preset release --target $(ORVELLO_TARGET)
 
 bench:
 	@tools/setup test
-	@$(MAKE) --no-print-directory build
+	@tools/build -DBUILD_TESTING=ON orvello benchmarks
 	@tools/bench
 
 gallery:
 	@tools/setup test
-	@$(MAKE) --no-print-directory build ORVELLO_TARGET=orvello-gallery
+	@tools/build -DBUILD_TESTING=ON orvello-gallery
 	@tools/gallery build/Tests/Gallery/orvello-gallery build/gallery.png
 
 sanitize:
@@ -49,7 +46,7 @@ format:
 
 tidy:
 	@tools/setup test
-	@$(MAKE) --no-print-directory build
+	@tools/build -DBUILD_TESTING=ON all
 	@tools/tidy
 
 clean:

@@ -37,6 +37,9 @@ endfunction()
 add_custom_target(unit-tests)
 add_custom_target(thread-tests)
 
+# What `make bench` builds, and nothing else does.
+add_custom_target(benchmarks)
+
 # orvello_add_test(Name SOURCES ... DEPENDS ... [LABELS ...] [PREFIX text] [ENVIRONMENT name=value]): one GoogleTest
 # program, its tests found by CTest, their names preceded by the prefix. The shared main chooses the offscreen Qt platform
 # and makes the application object.
@@ -69,7 +72,7 @@ function(orvello_add_benchmark name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE benchmark::benchmark ${ARG_DEPENDS} OrvelloWarnings)
-    set_property(GLOBAL APPEND PROPERTY ORVELLO_BENCHMARKS ${name})
+    add_dependencies(benchmarks ${name})
 endfunction()
 
 # orvello_add_fuzzer(Name SOURCES ... DEPENDS ... SEEDS folder [OPTIONS ...]): one libFuzzer program, built by the fuzz

@@ -111,5 +111,3 @@ target_link_libraries(
 add_library(OrvelloViewsAndPlugin INTERFACE)
 target_link_libraries(OrvelloViewsAndPlugin INTERFACE OrvelloViews OrvelloViewsplugin)
 add_library(Orvello::Views ALIAS OrvelloViewsAndPlugin)
-
-add_test(NAME qmllint COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target OrvelloViews_qmllint)

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <webrtc/modules/audio_processing/include/audio_processing.h>
-
 namespace Orvello {
 
 namespace {
@@ -18,8 +16,6 @@ constexpr float audible = 1.0f / 65536;
 /// The longest echo, with the time that the two streams may be apart.
 constexpr int framesOfEcho = 300;
 
-const webrtc::StreamConfig mono(EchoCanceller::sampleRate, 1);
-
 /// One sample that is not a number would stay in the adaptive filter for good.
 void makeSound(std::span<float> frame)
 {
@@ -27,37 +23,14 @@ void makeSound(std::span<float> frame)
         sample = std::isfinite(sample) ? std::clamp(sample, -1.0f, 1.0f) : 0.0f;
 }
 
-std::unique_ptr<webrtc::AudioProcessing> makeProcessing()
-{
-    webrtc::Config config;
-    config.Set<webrtc::DelayAgnostic>(new webrtc::DelayAgnostic(true));
-    config.Set<webrtc::ExtendedFilter>(new webrtc::ExtendedFilter(true));
-    return std::unique_ptr<webrtc::AudioProcessing>(webrtc::AudioProcessing::Create(config));
-}
-
 } // namespace
 
 EchoCanceller::EchoCanceller()
-    : m_processing(makeProcessing())
-    , m_framesSinceFarEnd(framesOfEcho)
+    : m_framesSinceFarEnd(framesOfEcho)
 {
 }
 
-EchoCanceller::~EchoCanceller() = default;
-
-int EchoCanceller::initialize()
-{
-    webrtc::ProcessingConfig formats;
-    for (webrtc::StreamConfig& format : formats.streams)
-        format = mono;
-    if (const int error = m_processing->Initialize(formats))
-        return error;
-    webrtc::EchoCancellation& echo = *m_processing->echo_cancellation();
-    // Speech that stays behind opens the voice gate, and nobody listens to the result.
-    if (const int error = echo.set_suppression_level(webrtc::EchoCancellation::kHighSuppression))
-        return error;
-    return echo.Enable(true);
-}
+int EchoCanceller::initialize() { return m_removal.initialize(); }
 
 void EchoCanceller::hearFarEnd(std::span<const float> samples)
 {
@@ -66,10 +39,8 @@ void EchoCanceller::hearFarEnd(std::span<const float> samples)
         if (std::any_of(frame.begin(), frame.end(),
                 [](float sample) { return std::abs(sample) >= audible; }))
             m_framesSinceFarEnd = 0;
-        if (!isFarEndAudible())
-            return;
-        float* const channel = frame.data();
-        m_processing->ProcessReverseStream(&channel, mono, mono, &channel);
+        if (isFarEndAudible())
+            m_removal.hearFarEnd(frame.data());
     });
 }
 
@@ -80,9 +51,7 @@ void EchoCanceller::process(std::span<float> frame)
     if (!isFarEndAudible())
         return;
     ++m_framesSinceFarEnd;
-    float* const channel = frame.data();
-    m_processing->set_stream_delay_ms(assumedDelayMilliseconds);
-    m_processing->ProcessStream(&channel, mono, mono, &channel);
+    m_removal.process(frame.data(), assumedDelayMilliseconds);
 }
 
 bool EchoCanceller::isFarEndAudible() const { return m_framesSinceFarEnd < framesOfEcho; }

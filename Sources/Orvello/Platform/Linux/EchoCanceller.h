@@ -1,14 +1,10 @@
 #pragma once
 
+#include "Orvello/Platform/Linux/EchoRemoval.h"
 #include "Orvello/Platform/Linux/SampleBlocks.h"
 
 #include <cstddef>
-#include <memory>
 #include <span>
-
-namespace webrtc {
-class AudioProcessing;
-}
 
 namespace Orvello {
 
@@ -20,7 +16,6 @@ public:
     static constexpr std::size_t frameSamples = sampleRate / 100; ///< Processed at a time.
 
     EchoCanceller();
-    ~EchoCanceller();
 
     /// Makes it ready; 0, or WebRTC's error number.
     int initialize();
@@ -34,7 +29,7 @@ public:
 private:
     bool isFarEndAudible() const;
 
-    std::unique_ptr<webrtc::AudioProcessing> m_processing;
+    EchoRemoval m_removal { sampleRate };
     SampleBlocks m_farEnd { frameSamples };
     int m_framesSinceFarEnd; ///< Of the microphone, since something audible was played.
 };
