@@ -15,7 +15,7 @@ QStringList lines(const ShortcutList& list)
 {
     QStringList lines;
     for (int row = 0; row < list.rowCount(); ++row)
-        lines.append(list.data(list.index(row), ShortcutList::LabelRole).toString() + u" = "
+        lines.append(list.data(list.index(row), ShortcutList::LabelRole).toString() + u" = "_s
             + list.data(list.index(row), ShortcutList::KeysRole).toString());
     return lines;
 }
