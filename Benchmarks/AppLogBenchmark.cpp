@@ -2,7 +2,7 @@
 // four. Both write to the same disk, in turns, so that the machine's noise hits both alike.
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Platform/SystemLog.h"
+#include "Orvello/Platform/Early/SystemLog.h"
 
 #include <QTemporaryDir>
 

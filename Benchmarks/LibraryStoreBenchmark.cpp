@@ -4,12 +4,12 @@
 // Limits: a one-character edit of 1,000 scripts and 10 MB takes at most 1.5 times what plainly
 // writing and renaming a file of the same bytes takes; reading 10 MB takes under 150 ms.
 
-#include "Benchmarks/TakingTurns.h"
-#include "Orvello/Library/LibraryStore.h"
-#include "Orvello/Library/ScriptCoding.h"
-#include "Orvello/Platform/Folders.h"
-#include "Orvello/Platform/TimeSource.h"
-#include "Orvello/Platform/UserDefaults.h"
+#include "Benchmarks/AlternatingRuns.h"
+#include "Orvello/Library/Records/ScriptCoding.h"
+#include "Orvello/Library/Store/LibraryStore.h"
+#include "Orvello/Platform/Early/Folders.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -5,12 +5,12 @@
 // Limit: no stall of more than 16 ms at a key press, one frame of a screen with 60 of them a
 // second.
 
-#include "Orvello/Platform/QtTimeSource.h"
-#include "Orvello/Presentations/DeckController.h"
-#include "Orvello/Prompting/PromptFont.h"
-#include "Orvello/Prompting/PromptLines.h"
-#include "Orvello/Settings/SettingsStore.h"
-#include "Orvello/Shell/LibraryWindow.h"
+#include "Orvello/Adapters/Portable/QtTimeSource.h"
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Prompting/Text/PromptFont.h"
+#include "Orvello/Prompting/Text/PromptLines.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Windows/LibraryWindow.h"
 #include "Tests/Support/LibraryServices.h"
 #include "Tests/Support/SlideshowStage.h"
 

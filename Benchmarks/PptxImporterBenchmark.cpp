@@ -2,8 +2,8 @@
 /// do: inflating the same entries and parsing their XML without looking at it. The decks repeat a
 /// slide and a notes page that LibreOffice wrote, with 2 KB of notes on each.
 
-#include "Orvello/Presentations/PptxImporter.h"
-#include "Orvello/Presentations/ZipArchive.h"
+#include "Orvello/Presentations/Decks/PptxImporter.h"
+#include "Orvello/Presentations/Decks/ZipArchive.h"
 #include "Tests/Support/DeckBuilder.h"
 
 #include <QFile>

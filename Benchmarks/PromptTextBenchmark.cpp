@@ -3,9 +3,9 @@
 //
 // Limit: the main loop is never kept longer than 50 ms.
 
-#include "Orvello/Platform/QtTimeSource.h"
-#include "Orvello/Prompting/PromptFont.h"
-#include "Orvello/Prompting/PromptLines.h"
+#include "Orvello/Adapters/Portable/QtTimeSource.h"
+#include "Orvello/Prompting/Text/PromptFont.h"
+#include "Orvello/Prompting/Text/PromptLines.h"
 
 #include <QElapsedTimer>
 #include <QFile>

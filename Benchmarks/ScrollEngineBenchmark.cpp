@@ -2,10 +2,10 @@
 //
 // Limits: an idle or held tick takes under 100 ns, allocates nothing and announces nothing.
 
-#include "Orvello/Prompting/ScrollEngine.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 
-#include "Orvello/Platform/UserDefaults.h"
-#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,8 +1,8 @@
 // What one block of samples costs the audio thread, by sample, against the plainest vectorised sum
 // of squares over the same memory. The detector may cost 1.2 times as much.
 
+#include "Benchmarks/AlternatingRuns.h"
 #include "Benchmarks/PlainSumOfSquares.h"
-#include "Benchmarks/TakingTurns.h"
 #include "Orvello/Voice/VoiceActivityDetector.h"
 
 #include <benchmark/benchmark.h>

@@ -1,12 +1,12 @@
-#include "Orvello/Platform/Linux/LinuxWorkspace.h"
-#include "Orvello/Platform/Linux/X11WindowServer.h"
-#include "Orvello/Platform/Linux/X11Windows.h"
+#include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
+#include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
+#include "Orvello/Adapters/Linux/Desktop/X11Windows.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/ManualTimeSource.h"
 #include "Tests/Support/PrivateXServer.h"
 
-#include "Orvello/Presentations/PresentationMonitor.h"
-#include "Orvello/Presentations/PresenterApp.h"
+#include "Orvello/Presentations/Presenters/PresenterApp.h"
+#include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,7 +4,6 @@ add_library(OrvelloWarnings INTERFACE)
 target_compile_options(OrvelloWarnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 
 add_library(OrvelloBase INTERFACE)
-target_include_directories(OrvelloBase INTERFACE ${PROJECT_SOURCE_DIR}/Sources)
 target_compile_definitions(
     OrvelloBase INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
                           QT_DISABLE_DEPRECATED_BEFORE=0x060400)
@@ -23,13 +22,87 @@ if(ORVELLO_SANITIZE)
     target_link_options(OrvelloBase INTERFACE -fsanitize=${ORVELLO_SANITIZE})
 endif()
 
-# orvello_add_library(Name SOURCES ... DEPENDS ...): one static library, reached as Orvello::Name. DEPENDS is public and
-# is the layer graph: a folder can include only what it names here.
-function(orvello_add_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+# The layer graph. A library sees the headers of those that its DEPENDS names and no others, not even those that these see in
+# turn: each has an include root of its own, build/include/<Name>, in which there is its folder alone. Linking is transitive.
+# The graph is also written to build/graph.txt, for the check that holds the tree against it (Tests/Structure).
+
+# Sets `variable` to the include roots of the Orvello:: targets in the arguments.
+function(orvello_roots variable)
+    set(roots ${ARGN})
+    list(FILTER roots INCLUDE REGEX "^Orvello::")
+    list(TRANSFORM roots REPLACE "^Orvello::" "${PROJECT_BINARY_DIR}/include/")
+    set(${variable} ${roots} PARENT_SCOPE)
+endfunction()
+
+# Sets `variable` to the Orvello:: targets in the arguments and all that these depend on.
+function(orvello_closure variable)
+    set(closure ${ARGN})
+    list(FILTER closure INCLUDE REGEX "^Orvello::")
+    set(waiting ${closure})
+    while(waiting)
+        list(POP_FRONT waiting next)
+        get_property(dependencies GLOBAL PROPERTY ORVELLO_DEPENDS_OF_${next})
+        foreach(dependency ${dependencies})
+            if(NOT dependency IN_LIST closure)
+                list(APPEND closure ${dependency})
+                list(APPEND waiting ${dependency})
+            endif()
+        endforeach()
+    endwhile()
+    set(${variable} ${closure} PARENT_SCOPE)
+endfunction()
+
+# orvello_draw(folder Name ...): notes in the graph that this target depends on what is named.
+function(orvello_draw folder name)
+    set(dependencies ${ARGN})
+    list(FILTER dependencies INCLUDE REGEX "^Orvello::")
+    set_property(GLOBAL PROPERTY ORVELLO_DEPENDS_OF_Orvello::${name} ${dependencies})
+    list(JOIN dependencies " " words)
+    string(REPLACE "Orvello::" "" words "${words}")
+    set_property(GLOBAL APPEND PROPERTY ORVELLO_GRAPH "${folder} ${name}: ${words}")
+endfunction()
+
+# orvello_name_folder(variable folder): the name of the library in a folder below Sources/Orvello. Its include root is made.
+function(orvello_name_folder variable folder)
+    string(REPLACE "/" "" name ${folder})
+    set(root ${PROJECT_BINARY_DIR}/include/${name})
+    cmake_path(GET folder PARENT_PATH parent)
+    file(MAKE_DIRECTORY ${root}/Orvello/${parent})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/Sources/Orvello/${folder} ${root}/Orvello/${folder} SYMBOLIC)
+    set(${variable} ${name} PARENT_SCOPE)
+endfunction()
+
+# orvello_add_library(SOURCES ... DEPENDS ... [VIEWED]): the one static library of this folder, reached as Orvello:: and the
+# folder's path without its slashes. DEPENDS is what it may include. VIEWED when the views see types of it.
+function(orvello_add_library)
+    cmake_parse_arguments(ARG "VIEWED" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/Sources/Orvello OUTPUT_VARIABLE folder)
+    orvello_name_folder(name ${folder})
+    orvello_draw(Sources/Orvello/${folder} ${name} ${ARG_DEPENDS})
+    orvello_roots(roots Orvello::${name} ${ARG_DEPENDS})
     add_library(Orvello${name} STATIC ${ARG_SOURCES})
     add_library(Orvello::${name} ALIAS Orvello${name})
+    target_include_directories(Orvello${name} PRIVATE ${roots})
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
+    if(ARG_VIEWED)
+        qt_extract_metatypes(Orvello${name}) # qmllint sees the properties in them.
+    endif()
+endfunction()
+
+# orvello_add_views(...): QML files of this folder, for the one module of all (Sources/Orvello/Views.cmake).
+function(orvello_add_views)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    set_property(GLOBAL APPEND PROPERTY ORVELLO_VIEWS ${ARGN})
+endfunction()
+
+# orvello_use(target ...): a program's libraries. It sees the headers of all that they depend on, too.
+function(orvello_use target)
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE folder)
+    orvello_draw(${folder} ${target} ${ARGN})
+    orvello_closure(seen ${ARGN})
+    orvello_roots(roots ${seen})
+    target_include_directories(${target} PRIVATE ${roots})
+    target_link_libraries(${target} PRIVATE ${ARGN} OrvelloWarnings)
 endfunction()
 
 # What the sanitizer presets build, and nothing else: the programs of the unit tests, and those of them in which threads
@@ -53,7 +126,7 @@ function(orvello_add_test name)
         set(environment ENVIRONMENT "${ARG_ENVIRONMENT}")
     endif()
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS} OrvelloWarnings)
+    orvello_use(${name} OrvelloTestSupport OrvelloTestMain ${ARG_DEPENDS})
     gtest_discover_tests(
         ${name}
         TEST_PREFIX "${ARG_PREFIX}"
@@ -71,7 +144,7 @@ endfunction()
 function(orvello_add_benchmark name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE benchmark::benchmark ${ARG_DEPENDS} OrvelloWarnings)
+    orvello_use(${name} benchmark::benchmark ${ARG_DEPENDS})
     add_dependencies(benchmarks ${name})
 endfunction()
 
@@ -82,7 +155,7 @@ function(orvello_add_fuzzer name)
     cmake_parse_arguments(ARG "" "SEEDS" "SOURCES;DEPENDS;OPTIONS" ${ARGN})
     if(ORVELLO_FUZZ)
         add_executable(${name} ${ARG_SOURCES})
-        target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} OrvelloWarnings)
+        orvello_use(${name} ${ARG_DEPENDS})
         target_link_options(${name} PRIVATE -fsanitize=fuzzer)
         set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_SOURCE_DIR}/build/fuzz/fuzzers)
         add_dependencies(fuzzers ${name})

@@ -46,239 +46,6 @@
     </message>
 </context>
 <context>
-    <name>OnboardingCloseButton</name>
-    <message>
-        <source>Close</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingCopyButton</name>
-    <message>
-        <source>Copied</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the path</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingDots</name>
-    <message>
-        <source>Page %1 of %2</source>
-        <extracomment>Read aloud. %1: a page of the tour; %2: how many there are.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingFeature</name>
-    <message>
-        <source>%1. %2</source>
-        <extracomment>Read aloud, two sentences. %1: a title; %2: a text.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingFooter</name>
-    <message>
-        <source>Skip tour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open my prompter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Continue</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingKeyRow</name>
-    <message>
-        <source>%1: %2</source>
-        <extracomment>Read aloud. %1: keys; %2: what they do.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingPrivacyPage</name>
-    <message>
-        <source>One rule keeps your notes off the recording: share a window, never the whole screen.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One rule and one safety net keep your notes off the recording.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stealth Mode is on by default</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This desktop cannot hide a window</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Want zero risk? Share just the window</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zero risk: share just the window</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
-        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingSetupPage</name>
-    <message>
-        <source>You&apos;re set. Here&apos;s where things are.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Drag the prompter right under your camera for natural eye contact. Resize it from any edge.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shortcuts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause during a slideshow</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hover</source>
-        <extracomment>Instead of a key: the pointer rests on the prompter.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause instantly</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Menu bar</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tray menu</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>… and Scripts, where you write or import what you say, Settings, and this tour.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingWelcomePage</name>
-    <message>
-        <source>Welcome to Orvello</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Invisible on screen shares</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follows your voice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Follows your slides</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
-        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>OnboardingZoomCard</name>
-    <message>
-        <source>Using Zoom? Set this once</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Using Zoom? Share a window</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom → Share Screen → &lt;b&gt;your slides&apos; window&lt;/b&gt; (not Entire Screen).</source>
-        <extracomment>The words between &lt;b&gt; and &lt;/b&gt; are shown in bold.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>Orvello::Appcast</name>
     <message>
         <source>It declares a document type.</source>
@@ -686,17 +453,6 @@ To take this back later: %1</source>
     </message>
 </context>
 <context>
-    <name>Orvello::OnboardingTour</name>
-    <message>
-        <source>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>Orvello::OnboardingWindowController</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1007,6 +763,17 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>Orvello::WelcomeTour</name>
+    <message>
+        <source>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PrivacySettings</name>
     <message>
         <source>Privacy</source>
@@ -1193,6 +960,239 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <name>StatusBadge</name>
     <message>
         <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourCloseButton</name>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourCopyButton</name>
+    <message>
+        <source>Copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourDots</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <extracomment>Read aloud. %1: a page of the tour; %2: how many there are.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourFeature</name>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Read aloud, two sentences. %1: a title; %2: a text.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourFooter</name>
+    <message>
+        <source>Skip tour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open my prompter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourKeyRow</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read aloud. %1: keys; %2: what they do.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourPrivacyPage</name>
+    <message>
+        <source>One rule keeps your notes off the recording: share a window, never the whole screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One rule and one safety net keep your notes off the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stealth Mode is on by default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop cannot hide a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Want zero risk? Share just the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zero risk: share just the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourSetupPage</name>
+    <message>
+        <source>You&apos;re set. Here&apos;s where things are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the prompter right under your camera for natural eye contact. Resize it from any edge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause during a slideshow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <extracomment>Instead of a key: the pointer rests on the prompter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause instantly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tray menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourWelcomePage</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invisible on screen shares</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not part of a window share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows your voice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follows your slides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TourZoomCard</name>
+    <message>
+        <source>Using Zoom? Set this once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Using Zoom? Share a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom → Share Screen → &lt;b&gt;your slides&apos; window&lt;/b&gt; (not Entire Screen).</source>
+        <extracomment>The words between &lt;b&gt; and &lt;/b&gt; are shown in bold.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -10,7 +10,7 @@ from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office, notes
 # The dots of the slide chip.
 GREEN = (48, 209, 88)
 RED = (255, 69, 58)
-HAS_CHIP = (SOURCES / "Sources/Orvello/Prompting/SlideChip.qml").exists()
+HAS_CHIP = (SOURCES / "Sources/Orvello/Prompting/View/SlideChip.qml").exists()
 
 
 def is_other(card, before):

@@ -1,4 +1,4 @@
-#include "Orvello/Platform/Appcast.h"
+#include "Orvello/Shell/Updates/Appcast.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Whatever a presentation application prints, as bytes.
 
-#include "Orvello/Library/DeckRecord.h"
-#include "Orvello/Platform/Utf8.h"
+#include "Orvello/Foundation/Utf8.h"
+#include "Orvello/Library/Import/DeckRecord.h"
 
 #include <algorithm>
 #include <cstdint>

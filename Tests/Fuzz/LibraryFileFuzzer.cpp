@@ -1,6 +1,6 @@
 // Any bytes for a library file: they are refused, or give scripts that survive being written.
 
-#include "Orvello/Library/ScriptCoding.h"
+#include "Orvello/Library/Records/ScriptCoding.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 /// Any bytes as a package: opening it, finding its slides, extracting and reading their parts.
 
-#include "Orvello/Presentations/DeckReader.h"
-#include "Orvello/Presentations/ZipArchive.h"
+#include "Orvello/Presentations/Decks/DeckReader.h"
+#include "Orvello/Presentations/Decks/ZipArchive.h"
 
 #include <QBuffer>
 

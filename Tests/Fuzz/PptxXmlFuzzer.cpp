@@ -1,9 +1,9 @@
 /// Any bytes as each kind of part that the importer reads.
 
-#include "Orvello/Presentations/PackagePath.h"
-#include "Orvello/Presentations/PlaceholderTextParser.h"
-#include "Orvello/Presentations/RelsParser.h"
-#include "Orvello/Presentations/SlideOrderParser.h"
+#include "Orvello/Presentations/Decks/PackagePath.h"
+#include "Orvello/Presentations/Decks/PlaceholderTextParser.h"
+#include "Orvello/Presentations/Decks/RelsParser.h"
+#include "Orvello/Presentations/Decks/SlideOrderParser.h"
 
 #include <cstdint>
 

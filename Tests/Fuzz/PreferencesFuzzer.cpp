@@ -1,6 +1,6 @@
 // Any bytes for a file of preferences: they are refused, or give values that survive being written.
 
-#include "Orvello/Platform/Linux/PreferencesCoding.h"
+#include "Orvello/Adapters/Linux/Early/PreferencesCoding.h"
 
 #include <cstdint>
 #include <cstdlib>

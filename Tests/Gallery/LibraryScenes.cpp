@@ -1,6 +1,6 @@
 #include "Tests/Gallery/Scenes.h"
 
-#include "Orvello/Shell/LibraryWindow.h"
+#include "Orvello/Shell/Windows/LibraryWindow.h"
 #include "Tests/Gallery/Palettes.h"
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"

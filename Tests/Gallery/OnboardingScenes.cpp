@@ -1,7 +1,7 @@
 #include "Tests/Gallery/Scenes.h"
 
-#include "Orvello/Settings/SettingsStore.h"
-#include "Orvello/Shell/OnboardingWindowController.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Windows/OnboardingWindowController.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUserDefaults.h"

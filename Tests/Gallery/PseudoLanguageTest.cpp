@@ -1,9 +1,9 @@
 #include "Tests/Gallery/PseudoLanguage.h"
 
-#include "Orvello/Library/DeckImportError.h"
-#include "Orvello/Presentations/AppleScriptPresenters.h"
-#include "Orvello/Presentations/PptxImporter.h"
-#include "Orvello/Presentations/PresenterApp.h"
+#include "Orvello/Library/Import/DeckImportError.h"
+#include "Orvello/Presentations/Decks/PptxImporter.h"
+#include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
+#include "Orvello/Presentations/Presenters/PresenterApp.h"
 #include "Orvello/Shell/MainMenu.h"
 #include "Orvello/Shell/StatusMenu.h"
 #include "Orvello/Shell/Support.h"

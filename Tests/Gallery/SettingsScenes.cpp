@@ -1,8 +1,8 @@
 #include "Tests/Gallery/Scenes.h"
 
-#include "Orvello/Settings/SettingsStore.h"
-#include "Orvello/Shell/SettingsWindow.h"
-#include "Orvello/Shell/UpdateController.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Shell/Windows/SettingsWindow.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 #include "Tests/Gallery/Palettes.h"
 #include "Tests/Support/EventLoop.h"

@@ -1,4 +1,4 @@
-#include "Orvello/Platform/macOS/CarbonHotKeys.h"
+#include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
 #include "Tests/MacOS/StandIns/CarbonEvents.h"
 
 #include <gmock/gmock.h>

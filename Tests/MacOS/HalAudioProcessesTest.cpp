@@ -1,4 +1,4 @@
-#include "Orvello/Platform/macOS/HalAudioProcesses.h"
+#include "Orvello/Adapters/macOS/Sound/HalAudioProcesses.h"
 #include "Tests/MacOS/StandIns/AudioHardware.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
-#include "Orvello/Platform/macOS/VoiceProcessingIO.h"
-#include "Orvello/Voice/SampleListener.h"
+#include "Orvello/Adapters/macOS/Sound/VoiceProcessingIO.h"
+#include "Orvello/Platform/Sound/SampleListener.h"
 #include "Orvello/Voice/VoiceProcessingCapture.h"
 #include "Tests/MacOS/StandIns/VoiceUnit.h"
 

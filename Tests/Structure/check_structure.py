@@ -1,8 +1,9 @@
 """Holds the tree against what its papers and its CMake files say.
 
     check_structure.py paths      each path that ARCHITECTURE.md names exists
-    check_structure.py includes   a folder includes only folders that its layer may see
-    check_structure.py platforms  nothing outside Platform/ asks for an operating system
+    check_structure.py graph GRAPH          the arrows of CMake's graph run down, and no others are in the sources
+    check_structure.py walls COMMANDS ROOTS  the compiler finds no header that a library does not name
+    check_structure.py platforms  nothing outside Adapters/ asks for an operating system
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
     check_structure.py format     the sources are laid out as clang-format does it
@@ -10,8 +11,10 @@
                                   others; those of the languages named are translated, every one
 """
 
+import json
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -20,18 +23,9 @@ import xml.etree.ElementTree
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SOURCES = ROOT / "Sources" / "Orvello"
 
-# Which folders each folder may include, besides itself.
-MAY_INCLUDE = {
-    "Platform": set(),
-    "Diagnostics": {"Platform"},
-    "Settings": {"Platform", "Diagnostics"},
-    "Library": {"Platform", "Diagnostics", "Presentations"},
-    "Voice": {"Platform", "Diagnostics", "Settings"},
-    "Presentations": {"Platform", "Diagnostics", "Settings", "Library", "Voice"},
-    "Prompting": {"Platform", "Diagnostics", "Settings", "Library", "Voice", "Presentations"},
-}
-# The deck importer lies below the library, which calls it; the rest of its folder lies above.
-LIBRARY_MAY_INCLUDE_OF_PRESENTATIONS = {"PptxImporter.h", "PresenterApp.h"}
+# Where programs link the adapters, which open windows, devices and connections.
+MAY_LINK_ADAPTERS = ("Sources/Orvello/Adapters/", "Sources/Orvello/Shell/App", "Tests/Adapters", "Tests/EndToEnd", "Tests/MacOS",
+                     "Benchmarks")
 
 
 def sources(*suffixes):
@@ -48,28 +42,109 @@ def check_paths():
             for name in named if not (ROOT / name).exists()]
 
 
-def is_adapter(path):
-    relative = path.relative_to(SOURCES)
-    return relative.parts[0] == "Platform" and (len(relative.parts) > 2 or path.suffix != ".h")
+def read_graph(path):
+    """What CMake wrote of each target: its folder, its name, and the names of the libraries that it depends on."""
+    lines = [re.fullmatch(r"(\S+) ([^:]+):(.*)", line) for line in pathlib.Path(path).read_text().splitlines()]
+    targets = [(line.group(1), line.group(2), line.group(3).split()) for line in lines]
+    libraries = {name: (folder.removeprefix("Sources/Orvello/"), depends) for folder, name, depends in targets
+                 if folder.startswith("Sources/") and name != "orvello"}
+    assert len(libraries) > 20, "CMake's graph is empty"
+    return libraries, targets
 
 
-def check_includes():
+def check_picture(libraries):
+    """The picture of ARCHITECTURE.md: each library once, above all that it depends on."""
+    picture = re.search(r"CMake's graph. -->\n```\n(.*?)```", (ROOT / "ARCHITECTURE.md").read_text(), re.DOTALL).group(1)
+    folders = {folder for folder, _ in libraries.values()}
+    line_of, problems = {}, []
+    for number, line in enumerate(picture.splitlines()):
+        for word in re.findall(r"[\w/]+", line):
+            if word in line_of and word in folders:
+                problems.append(f"ARCHITECTURE.md draws {word} twice")
+            elif "/" in word and not (SOURCES / word).is_dir():
+                problems.append(f"ARCHITECTURE.md draws {word}, which does not exist")
+            line_of[word] = number
+    for folder, depends in libraries.values():
+        if folder not in line_of:
+            problems.append(f"ARCHITECTURE.md does not draw {folder}")
+            continue
+        problems += [f"ARCHITECTURE.md draws {folder} no higher than {libraries[other][0]}, on which it depends" for other in depends
+                     if line_of.get(libraries[other][0], -1) <= line_of[folder]]
+    return problems
+
+
+def check_graph():
+    libraries, targets = read_graph(sys.argv[2])
     problems = []
-    for path in sources(".h", ".cpp", ".mm"):
-        if SOURCES not in path.parents or is_adapter(path):
-            continue
-        folder = path.relative_to(SOURCES).parts[0]
-        if folder == "Shell":
-            continue
-        for target, rest in re.findall(r'#include "Orvello/(\w+)/([^"]+)"', path.read_text()):
-            where = f"{path.relative_to(ROOT)} includes {target}/{rest}"
-            if target == folder and "/" not in rest:
-                continue
-            if "/" in rest or target not in MAY_INCLUDE[folder]:
-                problems.append(where)
-            elif (folder, target) == ("Library", "Presentations") \
-                    and rest not in LIBRARY_MAY_INCLUDE_OF_PRESENTATIONS:
-                problems.append(where)
+
+    # No cycles: take away what depends on nothing that is left, until nothing is.
+    left = dict(libraries)
+    while ready := [name for name, (_, depends) in left.items() if not any(other in left for other in depends)]:
+        for name in ready:
+            del left[name]
+    problems += [f"{folder} is part of a cycle" for folder, _ in left.values()]
+
+    problems += [f"Foundation depends on {other}" for other in libraries["Foundation"][1]]
+    is_adapter = lambda name: name.startswith("Adapters")
+    problems += [f"{name} in {folder} links {other}" for folder, name, depends in targets for other in depends
+                 if is_adapter(other) and not folder.startswith(MAY_LINK_ADAPTERS)]
+    problems += [f"{folder} links {other}" for name, (folder, depends) in libraries.items() for other in depends
+                 if is_adapter(other) and not is_adapter(name)]
+
+    problems += check_picture(libraries)
+
+    # What is named but not included would draw arrows that are not there. Headers are followed, as the compiler does.
+    by_folder = {folder: set(depends) for folder, depends in libraries.values()}
+    name_of = {folder: name for name, (folder, _) in libraries.items()}
+    includes = {}
+    for path in sources(".h", ".cpp", ".mm", ".h.in"):
+        if SOURCES in path.parents:
+            names = re.findall(r'#(?:include|import) "(?:Orvello/([^"]+)|Version[.]h)"', path.read_text())
+            includes[str(path.relative_to(SOURCES))] = [name or "Shell/Launch/Version.h.in" for name in names]
+    for folder, depends in by_folder.items():
+        seen, waiting = set(), [name for name in includes if str(pathlib.PurePath(name).parent) == folder]
+        while waiting:
+            name = waiting.pop()
+            if name not in seen:
+                seen.add(name)
+                waiting += includes.get(name, [])
+        used = {name_of[str(pathlib.PurePath(name).parent)] for name in seen} - {name_of[folder]}
+        problems += [f"{folder} names {other}, of which it includes nothing" for other in sorted(depends - used - {"ShellViews"})]
+        problems += [f"{folder} includes from {other}, which it does not name" for other in sorted(used - depends)]
+    return problems
+
+
+def check_walls():
+    """Asks the compiler itself, with each library's own flags, for a header of each library that it does not name."""
+    commands, roots = json.loads(pathlib.Path(sys.argv[2]).read_text()), pathlib.Path(sys.argv[3])
+    libraries, _ = read_graph(roots.parent / "graph.txt")
+    header = {name: sorted((SOURCES / folder).glob("*.h"))[0].relative_to(SOURCES) for name, (folder, _) in libraries.items()
+              if (SOURCES / folder).glob("*.h") and name in (path.name for path in roots.iterdir())}
+    problems = []
+    with tempfile.TemporaryDirectory() as scratch:
+        probe = pathlib.Path(scratch) / "probe.cpp"
+        for name, (folder, depends) in libraries.items():
+            flags = next((entry for entry in commands
+                          if pathlib.Path(entry["file"]).parent == SOURCES / folder), None)
+            if flags is None:
+                continue # Headers alone, or another platform's.
+            words = shlex.split(flags["command"])
+            words = words[next(i for i, word in enumerate(words) if "/" in word and "ccache" not in word):words.index("-o")]
+            words = [word for i, word in enumerate(words) if word not in ("-MD", "-MT", "-MF") and words[i - 1] not in ("-MT", "-MF")]
+
+            def compiles(*lines):
+                probe.write_text("\n".join(lines) + "\n")
+                return subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=flags["directory"], capture_output=True).returncode == 0
+
+            include = lambda other: f'#include "Orvello/{header[other]}"'
+            seen = [other for other in (name, *depends) if other in header]
+            if not compiles(*(f'#if !__has_include("Orvello/{header[other]}")\n#error\n#endif' for other in seen)):
+                problems.append(f"{folder} does not see what it names")
+            unseen = [other for other in header if other not in (name, *depends)]
+            if not compiles(*(f'#if __has_include("Orvello/{header[other]}")\n#error {other}\n#endif' for other in unseen)):
+                problems.append(f"{folder} sees what it does not name")
+            if name == "Foundation" and (not compiles(include("Foundation")) or compiles(include("LibraryStore"))):
+                problems.append("Foundation compiles an include of Library/Store, or none at all")
     return problems
 
 
@@ -77,7 +152,7 @@ def check_platforms():
     asks = re.compile(r"#\s*(?:if|ifdef|elif).*(?:__APPLE__|__linux__|__unix__|Q_OS_|_WIN32)")
     problems = []
     for path in sources(".h", ".cpp", ".mm"):
-        if SOURCES in path.parents and "Platform" not in path.relative_to(SOURCES).parts \
+        if SOURCES in path.parents and "Adapters" not in path.relative_to(SOURCES).parts \
                 and asks.search(path.read_text()):
             problems.append(f"{path.relative_to(ROOT)} asks for an operating system")
     return problems
@@ -176,7 +251,7 @@ def check_translations():
     return found
 
 
-CHECKS = {"paths": check_paths, "includes": check_includes, "platforms": check_platforms,
+CHECKS = {"paths": check_paths, "graph": check_graph, "walls": check_walls, "platforms": check_platforms,
           "library": check_library, "threads": check_threads, "format": check_format, "translations": check_translations}
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/Facts.h"
+#include "Orvello/Foundation/Facts.h"
 
 namespace Orvello::Testing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Voice/AudioProcesses.h"
+#include "Orvello/Platform/Sound/AudioProcesses.h"
 
 namespace Orvello::Testing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/ChildProcess.h"
+#include "Orvello/Platform/Early/ChildProcess.h"
 
 #include <QList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Shell/Command.h"
+#include "Orvello/Shell/Commands/Command.h"
 
 #include <QStringList>
 

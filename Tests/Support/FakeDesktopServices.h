@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/DesktopServices.h"
+#include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Tests/Support/Journal.h"
 
 #include <QList>

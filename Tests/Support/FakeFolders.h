@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/Folders.h"
+#include "Orvello/Platform/Early/Folders.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/HelperProcess.h"
+#include "Orvello/Platform/Desktop/HelperProcess.h"
 
 #include <QList>
 

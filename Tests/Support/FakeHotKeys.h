@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/HotKeys.h"
+#include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Tests/Support/Journal.h"
 
 #include <map>

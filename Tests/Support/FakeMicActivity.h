@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/MicActivity.h"
+#include "Orvello/Voice/MicActivity.h"
 
 namespace Orvello::Testing {
 

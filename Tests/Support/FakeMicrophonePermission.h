@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Voice/MicrophonePermission.h"
+#include "Orvello/Platform/Sound/MicrophonePermission.h"
 
 #include <utility>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Prompting/NativePanel.h"
+#include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Tests/Support/Journal.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/OpenPanel.h"
+#include "Orvello/Platform/Desktop/OpenPanel.h"
 
 namespace Orvello::Testing {
 

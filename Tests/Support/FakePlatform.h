@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Orvello/Platform/Platform.h"
-#include "Orvello/Platform/RunningInstance.h"
-#include "Orvello/Platform/StatusBar.h"
+#include "Orvello/Platform/Desktop/Platform.h"
+#include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/RunningInstance.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeAudioProcesses.h"
 #include "Tests/Support/FakeChildProcess.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Presentations/PresenterApp.h"
+#include "Orvello/Presentations/Presenters/PresenterApp.h"
 
 #include <utility>
 #include <vector>

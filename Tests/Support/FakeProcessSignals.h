@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/ProcessSignals.h"
+#include "Orvello/Platform/Early/ProcessSignals.h"
 #include "Tests/Support/Journal.h"
 
 #include <map>

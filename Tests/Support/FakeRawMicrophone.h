@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Voice/RawMicrophone.h"
+#include "Orvello/Platform/Sound/RawMicrophone.h"
 
 #include <optional>
 #include <span>

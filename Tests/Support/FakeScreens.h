@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/Screens.h"
+#include "Orvello/Platform/Desktop/Screens.h"
 
 namespace Orvello::Testing {
 

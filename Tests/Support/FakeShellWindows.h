@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Orvello/Shell/Menu.h"
-#include "Orvello/Shell/ShellWindows.h"
-#include "Orvello/Shell/StatusItem.h"
+#include "Orvello/Shell/Commands/Menu.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/StatusItem.h"
 #include "Tests/Support/Journal.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/SystemLog.h"
+#include "Orvello/Platform/Early/SystemLog.h"
 #include "Tests/Support/Journal.h"
 
 #include <mutex>

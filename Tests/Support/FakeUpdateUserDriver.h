@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/UpdateUserDriver.h"
+#include "Orvello/Platform/Desktop/UpdateUserDriver.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/Updater.h"
+#include "Orvello/Platform/Desktop/Updater.h"
 #include "Tests/Support/Journal.h"
 
 #include <utility>

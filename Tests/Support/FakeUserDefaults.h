@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/UserDefaults.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
 #include "Tests/Support/Journal.h"
 
 namespace Orvello::Testing {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/WindowChrome.h"
+#include "Orvello/Platform/Desktop/WindowChrome.h"
 
 namespace Orvello::Testing {
 

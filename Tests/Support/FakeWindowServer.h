@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/WindowServer.h"
+#include "Orvello/Platform/Desktop/WindowServer.h"
 
 namespace Orvello::Testing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/Workspace.h"
+#include "Orvello/Platform/Desktop/Workspace.h"
 #include "Tests/Support/Journal.h"
 
 #include <QStringList>

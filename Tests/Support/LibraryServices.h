@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Orvello/Library/DeckImports.h"
-#include "Orvello/Library/LibraryStore.h"
-#include "Orvello/Library/LiveDeckImport.h"
-#include "Orvello/Library/UuidText.h"
-#include "Orvello/Presentations/AppleScriptPresenters.h"
+#include "Orvello/Library/Import/LiveDeckImport.h"
+#include "Orvello/Library/Records/UuidText.h"
+#include "Orvello/Library/Store/LibraryStore.h"
+#include "Orvello/Library/Window/DeckImports.h"
+#include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeFolders.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/TimeSource.h"
+#include "Orvello/Platform/Early/TimeSource.h"
 
 #include <algorithm>
 #include <atomic>

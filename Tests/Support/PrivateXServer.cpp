@@ -1,6 +1,6 @@
 #include "Tests/Support/PrivateXServer.h"
 
-#include "Orvello/Platform/Linux/Xcb.h"
+#include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 
 #include <array>
 #include <xcb/xcb.h>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Orvello/Library/LibraryStore.h"
-#include "Orvello/Presentations/DeckController.h"
-#include "Orvello/Prompting/ScrollEngine.h"
-#include "Orvello/Settings/SettingsStore.h"
-#include "Orvello/Shell/PrompterWindow.h"
+#include "Orvello/Library/Store/LibraryStore.h"
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Windows/PrompterWindow.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeFolders.h"

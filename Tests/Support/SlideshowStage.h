@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Presentations/PresentationMonitor.h"
+#include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/FakePresenter.h"
 #include "Tests/Support/FakeWindowServer.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Settings/SettingsStore.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeMicActivity.h"

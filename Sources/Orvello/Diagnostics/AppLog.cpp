@@ -4,7 +4,7 @@
 #include "Orvello/Diagnostics/LogFormat.h"
 #include "Orvello/Diagnostics/SessionMarker.h"
 #include "Orvello/Diagnostics/Timestamp.h"
-#include "Orvello/Platform/SystemLog.h"
+#include "Orvello/Platform/Early/SystemLog.h"
 
 #include <atomic>
 #include <exception>

@@ -1,6 +1,6 @@
 #include "Orvello/Diagnostics/SessionMarker.h"
 
-#include "Orvello/Platform/AtomicFile.h"
+#include "Orvello/Foundation/AtomicFile.h"
 
 #include <QFile>
 #include <QFileInfo>

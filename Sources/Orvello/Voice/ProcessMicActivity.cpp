@@ -1,6 +1,6 @@
 #include "Orvello/Voice/ProcessMicActivity.h"
 
-#include "Orvello/Voice/AudioProcesses.h"
+#include "Orvello/Platform/Sound/AudioProcesses.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Platform/MeetingApplications.h"
-#include "Orvello/Platform/MicActivity.h"
-#include "Orvello/Platform/Workspace.h"
-#include "Orvello/Settings/SettingsStore.h"
-#include "Orvello/Voice/MicrophonePermission.h"
-#include "Orvello/Voice/RawMicrophone.h"
+#include "Orvello/Platform/Desktop/Workspace.h"
+#include "Orvello/Platform/Sound/MicrophonePermission.h"
+#include "Orvello/Platform/Sound/RawMicrophone.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Voice/MeetingApplications.h"
+#include "Orvello/Voice/MicActivity.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Orvello/Platform/TimeSource.h"
-#include "Orvello/Platform/WakeUp.h"
+#include "Orvello/Foundation/WakeUp.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Platform/Sound/SampleListener.h"
 #include "Orvello/Voice/ReportQueue.h"
-#include "Orvello/Voice/SampleListener.h"
 #include "Orvello/Voice/VoiceActivityDetector.h"
 #include "Orvello/Voice/VoiceProcessingCapture.h"
 

@@ -1,7 +1,7 @@
 #include "Orvello/Voice/VoiceProcessingCapture.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Voice/SampleListener.h"
+#include "Orvello/Platform/Sound/SampleListener.h"
 
 #include <algorithm>
 #include <span>

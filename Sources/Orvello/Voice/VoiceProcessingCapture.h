@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Voice/VoiceProcessing.h"
+#include "Orvello/Platform/Sound/VoiceProcessing.h"
 
 #include <cstdint>
 #include <memory>

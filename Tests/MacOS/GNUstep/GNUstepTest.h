@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Platform/macOS/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
 
 #include <QTemporaryDir>
 

@@ -2,11 +2,11 @@
 // own, which runs where there is no macOS. GNUstep has no menu bar for status items, so that one is
 // a recording.
 
-#include "Orvello/Platform/macOS/CocoaMenu.h"
-#include "Orvello/Platform/macOS/CocoaMenuBar.h"
-#include "Orvello/Platform/macOS/OrvelloApplication.h"
-#include "Orvello/Shell/MainMenu.h"
-#include "Orvello/Shell/StatusItem.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaMenu.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaMenuBar.h"
+#include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
+#include "Orvello/Shell/Commands/MainMenu.h"
+#include "Orvello/Shell/Commands/StatusItem.h"
 #include "Tests/MacOS/GNUstep/GNUstepTest.h"
 #include "Tests/MacOS/GNUstep/RecordingField.h"
 #include "Tests/Support/PrivateXServer.h"

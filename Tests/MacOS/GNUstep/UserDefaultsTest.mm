@@ -1,9 +1,9 @@
 // The conversions between preferences and property lists, for real: on GNUstep's Foundation, which
 // runs where there is no macOS. Built without ARC, which GNUstep here has none of.
 
-#include "Orvello/Platform/macOS/CocoaText.h"
-#include "Orvello/Platform/macOS/CocoaUserDefaults.h"
-#include "Orvello/Platform/macOS/PropertyList.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
+#include "Orvello/Adapters/macOS/Early/PropertyList.h"
 #include "Tests/MacOS/GNUstep/GNUstepTest.h"
 
 #include <QDateTime>

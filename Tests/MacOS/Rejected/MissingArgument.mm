@@ -1,4 +1,4 @@
 // rejects: no visible @interface for 'PrompterPanel' declares the selector 'setFrame:'
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void move(PrompterPanel* panel, NSRect frame) { [panel setFrame:frame]; }

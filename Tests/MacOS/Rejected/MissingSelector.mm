@@ -1,4 +1,4 @@
 // rejects: no visible @interface for 'PrompterPanel' declares the selector 'orderFrontRegardles'
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void show(PrompterPanel* panel) { [panel orderFrontRegardles]; }

@@ -1,4 +1,4 @@
 // rejects: assignment to readonly property
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void renumber(PrompterPanel* panel) { panel.windowNumber = 1; }

@@ -1,4 +1,4 @@
 // rejects: no viable conversion from 'NSSize' (aka 'CGSize') to 'NSRect'
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void move(PrompterPanel* panel) { [panel setFrame:NSSize { 720, 200 } display:YES]; }

@@ -1,5 +1,5 @@
 // rejects: incompatible block pointer types
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void listen(PrompterPanel* panel)
 {

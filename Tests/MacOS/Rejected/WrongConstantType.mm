@@ -1,5 +1,5 @@
 // rejects: assigning to 'NSWindowSharingType' from incompatible type 'NSWindowCollectionBehavior'
-#include "Orvello/Platform/macOS/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 
 void hide(PrompterPanel* panel)
 {

@@ -1,0 +1,41 @@
+#include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMimeDatabase>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "PowerPoint 2007 presentation (*.pptx *.PPTX)": the system's words for files of this kind, and
+/// both ways to write it, of which some dialogs make a difference.
+QString filterFor(const QString& extension)
+{
+    const QString pattern = u"*.%1 *.%2"_s.arg(extension.toLower(), extension.toUpper());
+    const QMimeType type
+        = QMimeDatabase().mimeTypeForFile(u"file."_s + extension, QMimeDatabase::MatchExtension);
+    return type.comment() + u" ("_s + pattern + u")"_s;
+}
+
+} // namespace
+
+std::optional<QString> FileDialog::chooseFile(const QString& message, const FileKind& kind)
+{
+    // There is no place for a message but the title.
+    QFileDialog dialog(nullptr, message);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilter(filterFor(kind.extension));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    const QString file = dialog.selectedFiles().first();
+    // A name can be typed past the filter.
+    if (QFileInfo(file).suffix().compare(kind.extension, Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    return file;
+}
+
+} // namespace Orvello

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/OpenPanel.h"
+
+namespace Orvello {
+
+/// The desktop's own file dialog, where its platform theme or portal has one, else Qt's.
+class FileDialog final : public OpenPanel {
+public:
+    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override;
+};
+
+} // namespace Orvello

@@ -1,0 +1,246 @@
+#include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
+
+#include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
+#include "Orvello/Adapters/Portable/QtScreens.h"
+#include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Prompting/Panel/PanelFrame.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int edgeWidth = 6; ///< How far from its edge the panel is taken by the edge, in points.
+constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
+
+double mainScreenHeight()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry().height() : PanelFrame::assumedScreen.height();
+}
+
+Qt::Edges edgesAt(QPointF position, QSize size)
+{
+    const double toLeft = position.x();
+    const double toTop = position.y();
+    const double toRight = size.width() - position.x();
+    const double toBottom = size.height() - position.y();
+    const bool onSide = std::min(toLeft, toRight) < edgeWidth;
+    const bool onEnd = std::min(toTop, toBottom) < edgeWidth;
+    const int sideReach = onEnd ? cornerWidth : edgeWidth;
+    const int endReach = onSide ? cornerWidth : edgeWidth;
+
+    Qt::Edges edges;
+    edges.setFlag(Qt::LeftEdge, toLeft < sideReach);
+    edges.setFlag(Qt::RightEdge, toRight < sideReach);
+    edges.setFlag(Qt::TopEdge, toTop < endReach);
+    edges.setFlag(Qt::BottomEdge, toBottom < endReach);
+    return edges;
+}
+
+Qt::CursorShape cursorFor(Qt::Edges edges)
+{
+    if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge))
+        return Qt::SizeFDiagCursor;
+    if (edges == (Qt::RightEdge | Qt::TopEdge) || edges == (Qt::LeftEdge | Qt::BottomEdge))
+        return Qt::SizeBDiagCursor;
+    if (edges & (Qt::LeftEdge | Qt::RightEdge))
+        return Qt::SizeHorCursor;
+    if (edges & (Qt::TopEdge | Qt::BottomEdge))
+        return Qt::SizeVerCursor;
+    return Qt::ArrowCursor;
+}
+
+/// The geometry with the given edges moved by `delta`, inside the size limits; the opposite edges
+/// stay where they are.
+QRect resized(QRect geometry, Qt::Edges edges, QPoint delta)
+{
+    const QSize smallest = NativePanel::minimumSize.toSize();
+    const QSize largest = NativePanel::maximumSize.toSize();
+    int width = geometry.width();
+    int height = geometry.height();
+    if (edges & Qt::LeftEdge)
+        width -= delta.x();
+    if (edges & Qt::RightEdge)
+        width += delta.x();
+    if (edges & Qt::TopEdge)
+        height -= delta.y();
+    if (edges & Qt::BottomEdge)
+        height += delta.y();
+    width = std::clamp(width, smallest.width(), largest.width());
+    height = std::clamp(height, smallest.height(), largest.height());
+
+    if (edges & Qt::LeftEdge)
+        geometry.setLeft(geometry.right() + 1 - width);
+    if (edges & Qt::TopEdge)
+        geometry.setTop(geometry.bottom() + 1 - height);
+    geometry.setSize({ width, height });
+    return geometry;
+}
+
+} // namespace
+
+X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
+    : m_window(window)
+    , m_defaults(defaults)
+{
+    m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
+        | Qt::WindowDoesNotAcceptFocus | Qt::BypassWindowManagerHint);
+    m_window.setMinimumSize(minimumSize.toSize());
+    m_window.setMaximumSize(maximumSize.toSize());
+    m_window.create();
+    m_window.installEventFilter(this);
+    m_stackingGuard
+        = std::make_unique<X11StackingGuard>(static_cast<std::uint32_t>(m_window.winId()));
+}
+
+X11Panel::~X11Panel() { m_window.removeEventFilter(this); }
+
+QRectF X11Panel::frame() const { return turnedOver(m_window.geometry(), mainScreenHeight()); }
+
+void X11Panel::setFrame(const QRectF& frame)
+{
+    m_settledFrame = frame;
+    m_window.setGeometry(turnedOver(frame, mainScreenHeight()).toRect());
+    announceSize();
+}
+
+void X11Panel::setFrameAutosaveName(const QString& name)
+{
+    // The key and the text are those of the macOS window system, so that both editions read the
+    // same.
+    m_autosaveKey = u"NSWindow Frame "_s + name;
+    const std::optional<QString> saved = DefaultsValue::asString(m_defaults.value(m_autosaveKey));
+    const QList<QRectF> screens = QtScreens().frames();
+    if (const std::optional<QRectF> frame = saved ? PanelFrame::parsed(*saved) : std::nullopt)
+        setFrame(PanelFrame::onScreen(
+            PanelFrame::withSizeBetween(*frame, minimumSize, maximumSize), screens));
+}
+
+void X11Panel::orderFrontRegardless()
+{
+    m_window.show();
+    m_stackingGuard->raise();
+}
+
+void X11Panel::orderOut() { m_window.hide(); }
+
+bool X11Panel::isVisible() const { return m_window.isVisible(); }
+
+qint64 X11Panel::windowNumber() const { return static_cast<qint64>(m_window.winId()); }
+
+bool X11Panel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != &m_window)
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        return pressed(static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseMove:
+        return moved(static_cast<const QMouseEvent&>(*event));
+    case QEvent::MouseButtonRelease:
+        return released(static_cast<const QMouseEvent&>(*event));
+    case QEvent::Wheel: {
+        const auto& wheel = static_cast<const QWheelEvent&>(*event);
+        // One notch is 120 units, and 10 points; a touchpad sends fractions of it. What Qt calls
+        // the pixel delta is the device's raw axis on X11, in no unit that two drivers agree on.
+        constexpr double pointsPerAngleUnit = 1.0 / 12.0;
+        Q_EMIT scrolled(wheel.angleDelta().y() * pointsPerAngleUnit);
+        return true;
+    }
+    case QEvent::Hide:
+        endGesture(); // No release comes to a window that is not there.
+        return false;
+    case QEvent::Move:
+        saveFrame();
+        return false;
+    case QEvent::Resize:
+        saveFrame();
+        announceSize();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool X11Panel::pressed(QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton || m_gesture.isActive)
+        return false;
+    const Qt::Edges edges = edgesAt(event.position(), m_window.size());
+    if (!edges) {
+        // The background is whatever the view does not want for itself.
+        static_cast<QObject&>(m_window).event(&event);
+        if (event.exclusiveGrabber(event.point(0)))
+            return true;
+    }
+    m_gesture = { true, edges, event.globalPosition().toPoint(), m_window.geometry() };
+    return true;
+}
+
+bool X11Panel::moved(const QMouseEvent& event)
+{
+    if (!m_gesture.isActive) {
+        const Qt::CursorShape shape = cursorFor(edgesAt(event.position(), m_window.size()));
+        if (m_window.cursor().shape() != shape)
+            m_window.setCursor(shape);
+        return false;
+    }
+    const QPoint delta = event.globalPosition().toPoint() - m_gesture.startPointer;
+    m_window.setGeometry(m_gesture.edges ? resized(m_gesture.startGeometry, m_gesture.edges, delta)
+                                         : m_gesture.startGeometry.translated(delta));
+    return true;
+}
+
+bool X11Panel::released(const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton || !m_gesture.isActive)
+        return false;
+    endGesture();
+    return true;
+}
+
+void X11Panel::endGesture()
+{
+    if (!m_gesture.isActive)
+        return;
+    // The last size belongs to the gesture, although the server has yet to confirm it.
+    announceSize();
+    const bool wasResize = m_gesture.edges != Qt::Edges();
+    m_gesture = {};
+    saveFrame();
+    if (wasResize)
+        Q_EMIT didEndLiveResize();
+}
+
+/// A window that is shown, or only moved, is told of its size again.
+void X11Panel::announceSize()
+{
+    if (std::exchange(m_announcedSize, m_window.size()) != m_window.size())
+        Q_EMIT didResize();
+}
+
+void X11Panel::saveFrame()
+{
+    // While a gesture goes on, only its end counts.
+    if (m_autosaveKey.isEmpty() || m_gesture.isActive || frame() == m_settledFrame)
+        return;
+    m_settledFrame = frame();
+    const QList<QRectF> screens = QtScreens().frames();
+    m_defaults.setValue(m_autosaveKey,
+        PanelFrame::text(
+            m_settledFrame, screens.isEmpty() ? PanelFrame::assumedScreen : screens.first()));
+}
+
+} // namespace Orvello

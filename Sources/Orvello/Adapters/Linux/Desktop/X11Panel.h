@@ -1,0 +1,73 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/NativePanel.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
+
+#include <QRect>
+#include <QSize>
+
+#include <memory>
+
+class QMouseEvent;
+class QWindow;
+
+namespace Orvello {
+
+class X11StackingGuard;
+
+/// The prompter's window on X11, around the window that shows the view. Window managers disagree
+/// about what is above a full-screen window and about which windows may be without focus, so the
+/// panel asks none of them: it is an override-redirect window, which no manager places, focuses or
+/// assigns to a workspace. What the manager would do otherwise is done here: staying on top,
+/// dragging, resizing, remembering the frame.
+class X11Panel final : public NativePanel {
+    Q_OBJECT
+
+public:
+    /// `window` must not have been shown yet. Both must outlive the panel.
+    X11Panel(QWindow& window, UserDefaults& defaults);
+    ~X11Panel() override;
+
+    QRectF frame() const override;
+    void setFrame(const QRectF& frame) override;
+    void setFrameAutosaveName(const QString& name) override;
+    void orderFrontRegardless() override;
+    void orderOut() override;
+    bool isVisible() const override;
+    qint64 windowNumber() const override;
+    bool inLiveResize() const override { return m_gesture.edges && m_gesture.isActive; }
+    SharingType sharingType() const override { return m_sharingType; }
+    void setSharingType(SharingType type) override { m_sharingType = type; }
+
+    /// X11 shows every window to every client; no request keeps one out.
+    bool canExcludeFromCapture() const override { return false; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// A drag of the background (no edges) or of one or two edges.
+    struct Gesture {
+        bool isActive = false;
+        Qt::Edges edges;
+        QPoint startPointer;
+        QRect startGeometry;
+    };
+
+    bool pressed(QMouseEvent& event);
+    bool moved(const QMouseEvent& event);
+    bool released(const QMouseEvent& event);
+    void endGesture();
+    void announceSize();
+    void saveFrame();
+
+    QWindow& m_window;
+    UserDefaults& m_defaults;
+    std::unique_ptr<X11StackingGuard> m_stackingGuard;
+    QString m_autosaveKey; ///< Empty while the frame is not saved.
+    QRectF m_settledFrame; ///< As it was set or saved last: what need not be saved.
+    QSize m_announcedSize;
+    SharingType m_sharingType = SharingType::ReadOnly;
+    Gesture m_gesture;
+};
+
+} // namespace Orvello

@@ -1,0 +1,47 @@
+#include "Orvello/Adapters/Linux/Sound/PulseMicrophone.h"
+
+namespace Orvello {
+
+PulseMicrophone::PulseMicrophone(PulseConnection& connection)
+    : m_connection(connection)
+    , m_blocks(1)
+{
+}
+
+double PulseMicrophone::sampleRate() { return m_connection.factsOnceConnected().defaultSourceRate; }
+
+void PulseMicrophone::installTap(int blockFrames, SampleListener& listener)
+{
+    const PulseConnection::Lock lock(m_connection);
+    m_blocks = SampleBlocks(static_cast<std::size_t>(blockFrames));
+    m_listener = &listener;
+}
+
+void PulseMicrophone::removeTap()
+{
+    const PulseConnection::Lock lock(m_connection);
+    m_listener = nullptr;
+}
+
+Result<std::monostate, QString> PulseMicrophone::start()
+{
+    m_stream.emplace(m_connection, PulseRecordStream::Source::Microphone, fragmentFrames,
+        [this](std::span<const float> samples) { onSamples(samples); });
+    m_stream->start();
+    if (const int error = m_stream->awaitStart()) {
+        m_stream.reset();
+        return Failure { QString::fromUtf8(pa_strerror(error)) };
+    }
+    return std::monostate {};
+}
+
+void PulseMicrophone::stop() { m_stream.reset(); }
+
+void PulseMicrophone::onSamples(std::span<const float> samples)
+{
+    if (m_listener)
+        m_blocks.add(
+            samples, [this](std::span<const float> block) { m_listener->onSamples(block); });
+}
+
+} // namespace Orvello

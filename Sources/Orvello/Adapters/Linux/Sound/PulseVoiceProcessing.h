@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Orvello/Platform/Sound/VoiceProcessing.h"
+
+namespace Orvello {
+
+class PulseConnection;
+
+/// The default source of the sound server, freed in this process of what the default sink plays.
+/// Nothing but two record streams shows on the server.
+class PulseVoiceProcessing final : public VoiceProcessing {
+public:
+    explicit PulseVoiceProcessing(
+        PulseConnection& connection); ///< Must outlive this and its units.
+
+    bool isAvailable() override;
+    Instantiation instantiate(VoiceProcessingUnit::Listener& listener) override;
+
+private:
+    PulseConnection& m_connection;
+};
+
+} // namespace Orvello

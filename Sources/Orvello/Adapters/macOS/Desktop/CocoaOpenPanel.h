@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/OpenPanel.h"
+
+namespace Orvello {
+
+class CocoaOpenPanel final : public OpenPanel {
+public:
+    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override;
+};
+
+} // namespace Orvello

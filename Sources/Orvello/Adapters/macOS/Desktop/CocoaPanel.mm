@@ -1,0 +1,188 @@
+#include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
+
+#include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+#include "Orvello/Adapters/macOS/Desktop/PointerTracker.h"
+#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
+#include "Orvello/Platform/Desktop/Screens.h"
+#include "Orvello/Prompting/Panel/PanelFrame.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWindow>
+
+namespace Orvello {
+
+namespace {
+
+NSView* nativeViewOf(QWindow& window)
+{
+    window.setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+    window.create();
+    return (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+}
+
+static_assert(static_cast<int>(NativePanel::SharingType::None) == NSWindowSharingNone);
+static_assert(static_cast<int>(NativePanel::SharingType::ReadOnly) == NSWindowSharingReadOnly);
+
+} // namespace
+
+CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
+    : m_view(view)
+    , m_screens(screens)
+    , m_panel([[PrompterPanel alloc]
+          initWithSize:cgSize(PanelFrame::initial(PanelFrame::assumedScreen).size())
+               minimum:cgSize(minimumSize)
+               maximum:cgSize(maximumSize)])
+    , m_nativeView(nativeViewOf(view))
+{
+    embedView();
+    observePanel();
+}
+
+CocoaPanel::~CocoaPanel()
+{
+    for (id<NSObject> observer in m_observers)
+        [NSNotificationCenter.defaultCenter removeObserver:observer];
+    m_panel.onScroll = nil;
+    [m_panel orderOut:nil];
+    [m_pointerTracker stop];
+    m_view.removeEventFilter(this);
+    // Qt destroys its view with the window, which outlives the panel.
+    [m_nativeView removeFromSuperview];
+    [m_panel close];
+}
+
+void CocoaPanel::embedView()
+{
+    NSView* const container = m_panel.contentView;
+    m_nativeView.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+    m_nativeView.frame = container.bounds;
+    [container addSubview:m_nativeView];
+    m_pointerTracker = [[PointerTracker alloc] initWithView:container window:&m_view];
+    m_view.installEventFilter(this);
+}
+
+void CocoaPanel::observePanel()
+{
+    const QPointer<CocoaPanel> self(this);
+    m_panel.onScroll = ^(CGFloat delta) {
+        if (self)
+            Q_EMIT self->scrolled(delta);
+    };
+    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
+    m_observers = @[
+        [center addObserverForName:NSWindowDidResizeNotification
+                            object:m_panel
+                             queue:nil
+                        usingBlock:^(NSNotification*) {
+                            if (self)
+                                Q_EMIT self->didResize();
+                        }],
+        [center addObserverForName:NSWindowDidEndLiveResizeNotification
+                            object:m_panel
+                             queue:nil
+                        usingBlock:^(NSNotification*) {
+                            if (self)
+                                Q_EMIT self->didEndLiveResize();
+                        }],
+    ];
+}
+
+QRectF CocoaPanel::frame() const { return qRect(m_panel.frame); }
+
+void CocoaPanel::setFrame(const QRectF& frame)
+{
+    shielded([&] { [m_panel setFrame:cgRect(frame) display:YES]; });
+}
+
+void CocoaPanel::setFrameAutosaveName(const QString& name)
+{
+    NSString* const autosaveName = nsString(name);
+    shielded([&] {
+        [m_panel setFrameUsingName:autosaveName force:YES];
+        [m_panel setFrameAutosaveName:autosaveName];
+    });
+    // The screen that the frame was saved on may be gone; AppKit looks after titled windows only.
+    const QRectF saved = frame();
+    const QRectF wanted = PanelFrame::onScreen(
+        PanelFrame::withSizeBetween(saved, minimumSize, maximumSize), m_screens.frames());
+    if (wanted != saved)
+        setFrame(wanted);
+}
+
+void CocoaPanel::orderFrontRegardless()
+{
+    m_view.setVisible(true); // First: Qt shows its view no earlier than its window.
+    shielded([&] { [m_panel orderFrontRegardless]; });
+}
+
+void CocoaPanel::orderOut()
+{
+    shielded([&] { [m_panel orderOut:nil]; });
+    // AppKit tells no tracking area that its window went from under the pointer.
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&m_view, &leave);
+    m_view.setVisible(false); // Ends the drawing.
+}
+
+bool CocoaPanel::isVisible() const { return m_panel.visible; }
+
+qint64 CocoaPanel::windowNumber() const { return m_panel.windowNumber; }
+
+bool CocoaPanel::inLiveResize() const { return m_panel.inLiveResize; }
+
+NativePanel::SharingType CocoaPanel::sharingType() const
+{
+    return m_panel.sharingType == NSWindowSharingNone ? SharingType::None : SharingType::ReadOnly;
+}
+
+void CocoaPanel::setSharingType(SharingType type)
+{
+    shielded([&] {
+        m_panel.sharingType
+            = type == SharingType::None ? NSWindowSharingNone : NSWindowSharingReadOnly;
+    });
+}
+
+bool CocoaPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    return watched == &m_view && event->type() == QEvent::MouseButtonPress
+        && pressed(static_cast<QMouseEvent&>(*event));
+}
+
+/// The background is whatever the view does not want for itself.
+bool CocoaPanel::pressed(QMouseEvent& event)
+{
+    NSEvent* const press = NSApp.currentEvent;
+    if (event.button() != Qt::LeftButton || press.type != NSEventTypeLeftMouseDown)
+        return false;
+    static_cast<QObject&>(m_view).event(&event);
+    if (!event.exclusiveGrabber(event.point(0))) {
+        shielded([&] { [m_panel performWindowDragWithEvent:press]; });
+        QMetaObject::invokeMethod(
+            this, [this, press] { releaseInView(press); }, Qt::QueuedConnection);
+    }
+    return true;
+}
+
+/// The window server carries a drag out by itself and may never report the button's release; Qt's
+/// view would take the button for pressed until the next click.
+void CocoaPanel::releaseInView(NSEvent* press)
+{
+    NSEvent* const release = [NSEvent mouseEventWithType:NSEventTypeLeftMouseUp
+                                                location:press.locationInWindow
+                                           modifierFlags:press.modifierFlags
+                                               timestamp:press.timestamp
+                                            windowNumber:m_panel.windowNumber
+                                                 context:nil
+                                             eventNumber:0
+                                              clickCount:1
+                                                pressure:0];
+    if (release)
+        shielded([&] { [m_nativeView mouseUp:release]; });
+}
+
+} // namespace Orvello

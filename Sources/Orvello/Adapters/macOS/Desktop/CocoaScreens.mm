@@ -1,0 +1,22 @@
+#include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
+
+#include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+
+#import <AppKit/AppKit.h>
+
+namespace Orvello {
+
+QList<QRectF> CocoaScreens::frames() const
+{
+    NSScreen* const main = NSScreen.mainScreen;
+    QList<QRectF> frames;
+    if (main)
+        frames.append(qRect(main.frame));
+    for (NSScreen* screen in NSScreen.screens) {
+        if (![screen isEqual:main])
+            frames.append(qRect(screen.frame));
+    }
+    return frames;
+}
+
+} // namespace Orvello

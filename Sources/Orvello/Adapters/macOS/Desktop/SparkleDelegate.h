@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/Updater.h"
+
+#import <Sparkle/Sparkle.h>
+
+/// Translates what Sparkle says for the port's delegate, which is set when the updater starts.
+@interface SparkleDelegate : NSObject <SPUUpdaterDelegate>
+
+@property (nonatomic, nullable) Orvello::UpdaterDelegate* target;
+
+/// Calls `changed` on every change of that property of the updater, whoever made it. Once for each
+/// property, and always the same updater.
+- (void)observe:(nonnull SPUUpdater*)updater
+        keyPath:(nonnull NSString*)keyPath
+        changed:(std::function<void()>)changed;
+- (void)stopObserving;
+
+@end

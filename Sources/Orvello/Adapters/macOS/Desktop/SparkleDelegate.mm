@@ -1,0 +1,124 @@
+#include "Orvello/Adapters/macOS/Desktop/SparkleDelegate.h"
+
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+
+#include <map>
+#include <utility>
+
+namespace {
+
+using Orvello::qString;
+
+static_assert(static_cast<int>(Orvello::UpdateChoice::Skip) == SPUUserUpdateChoiceSkip);
+static_assert(static_cast<int>(Orvello::UpdateChoice::Install) == SPUUserUpdateChoiceInstall);
+static_assert(static_cast<int>(Orvello::UpdateChoice::Later) == SPUUserUpdateChoiceDismiss);
+
+Orvello::UpdateItem described(SUAppcastItem* item)
+{
+    return { qString(item.versionString), qString(item.displayVersionString) };
+}
+
+Orvello::UpdateError described(NSError* error)
+{
+    return { qString(error.localizedDescription), static_cast<int>(error.code) };
+}
+
+} // namespace
+
+@implementation SparkleDelegate {
+    SPUUpdater* _observed;
+    std::map<QString, std::function<void()>> _changed; ///< By the property's key path.
+}
+
+- (NSString*)feedURLStringForUpdater:(SPUUpdater*)updater
+{
+    (void)updater;
+    const std::optional<QString> feed = self.target ? self.target->feedURLString() : std::nullopt;
+    return feed ? Orvello::nsString(*feed) : nil;
+}
+
+- (void)updater:(SPUUpdater*)updater didFindValidUpdate:(SUAppcastItem*)item
+{
+    (void)updater;
+    if (self.target)
+        self.target->didFindValidUpdate(described(item));
+}
+
+- (void)updaterDidNotFindUpdate:(SPUUpdater*)updater error:(NSError*)error
+{
+    (void)updater;
+    if (self.target)
+        self.target->didNotFindUpdate(described(error));
+}
+
+- (void)updater:(SPUUpdater*)updater
+    userDidMakeChoice:(SPUUserUpdateChoice)choice
+            forUpdate:(SUAppcastItem*)item
+                state:(SPUUserUpdateState*)state
+{
+    (void)updater;
+    (void)state;
+    if (self.target)
+        self.target->userDidMakeChoice(static_cast<Orvello::UpdateChoice>(choice), described(item));
+}
+
+- (void)updater:(SPUUpdater*)updater willInstallUpdate:(SUAppcastItem*)item
+{
+    (void)updater;
+    if (self.target)
+        self.target->willInstallUpdate(described(item));
+}
+
+- (void)updater:(SPUUpdater*)updater
+    failedToDownloadUpdate:(SUAppcastItem*)item
+                     error:(NSError*)error
+{
+    (void)updater;
+    if (self.target)
+        self.target->failedToDownloadUpdate(described(item), described(error));
+}
+
+- (void)updater:(SPUUpdater*)updater didAbortWithError:(NSError*)error
+{
+    (void)updater;
+    if (self.target)
+        self.target->didAbortWithError(described(error));
+}
+
+- (void)updater:(SPUUpdater*)updater willScheduleUpdateCheckAfterDelay:(NSTimeInterval)delay
+{
+    (void)updater;
+    if (self.target)
+        self.target->willScheduleUpdateCheckAfterDelay(delay);
+}
+
+- (void)observe:(SPUUpdater*)updater
+        keyPath:(NSString*)keyPath
+        changed:(std::function<void()>)changed
+{
+    _observed = updater;
+    _changed.insert_or_assign(qString(keyPath), std::move(changed));
+    [updater addObserver:self forKeyPath:keyPath options:0 context:nil];
+}
+
+- (void)stopObserving
+{
+    for (const auto& [keyPath, changed] : _changed)
+        [_observed removeObserver:self forKeyPath:Orvello::nsString(keyPath)];
+    _changed.clear();
+    _observed = nil;
+}
+
+- (void)observeValueForKeyPath:(NSString*)keyPath
+                      ofObject:(id)object
+                        change:(NSDictionary*)change
+                       context:(void*)context
+{
+    (void)object;
+    (void)change;
+    (void)context;
+    if (const auto changed = _changed.find(qString(keyPath)); changed != _changed.end())
+        changed->second();
+}
+
+@end

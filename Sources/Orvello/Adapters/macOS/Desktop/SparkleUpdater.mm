@@ -1,0 +1,88 @@
+#include "Orvello/Adapters/macOS/Desktop/SparkleUpdater.h"
+
+#include "Orvello/Adapters/macOS/Desktop/AbsentUpdater.h"
+#include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
+#include "Orvello/Adapters/macOS/Desktop/SparkleDelegate.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
+
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+bool SparkleUpdater::isPresent() { return [SPUStandardUpdaterController class] != nil; }
+
+SparkleUpdater::SparkleUpdater()
+    : m_delegate([[SparkleDelegate alloc] init])
+    , m_controller([[SPUStandardUpdaterController alloc] initWithStartingUpdater:NO
+                                                                 updaterDelegate:m_delegate
+                                                              userDriverDelegate:nil])
+{
+}
+
+SparkleUpdater::~SparkleUpdater()
+{
+    [m_delegate stopObserving];
+    m_delegate.target = nullptr;
+}
+
+void SparkleUpdater::startUpdater(UpdaterDelegate& delegate)
+{
+    m_delegate.target = &delegate;
+    shielded([&] { [m_controller startUpdater]; });
+}
+
+void SparkleUpdater::checkForUpdates()
+{
+    shielded([&] { [m_controller checkForUpdates:nil]; });
+}
+
+bool SparkleUpdater::automaticallyChecksForUpdates() const
+{
+    return m_controller.updater.automaticallyChecksForUpdates;
+}
+
+void SparkleUpdater::setAutomaticallyChecksForUpdates(bool on)
+{
+    m_controller.updater.automaticallyChecksForUpdates = on;
+}
+
+void SparkleUpdater::observeAutomaticChecks(std::function<void()> changed)
+{
+    [m_delegate observe:m_controller.updater
+                keyPath:@"automaticallyChecksForUpdates"
+                changed:std::move(changed)];
+}
+
+bool SparkleUpdater::canCheckForUpdates() const { return m_controller.updater.canCheckForUpdates; }
+
+std::optional<Date> SparkleUpdater::lastUpdateCheckDate() const
+{
+    NSDate* const date = m_controller.updater.lastUpdateCheckDate;
+    return date ? std::optional(Date { date.timeIntervalSinceReferenceDate }) : std::nullopt;
+}
+
+void SparkleUpdater::observeChecks(std::function<void()> changed)
+{
+    // Sparkle promises notifications for this property alone. It changes when a check begins and
+    // when it ends, so whoever reads the date then has it.
+    [m_delegate observe:m_controller.updater
+                keyPath:@"canCheckForUpdates"
+                changed:std::move(changed)];
+}
+
+std::optional<QString> SparkleUpdater::builtInFeed() const { return feedOfBundle(); }
+
+std::unique_ptr<Updater> makeMacUpdater()
+{
+    if (!SparkleUpdater::isPresent())
+        return std::make_unique<AbsentUpdater>(u"Sparkle.framework is not in this bundle"_s);
+    // Some seconds after the start of a build without a key, Sparkle would alert the user.
+    if (![NSBundle.mainBundle objectForInfoDictionaryKey:@"SUPublicEDKey"])
+        return std::make_unique<AbsentUpdater>(u"this build has no SUPublicEDKey"_s);
+    return std::make_unique<SparkleUpdater>();
+}
+
+} // namespace Orvello

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Foundation/Result.h"
+#include "Orvello/Library/Records/Script.h"
+#include "Orvello/Library/Store/LibraryFile.h"
+#include "Orvello/Presentations/Decks/PptxImporter.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace Orvello {
+
+class TimeSource;
+class UserDefaults;
+
+/// The user's scripts, newest first, and which of them is being prompted. Every change is saved
+/// before it is announced. Main thread.
+class LibraryStore final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QList<Orvello::Script> scripts READ scripts NOTIFY scriptsChanged FINAL)
+    Q_PROPERTY(std::optional<QUuid> activeScriptID READ activeScriptID WRITE setActiveScriptID
+            NOTIFY activeScriptIDChanged FINAL)
+
+public:
+    /// The process's one store; `adoptShared` names it once, at launch.
+    static LibraryStore& shared();
+    static void adoptShared(LibraryStore& store);
+
+    /// Loads the library, or makes the first script of a new one. What is passed must outlive the
+    /// store.
+    LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
+        const Facts& facts, QObject* parent = nullptr);
+    ~LibraryStore() override;
+
+    const QList<Script>& scripts() const { return m_scripts; }
+
+    /// Persisted in the user defaults at each assignment. May name a script that does not exist.
+    std::optional<QUuid> activeScriptID() const { return m_activeScriptID; }
+    void setActiveScriptID(std::optional<QUuid> id);
+
+    /// The script that `activeScriptID` names, else the first; null for an empty library. Follows
+    /// from both properties. The pointer holds until `scripts` changes.
+    const Script* activeScript() const;
+
+    /// Adds an empty script on top and makes it active.
+    QUuid addScript();
+
+    /// Removes the script with that id. If it was active, the first that remains becomes active.
+    void remove(QUuid id);
+
+    /// Replaces what is given of the active script, or of the first if none is active. Its date is
+    /// renewed in any case.
+    void updateActive(const std::optional<QString>& title, const std::optional<QString>& body);
+
+    /// Adds a deck's speaker notes on top and makes them active. `source` names the deck; without
+    /// one its file name does. On failure the library stays as it was.
+    Result<QUuid, PptxImporter::ImportError> importPptx(
+        const QString& path, const std::optional<QString>& source = {});
+
+    /// Adds a deck's speaker notes on top and makes them active.
+    QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
+
+    /// The body of a deck script.
+    [[nodiscard]] static QString joinedBody(const QList<SlideNote>& slides);
+
+Q_SIGNALS:
+    void scriptsChanged();
+    void activeScriptIDChanged();
+
+private:
+    void makeFirstScript(const Facts& facts);
+    QUuid addOnTop(const Script& script);
+    std::optional<QUuid> firstScriptID() const;
+
+    /// Assigns and persists; says whether the id is another one than before.
+    bool assignActiveScriptID(std::optional<QUuid> id);
+    void persistActiveScriptID();
+
+    UserDefaults& m_defaults;
+    const TimeSource& m_time;
+    LibraryFile m_file;
+    QList<Script> m_scripts;
+    std::optional<QUuid> m_activeScriptID;
+};
+
+} // namespace Orvello

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Orvello/Foundation/Facts.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+#include <vector>
+
+namespace Orvello {
+
+class LibraryStore;
+class LiveDeckImport;
+class OpenPanel;
+class PresenterTable;
+struct DeckImportError;
+struct PresenterApp;
+
+/// The ways to import a deck that the scripts window offers, and what it has to say about them.
+class DeckImports final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QStringList titles READ titles CONSTANT FINAL)
+    Q_PROPERTY(bool isShowingAlert READ isShowingAlert NOTIFY alertChanged FINAL)
+    Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY alertChanged FINAL)
+    Q_PROPERTY(QString alertText READ alertText NOTIFY alertChanged FINAL)
+
+public:
+    /// All of them must outlive the imports.
+    struct Services {
+        LibraryStore& library;
+        LiveDeckImport& openDecks;
+        const PresenterTable& presenters;
+        OpenPanel& openPanel;
+        Facts facts {};
+    };
+
+    explicit DeckImports(const Services& services);
+    ~DeckImports() override;
+
+    /// Of the menu's items: a file first, then what is open in each presentation application.
+    QStringList titles() const;
+
+    /// Runs the item of that place in the menu.
+    Q_INVOKABLE void run(int item);
+
+    Q_INVOKABLE void chooseFile();
+
+    /// Whether there is a deck among these files.
+    Q_INVOKABLE bool canImport(const QList<QUrl>& files) const;
+
+    /// Imports every deck among these files, in order.
+    Q_INVOKABLE void importFiles(const QList<QUrl>& files);
+
+    /// Without a message, says that the error is not known. An alert that comes while another one
+    /// is showing waits for its turn.
+    void showAlert(const QString& title, const std::optional<QString>& message);
+    Q_INVOKABLE void dismissAlert();
+
+    bool isShowingAlert() const { return !m_alerts.isEmpty(); }
+    QString alertTitle() const;
+    QString alertText() const;
+
+Q_SIGNALS:
+    void alertChanged();
+
+private:
+    struct Alert {
+        QString title;
+        QString text;
+    };
+
+    void importFile(const QString& path);
+    void importOpenDeck(const PresenterApp& app);
+    void importOpenPowerPointDeck(const PresenterApp& powerPoint);
+    void showFailure(const DeckImportError& error);
+
+    Services m_services;
+    std::vector<const PresenterApp*> m_apps; ///< In the menu's order.
+    QList<Alert> m_alerts; ///< The first one is showing.
+};
+
+} // namespace Orvello

@@ -1,0 +1,26 @@
+#include "Orvello/Library/Window/LibraryViewModel.h"
+
+#include "Orvello/Library/Store/LibraryStore.h"
+
+namespace Orvello {
+
+LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
+    : m_library(services.library)
+    , m_scripts(services.library)
+    , m_openScripts(services.library)
+    , m_imports(services)
+    , m_facts(services.facts)
+{
+}
+
+LibraryViewModel::~LibraryViewModel() = default;
+
+void LibraryViewModel::addScript() { m_library.addScript(); }
+
+void LibraryViewModel::removeActive()
+{
+    if (const std::optional<QUuid> id = m_library.activeScriptID())
+        m_library.remove(*id);
+}
+
+} // namespace Orvello

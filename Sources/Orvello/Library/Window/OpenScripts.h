@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Orvello/Library/Window/ScriptEditor.h"
+
+#include <QAbstractListModel>
+
+#include <memory>
+#include <vector>
+
+namespace Orvello {
+
+/// The scripts that are open in the scripts window: the active one, which is seen, and some that
+/// were seen before and keep what they can undo, where their cursor was and how far they were
+/// scrolled. One without a script is always among them, for an empty library.
+class OpenScripts final : public QAbstractListModel {
+    Q_OBJECT
+    Q_PROPERTY(Orvello::ScriptEditor* active READ active NOTIFY activeChanged FINAL)
+
+public:
+    enum Role { EditorRole = Qt::UserRole }; ///< "editor"
+
+    /// Together with the active one. Beyond either bound the one that was not seen for longest is
+    /// closed; the active one may be of any length.
+    static constexpr std::size_t mostScripts = 8;
+    static constexpr qsizetype mostCharacters = 4'000'000; ///< Each takes a dozen bytes.
+
+    explicit OpenScripts(LibraryStore& library); ///< `library` must outlive the model.
+    ~OpenScripts() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Never null.
+    ScriptEditor* active() const { return m_active; }
+
+Q_SIGNALS:
+    void activeChanged();
+
+private:
+    struct Open {
+        std::unique_ptr<ScriptEditor> editor;
+        quint64 lastSeen; ///< Counts the changes of the active script.
+    };
+
+    void followScripts();
+    void followActiveScript();
+    ScriptEditor* opened(const Script& script);
+    void closeBeyondBounds();
+    void close(std::size_t place);
+    bool isBeyondBounds() const;
+
+    LibraryStore& m_library;
+    std::vector<Open> m_open; ///< The one without a script comes first.
+    ScriptEditor* m_active;
+    quint64 m_now = 0;
+};
+
+} // namespace Orvello

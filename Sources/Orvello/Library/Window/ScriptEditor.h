@@ -1,0 +1,80 @@
+#pragma once
+
+#include "Orvello/Library/Records/Script.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QQuickTextDocument;
+class QTextDocument;
+
+namespace Orvello {
+
+class LibraryStore;
+
+/// One script while it is open in the scripts window, or no script at all, which shows as empty
+/// fields. Every edit goes to the store at once, as that of the active script.
+class ScriptEditor final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
+    Q_PROPERTY(QString body READ body NOTIFY bodyChanged FINAL)
+    Q_PROPERTY(QString wordCountText READ wordCountText NOTIFY bodyChanged FINAL)
+    Q_PROPERTY(bool isDeck READ isDeck CONSTANT FINAL)
+    Q_PROPERTY(QString deckNotice READ deckNotice CONSTANT FINAL)
+    Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)
+
+public:
+    explicit ScriptEditor(LibraryStore& library); ///< Of no script.
+    ScriptEditor(LibraryStore& library, const Script& script); ///< `library` must outlive both.
+    ~ScriptEditor() override;
+
+    QUuid scriptID() const { return m_id; }
+
+    const QString& title() const { return m_title; }
+    void setTitle(const QString& title);
+
+    /// As the library has it: what the document of the text field starts with.
+    const QString& body() const { return m_body; }
+
+    /// "12 words".
+    QString wordCountText() const;
+
+    /// A deck's body can only be read: the presentation is where it is edited.
+    bool isDeck() const { return m_deckSource.has_value(); }
+    QString deckNotice() const;
+
+    /// Whether an edit would reach the script: it is the one that the store edits.
+    bool isEditable() const { return m_isEditable; }
+    void setEditable(bool isEditable);
+
+    /// Follows the edits that the user makes in a document that shows the body.
+    Q_INVOKABLE void follow(QQuickTextDocument* document);
+
+    /// Shows what the library has now.
+    void update(const Script& script);
+
+Q_SIGNALS:
+    void titleChanged();
+    void bodyChanged();
+    void editableChanged();
+
+private:
+    void takeOver(int position, int removed, int added);
+    void replaceInBody(qsizetype position, qsizetype removed, const QString& inserted);
+    void replaceInDocument(const QString& body);
+    void store();
+
+    LibraryStore& m_library;
+    QUuid m_id;
+    QString m_title;
+    QString m_stored; ///< The body that the library has.
+    QString m_body; ///< The same as a document has it: with plain line feeds.
+    std::optional<QString> m_deckSource; ///< Of a deck, an absent one as empty.
+    qsizetype m_wordCount = 0;
+    bool m_isEditable = false;
+    bool m_hasUnstoredEdit = false;
+    bool m_isUpdating = false; ///< The document is following the library: no edit of the user's.
+    QPointer<QTextDocument> m_document;
+};
+
+} // namespace Orvello

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Orvello/Foundation/Date.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace Orvello {
+
+/// A release that the update feed offers.
+struct UpdateItem {
+    QString version; ///< By which releases compare.
+    QString displayVersion; ///< For people.
+};
+
+/// Why a check ended without an update.
+struct UpdateError {
+    /// The codes that callers tell apart, as the macOS updater numbers them.
+    static constexpr int insecureFeed = 3;
+    static constexpr int invalidFeed = 4;
+    static constexpr int appcastParse = 1000;
+    static constexpr int noUpdate = 1001;
+    static constexpr int download = 2001;
+    static constexpr int installationCanceled = 4007;
+
+    QString description; ///< A sentence for people.
+    int code = 0;
+};
+
+/// What the user answers to an offered update. The numbers are those of the macOS updater.
+enum class UpdateChoice { Skip = 0, Install = 1, Later = 2 };
+
+/// Hears of every step of the update cycle. Main thread.
+class UpdaterDelegate {
+public:
+    virtual ~UpdaterDelegate() = default;
+
+    /// The feed to read instead of the one that is built in, if any.
+    virtual std::optional<QString> feedURLString() const = 0;
+
+    virtual void didFindValidUpdate(const UpdateItem& item) = 0;
+    virtual void didNotFindUpdate(const UpdateError& error) = 0;
+    virtual void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) = 0;
+    virtual void willInstallUpdate(const UpdateItem& item) = 0;
+    virtual void failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error) = 0;
+    virtual void didAbortWithError(const UpdateError& error) = 0;
+    virtual void willScheduleUpdateCheckAfterDelay(double seconds) = 0;
+};
+
+/// The system's updater: it reads the feed, keeps the schedule, talks to the user and installs.
+/// Main thread.
+class Updater {
+public:
+    virtual ~Updater() = default;
+
+    /// Begins the schedule, and asks the user whether there may be one if nobody has asked before.
+    /// `delegate` must outlive the updater. Called once.
+    virtual void startUpdater(UpdaterDelegate& delegate) = 0;
+
+    /// Checks now and shows the user whatever comes of it.
+    virtual void checkForUpdates() = 0;
+
+    /// Whether the schedule is on. The updater itself stores it.
+    virtual bool automaticallyChecksForUpdates() const = 0;
+    virtual void setAutomaticallyChecksForUpdates(bool on) = 0;
+
+    /// `changed` runs after every change of the above, whoever made it, on any thread.
+    virtual void observeAutomaticChecks(std::function<void()> changed) = 0;
+
+    /// Whether the user may ask for a check: the updater runs and is not reading the feed already.
+    virtual bool canCheckForUpdates() const = 0;
+
+    /// When the feed was last asked for, if ever.
+    virtual std::optional<Date> lastUpdateCheckDate() const = 0;
+
+    /// `changed` runs after every change of one of these two, on any thread.
+    virtual void observeChecks(std::function<void()> changed) = 0;
+
+    /// The feed address that this program was built with, if any.
+    virtual std::optional<QString> builtInFeed() const = 0;
+};
+
+} // namespace Orvello

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace Orvello {
+
+/// One domain of typed preference values: booleans, integers, doubles, strings, byte arrays, dates,
+/// and lists and maps of these. Main thread. What a setter stored survives the death of the process
+/// right after it returned.
+class UserDefaults {
+public:
+    virtual ~UserDefaults() = default;
+
+    /// The stored value, or an invalid variant when there is none. A launch-argument pair `-Key
+    /// value` shadows the key as a string for this run.
+    virtual QVariant value(const QString& key) const = 0;
+
+    /// Stores the value at once. A shadowed key keeps reading as its launch argument.
+    virtual void setValue(const QString& key, const QVariant& value) = 0;
+
+    /// Removes what is stored under the key; a missing key is no error.
+    virtual void remove(const QString& key) = 0;
+
+    /// Everything stored in the domain, without launch arguments.
+    virtual QVariantMap storedValues() const = 0;
+};
+
+} // namespace Orvello

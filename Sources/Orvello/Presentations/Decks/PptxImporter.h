@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Orvello/Foundation/Result.h"
+#include "Orvello/Library/Records/Script.h"
+
+#include <QList>
+#include <QString>
+
+/// Reads the speaker notes of a PowerPoint Open XML package (`.pptx`).
+namespace Orvello::PptxImporter {
+
+enum class ImportError {
+    Unreadable, ///< Not a file that opens as a package.
+    NotAPresentation, ///< A package without slides.
+};
+
+/// What the user is told.
+QString description(ImportError error);
+
+/// The notes of every slide in presentation order, hidden slides and slides without notes included,
+/// each with its slide's title. A part of the package that is missing, damaged, encrypted or past
+/// one of the limits below leaves its slide with no title or with empty notes.
+///
+/// Synchronous, on the caller's thread; calls on different threads do not meet.
+[[nodiscard]] Result<QList<SlideNote>, ImportError> importNotes(const QString& path);
+
+/// Far above any deck that people make, these limits are what a package made to do harm can cost:
+/// at worst a minute or two, and 400 MB beyond the result itself. In an ordinary one the memory
+/// beyond the result is that of its directory, of the list of its slides' paths and of its largest
+/// part. XmlParser and RelsParser add limits for what is inside a part.
+namespace Limits {
+
+/// Entries of a package, and the bytes of its directory. One with more is Unreadable.
+inline constexpr qint64 entries = 65'535;
+inline constexpr qint64 directorySize = 16LL * 1024 * 1024;
+
+/// Uncompressed size of an entry, whatever the directory says it is. A larger one counts as
+/// missing.
+inline constexpr qint64 entrySize = 16LL * 1024 * 1024;
+
+/// Bytes read from the package, and bytes that come out of its entries, in one import. From the
+/// entry that goes past either, every entry counts as missing.
+inline constexpr qint64 totalRead = 256LL * 1024 * 1024;
+inline constexpr qint64 totalSize = 256LL * 1024 * 1024;
+
+/// Slides of a deck. Those after them are left out.
+inline constexpr qsizetype slides = 100'000;
+
+/// UTF-16 code units of text in one part, and in all titles and notes together. A part that
+/// goes past either contributes the placeholders before the one that does.
+inline constexpr qsizetype partText = 1'048'576;
+inline constexpr qsizetype totalText = 64 * partText;
+
+} // namespace Limits
+
+} // namespace Orvello::PptxImporter

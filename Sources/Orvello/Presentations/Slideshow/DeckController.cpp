@@ -1,0 +1,152 @@
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+
+#include "Orvello/Foundation/Observe.h"
+#include "Orvello/Library/Store/LibraryStore.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+
+#include <algorithm>
+#include <variant>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Stands for a value that is looked up when the change arrives. A copy of the library would wait
+/// in the event queue, and every key press that it outlives would have to copy the whole list.
+std::monostate nothing(const QObject&) { return {}; }
+
+qint64 slideCountOf(const Script* script)
+{
+    return script && script->slides ? script->slides->size() : 0;
+}
+
+/// Equality, without comparing a text with itself: a whole deck's text is millions of characters.
+bool isSameText(const QString& a, const QString& b)
+{
+    return (a.constData() == b.constData() && a.size() == b.size()) || a == b;
+}
+
+QString unitKey(const Script* script, const std::optional<qint64>& slide)
+{
+    const QString id = script ? script->id.toString(QUuid::WithoutBraces).toUpper() : QString(u'-');
+    return id + u'|' + (slide ? "true"_L1 : "false"_L1) + u'|'
+        + QString::number(slide.value_or(-1));
+}
+
+} // namespace
+
+DeckController::DeckController(const LibraryStore& library, const SettingsStore& settings,
+    const SlideSyncService& sync, QObject* parent)
+    : QObject(parent)
+    , m_library(library)
+    , m_settings(settings)
+    , m_sync(sync)
+{
+    const auto recomputed = [this](auto) { recompute(); };
+    observe(library, nothing, &LibraryStore::scriptsChanged, *this, recomputed);
+    observe(library, nothing, &LibraryStore::activeScriptIDChanged, *this, recomputed);
+    observe(settings, nothing, &SettingsStore::slideSyncChanged, *this, recomputed);
+    observe(sync, &SlideSyncService::liveSlide, &SlideSyncService::liveSlideChanged, *this,
+        [this](const std::optional<qint64>& slide) { followLiveSlide(slide); });
+    observe(sync, &SlideSyncService::state, &SlideSyncService::stateChanged, *this,
+        [this](SlideSyncService::State state) { setSyncState(state); });
+}
+
+void DeckController::showPreviousSlide()
+{
+    --m_manualIndex;
+    recompute();
+}
+
+void DeckController::showNextSlide()
+{
+    ++m_manualIndex;
+    recompute();
+}
+
+void DeckController::followLiveSlide(const std::optional<qint64>& slide)
+{
+    if (slide)
+        m_manualIndex = *slide - 1;
+    recompute();
+}
+
+void DeckController::setSyncState(SlideSyncService::State state)
+{
+    if (state == m_syncState)
+        return;
+    m_syncState = state;
+    Q_EMIT syncStateChanged();
+}
+
+void DeckController::recompute()
+{
+    const Script* script = m_library.activeScript();
+    settlePosition(script);
+    publish(script, unitOf(script));
+}
+
+/// Puts the position inside the deck: on the live slide when there is one, and on the first of
+/// another script.
+void DeckController::settlePosition(const Script* script)
+{
+    const auto id = script ? std::optional(script->id) : std::nullopt;
+    if (id != m_lastScriptID) {
+        m_lastScriptID = id;
+        m_manualIndex = 0;
+    }
+    const qint64 count = slideCountOf(script);
+    if (count == 0) {
+        m_manualIndex = 0;
+        return;
+    }
+    if (m_settings.slideSync() && m_sync.liveSlide())
+        m_manualIndex = *m_sync.liveSlide() - 1;
+    m_manualIndex = std::clamp<qint64>(m_manualIndex, 0, count - 1);
+}
+
+DeckController::Unit DeckController::unitOf(const Script* script) const
+{
+    if (!script)
+        return {};
+    if (slideCountOf(script) == 0 || !m_settings.slideSync())
+        return { script->body, std::nullopt, std::nullopt };
+    const SlideNote& slide = script->slides->at(m_manualIndex);
+    return { slide.notes.isEmpty() ? u"(No speaker notes on this slide)"_s : slide.notes,
+        slide.title, m_manualIndex };
+}
+
+void DeckController::publish(const Script* script, const Unit& unit)
+{
+    const auto assign = [](auto& member, const auto& value) {
+        const bool isOther = member != value;
+        member = value;
+        return isOther;
+    };
+    const bool isOtherUnit = assign(m_lastUnitKey, unitKey(script, unit.slide));
+    if (isOtherUnit)
+        ++m_slideChangeToken;
+    const bool isOtherText = !isSameText(m_promptText, unit.text);
+    m_promptText = unit.text;
+    const bool isOtherTracking = assign(m_trackingActive, unit.slide.has_value());
+    const bool isOtherIndex = assign(m_displayIndex, m_manualIndex);
+    const bool isOtherCount = assign(m_slideCount, slideCountOf(script));
+    const bool isOtherTitle = assign(m_slideTitle, unit.title);
+
+    if (isOtherUnit)
+        Q_EMIT slideChangeTokenChanged();
+    if (isOtherText)
+        Q_EMIT promptTextChanged();
+    if (isOtherTracking)
+        Q_EMIT trackingActiveChanged();
+    if (isOtherIndex)
+        Q_EMIT displayIndexChanged();
+    if (isOtherCount)
+        Q_EMIT slideCountChanged();
+    if (isOtherTitle)
+        Q_EMIT slideTitleChanged();
+}
+
+} // namespace Orvello

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "Orvello/Presentations/Slideshow/SlideSyncService.h"
+
+#include <QObject>
+#include <QString>
+#include <QUuid>
+
+#include <optional>
+
+namespace Orvello {
+
+class LibraryStore;
+class SettingsStore;
+struct Script;
+
+/// Decides what the prompter shows: one slide's speaker notes while slide tracking is on and the
+/// active script has slides, its whole text otherwise. A slideshow's slide goes before the one
+/// stepped to by hand.
+class DeckController final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString promptText READ promptText NOTIFY promptTextChanged FINAL)
+    Q_PROPERTY(qint64 slideChangeToken READ slideChangeToken NOTIFY slideChangeTokenChanged FINAL)
+    Q_PROPERTY(bool trackingActive READ trackingActive NOTIFY trackingActiveChanged FINAL)
+    Q_PROPERTY(qint64 displayIndex READ displayIndex NOTIFY displayIndexChanged FINAL)
+    Q_PROPERTY(qint64 slideCount READ slideCount NOTIFY slideCountChanged FINAL)
+    Q_PROPERTY(QString slideTitle READ slideTitleText NOTIFY slideTitleChanged FINAL)
+    Q_PROPERTY(
+        Orvello::SlideSyncService::State syncState READ syncState NOTIFY syncStateChanged FINAL)
+
+public:
+    /// Everything must outlive the controller.
+    DeckController(const LibraryStore& library, const SettingsStore& settings,
+        const SlideSyncService& sync, QObject* parent = nullptr);
+
+    const QString& promptText() const { return m_promptText; }
+    /// Goes up by 1 whenever another unit is shown, and so from its top.
+    qint64 slideChangeToken() const { return m_slideChangeToken; }
+    bool trackingActive() const { return m_trackingActive; } ///< One slide's notes are shown.
+    qint64 displayIndex() const { return m_displayIndex; } ///< 0-based; 0 without slides.
+    qint64 slideCount() const { return m_slideCount; } ///< Of the active script.
+    const std::optional<QString>& slideTitle() const { return m_slideTitle; } ///< If one is shown.
+    SlideSyncService::State syncState() const { return m_syncState; }
+
+    Q_INVOKABLE void showPreviousSlide();
+    Q_INVOKABLE void showNextSlide();
+
+Q_SIGNALS:
+    void promptTextChanged();
+    void slideChangeTokenChanged();
+    void trackingActiveChanged();
+    void displayIndexChanged();
+    void slideCountChanged();
+    void slideTitleChanged();
+    void syncStateChanged();
+
+private:
+    /// The text shown, with what identifies it: the script, and the slide if it is one.
+    struct Unit {
+        QString text;
+        std::optional<QString> title;
+        std::optional<qint64> slide; ///< 0-based; none when the unit is the whole script.
+    };
+
+    QString slideTitleText() const { return m_slideTitle.value_or(QString()); }
+    void followLiveSlide(const std::optional<qint64>& slide);
+    void setSyncState(SlideSyncService::State state);
+    void recompute();
+    void settlePosition(const Script* script);
+    Unit unitOf(const Script* script) const;
+    void publish(const Script* script, const Unit& unit);
+
+    const LibraryStore& m_library;
+    const SettingsStore& m_settings;
+    const SlideSyncService& m_sync;
+    QString m_promptText;
+    qint64 m_slideChangeToken = 0;
+    bool m_trackingActive = false;
+    qint64 m_displayIndex = 0;
+    qint64 m_slideCount = 0;
+    std::optional<QString> m_slideTitle;
+    SlideSyncService::State m_syncState = SlideSyncService::State::Idle;
+    qint64 m_manualIndex = 0; ///< Follows the live slide, so that it stays when the slideshow ends.
+    QString m_lastUnitKey;
+    std::optional<QUuid> m_lastScriptID;
+};
+
+} // namespace Orvello

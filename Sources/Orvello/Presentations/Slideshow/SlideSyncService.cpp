@@ -1,0 +1,153 @@
+#include "Orvello/Presentations/Slideshow/SlideSyncService.h"
+
+#include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Presentations/Presenters/PresenterApp.h"
+#include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double pollSeconds = 0.5;
+
+/// The system's error number for an Apple event that the user has not authorised.
+constexpr QStringView notAuthorised = u"-1743";
+
+bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
+
+/// The number of a slide: a decimal integer of at least 1 between white space, and nothing else.
+std::optional<qint64> slideNumber(const QString& output)
+{
+    const QString trimmed = output.trimmed();
+    const bool hasSign = trimmed.startsWith(u'+') || trimmed.startsWith(u'-');
+    const QStringView digits = QStringView(trimmed).sliced(hasSign ? 1 : 0);
+    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit))
+        return std::nullopt;
+    bool fits = false;
+    const qint64 number = trimmed.toLongLong(&fits);
+    return fits && number >= 1 ? std::optional(number) : std::nullopt;
+}
+
+} // namespace
+
+SlideSyncService::SlideSyncService(const PresentationMonitor& presentation,
+    const PresenterTable& presenters, TimeSource& time, QObject* parent)
+    : QObject(parent)
+    , m_presentation(presentation)
+    , m_presenters(presenters)
+    , m_time(time)
+{
+}
+
+SlideSyncService::~SlideSyncService() = default;
+
+void SlideSyncService::setActive(bool on)
+{
+    if (on == m_isActive)
+        return;
+    m_isActive = on;
+    if (on) {
+        setState(State::Manual);
+        m_timer = m_time.callEvery(pollSeconds, [this] { tick(); });
+    } else {
+        m_timer.reset();
+        m_isInFlight = false;
+        setState(State::Idle);
+        setLiveSlide(std::nullopt);
+        setApp(nullptr);
+    }
+    AppLog::write("Orvello SYNC active=%d", on ? 1 : 0);
+}
+
+void SlideSyncService::tick()
+{
+    const PresenterApp* presenting = m_presentation.isPresenting()
+        ? m_presenters.named(m_presentation.presentingApp())
+        : nullptr;
+    if (presenting)
+        follow(*presenting);
+    else
+        standBy();
+}
+
+void SlideSyncService::follow(const PresenterApp& app)
+{
+    if (m_app != &app) {
+        setApp(&app);
+        if (m_state == State::Denied)
+            setState(State::Manual); // Another application gets a fresh chance.
+        AppLog::write("Orvello SYNC following %@", app.logName);
+    }
+    if (m_state == State::Denied || m_isInFlight)
+        return;
+    m_isInFlight = true;
+    poll(app);
+}
+
+void SlideSyncService::standBy()
+{
+    setLiveSlide(std::nullopt);
+    setApp(nullptr);
+    if (m_state == State::Live)
+        setState(State::Manual);
+}
+
+void SlideSyncService::poll(const PresenterApp& app)
+{
+    app.askCurrentSlide([self = QPointer(this), &app](const ScriptResult& result) {
+        if (self)
+            self->complete(app, result);
+    });
+}
+
+void SlideSyncService::complete(const PresenterApp& app, const ScriptResult& result)
+{
+    m_isInFlight = false;
+    if (!m_isActive || result.status == ScriptResult::notStarted)
+        return;
+    const auto slide = result.status == 0 ? slideNumber(result.standardOutput) : std::nullopt;
+    if (slide) {
+        if (slide != m_liveSlide) {
+            setLiveSlide(slide);
+            AppLog::write("Orvello SYNC slide=%d", *slide);
+        }
+        setState(State::Live);
+    } else if (result.standardError.contains(notAuthorised)) {
+        setState(State::Denied);
+        setLiveSlide(std::nullopt);
+        AppLog::write("Orvello SYNC denied (Automation permission for %@)", app.logName);
+    }
+    // Any other failure is transient: the slideshow may just have ended. The next tick asks again.
+}
+
+void SlideSyncService::setState(State state)
+{
+    if (state == m_state)
+        return;
+    m_state = state;
+    Q_EMIT stateChanged();
+}
+
+void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
+{
+    if (slide == m_liveSlide)
+        return;
+    m_liveSlide = slide;
+    Q_EMIT liveSlideChanged();
+}
+
+void SlideSyncService::setApp(const PresenterApp* app)
+{
+    if (app == m_app)
+        return;
+    m_app = app;
+    Q_EMIT appChanged();
+}
+
+} // namespace Orvello

@@ -1,0 +1,101 @@
+#include "Orvello/Prompting/Panel/PanelFrame.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Orvello::PanelFrame {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double panelWidth = 720;
+constexpr double panelHeight = 200;
+constexpr double gapBelowScreenTop = 6;
+
+/// A panel of which less than this lies on a screen, in either direction, can hardly be found and
+/// dragged back.
+constexpr double grabbable = 40;
+
+bool isGrabbable(const QRectF& frame, const QRectF& screen)
+{
+    const QRectF seen = frame.intersected(screen);
+    return seen.width() >= std::min(grabbable, frame.width())
+        && seen.height() >= std::min(grabbable, frame.height());
+}
+
+double distance(const QRectF& frame, const QRectF& screen)
+{
+    const QPointF between = frame.center() - screen.center();
+    return std::hypot(between.x(), between.y());
+}
+
+QString number(double value) { return QString::number(value, 'g', 12); }
+
+} // namespace
+
+QRectF initial(const QRectF& mainScreen)
+{
+    // QRectF counts y downward in its names: the greatest y of a frame, its top edge here, is
+    // bottom().
+    return { mainScreen.center().x() - panelWidth / 2,
+        mainScreen.bottom() - panelHeight - gapBelowScreenTop, panelWidth, panelHeight };
+}
+
+QRectF onScreen(const QRectF& frame, const QList<QRectF>& screens)
+{
+    const auto holds = [&](const QRectF& screen) { return isGrabbable(frame, screen); };
+    if (screens.isEmpty() || std::ranges::any_of(screens, holds))
+        return frame;
+    const QRectF screen = *std::ranges::min_element(
+        screens, {}, [&](const QRectF& candidate) { return distance(frame, candidate); });
+    const double width = std::min(frame.width(), screen.width());
+    const double height = std::min(frame.height(), screen.height());
+    return { std::clamp(frame.x(), screen.left(), screen.right() - width),
+        std::clamp(frame.y(), screen.top(), screen.bottom() - height), width, height };
+}
+
+QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest)
+{
+    const double width = std::clamp(frame.width(), smallest.width(), largest.width());
+    const double height = std::clamp(frame.height(), smallest.height(), largest.height());
+    return { frame.x(), frame.bottom() - height, width, height };
+}
+
+QString description(const QRectF& frame)
+{
+    return u"{{%1, %2}, {%3, %4}}"_s.arg(
+        number(frame.x()), number(frame.y()), number(frame.width()), number(frame.height()));
+}
+
+QString text(const QRectF& frame, const QRectF& screen)
+{
+    QStringList numbers;
+    for (const QRectF& part : { frame, screen }) {
+        for (const double value : { part.x(), part.y(), part.width(), part.height() })
+            numbers.append(number(value));
+    }
+    return numbers.join(u' ');
+}
+
+std::optional<QRectF> parsed(const QString& text)
+{
+    constexpr double farthest = 1e6; // Points; no desktop is larger.
+    const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+    std::array<double, 4> values {};
+    if (words.size() < qsizetype(values.size()))
+        return std::nullopt;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        bool isNumber = false;
+        values[i] = words[qsizetype(i)].toDouble(&isNumber);
+        if (!isNumber || !(std::abs(values[i]) <= farthest))
+            return std::nullopt;
+    }
+    const QRectF frame(values[0], values[1], values[2], values[3]);
+    if (frame.width() <= 0 || frame.height() <= 0)
+        return std::nullopt;
+    return frame;
+}
+
+} // namespace Orvello::PanelFrame

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/NativePanel.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Prompting/Panel/StealthLog.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Orvello {
+
+class Folders;
+class PresentationMonitor;
+class Screens;
+class ScrollEngine;
+class SettingsStore;
+
+/// Places the prompter panel and keeps it out of captures while Stealth Mode is on. Two independent
+/// mechanisms hide the panel: the window's sharing type and a capture-exclude shape. The window
+/// server can silently drop either (the window gets a new number, or outgrows the shape), so the
+/// controller remembers what it applied and repairs it: after every resize, after a call ends, and
+/// from a watchdog. The panel is built but not shown: showing it is the shell's business.
+class PrompterPanelController final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool stealthOn READ stealthOn NOTIFY stealthOnChanged FINAL)
+    Q_PROPERTY(
+        bool visibleInRecordings READ isVisibleInRecordings NOTIFY visibleInRecordingsChanged FINAL)
+
+public:
+    /// All of them must outlive the controller.
+    struct Services {
+        NativePanel& panel;
+        ScrollEngine& engine;
+        SettingsStore& settings;
+        PresentationMonitor& presentation;
+        TimeSource& time;
+        const Screens& screens;
+        const Folders& folders;
+    };
+
+    /// With `forceCapturable` Stealth Mode never takes effect.
+    PrompterPanelController(const Services& services, bool forceCapturable);
+    ~PrompterPanelController() override;
+
+    NativePanel& panel() { return m_panel; }
+
+    /// Whether Stealth Mode is in effect: wanted, and not forced off.
+    bool stealthOn() const { return m_stealthOn; }
+
+    /// Whether Stealth Mode is wanted on a platform that cannot keep the panel out of captures. The
+    /// user must be told.
+    bool isVisibleInRecordings() const;
+
+    /// Hides the panel from captures, or makes it an ordinary window again.
+    void applyStealthMode(bool on);
+
+    /// Applies Stealth Mode again after the panel was brought to the front.
+    void reassertStealth();
+
+    /// Covers a resized panel again, or leaves that until the call ends.
+    void reapplyShapeOrPostpone();
+
+Q_SIGNALS:
+    void stealthOnChanged();
+    void visibleInRecordingsChanged();
+
+private:
+    void placePanel(const Screens& screens);
+    void watchResizes();
+    void callChanged(bool inCall);
+    void checkWindow();
+    void coverCurrentFrame();
+    bool applySharingType(NativePanel::SharingType desired, qint64 windowNumber);
+    bool applyShape(bool on, const QString& mode);
+
+    NativePanel& m_panel;
+    PresentationMonitor& m_presentation;
+    TimeSource& m_time;
+    StealthLog m_stealthLog;
+    const bool m_forceCapturable;
+    bool m_stealthOn = false;
+    bool m_wantsStealth = false;
+    bool m_pendingShapeReapply = false; ///< A shape was left as it was because a call was going on.
+    qint64 m_appliedWid = -1; ///< Window number at the last application.
+    std::optional<NativePanel::SharingType> m_appliedSharing;
+    std::unique_ptr<TimeSource::Ticket> m_stealthWatchdog;
+    /// One for each request; few, because a window has its number soon.
+    std::vector<std::unique_ptr<TimeSource::Ticket>> m_delayedReassertions;
+};
+
+} // namespace Orvello

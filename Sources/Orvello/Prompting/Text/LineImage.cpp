@@ -1,0 +1,107 @@
+#include "Orvello/Prompting/Text/LineImage.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Orvello {
+
+namespace {
+
+/// Of a picture; every renderer takes one a little larger as a texture.
+constexpr double largestSide = 4000;
+
+void lay(QTextLayout& layout, const PromptLine& line, const PromptTypography& typography)
+{
+    QTextOption option(line.isRightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    option.setTextDirection(line.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setUseDesignMetrics(true); // As in the layout that broke the line.
+    layout.setTextOption(option);
+    layout.beginLayout();
+    layout.createLine().setLineWidth(typography.width);
+    layout.endLayout();
+}
+
+/// In which all glyphs lie, in points from the frame's left edge and the baseline. Accents may be
+/// stacked, and letters may lean out of their boxes, by half the font's size.
+QRectF roomFor(const QTextLayout& layout)
+{
+    const QTextLine line = layout.lineAt(0);
+    const double reach = 0.5 * line.height();
+    const QRectF box = line.naturalTextRect();
+    return box.translated(0, -line.ascent()).adjusted(-reach, -reach, reach, reach);
+}
+
+bool isClear(const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (row[x] != 0)
+                return false;
+        }
+    }
+    return true;
+}
+
+/// The pixels that have marks.
+QRect inkOf(const QImage& image)
+{
+    QRect ink = image.rect();
+    while (!ink.isEmpty() && isClear(image, { ink.left(), ink.top(), ink.width(), 1 }))
+        ink.setTop(ink.top() + 1);
+    while (!ink.isEmpty() && isClear(image, { ink.left(), ink.bottom(), ink.width(), 1 }))
+        ink.setBottom(ink.bottom() - 1);
+    while (!ink.isEmpty() && isClear(image, { ink.left(), ink.top(), 1, ink.height() }))
+        ink.setLeft(ink.left() + 1);
+    while (!ink.isEmpty() && isClear(image, { ink.right(), ink.top(), 1, ink.height() }))
+        ink.setRight(ink.right() - 1);
+    return ink;
+}
+
+/// Grown to whole device pixels, with an empty one around it to filter into.
+QRect devicePixelsAround(const QRect& ink)
+{
+    constexpr int rows = LineImage::rowsPerPixel;
+    const int top = static_cast<int>(std::floor(ink.top() / double(rows)));
+    const int bottom = static_cast<int>(std::ceil((ink.bottom() + 1) / double(rows)));
+    return QRect(ink.left(), top, ink.width(), bottom - top).adjusted(-1, -1, 1, 1);
+}
+
+} // namespace
+
+LineImage LineImage::of(
+    const PromptLine& line, const PromptTypography& typography, const QColor& color, double scale)
+{
+    QTextLayout layout(line.text, typography.font);
+    lay(layout, line, typography);
+    const QRectF room = roomFor(layout);
+    // A line that no texture could hold is drawn coarser.
+    const double resolution = std::min({ scale, largestSide / (room.width() * typography.scale),
+        largestSide / (room.height() * typography.scale * rowsPerPixel) });
+    const double pixels = typography.scale * resolution; // For each point before it is scaled.
+    const QRect area = QRectF(room.topLeft() * pixels, room.size() * pixels).toAlignedRect();
+    QImage canvas(area.width(), area.height() * rowsPerPixel, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    painter.setPen(color);
+    painter.scale(1, rowsPerPixel);
+    painter.translate(-area.topLeft());
+    painter.scale(pixels, pixels);
+    layout.draw(&painter, { 0, -layout.lineAt(0).ascent() });
+    painter.end();
+
+    const QRect ink = inkOf(canvas);
+    if (ink.isEmpty())
+        return {};
+    const QRect kept = devicePixelsAround(ink);
+    const QRect rows(
+        kept.left(), kept.top() * rowsPerPixel, kept.width(), kept.height() * rowsPerPixel);
+    const QRectF place = kept.translated(area.topLeft());
+    return { canvas.copy(rows), QRectF(place.topLeft() / resolution, place.size() / resolution) };
+}
+
+} // namespace Orvello

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Prompting/Text/PromptLayout.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace Orvello {
+
+/// The prompter's text as a view shows it: the lines that are visible, and no others. However long
+/// the text, laying it out never keeps the main loop for long, and what was visible stays until its
+/// successor is ready. Lengths are in points. Main thread.
+class PromptLines final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged FINAL)
+    Q_PROPERTY(
+        QString fontFamily READ fontFamily WRITE setFontFamily NOTIFY typographyChanged FINAL)
+    Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY typographyChanged FINAL)
+    Q_PROPERTY(double textWidth READ textWidth WRITE setTextWidth NOTIFY typographyChanged FINAL)
+    Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentHeightChanged FINAL)
+
+public:
+    explicit PromptLines(
+        TimeSource& time, QObject* parent = nullptr); ///< `time` must outlive the lines.
+    ~PromptLines() override;
+
+    const QString& text() const { return m_text; }
+    void setText(const QString& text);
+
+    const QString& fontFamily() const { return m_fontFamily; }
+    void setFontFamily(const QString& family);
+
+    double fontSize() const { return m_fontSize; }
+    void setFontSize(double points);
+
+    double textWidth() const { return m_textWidth; }
+    void setTextWidth(double points); ///< Of the frame in which lines wrap.
+
+    /// Of the lines that are shown, which for a moment may still be the one before a change.
+    const PromptTypography& shownTypography() const { return m_shown.typography(); }
+
+    /// Those at least partly in the visible part, from the top down, and one at most that is just
+    /// outside of it.
+    const std::vector<PromptLine>& visibleLines() const { return m_visibleLines; }
+
+    double visibleTop() const { return m_visibleTop; }
+    void setVisibleTop(double points); ///< Below the text's top; negative above it.
+
+    double visibleHeight() const { return m_visibleHeight; }
+    void setVisibleHeight(double points);
+
+    /// Of the whole text. While a text is being laid out it grows, and it never falls below the
+    /// height before the change until the layout is complete.
+    double contentHeight() const { return m_contentHeight; }
+
+    bool isLaidOut() const; ///< Whether the layout has reached the end of the present text.
+
+    std::size_t positionBytes() const; ///< That the positions of lines take.
+
+Q_SIGNALS:
+    void textChanged();
+    void typographyChanged();
+    void visibleLinesChanged();
+    void shownTypographyChanged();
+    void visiblePartChanged();
+    void contentHeightChanged();
+
+private:
+    PromptTypography typography() const;
+    PromptLayout& newest();
+    void typographyWasSet();
+    void restart();
+    void layOutSlice();
+    void adoptWhenReady();
+    void updateContentHeight();
+    void showVisibleLines();
+
+    TimeSource& m_time;
+    QString m_text;
+    QString m_fontFamily;
+    double m_fontSize = 0;
+    double m_textWidth = 0;
+    double m_visibleTop = 0;
+    double m_visibleHeight = 0;
+    double m_contentHeight = 0;
+    PromptLayout m_shown;
+    std::optional<PromptLayout> m_next; ///< Replaces m_shown when it has reached the visible part.
+    /// Half open; nothing when it is out of date.
+    std::optional<std::pair<PromptLayout::Index, PromptLayout::Index>> m_visibleRange;
+    std::vector<PromptLine> m_visibleLines;
+    std::unique_ptr<TimeSource::Ticket> m_slice;
+};
+
+} // namespace Orvello

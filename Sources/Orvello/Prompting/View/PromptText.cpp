@@ -1,0 +1,209 @@
+#include "Orvello/Prompting/View/PromptText.h"
+
+#include "Orvello/Prompting/View/FadingTextNode.h"
+
+#include <QQuickWindow>
+#include <QScreen>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+namespace Orvello {
+
+namespace {
+
+/// Where the first line stands at offset 0, in parts of the card's height.
+constexpr double firstLineTop = 0.18;
+
+/// From asking Qt for a frame until it begins to prepare it, in seconds: QPlatformWindow waits this
+/// long for further requests.
+constexpr double requestLatency = 0.005;
+
+constexpr double usualFrameInterval = 1.0 / 60.0;
+
+bool isSameText(const PromptLine& a, const PromptLine& b)
+{
+    return a.text == b.text && a.isRightToLeft == b.isRightToLeft;
+}
+
+} // namespace
+
+PromptText::PromptText(QQuickItem* parent)
+    : QQuickItem(parent)
+{
+    setFlag(ItemHasContents);
+    m_pacing.setSingleShot(true);
+    m_pacing.setTimerType(Qt::PreciseTimer);
+    connect(&m_pacing, &QTimer::timeout, this, &QQuickItem::polish);
+}
+
+PromptText::~PromptText() = default;
+
+void PromptText::setEngine(ScrollEngine* engine)
+{
+    m_engine = engine;
+    m_scroll.emplace(*engine);
+    for (const auto signal : { &ScrollEngine::offsetChanged, &ScrollEngine::isRunningChanged,
+             &ScrollEngine::hoverPausedChanged, &ScrollEngine::voiceFollowActiveChanged,
+             &ScrollEngine::voiceGateChanged })
+        connect(engine, signal, this, &PromptText::follow);
+    Q_EMIT engineChanged();
+    polish();
+}
+
+void PromptText::setLines(PromptLines* lines)
+{
+    m_lines = lines;
+    m_lines->setVisibleHeight(height());
+    connect(lines, &PromptLines::visibleLinesChanged, this, [this] {
+        m_areLinesNew = true;
+        polish();
+    });
+    connect(lines, &PromptLines::shownTypographyChanged, this, &PromptText::redrawAllLines);
+    Q_EMIT linesChanged();
+    redrawAllLines();
+}
+
+void PromptText::setColor(const QColor& color)
+{
+    if (std::exchange(m_color, color) == color)
+        return;
+    redrawAllLines();
+    Q_EMIT colorChanged();
+}
+
+void PromptText::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (m_lines)
+        m_lines->setVisibleHeight(height());
+    polish();
+}
+
+void PromptText::itemChange(ItemChange change, const ItemChangeData& data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change == ItemDevicePixelRatioHasChanged)
+        redrawAllLines();
+    if (change == ItemSceneChange && data.window)
+        connect(data.window, &QQuickWindow::frameSwapped, this, &PromptText::frameWasShown,
+            Qt::UniqueConnection);
+}
+
+/// What the engine does is seen in the next frame. While frames follow each other anyway, its ticks
+/// ask for none of their own: those would fall between the display's.
+void PromptText::follow()
+{
+    if (!m_isFollowing)
+        polish();
+}
+
+void PromptText::frameWasShown()
+{
+    if (!m_isFollowing)
+        return;
+    m_isFollowing = m_scroll->isMoving();
+    if (!m_isFollowing)
+        return;
+    // Where showing a frame waits for the display, it is time for the next one. Where it does not,
+    // wait here.
+    const std::chrono::duration<double> wait(m_nextFrame - m_engine->now() - requestLatency);
+    m_pacing.start(std::max(
+        std::chrono::floor<std::chrono::milliseconds>(wait), std::chrono::milliseconds(0)));
+}
+
+void PromptText::updatePolish()
+{
+    if (!m_scroll || !m_lines)
+        return;
+    const double now = m_engine->now();
+    const double offset = m_scroll->offsetAt(now, frameInterval());
+    m_lines->setVisibleTop(offset - firstLineTop * height());
+    if (std::exchange(m_areLinesNew, false))
+        drawVisibleLines();
+
+    m_isFollowing = m_scroll->isMoving();
+    const double interval = frameInterval() > 0 ? frameInterval() : usualFrameInterval;
+    // On the beat of the last frames, if this one is; a frame may be prepared more than once.
+    const bool isOnBeat = std::abs(now - m_nextFrame) < interval / 2;
+    m_nextFrame = (isOnBeat ? m_nextFrame : now) + interval;
+    update();
+}
+
+void PromptText::redrawAllLines()
+{
+    m_shown.clear();
+    m_areLinesNew = true;
+    polish();
+}
+
+void PromptText::drawVisibleLines()
+{
+    std::vector<ShownLine> before = std::exchange(m_shown, {});
+    for (const PromptLine& line : m_lines->visibleLines()) {
+        const auto same = std::ranges::find_if(
+            before, [&](const ShownLine& shown) { return isSameText(shown.line, line); });
+        if (same == before.end()) {
+            const double scale = window() ? window()->effectiveDevicePixelRatio() : 1;
+            m_shown.push_back(
+                { line, LineImage::of(line, m_lines->shownTypography(), m_color, scale) });
+            continue;
+        }
+        m_shown.push_back(std::move(*same));
+        m_shown.back().line = line;
+        before.erase(same);
+    }
+}
+
+QSGNode* PromptText::updatePaintNode(QSGNode* root, UpdatePaintNodeData* /*data*/)
+{
+    if (!root) {
+        root = new QSGNode;
+        for (ShownLine& shown : m_shown)
+            shown.node = nullptr; // Gone with the scene graph that it was in.
+    }
+    for (QSGNode* node = root->firstChild(); node;) {
+        QSGNode* const next = node->nextSibling();
+        if (std::ranges::find(m_shown, node, &ShownLine::node) == m_shown.end())
+            delete node;
+        node = next;
+    }
+    addMissingNodes(*root);
+    for (const ShownLine& shown : m_shown) {
+        if (shown.node)
+            shown.node->place(placeOf(shown), height());
+    }
+    return root;
+}
+
+void PromptText::addMissingNodes(QSGNode& root)
+{
+    for (ShownLine& shown : m_shown) {
+        if (shown.node || shown.image.pixels.isNull())
+            continue;
+        std::unique_ptr<QSGTexture> texture(window()->createTextureFromImage(
+            shown.image.pixels, QQuickWindow::TextureHasAlphaChannel));
+        shown.node = new FadingTextNode(std::move(texture));
+        root.appendChildNode(shown.node);
+    }
+}
+
+QRectF PromptText::placeOf(const ShownLine& shown) const
+{
+    // The picture's columns are device pixels.
+    const double scale = window()->effectiveDevicePixelRatio();
+    const PromptTypography& typography = m_lines->shownTypography();
+    const double frameLeft = (width() - typography.width * typography.scale) / 2;
+    return shown.image.place.translated(std::round(frameLeft * scale) / scale,
+        shown.line.baseline * typography.scale - m_lines->visibleTop());
+}
+
+double PromptText::frameInterval() const
+{
+    const QScreen* const screen = window() ? window()->screen() : nullptr;
+    return screen && screen->refreshRate() > 0 ? 1 / screen->refreshRate() : 0;
+}
+
+} // namespace Orvello

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
+#include "Orvello/Prompting/Engine/SmoothScroll.h"
+#include "Orvello/Prompting/Text/LineImage.h"
+#include "Orvello/Prompting/Text/PromptLines.h"
+
+#include <QColor>
+#include <QQuickItem>
+#include <QTimer>
+
+#include <optional>
+#include <vector>
+
+namespace Orvello {
+
+class FadingTextNode;
+
+/// The prompter's text on its card: the visible lines where the scroll engine has moved them,
+/// dissolving toward the top and the bottom edge. While the text moves, it asks for a frame for
+/// each that the display shows, and otherwise for none.
+class PromptText : public QQuickItem {
+    Q_OBJECT
+    Q_PROPERTY(Orvello::ScrollEngine* engine READ engine WRITE setEngine NOTIFY engineChanged
+            REQUIRED FINAL)
+    Q_PROPERTY(
+        Orvello::PromptLines* lines READ lines WRITE setLines NOTIFY linesChanged REQUIRED FINAL)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+
+public:
+    explicit PromptText(QQuickItem* parent = nullptr);
+    ~PromptText() override;
+
+    ScrollEngine* engine() const { return m_engine; }
+    void setEngine(ScrollEngine* engine); ///< Once. It must outlive the item.
+
+    PromptLines* lines() const { return m_lines; }
+    void setLines(PromptLines* lines); ///< Once. They must outlive the item.
+
+    QColor color() const { return m_color; }
+    void setColor(const QColor& color);
+
+Q_SIGNALS:
+    void engineChanged();
+    void linesChanged();
+    void colorChanged();
+
+protected:
+    void updatePolish() override;
+    QSGNode* updatePaintNode(QSGNode* root, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    /// A visible line and its picture, with the node that shows it once there is one.
+    struct ShownLine {
+        PromptLine line;
+        LineImage image;
+        FadingTextNode* node = nullptr; ///< Owned by the scene graph.
+    };
+
+    void follow();
+    void frameWasShown();
+    void redrawAllLines();
+    void drawVisibleLines();
+    void addMissingNodes(QSGNode& root);
+    QRectF placeOf(const ShownLine& shown) const;
+    double frameInterval() const;
+
+    ScrollEngine* m_engine = nullptr;
+    PromptLines* m_lines = nullptr;
+    QColor m_color = Qt::white;
+    std::optional<SmoothScroll> m_scroll;
+    std::vector<ShownLine> m_shown;
+    bool m_areLinesNew = false; ///< Since they were drawn.
+    bool m_isFollowing = false; ///< A frame is on its way after which the next one is asked for.
+    double m_nextFrame = 0; ///< The earliest moment for it, on the engine's clock.
+    QTimer m_pacing;
+};
+
+} // namespace Orvello

@@ -1,0 +1,86 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Orvello
+
+// Which slide's notes are shown and who turns the slides, with buttons to turn them by hand. The
+// buttons stand at the chip's end and everything before them has its widest width: while the deck is
+// stepped through, they stay under the pointer.
+Capsule {
+    id: root
+
+    required property SlideStatus status
+    required property double maximumWidth
+
+    Accessible.role: Accessible.Grouping
+    //: Read aloud. %1: which slide of how many, as in "2 / 14".
+    Accessible.name: qsTr("Slide %1").arg(status.position)
+    //: Read aloud. %1: the slide's title; %2: who turns the slides, as in "Live".
+    Accessible.description: status.title ? qsTr("%1, %2").arg(status.title).arg(status.stateLabel) : status.stateLabel
+
+    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft
+    readonly property double widthWithoutTitle:
+        dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
+
+    SmallLabel {
+        id: titleLabel
+
+        anchors.verticalCenter: parent.verticalCenter
+        visible: width > 0
+        width: Math.max(0, Math.min(Math.ceil(implicitWidth), 140,
+                                    root.maximumWidth - root.widthWithoutTitle))
+        text: root.status.title
+        elide: Text.ElideRight
+        maximumLineCount: 1
+    }
+
+    Rectangle {
+        id: dot
+        anchors.verticalCenter: parent.verticalCenter
+        width: 6
+        height: 6
+        radius: 3
+        color: root.status.stateColor
+    }
+
+    LabelStack {
+        id: state
+        anchors.verticalCenter: parent.verticalCenter
+        labels: root.status.stateLabels
+        label: root.status.stateLabel
+    }
+
+    Row {
+        id: buttons
+        height: parent.height
+
+        SymbolButton {
+            symbol: root.isMirrored ? "chevron.right" : "chevron.left"
+            description: qsTr("Previous slide")
+            isInert: !root.status.canGoBack
+            onPressed: root.status.goBack()
+        }
+
+        SmallLabel {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.ceil(widestPosition.width)
+            text: root.status.position
+            color: Qt.rgba(1, 1, 1, 0.85)
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignHCenter
+
+            TextMetrics {
+                id: widestPosition
+                text: root.status.widestPosition
+                font.pixelSize: 10
+                font.weight: Font.DemiBold
+            }
+        }
+
+        SymbolButton {
+            symbol: root.isMirrored ? "chevron.left" : "chevron.right"
+            description: qsTr("Next slide")
+            isInert: !root.status.canGoOn
+            onPressed: root.status.goOn()
+        }
+    }
+}

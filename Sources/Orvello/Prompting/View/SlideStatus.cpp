@@ -1,0 +1,104 @@
+#include "Orvello/Prompting/View/SlideStatus.h"
+
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Prompting/View/SignalColors.h"
+
+namespace Orvello {
+
+namespace {
+
+struct Appearance {
+    QString label;
+    QColor color;
+};
+
+Appearance live()
+{
+    //: On the card, at most about 12 characters: the notes follow the running slideshow.
+    return { SlideStatus::tr("Live"), SignalColors::green };
+}
+
+Appearance noAccess()
+{
+    //: On the card, at most about 12 characters: the presentation program may not be asked.
+    return { SlideStatus::tr("No access"), SignalColors::red };
+}
+
+Appearance manual()
+{
+    //: On the card, at most about 12 characters: the user turns the notes by hand.
+    return { SlideStatus::tr("Manual"), QColor::fromRgbF(1, 1, 1, 0.5F) };
+}
+
+Appearance appearanceOf(SlideSyncService::State state)
+{
+    switch (state) {
+    case SlideSyncService::State::Live:
+        return live();
+    case SlideSyncService::State::Denied:
+        return noAccess();
+    case SlideSyncService::State::Idle:
+    case SlideSyncService::State::Manual:
+        break;
+    }
+    return manual();
+}
+
+QString positionOf(qint64 number, qint64 count)
+{
+    //: On the card: which slide of how many.
+    return SlideStatus::tr("%1 / %2").arg(number).arg(count);
+}
+
+} // namespace
+
+SlideStatus::SlideStatus(DeckController& deck, QObject* parent)
+    : QObject(parent)
+    , m_deck(deck)
+{
+    for (const auto signal : { &DeckController::trackingActiveChanged,
+             &DeckController::displayIndexChanged, &DeckController::slideCountChanged,
+             &DeckController::slideTitleChanged, &DeckController::syncStateChanged })
+        connect(&deck, signal, this, &SlideStatus::changed);
+}
+
+bool SlideStatus::isShown() const { return m_deck.trackingActive(); }
+
+QString SlideStatus::position() const
+{
+    return positionOf(m_deck.displayIndex() + 1, m_deck.slideCount());
+}
+
+QString SlideStatus::widestPosition() const
+{
+    return positionOf(m_deck.slideCount(), m_deck.slideCount());
+}
+
+QString SlideStatus::title() const { return m_deck.slideTitle().value_or(QString()); }
+
+bool SlideStatus::canGoBack() const { return m_deck.displayIndex() > 0; }
+
+bool SlideStatus::canGoOn() const { return m_deck.displayIndex() < m_deck.slideCount() - 1; }
+
+QString SlideStatus::stateLabel() const { return appearanceOf(m_deck.syncState()).label; }
+
+QColor SlideStatus::stateColor() const { return appearanceOf(m_deck.syncState()).color; }
+
+QStringList SlideStatus::stateLabels()
+{
+    return { live().label, noAccess().label, manual().label };
+}
+
+void SlideStatus::goBack()
+{
+    if (canGoBack())
+        m_deck.showPreviousSlide();
+}
+
+void SlideStatus::goOn()
+{
+    if (canGoOn())
+        m_deck.showNextSlide();
+}
+
+} // namespace Orvello

@@ -1,0 +1,33 @@
+import QtQuick
+import Orvello
+
+// What the prompter is doing, and how loud it hears the speaker.
+Capsule {
+    id: root
+
+    required property PrompterStatus status
+    required property LevelMeter meter
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: status.label
+    Accessible.description: qsTr("Status")
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 8
+        height: 8
+        radius: 4
+        color: root.status.color
+    }
+
+    LabelStack {
+        anchors.verticalCenter: parent.verticalCenter
+        labels: root.status.labels
+        label: root.status.label
+    }
+
+    LevelBeam {
+        anchors.verticalCenter: parent.verticalCenter
+        meter: root.meter
+    }
+}

@@ -1,0 +1,45 @@
+import QtQuick
+import Orvello
+
+// The way through the tour: out of it on the left, where one is in the middle, on on the right.
+Item {
+    id: root
+
+    required property WelcomeTour tour
+
+    implicitHeight: 84
+
+    TourButton {
+        visible: !root.tour.isLastPage
+        anchors.left: parent.left
+        anchors.leftMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: qsTr("Skip tour")
+        onClicked: root.tour.skip()
+    }
+
+    TourDots {
+        anchors.centerIn: parent
+        count: root.tour.pageCount
+        current: root.tour.page
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: 28
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 8
+
+        TourButton {
+            visible: !root.tour.isFirstPage
+            text: qsTr("Back")
+            onClicked: root.tour.goBack()
+        }
+        TourButton {
+            focus: true
+            leadsOn: true
+            text: root.tour.isLastPage ? qsTr("Open my prompter") : qsTr("Continue")
+            onClicked: root.tour.goOn()
+        }
+    }
+}

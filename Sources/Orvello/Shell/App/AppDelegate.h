@@ -1,0 +1,121 @@
+#pragma once
+
+#include "Orvello/Library/Store/LibraryStore.h"
+#include "Orvello/Platform/Early/ProcessSignals.h"
+#include "Orvello/Presentations/Presenters/AppleScriptRunner.h"
+#include "Orvello/Presentations/Presenters/PresenterApp.h"
+#include "Orvello/Presentations/Slideshow/DeckController.h"
+#include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
+#include "Orvello/Presentations/Slideshow/SlideSyncService.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
+#include "Orvello/Prompting/Panel/PrompterPanelController.h"
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/App/Lazy.h"
+#include "Orvello/Shell/Commands/AppCommands.h"
+#include "Orvello/Shell/Commands/HotKeyCenter.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/StatusMenu.h"
+#include "Orvello/Shell/Launch/LaunchOptions.h"
+#include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Voice/ProcessMicActivity.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
+
+#include <QObject>
+#include <QUrl>
+
+#include <memory>
+#include <vector>
+
+namespace Orvello {
+
+class ImpressAdviceDialog;
+class ImpressPresenter;
+class PlainPKey;
+class Platform;
+class PrompterWindow;
+class RightClickFilter;
+class StatusItem;
+
+/// Makes every long-lived object, wires them together, shows the first window, and closes the
+/// session at quit. One for the life of the process; everything it makes lives as long.
+class AppDelegate final : public QObject {
+    Q_OBJECT
+
+public:
+    /// `platform` must outlive the delegate.
+    AppDelegate(Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options);
+    ~AppDelegate() override;
+
+    /// Once, when the event loop is about to run.
+    void applicationDidFinishLaunching();
+
+    /// Once, when the event loop has ended in an ordinary quit.
+    void applicationWillTerminate();
+
+    /// Addresses that the application is asked to open. Before the end of the launch they wait.
+    void applicationOpen(const QList<QUrl>& urls);
+
+    /// The user has started the program once more, while it runs. Does what that start asks for, at
+    /// the end of the launch at the earliest. A start that asks for nothing opens the menu, unless
+    /// the launch is about to show what there is to see.
+    void applicationStartedAgain(const LaunchOptions& options);
+
+    /// Opens the welcome tour, or brings it to the front.
+    void showOnboarding();
+
+    /// Shows the prompter panel if it is hidden, hides it if it is shown.
+    void togglePanel();
+
+private:
+    void addPresenters();
+    void makePanel();
+    void showPanel();
+    void makeWindows();
+    void showFirstWindow();
+    void onboardingFinished();
+    void setupStatusItem();
+    void registerHotKeys();
+    void startUpdates();
+    void subscribe();
+    void followSlideTracking();
+    void importDeckFromEnvironment();
+    void follow(const LaunchOptions& options);
+    static void handle(const QList<QUrl>& urls);
+    void installSignalHandlers();
+
+    // In this order: what is made later uses what was made before.
+    Platform& m_platform;
+    const ShellWindows::Factory m_makeWindows;
+    const LaunchOptions m_options;
+    SettingsStore m_settings;
+    LibraryStore m_library;
+    AppleScriptRunner m_scriptRunner;
+    PresenterTable m_presenters;
+    ProcessMicActivity m_micActivity;
+    Lazy<ScrollEngine> m_engine;
+    Lazy<VoiceActivityEngine> m_voice;
+    PresentationMonitor m_presentation;
+    std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
+    std::unique_ptr<ImpressAdviceDialog> m_impressAdvice;
+    Lazy<SlideSyncService> m_slideSync;
+    Lazy<DeckController> m_deck;
+    UpdateController m_updates;
+    HotKeyCenter m_hotKeys;
+    std::unique_ptr<PrompterWindow> m_prompterWindow;
+    std::unique_ptr<NativePanel> m_panel;
+    /// None until the launch is over but for what the user does not see.
+    std::unique_ptr<PrompterPanelController> m_panelController;
+    std::unique_ptr<ShellWindows> m_windows;
+    std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
+    std::unique_ptr<AppCommands> m_commands;
+    std::unique_ptr<StatusMenu> m_statusMenu;
+    std::unique_ptr<StatusItem> m_statusItem;
+    std::unique_ptr<RightClickFilter> m_rightClicks;
+    std::unique_ptr<PlainPKey> m_plainPKey;
+    std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
+    QList<QUrl> m_pendingURLs;
+    bool m_hasLaunched = false;
+    std::vector<LaunchOptions> m_earlyStarts; ///< Of before the end of the launch.
+};
+
+} // namespace Orvello

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Orvello/Foundation/Facts.h"
+
+#include <functional>
+#include <memory>
+
+namespace Orvello {
+
+class AppleScriptRunner;
+class HotKeys;
+class LibraryStore;
+class Menu;
+class OpenPanel;
+class PresenterTable;
+class SettingsStore;
+class StatusBar;
+class StatusItem;
+class UpdateController;
+class VoiceActivityEngine;
+class WindowChrome;
+class Workspace;
+
+/// One window of the program that the user opens and closes, and that keeps its content meanwhile.
+class ShellWindow {
+public:
+    virtual ~ShellWindow() = default;
+
+    /// Shows the window, in front of all others and with the keyboard. Centred at the first time.
+    virtual void makeKeyAndOrderFront() = 0;
+};
+
+/// Makes the windows that menus and the launch open, so that what decides when they open needs no
+/// window system. Each call makes a new window.
+class ShellWindows {
+public:
+    /// What the windows show and work with. All of them outlive the windows.
+    struct Services {
+        SettingsStore& settings;
+        LibraryStore& library;
+        VoiceActivityEngine& voice;
+        UpdateController& updates;
+        const PresenterTable& presenters;
+        const AppleScriptRunner& appleScript;
+        Workspace& workspace;
+        OpenPanel& openPanel;
+        WindowChrome& windowChrome;
+        StatusBar& statusBar;
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the windows may say of this machine.
+    };
+    using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
+
+    virtual ~ShellWindows() = default;
+
+    virtual std::unique_ptr<ShellWindow> makeLibrary() = 0;
+    virtual std::unique_ptr<ShellWindow> makeSettings() = 0;
+
+    /// The welcome tour. `onFinish` is called once, when the user has finished or closed it; it may
+    /// destroy the window.
+    virtual std::unique_ptr<ShellWindow> makeOnboarding(std::function<void()> onFinish) = 0;
+
+    /// The item in the status bar that opens `menu`, which must outlive it.
+    virtual std::unique_ptr<StatusItem> makeStatusItem(Menu& menu) = 0;
+};
+
+} // namespace Orvello

@@ -1,0 +1,236 @@
+#include "Orvello/Shell/Updates/AppcastUpdater.h"
+
+#include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Platform/Desktop/DesktopServices.h"
+#include "Orvello/Platform/Desktop/UpdateUserDriver.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString automaticKey = u"SUEnableAutomaticChecks"_s;
+const QString lastCheckKey = u"SULastCheckTime"_s;
+const QString skippedKey = u"SUSkippedVersion"_s;
+
+UpdateItem updateItem(const AppcastItem& item) { return { item.version, item.displayVersion }; }
+
+} // namespace
+
+AppcastUpdater::AppcastUpdater(const Services& services, Appcast::Host host, QString feed)
+    : m_services(services)
+    , m_host(std::move(host))
+    , m_builtInFeed(std::move(feed))
+    , m_loader(services.time)
+{
+}
+
+AppcastUpdater::~AppcastUpdater() = default;
+
+void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
+{
+    m_delegate = &delegate;
+    announceChecks();
+    // In the next turn of the main loop, when whoever starts the updater has said so in the log. A
+    // user who asks for a check before that is not asked whether to check.
+    m_nextCheck = m_services.time.callAfter(0, [this] {
+        askPermissionOnce();
+        schedule();
+    });
+}
+
+QString AppcastUpdater::feed() const { return m_delegate->feedURLString().value_or(m_builtInFeed); }
+
+std::optional<QString> AppcastUpdater::builtInFeed() const
+{
+    return m_builtInFeed.isEmpty() ? std::nullopt : std::optional(m_builtInFeed);
+}
+
+void AppcastUpdater::askPermissionOnce()
+{
+    if (feed().isEmpty() || m_services.defaults.value(automaticKey).isValid())
+        return;
+    m_services.user.askPermission([this](bool isAllowed) {
+        // The settings window may have answered meanwhile.
+        if (!m_services.defaults.value(automaticKey).isValid())
+            setAutomaticallyChecksForUpdates(isAllowed);
+    });
+}
+
+bool AppcastUpdater::automaticallyChecksForUpdates() const
+{
+    return DefaultsValue::asBoolean(m_services.defaults.value(automaticKey)).value_or(false);
+}
+
+void AppcastUpdater::setAutomaticallyChecksForUpdates(bool on)
+{
+    const bool isChange = automaticallyChecksForUpdates() != on;
+    m_services.defaults.setValue(automaticKey, on);
+    if (!isChange)
+        return;
+    for (const auto& changed : m_observers)
+        changed();
+    // Whoever switches has logged that first by then.
+    m_nextCheck = m_services.time.callAfter(0, [this] { schedule(); });
+}
+
+void AppcastUpdater::observeAutomaticChecks(std::function<void()> changed)
+{
+    m_observers.push_back(std::move(changed));
+}
+
+bool AppcastUpdater::canCheckForUpdates() const { return m_delegate && m_phase != Phase::Loading; }
+
+std::optional<Date> AppcastUpdater::lastUpdateCheckDate() const
+{
+    const std::optional<double> last
+        = DefaultsValue::asNumber(m_services.defaults.value(lastCheckKey));
+    return last ? std::optional(Date::fromUnixSeconds(*last)) : std::nullopt;
+}
+
+void AppcastUpdater::observeChecks(std::function<void()> changed)
+{
+    m_checkObservers.push_back(std::move(changed));
+}
+
+void AppcastUpdater::announceChecks() const
+{
+    for (const auto& changed : m_checkObservers)
+        changed();
+}
+
+void AppcastUpdater::enter(Phase phase)
+{
+    m_phase = phase;
+    announceChecks();
+}
+
+void AppcastUpdater::schedule()
+{
+    m_nextCheck.reset();
+    if (!m_delegate || !automaticallyChecksForUpdates() || feed().isEmpty())
+        return;
+    const double delay = secondsUntilNextCheck();
+    if (delay > 0)
+        m_delegate->willScheduleUpdateCheckAfterDelay(delay);
+    m_nextCheck = m_services.time.callAfter(delay, [this] { check(Origin::Schedule); });
+}
+
+double AppcastUpdater::secondsUntilNextCheck() const
+{
+    const std::optional<Date> last = lastUpdateCheckDate();
+    if (!last)
+        return 0;
+    const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
+    // A check in the future is a clock that was set back since.
+    return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
+}
+
+void AppcastUpdater::checkForUpdates() { check(Origin::User); }
+
+void AppcastUpdater::check(Origin origin)
+{
+    if (origin == Origin::User)
+        m_origin = origin;
+    if (m_phase == Phase::Asking && origin == Origin::User)
+        m_services.user.bringToFront();
+    if (m_phase != Phase::Idle)
+        return; // The outcome of the check that is under way will answer this one too.
+
+    m_nextCheck.reset(); // It is this one, or will be found anew when this one is over.
+    m_origin = origin;
+    m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
+    enter(Phase::Loading);
+    const QUrl url(feed(), QUrl::StrictMode);
+    if (feed().isEmpty() || !url.isValid())
+        return abort({ tr("There is no valid update feed."), UpdateError::invalidFeed });
+    if (!FeedLoader::isSecure(url))
+        return abort({ tr("The update feed is not secure."), UpdateError::insecureFeed });
+    m_loader.load(url, u"Orvello/"_s + m_host.version,
+        [this](const Result<QByteArray, QString>& document) { loaded(document); });
+}
+
+void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
+{
+    if (!document)
+        return abort(
+            //: %1: why, as a sentence.
+            { tr("The update feed cannot be read: %1").arg(document.error()),
+                UpdateError::download });
+    const auto items = Appcast::parse(*document, m_host.operatingSystem);
+    if (!items)
+        return abort(
+            //: %1: why, as a sentence.
+            { tr("The update feed makes no sense: %1").arg(items.error()),
+                UpdateError::appcastParse });
+    const AppcastItem* const item = Appcast::newest(*items, m_host);
+    const bool isSkipped = item && m_origin == Origin::Schedule
+        && DefaultsValue::asString(m_services.defaults.value(skippedKey)) == item->version;
+    if (item && !isSkipped)
+        offer(*item);
+    else
+        upToDate();
+}
+
+void AppcastUpdater::offer(const AppcastItem& item)
+{
+    enter(Phase::Asking);
+    m_delegate->didFindValidUpdate(updateItem(item));
+    m_services.user.showUpdate(
+        updateItem(item), [this, item](UpdateChoice choice) { chosen(choice, item); });
+    if (m_origin == Origin::User)
+        m_services.user.bringToFront();
+}
+
+void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
+{
+    const UpdateItem update = updateItem(item);
+    m_delegate->userDidMakeChoice(choice, update);
+    if (choice == UpdateChoice::Skip)
+        m_services.defaults.setValue(skippedKey, item.version);
+    if (choice == UpdateChoice::Install)
+        openDownloadPage(item, update);
+    finish({});
+}
+
+void AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem& update)
+{
+    m_services.defaults.remove(skippedKey);
+    m_delegate->willInstallUpdate(update);
+    // The feed decides what is opened, so it must not be able to start just any program.
+    if (!FeedLoader::isSecure(item.page))
+        m_delegate->failedToDownloadUpdate(
+            update, { tr("The update feed names no secure page."), UpdateError::download });
+    else if (!m_services.desktop.open(item.page))
+        m_delegate->failedToDownloadUpdate(
+            update, { tr("The download page cannot be opened."), UpdateError::download });
+}
+
+void AppcastUpdater::upToDate()
+{
+    const UpdateError error { tr("Orvello is up to date."), UpdateError::noUpdate };
+    m_delegate->didNotFindUpdate(error);
+    abort(error);
+}
+
+void AppcastUpdater::abort(const UpdateError& error)
+{
+    m_delegate->didAbortWithError(error);
+    finish(error.description);
+}
+
+void AppcastUpdater::finish(const QString& outcome)
+{
+    enter(Phase::Idle);
+    if (m_origin == Origin::User && !outcome.isEmpty())
+        m_services.user.showOutcome(outcome);
+    m_origin = Origin::Schedule;
+    schedule();
+}
+
+} // namespace Orvello

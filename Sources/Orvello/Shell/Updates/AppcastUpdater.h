@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/Updater.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Shell/Updates/Appcast.h"
+#include "Orvello/Shell/Updates/FeedLoader.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace Orvello {
+
+class DesktopServices;
+class UpdateUserDriver;
+class UserDefaults;
+
+/// An updater for systems whose programs are installed by others: it reads the same feed as the
+/// macOS one, tells the user about a new release, and opens its download page. What it remembers
+/// lies in the user defaults under the macOS updater's keys.
+class AppcastUpdater final : public QObject, public Updater {
+    Q_OBJECT
+
+public:
+    static constexpr double checkIntervalSeconds = 86400;
+
+    /// What the updater works with. Everything must outlive it.
+    struct Services {
+        TimeSource& time;
+        UserDefaults& defaults;
+        UpdateUserDriver& user;
+        DesktopServices& desktop;
+    };
+
+    /// Looks for updates of `host` in `feed`; an empty feed is none.
+    AppcastUpdater(const Services& services, Appcast::Host host, QString feed);
+    ~AppcastUpdater() override;
+
+    void startUpdater(UpdaterDelegate& delegate) override;
+    void checkForUpdates() override;
+    bool automaticallyChecksForUpdates() const override;
+    void setAutomaticallyChecksForUpdates(bool on) override;
+    void observeAutomaticChecks(std::function<void()> changed) override;
+    bool canCheckForUpdates() const override;
+    std::optional<Date> lastUpdateCheckDate() const override;
+    void observeChecks(std::function<void()> changed) override;
+    std::optional<QString> builtInFeed() const override;
+
+private:
+    enum class Phase { Idle, Loading, Asking };
+    enum class Origin { Schedule, User };
+
+    QString feed() const;
+    void askPermissionOnce();
+    void schedule();
+    double secondsUntilNextCheck() const;
+    void check(Origin origin);
+    void enter(Phase phase);
+    void announceChecks() const;
+    void loaded(const Result<QByteArray, QString>& document);
+    void offer(const AppcastItem& item);
+    void chosen(UpdateChoice choice, const AppcastItem& item);
+    void openDownloadPage(const AppcastItem& item, const UpdateItem& update);
+    void upToDate();
+    void abort(const UpdateError& error);
+    void finish(const QString& outcome);
+
+    const Services m_services;
+    const Appcast::Host m_host;
+    const QString m_builtInFeed;
+    FeedLoader m_loader;
+    UpdaterDelegate* m_delegate = nullptr; ///< Null until started.
+    std::vector<std::function<void()>> m_observers;
+    std::vector<std::function<void()>> m_checkObservers;
+    std::unique_ptr<TimeSource::Ticket> m_nextCheck; ///< Or the moment to schedule it.
+    Phase m_phase = Phase::Idle;
+    Origin m_origin = Origin::Schedule;
+};
+
+} // namespace Orvello

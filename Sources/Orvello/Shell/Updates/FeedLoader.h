@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Orvello/Foundation/Result.h"
+#include "Orvello/Platform/Early/TimeSource.h"
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+class QNetworkReply;
+
+namespace Orvello {
+
+/// Reads small documents from the network: over TLS only, or without it from this very machine; at
+/// most a megabyte and ten seconds, whatever the server does. Main thread.
+class FeedLoader final : public QObject {
+    Q_OBJECT
+
+public:
+    using Answer = std::function<void(const Result<QByteArray, QString>&)>;
+
+    static constexpr qint64 maximumBytes = 1'000'000;
+    static constexpr double timeoutSeconds = 10;
+
+    explicit FeedLoader(TimeSource& time); ///< `time` must outlive the loader.
+    ~FeedLoader() override;
+
+    /// Whether a document may be read from there, or a person be sent there.
+    [[nodiscard]] static bool isSecure(const QUrl& url);
+
+    /// Answers once, later, with the document or the reason why there is none, in words for people.
+    /// One document at a time: a new call takes the place of the one before, which is not answered.
+    void load(const QUrl& url, const QString& userAgent, Answer answer);
+
+private:
+    void redirected(const QUrl& target);
+    void received();
+    void finished();
+    void fail(const QString& reason);
+    void answer(const Result<QByteArray, QString>& result);
+
+    TimeSource& m_time;
+    QNetworkAccessManager m_network;
+    std::unique_ptr<QNetworkReply, void (*)(QNetworkReply*)> m_reply;
+    std::unique_ptr<TimeSource::Ticket> m_timeout;
+    QByteArray m_document;
+    bool m_isOverTls = false; ///< Where the redirects have led so far.
+    Answer m_answer;
+};
+
+} // namespace Orvello

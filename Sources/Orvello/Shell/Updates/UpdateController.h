@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Orvello/Platform/Desktop/Updater.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace Orvello {
+
+class UserDefaults;
+
+/// Starts the system's updater, forwards the user's wishes to it, and logs every step of the update
+/// cycle. Main thread.
+class UpdateController final : public QObject, private UpdaterDelegate {
+    Q_OBJECT
+    Q_PROPERTY(bool checksAutomatically READ checksAutomatically WRITE setChecksAutomatically NOTIFY
+            checksAutomaticallyChanged FINAL)
+    Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY checksChanged FINAL)
+    Q_PROPERTY(QString lastCheckText READ lastCheckText NOTIFY checksChanged FINAL)
+
+public:
+    /// What the controller works with. Everything must outlive it.
+    struct Services {
+        Updater& updater;
+        const UserDefaults& defaults;
+        std::function<void()> activateApplication; ///< Ignoring whatever else is active.
+    };
+
+    explicit UpdateController(Services services, QObject* parent = nullptr);
+
+    void start(); ///< Once, at launch.
+
+    /// Checks at the user's wish, in front of everything else.
+    Q_INVOKABLE void checkForUpdates();
+
+    bool checksAutomatically() const;
+    void setChecksAutomatically(bool on);
+
+    bool canCheckForUpdates() const; ///< False while a check is going on.
+    QString lastCheckText() const; ///< When there was a check, for people; empty before the first.
+
+Q_SIGNALS:
+    void checksAutomaticallyChanged();
+    void checksChanged();
+
+private:
+    std::function<void()> onMainThread(void (UpdateController::*signal)());
+
+    std::optional<QString> feedURLString() const override;
+    void didFindValidUpdate(const UpdateItem& item) override;
+    void didNotFindUpdate(const UpdateError& error) override;
+    void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) override;
+    void willInstallUpdate(const UpdateItem& item) override;
+    void failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error) override;
+    void didAbortWithError(const UpdateError& error) override;
+    void willScheduleUpdateCheckAfterDelay(double seconds) override;
+
+    const Services m_services;
+};
+
+} // namespace Orvello

@@ -1,0 +1,34 @@
+#include "Orvello/Shell/Windows/LibraryWindow.h"
+
+#include "Orvello/Shell/Windows/SystemPalette.h"
+#include "Orvello/Shell/Windows/ViewWindow.h"
+#include "Orvello/Shell/Windows/WindowPlacement.h"
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize firstSize(720, 480);
+constexpr QSize smallestSize(660, 440);
+
+} // namespace
+
+LibraryWindow::LibraryWindow(const Services& services)
+    : m_library(services)
+{
+    m_view.setTitle(tr("Scripts"));
+    m_view.setFlags(ViewWindow::titledAndClosable | Qt::WindowMaximizeButtonHint);
+    m_view.setMinimumSize(smallestSize);
+    followSystemPalette(m_view);
+    ViewWindow::load(
+        m_view, u"LibraryView"_s, { { u"library"_s, QVariant::fromValue(&m_library) } });
+    m_view.resize(firstSize);
+}
+
+LibraryWindow::~LibraryWindow() = default;
+
+void LibraryWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view); }
+
+} // namespace Orvello

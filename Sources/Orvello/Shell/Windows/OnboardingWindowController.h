@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Orvello/Settings/WelcomeTour/WelcomeTour.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/ShortcutList.h"
+
+#include <QObject>
+#include <QQuickView>
+
+#include <functional>
+
+namespace Orvello {
+
+class SettingsStore;
+class WindowChrome;
+class Workspace;
+
+/// The window of the welcome tour. Each one begins at the initial page.
+class OnboardingWindowController final : public QObject, public ShellWindow {
+    Q_OBJECT
+
+public:
+    static constexpr QSize contentSize { 680, 580 }; ///< In points.
+    static constexpr qint64 version = 1; ///< Of the tour: what counts as having seen it.
+
+    /// All of them must outlive the window.
+    struct Services {
+        SettingsStore& settings;
+        const Workspace& workspace;
+        WindowChrome& chrome;
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the tour may say of this machine.
+    };
+
+    /// `onFinish` is called once, through the main event loop, by whichever way the user leaves. It
+    /// may destroy the window.
+    OnboardingWindowController(const Services& services, std::function<void()> onFinish);
+
+    void makeKeyAndOrderFront() override;
+
+    QQuickView& view() { return m_view; }
+    WelcomeTour& tour() { return m_tour; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override; ///< Sees the window close.
+
+private:
+    void finish();
+    void tellFinished();
+
+    SettingsStore& m_settings;
+    std::function<void()> m_onFinish;
+    bool m_finished = false;
+    WelcomeTour m_tour;
+    ShortcutList m_shortcuts;
+    QQuickView m_view;
+};
+
+} // namespace Orvello

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Orvello/Prompting/Text/PromptLines.h"
+#include "Orvello/Prompting/View/LevelMeter.h"
+#include "Orvello/Prompting/View/PrompterStatus.h"
+#include "Orvello/Prompting/View/ShareWarning.h"
+#include "Orvello/Prompting/View/SlideStatus.h"
+
+#include <QObject>
+#include <QQuickView>
+
+namespace Orvello {
+
+class DeckController;
+class PresentationMonitor;
+class ScrollEngine;
+class SettingsStore;
+class TimeSource;
+class VoiceActivityEngine;
+
+/// The content of the prompter panel: a window with the prompter's view over the services that it
+/// shows. What kind of window it is, is the native panel's business.
+class PrompterWindow final : public QObject {
+    Q_OBJECT
+
+public:
+    /// All of them must outlive the window.
+    struct Services {
+        ScrollEngine& engine;
+        SettingsStore& settings;
+        const VoiceActivityEngine& voice;
+        const PresentationMonitor& presentation;
+        DeckController& deck;
+        TimeSource& time;
+        bool forceCapturable;
+    };
+
+    explicit PrompterWindow(const Services& services);
+    ~PrompterWindow() override;
+
+    QWindow& window() { return m_view; }
+
+    /// Whether the card says that Stealth Mode cannot hide it here.
+    void setVisibleInRecordings(bool isVisible);
+
+private:
+    void followDeck(const DeckController& deck, ScrollEngine& engine);
+
+    PromptLines m_lines;
+    PrompterStatus m_status;
+    LevelMeter m_levelMeter;
+    SlideStatus m_slideStatus;
+    ShareWarning m_shareWarning;
+    QQuickView m_view;
+};
+
+} // namespace Orvello

@@ -1,0 +1,45 @@
+#include "Orvello/Shell/Windows/QtShellWindows.h"
+
+#include "Orvello/Shell/Windows/LibraryWindow.h"
+#include "Orvello/Shell/Windows/OnboardingWindowController.h"
+#include "Orvello/Shell/Windows/QtStatusItem.h"
+#include "Orvello/Shell/Windows/SettingsWindow.h"
+
+#include <utility>
+
+namespace Orvello {
+
+QtShellWindows::QtShellWindows(const Services& services)
+    : m_services(services)
+    , m_openDecks(services.library, services.workspace, services.appleScript)
+{
+}
+
+QtShellWindows::~QtShellWindows() = default;
+
+std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
+{
+    return std::make_unique<LibraryWindow>(LibraryWindow::Services { m_services.library,
+        m_openDecks, m_services.presenters, m_services.openPanel, m_services.facts });
+}
+
+std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
+{
+    return std::make_unique<SettingsWindow>(SettingsWindow::Services { m_services.settings,
+        m_services.voice, m_services.updates, m_services.hotKeys, m_services.facts });
+}
+
+std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
+{
+    return std::make_unique<OnboardingWindowController>(
+        OnboardingWindowController::Services { m_services.settings, m_services.workspace,
+            m_services.windowChrome, m_services.hotKeys, m_services.facts },
+        std::move(onFinish));
+}
+
+std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
+{
+    return statusItemIn(m_services.statusBar, menu);
+}
+
+} // namespace Orvello

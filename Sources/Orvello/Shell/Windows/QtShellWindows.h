@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Orvello/Library/Import/LiveDeckImport.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+
+namespace Orvello {
+
+/// The program's windows, and its status item.
+class QtShellWindows final : public ShellWindows {
+public:
+    explicit QtShellWindows(const Services& services);
+    ~QtShellWindows() override;
+
+    std::unique_ptr<ShellWindow> makeLibrary() override;
+    std::unique_ptr<ShellWindow> makeSettings() override;
+    std::unique_ptr<ShellWindow> makeOnboarding(std::function<void()> onFinish) override;
+    std::unique_ptr<StatusItem> makeStatusItem(Menu& menu) override;
+
+private:
+    const Services m_services;
+    LiveDeckImport m_openDecks;
+};
+
+} // namespace Orvello

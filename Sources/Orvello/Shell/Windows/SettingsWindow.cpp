@@ -1,0 +1,38 @@
+#include "Orvello/Shell/Windows/SettingsWindow.h"
+
+#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Shell/Windows/SystemPalette.h"
+#include "Orvello/Shell/Windows/ViewWindow.h"
+#include "Orvello/Shell/Windows/WindowPlacement.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
+
+#include "Version.h"
+
+namespace Orvello {
+
+using namespace Qt::StringLiterals;
+
+SettingsWindow::SettingsWindow(const Services& services)
+    : m_form(services.settings)
+    , m_shortcuts(services.hotKeys, ShortcutList::Width::Full)
+{
+    m_view.setTitle(tr("Orvello Settings"));
+    m_view.setFlags(ViewWindow::titledAndClosable);
+    m_view.resize(contentSize);
+    followSystemPalette(m_view);
+    ViewWindow::load(m_view, u"SettingsView"_s,
+        {
+            { u"settings"_s, QVariant::fromValue(&services.settings) },
+            { u"form"_s, QVariant::fromValue(&m_form) },
+            { u"voice"_s, QVariant::fromValue(&services.voice) },
+            { u"updates"_s, QVariant::fromValue(&services.updates) },
+            { u"version"_s, QString::fromLatin1(version) },
+            { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
+            { u"facts"_s, QVariant::fromValue(services.facts) },
+        });
+}
+
+void SettingsWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+
+} // namespace Orvello

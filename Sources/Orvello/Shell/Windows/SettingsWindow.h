@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Orvello/Settings/Window/SettingsForm.h"
+#include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/ShortcutList.h"
+
+#include <QCoreApplication>
+#include <QQuickView>
+
+namespace Orvello {
+
+class SettingsStore;
+class UpdateController;
+class VoiceActivityEngine;
+
+/// The window of the preferences. Closing it hides it.
+class SettingsWindow final : public ShellWindow {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
+
+public:
+    static constexpr QSize contentSize { 500, 780 }; ///< In points, where the screen has the room.
+
+    /// All of them must outlive the window.
+    struct Services {
+        SettingsStore& settings;
+        VoiceActivityEngine& voice;
+        UpdateController& updates;
+        const HotKeys& hotKeys;
+        Facts facts; ///< What the window may say of this machine.
+    };
+
+    explicit SettingsWindow(const Services& services);
+
+    void makeKeyAndOrderFront() override;
+
+    QQuickView& view() { return m_view; }
+
+private:
+    SettingsForm m_form;
+    ShortcutList m_shortcuts;
+    QQuickView m_view;
+};
+
+} // namespace Orvello

@@ -1,0 +1,329 @@
+#include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
+
+#include "Orvello/Prompting/Panel/PanelFrame.h"
+#include "Tests/Support/FakeUserDefaults.h"
+#include "Tests/Support/PrivateXServer.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+const QString savedKey = u"NSWindow Frame PrompterPanel"_s;
+
+/// Stands in for the view: it wants the presses that it is told to want.
+class View final : public QWindow {
+public:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        presses.push_back(event->button());
+        if (wantsPresses)
+            event->setExclusiveGrabber(event->point(0), this);
+    }
+
+    bool wantsPresses = false;
+    std::vector<Qt::MouseButton> presses;
+};
+
+/// The panel on a real X server. Pointer events are handed to its window one after the other, so
+/// that what the server answers comes when the test lets it.
+class X11PanelTest : public ::testing::Test {
+protected:
+    X11PanelTest()
+    {
+        QObject::connect(&panel, &NativePanel::didResize,
+            [this] { news.emplace_back(panel.inLiveResize() ? "resized live" : "resized"); });
+        QObject::connect(
+            &panel, &NativePanel::didEndLiveResize, [this] { news.emplace_back("ended"); });
+        QObject::connect(
+            &panel, &NativePanel::scrolled, [this](double delta) { scrolls.push_back(delta); });
+        panel.setFrame(initial);
+        show();
+    }
+
+    void show()
+    {
+        panel.orderFrontRegardless();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
+        settle();
+        news.clear();
+    }
+
+    /// Lets everything come that the server has to say.
+    static void settle() { QTest::qWait(150); }
+
+    /// A pointer event at a place on the screen.
+    void point(QEvent::Type type, QPoint place, Qt::MouseButton button = Qt::LeftButton)
+    {
+        const bool isDown = type != QEvent::MouseButtonRelease;
+        QMouseEvent event(type, place - view.position(), place,
+            type == QEvent::MouseMove ? Qt::NoButton : button,
+            isDown ? Qt::MouseButtons(button) : Qt::MouseButtons(), Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+    void press(QPoint place, Qt::MouseButton button = Qt::LeftButton)
+    {
+        point(QEvent::MouseButtonPress, place, button);
+    }
+    void move(QPoint place) { point(QEvent::MouseMove, place); }
+    void release(QPoint place, Qt::MouseButton button = Qt::LeftButton)
+    {
+        point(QEvent::MouseButtonRelease, place, button);
+    }
+
+    void turnWheel(QPoint angle, QPoint pixels = {})
+    {
+        QWheelEvent event(QPointF(360, 100), view.mapToGlobal(QPointF(360, 100)), pixels, angle,
+            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+
+    std::optional<QRectF> saved() const
+    {
+        return PanelFrame::parsed(defaults.stored.value(savedKey).toString());
+    }
+
+    // On a screen of 1280 × 800, as the panel counts and as the server does.
+    static constexpr QRectF initial { 100, 300, 720, 200 };
+    static constexpr QPoint middle { 460, 400 };
+    static constexpr QPoint bottomRight { 818, 498 };
+    static constexpr QPoint left { 101, 400 };
+
+    Testing::FakeUserDefaults defaults;
+    View view;
+    X11Panel panel { view, defaults };
+    std::vector<std::string> news;
+    std::vector<double> scrolls;
+};
+
+TEST_F(X11PanelTest, isAWindowThatCapturesShow)
+{
+    EXPECT_GE(panel.windowNumber(), 1);
+    EXPECT_EQ(panel.windowNumber(), static_cast<qint64>(view.winId()));
+    EXPECT_FALSE(panel.canExcludeFromCapture());
+    EXPECT_EQ(panel.frame(), initial);
+    EXPECT_EQ(view.geometry(), QRect(100, 300, 720, 200));
+}
+
+// The wheel
+
+TEST_F(X11PanelTest, scrollsTenPointsForANotchOfAWheelThatKnowsNoPixels)
+{
+    turnWheel({ 0, -120 });
+    turnWheel({ 0, 120 });
+
+    EXPECT_THAT(scrolls, ElementsAre(-10, 10));
+}
+
+TEST_F(X11PanelTest, scrollsByTheAngleOfATouchpadWhateverItsPixels)
+{
+    turnWheel({ 0, -15 }, { 0, -700 });
+    turnWheel({ 30, 6 }, { 40, 0 });
+
+    EXPECT_THAT(scrolls, ElementsAre(-1.25, 0.5));
+}
+
+// Dragging
+
+TEST_F(X11PanelTest, isDraggedByItsBackground)
+{
+    press(middle);
+    move(middle + QPoint(30, 40));
+    EXPECT_FALSE(panel.inLiveResize());
+    release(middle + QPoint(30, 40));
+    settle();
+
+    EXPECT_EQ(panel.frame(), initial.translated(30, -40));
+    EXPECT_THAT(news, IsEmpty());
+}
+
+TEST_F(X11PanelTest, leavesAPressToTheViewThatWantsIt)
+{
+    view.wantsPresses = true;
+
+    press(middle);
+    move(middle + QPoint(30, 40));
+    release(middle + QPoint(30, 40));
+    settle();
+
+    EXPECT_THAT(view.presses, ElementsAre(Qt::LeftButton));
+    EXPECT_EQ(panel.frame(), initial);
+}
+
+TEST_F(X11PanelTest, isDraggedByTheLeftButtonAlone)
+{
+    press(middle, Qt::RightButton);
+    move(middle + QPoint(30, 40));
+    release(middle + QPoint(30, 40), Qt::RightButton);
+    EXPECT_EQ(panel.frame(), initial);
+
+    press(middle);
+    press(middle, Qt::RightButton);
+    release(middle, Qt::RightButton);
+    move(middle + QPoint(30, 40));
+    settle();
+    EXPECT_EQ(panel.frame(), initial.translated(30, -40)) << "the drag goes on";
+}
+
+TEST_F(X11PanelTest, saysOfADragOfItsEdgeWhereItEnds)
+{
+    press(bottomRight);
+    EXPECT_TRUE(panel.inLiveResize());
+    move(bottomRight + QPoint(50, 20));
+    settle();
+    EXPECT_THAT(news, ElementsAre("resized live"));
+    release(bottomRight + QPoint(50, 20));
+    settle();
+
+    EXPECT_EQ(panel.frame(), QRectF(100, 280, 770, 220));
+    EXPECT_THAT(news, ElementsAre("resized live", "ended"));
+    EXPECT_FALSE(panel.inLiveResize());
+}
+
+TEST_F(X11PanelTest, countsALastMoveThatComesWithTheRelease)
+{
+    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+
+    press(bottomRight);
+    for (const int step : { 10, 20, 30, 40 })
+        move(bottomRight + QPoint(step, step));
+    release(bottomRight + QPoint(40, 40));
+    settle();
+
+    EXPECT_EQ(panel.frame(), QRectF(100, 260, 760, 240));
+    EXPECT_EQ(saved(), panel.frame());
+    ASSERT_THAT(news, Contains("resized live"));
+    EXPECT_EQ(news.back(), "ended");
+    EXPECT_THAT(news, Contains("ended").Times(1));
+    EXPECT_THAT(news, Not(Contains("resized"))) << "what the server confirms later is no news";
+}
+
+TEST_F(X11PanelTest, keepsTheOtherEdgeWhereItIsWithinItsLimits)
+{
+    press(left);
+    move(left + QPoint(600, 0));
+    settle();
+    EXPECT_EQ(panel.frame(), QRectF(480, 300, 340, 200));
+
+    move(left - QPoint(2000, 0));
+    settle();
+    EXPECT_EQ(panel.frame(), QRectF(-780, 300, 1600, 200));
+}
+
+TEST_F(X11PanelTest, endsItsResizeWhenItIsHidden)
+{
+    press(bottomRight);
+    move(bottomRight + QPoint(50, 20));
+    panel.orderOut();
+    settle();
+    EXPECT_FALSE(panel.inLiveResize());
+    ASSERT_FALSE(news.empty());
+    EXPECT_EQ(news.back(), "ended");
+    EXPECT_THAT(news, Contains("ended").Times(1));
+
+    show();
+    move(bottomRight + QPoint(90, 90));
+    release(bottomRight + QPoint(90, 90));
+    settle();
+    EXPECT_EQ(panel.frame(), QRectF(100, 280, 770, 220));
+    EXPECT_THAT(news, IsEmpty());
+}
+
+TEST_F(X11PanelTest, endsItsDragWhenItIsHidden)
+{
+    press(middle);
+    move(middle + QPoint(30, 40));
+    panel.orderOut();
+    settle();
+
+    show();
+    move(middle + QPoint(90, 90));
+    settle();
+    EXPECT_EQ(panel.frame(), initial.translated(30, -40));
+    EXPECT_THAT(news, IsEmpty());
+}
+
+// The frame
+
+TEST_F(X11PanelTest, tellsOfASizeThatItIsGiven)
+{
+    panel.setFrame({ 100, 300, 800, 300 });
+    settle();
+    EXPECT_THAT(news, ElementsAre("resized"));
+
+    panel.setFrame({ 200, 300, 800, 300 });
+    settle();
+    EXPECT_THAT(news, ElementsAre("resized")) << "it is only moved";
+}
+
+TEST_F(X11PanelTest, savesWhereADragEndsAndNothingBefore)
+{
+    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    settle();
+    ASSERT_EQ(saved(), std::nullopt) << "where it was put";
+
+    press(middle);
+    move(middle + QPoint(30, 40));
+    settle();
+    EXPECT_EQ(saved(), std::nullopt);
+    release(middle + QPoint(30, 40));
+    settle();
+
+    EXPECT_EQ(saved(), initial.translated(30, -40));
+    EXPECT_EQ(defaults.writes, 1);
+}
+
+TEST_F(X11PanelTest, takesTheSavedFrame)
+{
+    const QRectF frame(20, 30, 640, 250);
+    defaults.stored.insert(savedKey, PanelFrame::text(frame, { 0, 0, 1280, 800 }));
+
+    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    settle();
+
+    EXPECT_EQ(panel.frame(), frame);
+    EXPECT_EQ(defaults.writes, 0);
+}
+
+TEST_F(X11PanelTest, bringsASavedFrameBackOntoTheScreen)
+{
+    defaults.stored.insert(
+        savedKey, PanelFrame::text({ 5000, 3000, 9000, 10 }, { 0, 0, 2560, 1440 }));
+
+    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    settle();
+
+    EXPECT_TRUE(QRectF(0, 0, 1280, 800).contains(panel.frame()));
+    EXPECT_EQ(panel.frame().height(), NativePanel::minimumSize.height());
+}
+
+} // namespace
+} // namespace Orvello
+
+/// Unlike the tests that need no display, these have one: a server of their own.
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests))
+        return RUN_ALL_TESTS();
+    const Orvello::Testing::PrivateXServer server;
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const QGuiApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

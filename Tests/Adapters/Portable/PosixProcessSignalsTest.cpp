@@ -1,0 +1,42 @@
+#include "Orvello/Adapters/Portable/PosixProcessSignals.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace Orvello {
+namespace {
+
+TEST(PosixProcessSignalsTest, runsTheHandlerOnTheMainLoopForEachArrival)
+{
+    PosixProcessSignals processSignals;
+    int arrivals = 0;
+    const auto subscription = processSignals.handle(SIGUSR2, [&] { ++arrivals; });
+
+    std::raise(SIGUSR2);
+    EXPECT_EQ(arrivals, 0);
+    std::raise(SIGUSR2);
+    while (arrivals < 2)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+
+    EXPECT_EQ(arrivals, 2);
+}
+
+TEST(PosixProcessSignalsTest, ignoresTheSignalOnceTheSubscriptionIsDropped)
+{
+    PosixProcessSignals processSignals;
+    int arrivals = 0;
+    auto subscription = processSignals.handle(SIGUSR1, [&] { ++arrivals; });
+
+    subscription.reset();
+    std::raise(SIGUSR1);
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(arrivals, 0);
+}
+
+} // namespace
+} // namespace Orvello

@@ -1,0 +1,286 @@
+#include "Orvello/Library/Window/DeckImports.h"
+
+#include "Tests/Support/DeckBuilder.h"
+#include "Tests/Support/LibraryServices.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Testing::DeckBuilder;
+
+class DeckImportsTest : public ::testing::Test {
+protected:
+    QString file(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(services.folders.path + u'/' + name);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    QString deckFile(const QString& name) const
+    {
+        return file(name, DeckBuilder().slide("Intro", "Hello all").slide("End", "").build());
+    }
+    QString silentDeckFile() const
+    {
+        return file(
+            u"Silent.pptx"_s, DeckBuilder().slide("Intro", "").slideWithoutNotes("End").build());
+    }
+    QString brokenFile(const QString& name = u"Broken.pptx"_s) const
+    {
+        return file(name, "not a package");
+    }
+
+    void choose(const QString& path)
+    {
+        services.openPanel.choice = path;
+        imports.run(0);
+    }
+
+    QStringList titles() const
+    {
+        QStringList titles;
+        for (const Script& script : services.library.scripts())
+            titles.append(script.title);
+        return titles;
+    }
+
+    void expectAlert(const QString& title, const QString& text) const
+    {
+        EXPECT_TRUE(imports.isShowingAlert());
+        EXPECT_EQ(imports.alertTitle(), title);
+        EXPECT_EQ(imports.alertText(), text);
+    }
+
+    Testing::LibraryServices services { { Testing::LibraryServices::script(u"Old"_s, {}) } };
+    DeckImports imports { services.ofWindow() };
+};
+
+TEST_F(DeckImportsTest, offersAFileAndWhatIsOpenInEachApplication)
+{
+    EXPECT_EQ(imports.titles(),
+        QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open PowerPoint presentation"_s,
+            u"Open Keynote presentation"_s, u"Open Impress presentation"_s }));
+}
+
+TEST_F(DeckImportsTest, offersImpressOnlyWhereItIsFollowed)
+{
+    PresenterTable presenters;
+    presenters.add(AppleScriptPresenters::keynote(services.scriptRunner));
+    presenters.add(AppleScriptPresenters::powerPoint(services.scriptRunner));
+    const DeckImports two({ services.library, services.openDecks, presenters, services.openPanel });
+
+    EXPECT_EQ(two.titles(),
+        QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open PowerPoint presentation"_s,
+            u"Open Keynote presentation"_s }));
+}
+
+TEST_F(DeckImportsTest, asksForOnePptxFile)
+{
+    imports.run(0);
+
+    EXPECT_EQ(services.openPanel.timesShown, 1);
+    EXPECT_EQ(services.openPanel.shownMessage,
+        u"Choose a PowerPoint presentation — Orvello imports its speaker notes."_s);
+    EXPECT_EQ(services.openPanel.shownKind.extension, u"pptx"_s);
+    EXPECT_EQ(services.openPanel.shownKind.typeIdentifier,
+        u"org.openxmlformats.presentationml.presentation"_s);
+}
+
+TEST_F(DeckImportsTest, doesNothingWhenNoFileIsChosen)
+{
+    imports.run(0);
+
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, importsTheChosenFile)
+{
+    choose(deckFile(u"Review.pptx"_s));
+
+    EXPECT_EQ(titles(), QStringList({ u"Review"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.scripts().first().deckSource, u"Review.pptx"_s);
+    EXPECT_EQ(services.library.activeScriptID(), services.library.scripts().first().id);
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, saysWhyAFileCannotBeImported)
+{
+    choose(brokenFile());
+
+    expectAlert(
+        u"Import failed"_s, PptxImporter::description(PptxImporter::ImportError::Unreadable));
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
+}
+
+TEST_F(DeckImportsTest, keepsADeckWithoutNotesAndSaysSo)
+{
+    choose(silentDeckFile());
+
+    expectAlert(u"No speaker notes"_s,
+        u"The deck was imported, but no slide has speaker notes. Add notes in PowerPoint's notes "
+        "pane and re-import."_s);
+    EXPECT_EQ(titles(), QStringList({ u"Silent"_s, u"Old"_s }));
+}
+
+TEST_F(DeckImportsTest, importsWhatIsOpenInKeynote)
+{
+    imports.run(2);
+    ASSERT_EQ(services.process.runs.size(), 1);
+    services.process.finish(0, 0, "My talk\x1eIntro\x1fHello all\n");
+
+    EXPECT_EQ(titles(), QStringList({ u"My talk"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.scripts().first().deckSource, u"Keynote"_s);
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, importsWhatIsOpenInImpress)
+{
+    imports.run(3);
+    services.impress.answer(u"My talk\u001eIntro\u001fHello all"_s);
+
+    EXPECT_EQ(titles(), QStringList({ u"My talk"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.scripts().first().deckSource, u"Impress"_s);
+}
+
+TEST_F(DeckImportsTest, saysThatAnApplicationIsNotRunning)
+{
+    services.workspace.running.clear();
+
+    imports.run(2);
+    expectAlert(
+        u"Import failed"_s, u"Keynote isn't running. Open your presentation in Keynote first."_s);
+    imports.dismissAlert();
+    imports.run(1);
+    expectAlert(u"Import failed"_s,
+        u"PowerPoint isn't running. Open your presentation in PowerPoint first."_s);
+    imports.dismissAlert();
+    imports.run(3);
+    expectAlert(
+        u"Import failed"_s, u"Impress isn't running. Open your presentation in Impress first."_s);
+}
+
+TEST_F(DeckImportsTest, saysThatNoPresentationIsOpen)
+{
+    imports.run(2);
+    services.process.finish(0, 1, {}, "execution error: NO_DOCUMENT (-2700)");
+
+    expectAlert(u"Import failed"_s, u"No presentation is open in Keynote."_s);
+}
+
+TEST_F(DeckImportsTest, saysThatAnOpenPresentationHasNoNotes)
+{
+    imports.run(2);
+    services.process.finish(0, 0, "My talk\x1eIntro\x1f\n");
+
+    expectAlert(
+        u"Import failed"_s, u"That Keynote presentation has no presenter notes on any slide."_s);
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
+}
+
+TEST_F(DeckImportsTest, importsWhatIsOpenInPowerPoint)
+{
+    imports.run(1);
+    services.process.finish(0, 0,
+        "Talk\x1f"
+        "false\x1f\n");
+    services.process.finish(1, 0, "Talk\x1eIntro\x1fHello all\n");
+
+    EXPECT_EQ(titles(), QStringList({ u"Talk"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.scripts().first().deckSource, u"PowerPoint"_s);
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, saysThatTheSavedCopyWasImported)
+{
+    const QString saved = deckFile(u"Saved.pptx"_s);
+
+    imports.run(1);
+    services.process.finish(0, 0,
+        "Talk\x1f"
+        "false\x1f"
+            + saved.toUtf8());
+    services.process.finish(1, 1, {}, "some error");
+
+    expectAlert(u"Imported the saved copy"_s,
+        u"PowerPoint has unsaved changes, so the notes came from the last saved copy. Save the "
+        "presentation and import again to include them."_s);
+    EXPECT_EQ(titles(), QStringList({ u"Saved"_s, u"Old"_s }));
+}
+
+TEST_F(DeckImportsTest, saysWhyPowerPointCouldNotBeAsked)
+{
+    imports.run(1);
+    services.process.finish(0, 1, {}, "execution error: Not authorized. (-1743)");
+
+    expectAlert(u"Import failed"_s,
+        u"Couldn't read the PowerPoint presentation: permission denied — allow Orvello to control "
+        "Microsoft PowerPoint in System Settings → Privacy & Security → Automation"_s);
+}
+
+TEST_F(DeckImportsTest, forgetsAnAnswerThatComesAfterTheWindow)
+{
+    {
+        DeckImports gone(services.ofWindow());
+        gone.run(2);
+    }
+    services.process.finish(0, 1, {}, "NO_DOCUMENT");
+
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, importsEveryDroppedDeckInOrder)
+{
+    const QList<QUrl> files { QUrl::fromLocalFile(deckFile(u"First.pptx"_s)),
+        QUrl::fromLocalFile(file(u"notes.txt"_s, "text")),
+        QUrl(u"https://example.org/Remote.pptx"_s),
+        QUrl::fromLocalFile(deckFile(u"Second.PPTX"_s)) };
+    EXPECT_TRUE(imports.canImport(files));
+
+    imports.importFiles(files);
+
+    EXPECT_EQ(titles(), QStringList({ u"Second"_s, u"First"_s, u"Old"_s }));
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(DeckImportsTest, refusesADropWithoutADeck)
+{
+    EXPECT_FALSE(imports.canImport({}));
+    EXPECT_FALSE(imports.canImport({ QUrl::fromLocalFile(u"/tmp/a.txt"_s),
+        QUrl(u"https://example.org/Remote.pptx"_s), QUrl::fromLocalFile(u"/tmp/pptx"_s) }));
+}
+
+TEST_F(DeckImportsTest, showsTheAlertsOfSeveralFilesOneAfterTheOther)
+{
+    const QSignalSpy alertChanged(&imports, &DeckImports::alertChanged);
+
+    imports.importFiles(
+        { QUrl::fromLocalFile(brokenFile()), QUrl::fromLocalFile(silentDeckFile()) });
+
+    EXPECT_EQ(imports.alertTitle(), u"Import failed"_s);
+    imports.dismissAlert();
+    EXPECT_EQ(imports.alertTitle(), u"No speaker notes"_s);
+    imports.dismissAlert();
+    EXPECT_FALSE(imports.isShowingAlert());
+    EXPECT_EQ(imports.alertTitle(), QString());
+    EXPECT_EQ(alertChanged.count(), 3);
+    imports.dismissAlert();
+    EXPECT_EQ(alertChanged.count(), 3);
+}
+
+TEST_F(DeckImportsTest, showsAnAlertWithoutAMessageAsAnUnknownError)
+{
+    imports.showAlert(u"Import failed"_s, std::nullopt);
+
+    expectAlert(u"Import failed"_s, u"Unknown error"_s);
+}
+
+} // namespace
+} // namespace Orvello

@@ -1,0 +1,139 @@
+#include "Orvello/Prompting/Text/LineImage.h"
+
+#include "Orvello/Prompting/Text/PromptFont.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class LineImageTest : public ::testing::Test {
+protected:
+    LineImageTest()
+    {
+        typography.font = QFont(PromptFont::family());
+        typography.font.setPixelSize(40);
+        typography.width = 600;
+    }
+
+    LineImage imageOf(const QString& text, double scale = 1, const QColor& color = Qt::white) const
+    {
+        return LineImage::of(
+            { text, 0, QStringView(text).isRightToLeft() }, typography, color, scale);
+    }
+
+    /// The part of the picture that has marks, in its own pixels.
+    static QRect inkOf(const QImage& image)
+    {
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qAlpha(image.pixel(x, y)) > 0)
+                    ink |= QRect(x, y, 1, 1);
+            }
+        }
+        return ink;
+    }
+
+    PromptTypography typography;
+};
+
+TEST_F(LineImageTest, isNothingForALineWithoutAMark)
+{
+    EXPECT_TRUE(imageOf(QString()).pixels.isNull());
+    EXPECT_TRUE(imageOf(u"   "_s).pixels.isNull());
+}
+
+TEST_F(LineImageTest, standsAtTheFramesLeftEdgeOnTheBaseline)
+{
+    const LineImage image = imageOf(u"Hl"_s);
+
+    EXPECT_GE(image.place.left(), -2);
+    EXPECT_LT(image.place.left(), 6);
+    EXPECT_LT(image.place.top(), -20);
+    EXPECT_GE(image.place.bottom(), 0);
+    EXPECT_LT(image.place.bottom(), 4);
+}
+
+TEST_F(LineImageTest, standsAtTheFramesRightEdgeFromRightToLeft)
+{
+    const LineImage image = imageOf(u"שלום"_s);
+
+    EXPECT_GT(image.place.left(), 400);
+    EXPECT_GT(image.place.right(), 580);
+    EXPECT_LE(image.place.right(), 604);
+}
+
+TEST_F(LineImageTest, setsALineFromRightToLeftInItsOrder)
+{
+    const auto right = [&](const QString& text) {
+        return LineImage::of({ text, 0, true }, typography, Qt::white, 1).place.right();
+    };
+
+    // A sentence's end is at the left, so the mark does not push the word away from the right edge.
+    EXPECT_NEAR(right(u"שלום"_s), right(u"שלום!"_s), 1);
+    EXPECT_NEAR(right(u"שלום"_s), right(u"שלום Orvello 1.0"_s), 1);
+}
+
+TEST_F(LineImageTest, hasTwoRowsForEachDevicePixelAtAnyScale)
+{
+    for (const double scale : { 1.0, 1.25, 1.5, 2.0 }) {
+        const LineImage image = imageOf(u"Hamburg"_s, scale);
+
+        EXPECT_NEAR(image.pixels.width(), image.place.width() * scale, 1e-6) << scale;
+        EXPECT_NEAR(image.pixels.height(), image.place.height() * scale * 2, 1e-6) << scale;
+        const QPointF corner = image.place.topLeft() * scale;
+        EXPECT_NEAR(corner.x(), std::round(corner.x()), 1e-6) << scale;
+    }
+}
+
+TEST_F(LineImageTest, isAsLargeAtEveryScale)
+{
+    const QRectF once = imageOf(u"Hamburg"_s, 1).place;
+    const QRectF twice = imageOf(u"Hamburg"_s, 2).place;
+
+    EXPECT_NEAR(once.width(), twice.width(), 2);
+    EXPECT_NEAR(once.height(), twice.height(), 2);
+}
+
+TEST_F(LineImageTest, cutsNothingOffAndLeavesRoomToFilterInto)
+{
+    for (const QString& text : { u"Hamburg"_s, u"Ågjy|"_s, u"ỗ"_s, u"f"_s, u"שָׁלוֹם"_s }) {
+        const LineImage image = imageOf(text);
+        const QRect ink = inkOf(image.pixels);
+
+        ASSERT_FALSE(ink.isEmpty()) << text.toStdString();
+        EXPECT_GE(ink.left(), 1) << text.toStdString();
+        EXPECT_GE(ink.top(), 1) << text.toStdString();
+        EXPECT_LE(ink.right(), image.pixels.width() - 2) << text.toStdString();
+        EXPECT_LE(ink.bottom(), image.pixels.height() - 2) << text.toStdString();
+    }
+}
+
+TEST_F(LineImageTest, hasTheTextsColour)
+{
+    const QColor green(48, 209, 88);
+    const QImage pixels = imageOf(u"I"_s, 2, green).pixels;
+    const QRect ink = inkOf(pixels);
+
+    EXPECT_EQ(pixels.pixelColor(ink.center()), green);
+}
+
+TEST_F(LineImageTest, isNoLargerThanATextureMayBe)
+{
+    typography.font.setPixelSize(1000);
+    typography.width = 100000;
+
+    const LineImage image = imageOf(u"Incomprehensibility"_s, 3);
+
+    EXPECT_LE(image.pixels.width(), 4096);
+    EXPECT_LE(image.pixels.height(), 4096);
+    EXPECT_FALSE(image.pixels.isNull());
+}
+
+} // namespace
+} // namespace Orvello

@@ -1,0 +1,120 @@
+#include "Orvello/Prompting/View/SlideStatus.h"
+
+#include "Tests/Support/PrompterServices.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SlideStatusTest : public ::testing::Test {
+protected:
+    void openDeck()
+    {
+        services.openDeck({ { 1, u"Intro"_s, u"First"_s }, { 2, std::nullopt, u"Second"_s },
+            { 3, u"End"_s, u"Third"_s } });
+    }
+
+    Testing::PrompterServices services;
+    SlideStatus status { services.deck };
+};
+
+TEST_F(SlideStatusTest, isShownWhileOneSlidesNotesAre)
+{
+    EXPECT_FALSE(status.isShown());
+
+    openDeck();
+    EXPECT_TRUE(status.isShown());
+
+    services.settings.setSlideSync(false);
+    Testing::drainEvents();
+    EXPECT_FALSE(status.isShown());
+}
+
+TEST_F(SlideStatusTest, countsSlidesFromOne)
+{
+    openDeck();
+    EXPECT_EQ(status.position(), u"1 / 3"_s);
+    EXPECT_EQ(status.widestPosition(), u"3 / 3"_s);
+
+    status.goOn();
+    EXPECT_EQ(status.position(), u"2 / 3"_s);
+}
+
+TEST_F(SlideStatusTest, tellsTheSlidesTitle)
+{
+    openDeck();
+    EXPECT_EQ(status.title(), u"Intro"_s);
+
+    status.goOn();
+    EXPECT_EQ(status.title(), QString());
+}
+
+TEST_F(SlideStatusTest, goesNoFartherThanTheDeck)
+{
+    openDeck();
+    EXPECT_FALSE(status.canGoBack());
+    EXPECT_TRUE(status.canGoOn());
+
+    status.goBack();
+    EXPECT_EQ(status.position(), u"1 / 3"_s);
+    status.goOn();
+    EXPECT_TRUE(status.canGoBack());
+    EXPECT_TRUE(status.canGoOn());
+    status.goOn();
+    EXPECT_FALSE(status.canGoOn());
+    status.goOn();
+    EXPECT_EQ(status.position(), u"3 / 3"_s);
+    status.goBack();
+    EXPECT_EQ(status.position(), u"2 / 3"_s);
+}
+
+TEST_F(SlideStatusTest, saysManualWithoutASlideshow)
+{
+    EXPECT_EQ(status.stateLabel(), u"Manual"_s);
+
+    openDeck();
+
+    EXPECT_EQ(status.stateLabel(), u"Manual"_s);
+    EXPECT_EQ(status.stateColor(), QColor::fromRgbF(1, 1, 1, 0.5F));
+}
+
+TEST_F(SlideStatusTest, saysLiveWhileItFollowsASlideshow)
+{
+    openDeck();
+
+    services.startSlideshow();
+    services.showLiveSlide(2);
+
+    EXPECT_EQ(status.stateLabel(), u"Live"_s);
+    EXPECT_EQ(status.stateColor(), QColor(48, 209, 88));
+    EXPECT_EQ(status.position(), u"2 / 3"_s);
+}
+
+TEST_F(SlideStatusTest, saysNoAccessWithoutPermission)
+{
+    openDeck();
+
+    services.startSlideshow();
+    services.refuseToTellTheSlide();
+
+    EXPECT_EQ(status.stateLabel(), u"No access"_s);
+    EXPECT_EQ(status.stateColor(), QColor(255, 69, 58));
+}
+
+TEST_F(SlideStatusTest, announcesEachChange)
+{
+    openDeck();
+    const QSignalSpy changes(&status, &SlideStatus::changed);
+
+    status.goOn();
+
+    EXPECT_GT(changes.count(), 0);
+}
+
+} // namespace
+} // namespace Orvello

@@ -1,0 +1,223 @@
+#include "Orvello/Shell/Updates/Appcast.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace Orvello {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::IsEmpty;
+
+QByteArray feed(const QByteArray& items)
+{
+    return R"(<?xml version="1.0" encoding="utf-8"?>
+<rss version="2.0" xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle">
+<channel><title>Orvello</title><language>en</language>)"
+        + items + "</channel></rss>";
+}
+
+QList<AppcastItem> parsed(const QByteArray& xml)
+{
+    const auto items = Appcast::parse(xml, u"linux"_s);
+    EXPECT_TRUE(items) << qPrintable(items.error());
+    return items ? *items : QList<AppcastItem>();
+}
+
+TEST(AppcastTest, readsAReleaseWithItsVersionsAsElements)
+{
+    const QList<AppcastItem> items = parsed(feed(R"(
+        <item>
+            <title>Version 2.1</title>
+            <link>https://example.com/download</link>
+            <sparkle:version>57</sparkle:version>
+            <sparkle:shortVersionString> 2.1 </sparkle:shortVersionString>
+            <sparkle:channel>beta</sparkle:channel>
+            <sparkle:minimumSystemVersion>6.1</sparkle:minimumSystemVersion>
+            <sparkle:maximumSystemVersion>7</sparkle:maximumSystemVersion>
+            <description><![CDATA[<p>New &amp; better</p>]]></description>
+            <enclosure url="https://example.com/Orvello.zip" length="1" type="x/y"/>
+        </item>)"));
+
+    const AppcastItem expected { u"57"_s, u"2.1"_s, u"beta"_s, u"6.1"_s, u"7"_s,
+        QUrl(u"https://example.com/download"_s) };
+    EXPECT_EQ(items, QList { expected });
+}
+
+TEST(AppcastTest, readsAReleaseWithItsVersionsAsAttributes)
+{
+    const QList<AppcastItem> items = parsed(feed(R"(
+        <item><enclosure url="https://example.com/Orvello.zip" sparkle:version="57"
+            sparkle:shortVersionString="2.1"/></item>)"));
+
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].version, u"57");
+    EXPECT_EQ(items[0].displayVersion, u"2.1");
+    EXPECT_EQ(items[0].page, QUrl(u"https://example.com/Orvello.zip"_s));
+}
+
+TEST(AppcastTest, showsTheVersionWhereThereIsNoneForPeople)
+{
+    const QList<AppcastItem> items
+        = parsed(feed("<item><sparkle:version>57</sparkle:version></item>"));
+
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].displayVersion, u"57");
+}
+
+TEST(AppcastTest, leavesOutAReleaseWithoutVersion)
+{
+    EXPECT_THAT(parsed(feed("<item><title>2.1</title><version>57</version></item>")), IsEmpty());
+}
+
+TEST(AppcastTest, leavesOutTheReleasesOfOtherSystems)
+{
+    const QList<AppcastItem> items = parsed(feed(R"(
+        <item><sparkle:version>1</sparkle:version>
+            <enclosure url="https://e.com/a" sparkle:os="macos"/></item>
+        <item><sparkle:version>2</sparkle:version>
+            <enclosure url="https://e.com/a" sparkle:os="macos"/>
+            <enclosure url="https://e.com/b" sparkle:os="linux"/></item>)"));
+
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].version, u"2");
+    EXPECT_EQ(items[0].page, QUrl(u"https://e.com/b"_s));
+}
+
+TEST(AppcastTest, doesNotTakeADeltaForTheRelease)
+{
+    const QList<AppcastItem> items = parsed(feed(R"(
+        <item><sparkle:version>3</sparkle:version>
+            <sparkle:deltas><enclosure url="https://e.com/delta" sparkle:version="9"/></sparkle:deltas>
+            <enclosure url="https://e.com/whole"/></item>)"));
+
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].version, u"3");
+    EXPECT_EQ(items[0].page, QUrl(u"https://e.com/whole"_s));
+}
+
+TEST(AppcastTest, acceptsAnEmptyFeed) { EXPECT_THAT(parsed(feed("")), IsEmpty()); }
+
+class BadAppcastTest : public ::testing::TestWithParam<const char*> { };
+
+TEST_P(BadAppcastTest, fails)
+{
+    const auto items = Appcast::parse(GetParam(), u"linux"_s);
+
+    ASSERT_FALSE(items);
+    EXPECT_FALSE(items.error().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Feeds, BadAppcastTest,
+    ::testing::Values("", " ", "plain text", "{\"json\": true}", "<rss/>", "<rss></rss>",
+        "<html><body>Not found</body></html>",
+        "<!DOCTYPE html><html><head><title>x</title></head></html>",
+        "<rss><channel><item><title>2.1</title></item>", "<rss><channel></item></channel></rss>",
+        "<rss><channel></channel></rss><rss/>", "\xff\xfe<rss>",
+        "<feed xmlns=\"http://www.w3.org/2005/Atom\"/>",
+        R"(<!DOCTYPE rss [<!ENTITY a "aaaaaaaaaa"><!ENTITY b "&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;">
+           <!ENTITY c "&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;">]><rss><channel>&c;</channel></rss>)",
+        R"(<!DOCTYPE rss [<!ENTITY x SYSTEM "file:///etc/passwd">]>
+           <rss><channel><title>&x;</title></channel></rss>)"));
+
+TEST(AppcastTest, survivesElementsNestedWithoutEnd)
+{
+    const QByteArray nested = QByteArray("<a>").repeated(300'000);
+
+    EXPECT_FALSE(Appcast::parse(feed("<item><sparkle:version>" + nested), u"linux"_s));
+    EXPECT_THAT(parsed(feed("<item><sparkle:version>" + nested
+                    + QByteArray("</a>").repeated(300'000) + "</sparkle:version></item>")),
+        IsEmpty());
+}
+
+struct Pair {
+    const char* older;
+    const char* newer;
+};
+
+class OlderVersionTest : public ::testing::TestWithParam<Pair> { };
+
+TEST_P(OlderVersionTest, comesBeforeTheNewerOne)
+{
+    const QString older = QString::fromUtf8(GetParam().older);
+    const QString newer = QString::fromUtf8(GetParam().newer);
+
+    EXPECT_EQ(Appcast::compareVersions(older, newer), std::strong_ordering::less);
+    EXPECT_EQ(Appcast::compareVersions(newer, older), std::strong_ordering::greater);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, OlderVersionTest,
+    ::testing::Values(Pair { "1.0", "1.1" }, Pair { "1.1", "2.0" }, Pair { "0.0.1", "0.1" },
+        Pair { "0.1", "0.1.2" }, Pair { "9", "10" }, Pair { "1.9", "1.10" },
+        Pair { "1.0a1", "1.0b1" }, Pair { "1.0b1", "1.0" }, Pair { "0.9", "1.0a1" },
+        Pair { "1.0b", "1.0b2" }, Pair { "1.0b9", "1.0b10" }, Pair { "1.0rc", "1.0" },
+        Pair { "1.0pre1", "1.0" }, Pair { "1.0 beta", "1.0" }, Pair { "1.0 alpha", "1.0 beta" },
+        Pair { "", "1" }, Pair { "99999999999999999998", "99999999999999999999" },
+        Pair { "99999999999999999999", "100000000000000000000" }));
+
+class SameVersionTest : public ::testing::TestWithParam<Pair> { };
+
+TEST_P(SameVersionTest, isNeitherOlderNorNewer)
+{
+    EXPECT_EQ(Appcast::compareVersions(
+                  QString::fromUtf8(GetParam().older), QString::fromUtf8(GetParam().newer)),
+        std::strong_ordering::equal);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, SameVersionTest,
+    ::testing::Values(Pair { "1.0", "1.0" }, Pair { "1", "1.0.0" }, Pair { "01.0", "1.0" },
+        Pair { "1.0-beta", "1.0" }, Pair { "", "" }, Pair { "", "0" }));
+
+class NewestReleaseTest : public ::testing::Test {
+protected:
+    static AppcastItem release(const QString& version)
+    {
+        AppcastItem item;
+        item.version = version;
+        return item;
+    }
+
+    QString newest() const
+    {
+        const AppcastItem* const item = Appcast::newest(items, host);
+        return item ? item->version : u"none"_s;
+    }
+
+    Appcast::Host host { u"57"_s, u"6.1.0-25-amd64"_s, u"linux"_s };
+    QList<AppcastItem> items;
+};
+
+TEST_F(NewestReleaseTest, isTheNewestWhateverTheOrder)
+{
+    items = { release(u"58"_s), release(u"60"_s), release(u"59"_s) };
+
+    EXPECT_EQ(newest(), u"60");
+}
+
+TEST_F(NewestReleaseTest, isNoOlderOrSameRelease)
+{
+    items = { release(u"57"_s), release(u"56"_s) };
+
+    EXPECT_EQ(newest(), u"none");
+}
+
+TEST_F(NewestReleaseTest, isNotFromAChannelOfItsOwn)
+{
+    items = { release(u"58"_s), release(u"60"_s) };
+    items[1].channel = u"beta"_s;
+
+    EXPECT_EQ(newest(), u"58");
+}
+
+TEST_F(NewestReleaseTest, runsOnThisSystem)
+{
+    items = { release(u"58"_s), release(u"60"_s), release(u"61"_s) };
+    items[0].minimumSystemVersion = u"6.1"_s;
+    items[1].minimumSystemVersion = u"6.2"_s;
+    items[2].maximumSystemVersion = u"5.99"_s;
+
+    EXPECT_EQ(newest(), u"58");
+}
+
+} // namespace
+} // namespace Orvello
