@@ -949,8 +949,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: run &quot;impress-helper.py allow&quot; from Orvello&apos;s folder once, restart LibreOffice, then toggle Slide Tracking off and on.</source>
-        <extracomment>The words in the first quotation marks are those of the card; the second are a command.</extracomment>
+        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
+        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

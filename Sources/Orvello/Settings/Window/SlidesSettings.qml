@@ -25,7 +25,7 @@ SettingsSection {
         //: The words in quotation marks are those of the card. %1: presentation programs.
         text: root.facts.asksBeforeControl
               ? qsTr("If sync shows \"No access\": System Settings → Privacy & Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.").arg(root.facts.presentersInFull)
-              //: The words in the first quotation marks are those of the card; the second are a command.
-              : qsTr("If sync shows \"No access\": run \"impress-helper.py allow\" from Orvello's folder once, restart LibreOffice, then toggle Slide Tracking off and on.")
+              //: The words in quotation marks are those of the card; Scripts and Allow are names in the program.
+              : qsTr("If sync shows \"No access\": LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.")
     }
 }
