@@ -4,9 +4,9 @@
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
-#include "Orvello/Shell/MainMenu.h"
-#include "Orvello/Shell/StatusMenu.h"
-#include "Orvello/Shell/Support.h"
+#include "Orvello/Shell/Commands/MainMenu.h"
+#include "Orvello/Shell/Commands/StatusMenu.h"
+#include "Orvello/Shell/Commands/Support.h"
 #include "Tests/Gallery/Scenes.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeCommandTarget.h"
@@ -22,6 +22,13 @@
 
 #include <algorithm>
 
+namespace Orvello::Gallery {
+
+/// How a test is told from the others: by the argument-dependent look-up of GoogleTest.
+static void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.name.toStdString(); }
+
+} // namespace Orvello::Gallery
+
 namespace Orvello {
 namespace {
 
@@ -34,7 +41,8 @@ using Gallery::Stage;
 /// Whether the translation has passed by, as far as there is anything to translate.
 bool isMarked(const QString& text)
 {
-    const bool hasWords = std::ranges::any_of(text, &QChar::isLetter);
+    const bool hasWords
+        = std::ranges::any_of(text, [](QChar character) { return character.isLetter(); });
     return !hasWords || (text.startsWith(u"[!! ") && text.endsWith(u" !!]"));
 }
 
@@ -46,7 +54,7 @@ bool isNobodysToTranslate(const QString& text)
     static const QStringList written { u"Opening words"_s, u"Quarterly review"_s, u"All hands"_s,
         u"Toast for the wedding"_s, u"كلمة الافتتاح"_s, u"Questions"_s, u"What we learned"_s,
         u"Welcome"_s, u"Thank you all for coming"_s, u"— Slide 1"_s, u"Nothing has a name"_s,
-        u"Good morning"_s, u"We set out"_s, u"What would you like"_s };
+        u"Good morning"_s, u"We set out"_s, u"What would you like"_s, u"Deck"_s };
     return same.match(text).hasMatch()
         || std::ranges::any_of(
             written, [&](const QString& beginning) { return text.startsWith(beginning); });
@@ -72,8 +80,6 @@ std::unique_ptr<Stage> played(const Scene& scene)
 /// prompter's texts in many languages are the user's.
 class SceneInPseudoLanguage : public ::testing::TestWithParam<Scene> { };
 
-void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.name.toStdString(); }
-
 std::vector<Scene> scenesWithWords()
 {
     std::vector<Scene> scenes;
@@ -94,9 +100,9 @@ QStringList unmarkedTexts(QQuickWindow& window)
     };
     look(window.title());
     for (const QQuickItem* const item : visibleItems(window)) {
-        look(accessibleName(*item));
         if (isUsersText(*item))
             continue;
+        look(accessibleName(*item));
         look(item->property("text").toString());
         look(item->property("placeholderText").toString());
     }
@@ -146,14 +152,14 @@ TEST_P(SceneInPseudoLanguage, showsNoTextThatIsNotTranslated)
 {
     const std::unique_ptr<Stage> stage = played(GetParam());
 
-    EXPECT_EQ(unmarkedTexts(stage->window()), QStringList());
+    EXPECT_EQ(unmarkedTexts(stage->window()).join(u'\n').toStdString(), "");
 }
 
 TEST_P(SceneInPseudoLanguage, cutsNoText)
 {
     const std::unique_ptr<Stage> stage = played(GetParam());
 
-    EXPECT_EQ(cutTexts(stage->window()), QStringList());
+    EXPECT_EQ(cutTexts(stage->window()).join(u'\n').toStdString(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -181,7 +187,7 @@ TEST(PseudoLanguageTest, isSpokenByTheMenus)
 
     const QStringList lines = linesOf(statusMenu) + linesOf(*mainMenu);
 
-    EXPECT_EQ(lines.size(), 24);
+    EXPECT_EQ(lines.size(), 22);
     for (const QString& line : lines)
         EXPECT_TRUE(isMarked(line)) << line.toStdString();
 }

@@ -1,6 +1,8 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/ViewItems.h"
 #include "Tests/Voice/VoiceFixture.h"

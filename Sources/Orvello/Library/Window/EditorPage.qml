@@ -119,7 +119,7 @@ Pane {
             Label {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignRight
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
                 text: root.facts.isMac ? qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
                                        : qsTr("Shown in the prompter · autosaved locally, nothing leaves your computer")
                 font.pixelSize: 11
