@@ -10,6 +10,7 @@ TourPage {
     required property facts facts
 
     number: 1
+    columnWidth: 600 // With the card it is the fullest page, whatever the language.
     spacing: 20
 
     TourHeading {
