@@ -6,16 +6,19 @@
 #   make gallery               every window in every state on one picture, build/gallery.png
 #   make sanitize               the unit tests under AddressSanitizer and UBSan, those with threads under ThreadSanitizer
 #   make format                 lay the sources out;  make tidy: static analysis
+#   make deb                    build/orvello_<version>_<architecture>.deb, for the distribution that it is made on
+#   make install [PREFIX=/usr/local] [DESTDIR=]    and make uninstall, with the same two
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test bench gallery sanitize format tidy clean
+.PHONY: run test bench gallery sanitize format tidy clean deb install uninstall
 
 # The program alone needs no test package. In a folder that is configured with the tests, they stay: to configure without
 # them would throw away what is built of them.
+alone := $(if $(wildcard build/CMakeCache.txt),,-DBUILD_TESTING=OFF)
 run:
 	@tools/setup build
-	@tools/build $(if $(wildcard build/CMakeCache.txt),,-DBUILD_TESTING=OFF) orvello
+	@tools/build $(alone) orvello
 	@tools/run "$(DECK)"
 
 test:
@@ -51,3 +54,17 @@ tidy:
 
 clean:
 	@rm -rf build
+
+deb:
+	@tools/setup install
+	@tools/build $(alone) installable
+	@tools/make-deb build
+
+PREFIX := /usr/local
+install:
+	@tools/setup install
+	@tools/build $(alone) installable
+	@tools/install build "$(PREFIX)" "$(DESTDIR)"
+
+uninstall:
+	@tools/install --remove build "$(PREFIX)" "$(DESTDIR)"

@@ -7,7 +7,6 @@
 
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
 #include "Orvello/Presentations/Slideshow/DeckController.h"
-#include "Orvello/Prompting/Text/PromptFont.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/LibraryWindow.h"
@@ -111,11 +110,10 @@ public:
     explicit Program(const QList<Script>& scripts)
         : services(scripts)
     {
-        lines.setFontFamily(PromptFont::family());
         lines.setTextWidth(664);
         lines.setVisibleHeight(200);
         QObject::connect(&deck, &DeckController::promptTextChanged, &lines,
-            [this] { lines.setText(deck.promptText()); });
+            [this](const TextEdit& edit) { lines.edit(deck.promptText(), edit); });
         library.makeKeyAndOrderFront();
         if (!QTest::qWaitForWindowExposed(&window()))
             static_cast<void>(std::fputs("The window is not to be seen.\n", stderr));

@@ -46,6 +46,13 @@
     </message>
 </context>
 <context>
+    <name>Orvello::AppDelegate</name>
+    <message>
+        <source>%1 counts only at the launch: quit the Orvello that runs first</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Orvello::Appcast</name>
     <message>
         <source>It declares a document type.</source>
@@ -106,6 +113,17 @@
     </message>
 </context>
 <context>
+    <name>Orvello::BusInstance</name>
+    <message>
+        <source>Orvello is running already, but does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orvello is running already, but cannot be asked for anything: the two do not share a session bus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Orvello::Commands</name>
     <message>
         <source>Start Scrolling</source>
@@ -130,17 +148,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Speed up</source>
-        <extracomment>What a key does: the text scrolls faster.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Speed down</source>
-        <extracomment>What a key does: the text scrolls slower.</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -217,6 +225,26 @@
     <message>
         <source>%1  (%2)</source>
         <extracomment>A line of a menu with two blanks in it. %1: its text; %2: its key, such as &quot;⌥⌘P&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start or pause scrolling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scroll faster</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scroll slower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go back to the top of the script</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the prompter</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -390,6 +418,33 @@ To take this back later: %1</source>
     </message>
     <message>
         <source>Orvello may no longer follow Impress.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LaunchOptions</name>
+    <message>
+        <source>unknown option %1; did you mean %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the preference %1 lacks its value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no address that Orvello opens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -901,6 +956,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <name>ShortcutSettings</name>
     <message>
         <source>Keyboard shortcuts (global)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change Shortcuts…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

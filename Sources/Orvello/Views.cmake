@@ -2,6 +2,7 @@
 # (Shell/Views/QmlTypes.h). Link Orvello::ShellViews, add the import path "qrc:/qt/qml", load "qrc:/qt/qml/Orvello/<View>.qml".
 
 get_property(files GLOBAL PROPERTY ORVELLO_VIEWS)
+list(APPEND files ${CMAKE_CURRENT_SOURCE_DIR}/Shell/Views/SymbolButton.qml)
 # The module is flat, whatever folder a view lies in.
 set(views)
 foreach(file ${files})
@@ -26,8 +27,6 @@ qt_add_qml_module(
             Shell/Views/QmlTypes.h
             Shell/Views/Symbol.cpp
             Shell/Views/Symbol.h
-            Shell/Views/SymbolDrawing.h
-            Shell/Views/TourSymbols.cpp
     QML_FILES ${views})
 
 # The C++ that Qt makes of each view takes seconds to compile, nearly all of them for the same headers.
@@ -36,6 +35,12 @@ list(FILTER viewSources INCLUDE REGEX "^Shell/")
 set_source_files_properties(${viewSources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 set_target_properties(OrvelloViews PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
 
+file(GLOB icons CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/Resources/Icons/*.svg)
+qt_add_resources(
+    OrvelloViews OrvelloIcons
+    PREFIX /Orvello/Icons
+    BASE ${PROJECT_SOURCE_DIR}/Resources/Icons
+    FILES ${icons})
 target_include_directories(OrvelloViews PRIVATE Shell/Views) # The generated registration includes by name alone.
 orvello_name_folder(name Shell/Views)
 set(dependencies
@@ -57,7 +62,7 @@ set(dependencies
 orvello_draw(Sources/Orvello/Shell/Views ShellViews ${dependencies})
 orvello_roots(roots Orvello::ShellViews ${dependencies})
 target_include_directories(OrvelloViews PRIVATE ${roots})
-target_link_libraries(OrvelloViews PUBLIC OrvelloBase ${dependencies} Qt6::Quick)
+target_link_libraries(OrvelloViews PUBLIC OrvelloBase ${dependencies} Qt6::Quick Qt6::Svg)
 
 # A static QML module needs its plugin linked as well.
 add_library(OrvelloViewsAndPlugin INTERFACE)

@@ -169,6 +169,75 @@ class Line:
         self.children = [Line(item, child) for child in children]
 
 
+PORTAL = "org.freedesktop.portal.Desktop"
+PORTAL_PATH = "/org/freedesktop/portal/desktop"
+REGISTRY = "org.freedesktop.host.portal.Registry"
+SHORTCUTS = "org.freedesktop.portal.GlobalShortcuts"
+PORTAL_XML = f"""<node>
+<interface name="{REGISTRY}">
+  <method name="Register"><arg type="s" direction="in"/><arg type="a{{sv}}" direction="in"/></method>
+</interface>
+<interface name="{SHORTCUTS}">
+  <method name="CreateSession"><arg type="a{{sv}}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="BindShortcuts"><arg type="o" direction="in"/><arg type="a(sa{{sv}})" direction="in"/>
+    <arg type="s" direction="in"/><arg type="a{{sv}}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="ConfigureShortcuts"><arg type="o" direction="in"/><arg type="s" direction="in"/>
+    <arg type="a{{sv}}" direction="in"/></method>
+  <property name="version" type="u" access="read"/>
+</interface></node>"""
+
+
+class Portal:
+    """A Wayland desktop's portal for global shortcuts, which serves only programs that have said who they are."""
+
+    def __init__(self, bus):
+        self.applications, self.sessions, self.calls, self.shortcuts = {}, {}, [], {}
+        self.connection = bus.connect()
+        for interface in Gio.DBusNodeInfo.new_for_xml(PORTAL_XML).interfaces:
+            self.connection.register_object(PORTAL_PATH, interface, self._call, lambda *words: GLib.Variant("u", 2), None)
+        self.connection.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+                                  GLib.Variant("(su)", (PORTAL, 4)), None, Gio.DBusCallFlags.NONE, 10_000, None)
+
+    def _call(self, connection, sender, path, interface, method, arguments, invocation):
+        self.calls.append(method)
+        arguments = arguments.unpack()
+        if method == "Register":
+            if sender in self.applications:
+                invocation.return_dbus_error("org.freedesktop.portal.Error.InvalidArgument", "Registered too late")
+                return
+            self.applications[sender] = arguments[0]
+            invocation.return_value(None)
+        elif not self.applications.setdefault(sender, None):
+            invocation.return_dbus_error("org.freedesktop.portal.Error.NotAllowed", "An app id is required")
+        elif method == "CreateSession":
+            session = f"{PORTAL_PATH}/session/x/{arguments[0]['session_handle_token']}"
+            self.sessions[session] = sender
+            self._respond(sender, arguments[0], {"session_handle": GLib.Variant("s", session)}, invocation)
+        elif self.sessions.get(arguments[0]) != sender:
+            invocation.return_dbus_error("org.freedesktop.DBus.Error.AccessDenied", "Invalid session")
+        elif method == "BindShortcuts":
+            self.shortcuts = {name: properties["description"] for name, properties in arguments[1]}
+            bound = [(name, {"trigger_description": GLib.Variant("s", "Press " + properties["preferred_trigger"])})
+                     for name, properties in arguments[1]]
+            self._respond(sender, arguments[3], {"shortcuts": GLib.Variant("a(sa{sv})", bound)}, invocation)
+        else:
+            invocation.return_value(None)
+
+    def _respond(self, sender, options, results, invocation):
+        request = f"{PORTAL_PATH}/request/{sender[1:].replace('.', '_')}/{options['handle_token']}"
+        invocation.return_value(GLib.Variant("(o)", (request,)))
+        self.connection.emit_signal(sender, request, "org.freedesktop.portal.Request", "Response",
+                                    GLib.Variant("(ua{sv})", (0, results)))
+
+    def activate(self, shortcut):
+        session, sender = list(self.sessions.items())[-1]
+        self.connection.emit_signal(sender, PORTAL_PATH, SHORTCUTS, "Activated",
+                                    GLib.Variant("(osta{sv})", (session, shortcut, 1, {})))
+
+    def close(self):
+        self.connection.close_sync(None)
+
+
 class FileManager(Service):
     """Remembers what it was asked to show."""
 

@@ -13,20 +13,10 @@ import subprocess
 import tempfile
 import time
 
+from waiting import wait_until
+
 PROGRAM = pathlib.Path(os.environ["ORVELLO_PROGRAM"]).resolve()
 SOURCES = pathlib.Path(__file__).resolve().parents[2]
-
-
-def wait_until(condition, seconds=15.0, what="a condition"):
-    """Polls until condition() is true and returns its value; fails after the given seconds."""
-    deadline = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > deadline:
-            raise AssertionError(f"gave up after {seconds} s waiting for {what}")
-        time.sleep(0.02)
 
 
 class Desktop(contextlib.ExitStack):
@@ -63,14 +53,7 @@ class Desktop(contextlib.ExitStack):
             raise
 
     def _start_servers(self):
-        read_end, write_end = os.pipe()
-        self.start(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.width}x{self.height}x24",
-             "-nolisten", "tcp", "-noreset"],
-            pass_fds=(write_end,))
-        os.close(write_end)
-        with os.fdopen(read_end) as pipe:
-            self.environment["DISPLAY"] = ":" + pipe.readline().strip()
+        _, self.environment["DISPLAY"] = self.start_x_server()
         self.run("hsetroot", "-solid", "#284060")
         self.start(["openbox"])
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
@@ -78,6 +61,17 @@ class Desktop(contextlib.ExitStack):
         if self.compositor:
             self.start(["picom", "--backend", "xrender"])
         time.sleep(0.3)
+
+    def start_x_server(self):
+        """Starts an X server and returns its process and its display."""
+        read_end, write_end = os.pipe()
+        process = self.start(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self.width}x{self.height}x24",
+             "-nolisten", "tcp", "-noreset"],
+            pass_fds=(write_end,))
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            return process, ":" + pipe.readline().strip()
 
     def start_session_bus(self):
         """Gives the desktop a session bus of its own, for what is started from now on."""
@@ -173,9 +167,16 @@ def upward_shift(before, after, largest):
 class App:
     """The real program on a desktop."""
 
-    def __init__(self, desktop, *arguments, environment=None):
+    def __init__(self, desktop, *arguments, environment=None, folder=None):
         self.desktop = desktop
-        self.process = desktop.start([str(PROGRAM), *arguments], environment)
+        self.process = desktop.start([str(PROGRAM), *arguments], environment, cwd=folder)
+
+    @staticmethod
+    def run(desktop, *arguments, environment=None, folder=None):
+        """A start that ends by itself: its exit status and what it says on standard error."""
+        result = subprocess.run([str(PROGRAM), *arguments], env=desktop.environment | (environment or {}), cwd=folder,
+                                capture_output=True, text=True, timeout=60)
+        return result.returncode, result.stderr
 
     # Files
 

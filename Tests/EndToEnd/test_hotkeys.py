@@ -4,6 +4,7 @@ import json
 import time
 import unittest
 
+from bus import Portal, SessionBus
 from desktop import App, Desktop, wait_until
 
 # Places on an American keyboard as the server numbers them, so that no layout has a say.
@@ -155,6 +156,53 @@ class TakenKeysTest(HotKeyCase):
         self.app.wait_for_log("HOTKEY Alt+Super+H belongs to another program")
         self.combination(P)
         self.wait_for(moving=True)
+
+
+class PortalTest(HotKeyCase):
+    """A Wayland session, as far as the keys go: what the user presses is told by the desktop's portal."""
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.environment["WAYLAND_DISPLAY"] = "wayland-of-nobody"
+        self.bus = SessionBus(self.desktop)
+
+    def connect(self):
+        portal = Portal(self.bus)
+        self.addCleanup(portal.close)
+        return portal
+
+    def wait_until_bound(self, portal):
+        wait_until(lambda: portal.shortcuts, what="the keys in the portal")
+        self.assertEqual(portal.calls[:3], ["Register", "CreateSession", "BindShortcuts"])
+        self.assertIn("app.orvello.Orvello", portal.applications.values())
+
+    def test_the_keys_are_the_portals(self):
+        portal = self.connect()
+        self.start()
+        self.wait_until_bound(portal)
+        self.assertEqual(portal.shortcuts, {
+            "toggle": "Start or pause scrolling", "faster": "Scroll faster", "slower": "Scroll slower",
+            "restart": "Go back to the top of the script", "hide": "Show or hide the prompter"})
+
+        portal.activate("toggle")
+        self.wait_for(moving=True)
+        portal.activate("hide")
+        wait_until(lambda: not self.app.is_window_visible(), what="the prompter to go")
+
+    def test_a_portal_that_restarts_gets_the_keys_again(self):
+        portal = Portal(self.bus)
+        self.start()
+        self.wait_until_bound(portal)
+
+        portal.close()
+        self.app.wait_for_log("HOTKEY no portal holds the keys: it has ended")
+        self.combination(P)
+        self.wait_for(moving=True)
+        portal = self.connect()
+        self.wait_until_bound(portal)
+
+        portal.activate("toggle")
+        self.wait_for(moving=False)
 
 
 class PlainKeyTest(HotKeyCase):

@@ -1,14 +1,26 @@
-"""How the program starts: its switches, its signals, a second start, the former product's data, the update check."""
+"""How the program starts: its command line, its signals, a second start, the former product's data, the update check."""
 
 import http.server
 import json
+import os
 import signal
+import subprocess
 import threading
 import time
 import unittest
 
 from bus import Opener, SessionBus
-from desktop import App, Desktop, wait_until
+from desktop import App, Desktop, PROGRAM, SOURCES, wait_until
+
+DECK_TOOL = SOURCES / "Tests" / "Support" / "make-deck"
+NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere/at/all"}
+
+
+def make_deck(folder, name):
+    folder.mkdir(exist_ok=True)
+    subprocess.run(["/usr/bin/python3", str(DECK_TOOL), "--slides", "2", "--output", str(folder / name)], check=True,
+                   timeout=180, capture_output=True)
+    return folder / name
 
 
 class LaunchTest(unittest.TestCase):
@@ -116,7 +128,100 @@ class SwitchesTest(LaunchTest):
         self.assertEqual(self.desktop.focused_window(), notes)
 
 
+    def test_the_windows_that_a_start_asks_for_open(self):
+        App(self.desktop, "--scripts", "--settings")
+
+        wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts window")
+        wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings window")
+
+
+class FilesTest(LaunchTest):
+    def titles(self):
+        return [script["title"] for script in App.library(self.desktop)]
+
+    def test_a_deck_is_imported_by_its_path_from_the_callers_folder(self):
+        folder = make_deck(self.desktop.scratch / "my talks", "Quarterly review.pptx").parent
+
+        app = App(self.desktop, "Quarterly review.pptx", folder=folder)
+
+        app.wait_for_log("IMPORT_PPTX ok slides=2 file=Quarterly review.pptx")
+        wait_until(lambda: self.titles()[0] == "Quarterly review", what="the deck")
+
+    def test_a_deck_is_imported_by_its_address(self):
+        deck = make_deck(self.desktop.scratch / "my talks", "Größe.pptx")
+
+        app = App(self.desktop, deck.as_uri())
+
+        app.wait_for_log("IMPORT_PPTX ok slides=2 file=Größe.pptx")
+
+    def test_mistakes_are_named_and_nothing_is_done(self):
+        (self.desktop.scratch / "notes.txt").write_text("x")
+        (self.desktop.scratch / "broken.pptx").write_text("x")
+        for argument, complaint in (
+                ("--autostrat", "orvello: unknown option --autostrat; did you mean --autostart?"),
+                ("-fontSize", "orvello: the preference -fontSize lacks its value"),
+                ("notes.txt", "orvello: notes.txt is not a PowerPoint deck (.pptx)"),
+                ("gone.pptx", 'orvello: there is no file "gone.pptx"'),
+                ("https://example.com/talk.pptx", "orvello: https://example.com/talk.pptx is no address that Orvello opens"),
+                ("broken.pptx", "broken.pptx: The file could not be opened as a PowerPoint package.")):
+            with self.subTest(argument):
+                status, text = App.run(self.desktop, "--voice", argument, folder=self.desktop.scratch)
+
+                self.assertEqual(status, 2)
+                self.assertIn(complaint, text)
+        self.assertFalse(App.folder(self.desktop).exists())
+
+
 class SignalsTest(LaunchTest):
+    def expect_a_clean_end(self, app):
+        wait_until(lambda: app.process.poll() is not None, what="the end")
+        self.assertEqual(self.messages()[-1], "QUIT clean")
+        self.assertEqual([path.name for path in (App.folder(self.desktop) / "logs").iterdir()], ["orvello.log"])
+
+    def test_a_hang_up_is_an_ordinary_quit(self):
+        app = App(self.desktop)
+        app.shown()
+
+        self.assertEqual(app.quit(signal.SIGHUP), 0)
+
+        self.expect_a_clean_end(app)
+
+    def test_closing_its_terminal_is_an_ordinary_quit(self):
+        terminal = self.desktop.start(["xterm", "-e", str(PROGRAM)])
+        wait_until(lambda: [line for line in self.messages() if line.startswith("PANEL_UP")], what="the prompter")
+
+        terminal.kill()
+
+        wait_until(lambda: self.messages()[-1] == "QUIT clean", what="the clean end")
+        wait_until(lambda: not App.marker(self.desktop).exists(), what="the marker to go")
+
+    def test_nobody_who_reads_what_it_says_is_no_obstacle(self):
+        read_end, write_end = os.pipe()
+        process = subprocess.Popen([str(PROGRAM)], env=self.desktop.environment, stdout=write_end, stderr=write_end)
+        self.addCleanup(process.kill)
+        os.close(write_end)
+        wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")
+        os.close(read_end)
+
+        process.send_signal(signal.SIGHUP)
+
+        self.assertEqual(process.wait(15), 0)
+        self.assertEqual(self.messages()[-1], "QUIT clean")
+
+    def test_the_end_of_its_x_server_is_a_clean_end(self):
+        for renderer in ("software", "opengl"):
+            with self.subTest(renderer):
+                server, display = self.desktop.start_x_server()
+                app = App(self.desktop, environment={"DISPLAY": display, "QT_QUICK_BACKEND": renderer}
+                          if renderer == "software" else {"DISPLAY": display, "QSG_RHI_BACKEND": renderer})
+                app.wait_for_log("PANEL_UP")
+                time.sleep(1.0)
+
+                server.kill()
+
+                self.expect_a_clean_end(app)
+                self.assertNotIn("CRASH", App.log_text(self.desktop))
+
     def test_the_first_user_signal_toggles_stealth_mode(self):
         app = App(self.desktop)
         app.shown()
@@ -177,6 +282,85 @@ class SecondStartTest(LaunchTest):
         second = App(self.desktop)
 
         self.assertEqual(second.process.wait(30), 1)
+
+    def test_its_files_reach_the_one_that_runs(self):
+        app = App(self.desktop)
+        app.shown()
+        folder = make_deck(self.desktop.scratch / "talks", "late.pptx").parent
+        make_deck(folder, "by variable.pptx")
+
+        self.assertEqual(App.run(self.desktop, "late.pptx", folder=folder), (0, ""))
+        app.wait_for_log("IMPORT_PPTX ok slides=2 file=late.pptx")
+        variable = {"ORVELLO_IMPORT_PPTX": "by variable.pptx"}
+        self.assertEqual(App.run(self.desktop, "--autostart", folder=folder, environment=variable), (0, ""))
+
+        app.wait_for_log("IMPORT_PPTX ok slides=2 file=by variable.pptx")
+        self.assertEqual([script["title"] for script in App.library(self.desktop)][:2], ["by variable", "late"])
+        self.assertEqual(App.defaults(self.desktop)["activeScriptID"], App.library(self.desktop)[0]["id"])
+
+    def test_it_says_what_the_one_that_runs_cannot_do(self):
+        app = App(self.desktop)
+        app.shown()
+        (self.desktop.scratch / "broken.pptx").write_text("x")
+
+        status, text = App.run(self.desktop, "--no-stealth", "-textColorName", "Yellow", "--scripts",
+                               folder=self.desktop.scratch, environment={"ORVELLO_IMPORT_PPTX": "broken.pptx"})
+
+        self.assertEqual(status, 3)
+        self.assertEqual(text.splitlines(), [
+            f"orvello: {self.desktop.scratch}/broken.pptx: The file could not be opened as a PowerPoint package.",
+            "orvello: --no-stealth counts only at the launch: quit the Orvello that runs first",
+            "orvello: -textColorName Yellow counts only at the launch: quit the Orvello that runs first"])
+        wait_until(lambda: self.desktop.windows_titled("Scripts"), what="what it can do")
+
+    def test_a_mistake_does_not_reach_the_one_that_runs(self):
+        app = App(self.desktop)
+        app.shown()
+
+        status, text = App.run(self.desktop, "--scripts", "--sittings")
+
+        self.assertEqual(status, 2)
+        self.assertIn("did you mean --settings?", text)
+        self.assertEqual(self.desktop.windows_titled("Scripts"), [])
+
+    def test_one_runs_on_each_display(self):
+        app = App(self.desktop)
+        app.shown()
+        _, display = self.desktop.start_x_server()
+
+        other = App(self.desktop, environment={"DISPLAY": display})
+
+        wait_until(lambda: len([line for line in self.messages() if line.startswith("PANEL_UP")]) == 2,
+                   what="two of them")
+        self.assertEqual(App.run(self.desktop, environment={"DISPLAY": display + ".0"}), (0, ""))
+        self.assertEqual(other.quit(), 0)
+        self.assertIsNone(app.process.poll())
+
+    def test_one_runs_where_there_is_no_bus(self):
+        for first_sees_it in (False, True):
+            with self.subTest(first_sees_it=first_sees_it):
+                app = App(self.desktop, environment=None if first_sees_it else NO_BUS)
+                app.shown()
+
+                status, text = App.run(self.desktop, "--voice", environment=NO_BUS)
+
+                self.assertEqual(status, 1)
+                self.assertIn("Orvello is running already", text)
+                app.kill()  # Which leaves the lock file behind.
+        App(self.desktop, environment=NO_BUS).shown()
+
+    def test_preferences_are_read_when_no_other_writes_them_any_more(self):
+        first = App(self.desktop)
+        first.shown()
+        first.signal(signal.SIGSTOP)
+        second = App(self.desktop)
+        time.sleep(1.0)  # It waits for the first to answer.
+
+        App.set_defaults(self.desktop, onboardingSeenVersion=0)
+        first.kill()
+
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="what the first wrote last")
+        self.assertIsNone(second.process.poll())
 
     def test_the_switches_of_a_start_during_the_launch_count(self):
         starts = [App(self.desktop, "orvello:first"), App(self.desktop, "--onboarding")]

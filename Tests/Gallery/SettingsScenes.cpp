@@ -90,6 +90,7 @@ public:
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
+    AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;
 
 private:

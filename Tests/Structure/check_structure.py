@@ -1,6 +1,6 @@
 """Holds the tree against what its papers and its CMake files say.
 
-    check_structure.py paths      each path that ARCHITECTURE.md names exists
+    check_structure.py paths      each path that the papers name exists
     check_structure.py graph GRAPH          the arrows of CMake's graph run down, and no others are in the sources
     check_structure.py walls COMMANDS ROOTS  the compiler finds no header that a library does not name
     check_structure.py platforms  nothing outside Adapters/ asks for an operating system
@@ -35,11 +35,12 @@ def sources(*suffixes):
 
 
 def check_paths():
-    text = (ROOT / "ARCHITECTURE.md").read_text()
-    named = re.findall(r"`((?:Sources|Tests|Benchmarks|Resources|docs|tools)/[^`]*)`", text)
-    assert named, "ARCHITECTURE.md names no path"
-    return [f"ARCHITECTURE.md names {name}, which does not exist"
-            for name in named if not (ROOT / name).exists()]
+    problems = []
+    for paper in ("ARCHITECTURE.md", "CONTRIBUTING.md", "docs/decisions.md", "docs/macos.md"):
+        named = re.findall(r"`((?:Sources|Tests|Benchmarks|Resources|docs|tools|cmake)/[^`*… ]*)", (ROOT / paper).read_text())
+        assert named, f"{paper} names no path"
+        problems += [f"{paper} names {name}, which does not exist" for name in named if not (ROOT / name).exists()]
+    return problems
 
 
 def read_graph(path):

@@ -37,6 +37,13 @@ public:
         return std::make_unique<FakeReference>(*this, id.id);
     }
 
+    std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
+        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override
+    {
+        purposes.push_back(purpose);
+        return registerHotKey(keyCode, modifiers, id);
+    }
+
     /// As a Mac calls them, unless a test says otherwise.
     QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override
     {
@@ -66,6 +73,7 @@ public:
         Key key;
     };
     std::vector<Registration> registrations; ///< Every attempt, in order.
+    std::vector<HotKeyPurpose> purposes; ///< Of those attempts that named one.
     std::map<std::uint32_t, Key> registered; ///< What holds now, by id.
     int installations = 0;
     bool isOwnedByAnother = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Tests/Support/Journal.h"
 
@@ -11,7 +12,7 @@ namespace Orvello::Testing {
 
 /// A panel without a window. It keeps a record of what was asked of it; its state is public to
 /// steer.
-class FakeNativePanel final : public NativePanel {
+class FakeNativePanel final : public NativePanel, public CaptureHiding {
 public:
     QRectF frame() const override { return frameNow; }
     void setFrame(const QRectF& frame) override
@@ -19,45 +20,46 @@ public:
         calls.append(QStringLiteral("setFrame"));
         frameNow = frame;
     }
-    void setFrameAutosaveName(const QString& name) override
+    void saveFrameAs(const QString& name) override
     {
-        calls.append(QStringLiteral("setFrameAutosaveName ") + name);
+        calls.append(QStringLiteral("saveFrameAs ") + name);
         if (!savedFrame.isNull())
             frameNow = savedFrame;
     }
-    void orderFrontRegardless() override
+    void show() override
     {
-        note(journal, "panel ordered front");
+        note(journal, "panel shown");
         visible = true;
     }
-    void orderOut() override
+    void hide() override
     {
-        note(journal, "panel ordered out");
+        note(journal, "panel hidden");
         visible = false;
     }
     bool isVisible() const override { return visible; }
     qint64 windowNumber() const override { return number; }
-    bool inLiveResize() const override { return liveResize; }
-    SharingType sharingType() const override { return sharing; }
-    void setSharingType(SharingType type) override
+    bool isBeingResized() const override { return beingResized; }
+    CaptureHiding& captureHiding() override { return *this; }
+
+    bool isPossible() const override { return canHide; }
+    bool isHidden() const override { return hidden; }
+    void setHidden(bool isHidden) override
     {
-        note(
-            journal, type == SharingType::None ? "panel hidden from captures" : "panel capturable");
-        sharing = type;
-        sharingTypesSet.push_back(type);
+        note(journal, isHidden ? "panel hidden from captures" : "panel capturable");
+        hidden = isHidden;
+        hiddenSet.push_back(isHidden);
     }
-    bool canExcludeFromCapture() const override { return canExclude; }
 
     Journal* journal = nullptr;
     QRectF frameNow;
     QRectF savedFrame; ///< What an earlier run saved, if anything.
     bool visible = false;
     qint64 number = 42;
-    bool liveResize = false;
-    SharingType sharing = SharingType::ReadOnly;
-    bool canExclude = true;
+    bool beingResized = false;
+    bool hidden = false; ///< From captures.
+    bool canHide = true;
     QStringList calls;
-    std::vector<SharingType> sharingTypesSet;
+    std::vector<bool> hiddenSet; ///< Each time it was set.
 };
 
 } // namespace Orvello::Testing

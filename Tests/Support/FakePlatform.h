@@ -1,8 +1,10 @@
 #pragma once
 
-#include "Orvello/Platform/Desktop/Platform.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/RunningInstance.h"
+#include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeAudioProcesses.h"
 #include "Tests/Support/FakeChildProcess.h"
@@ -40,14 +42,15 @@ public:
 /// The only process.
 class FakeRunningInstance final : public RunningInstance {
 public:
-    Claim claim(const QStringList&) override { return Claim::Granted; }
+    Outcome claim(const ProgramStart&) override { return {}; }
     void listen(Handlers newHandlers) override { handlers = std::move(newHandlers); }
+    void release() override { }
 
     Handlers handlers;
 };
 
 /// Every port as a fake, with one journal for all that has an order.
-class FakePlatform final : public Platform {
+class FakePlatform final : public EarlyPlatform, public DesktopPlatform, public SoundPlatform {
 public:
     FakePlatform()
     {
@@ -88,8 +91,6 @@ public:
     VoiceProcessing& voiceProcessing() override { return voiceProcessingFake; }
     RawMicrophone& rawMicrophone() override { return rawMicrophoneFake; }
     AudioProcesses& audioProcesses() override { return audioProcessesFake; }
-
-    QString prepareApplication() override { return {}; }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& window) override
     {

@@ -4,6 +4,7 @@
 #include "Tests/Support/Journal.h"
 
 #include <map>
+#include <set>
 #include <utility>
 
 namespace Orvello::Testing {
@@ -11,6 +12,7 @@ namespace Orvello::Testing {
 /// Signals that a test sends.
 class FakeProcessSignals final : public ProcessSignals {
 public:
+    bool isIgnored(int signal) const override { return ignored.contains(signal); }
     std::unique_ptr<Subscription> handle(int signal, std::function<void()> handler) override
     {
         note(journal, "signal " + std::to_string(signal) + " handled");
@@ -19,8 +21,10 @@ public:
     }
 
     void send(int signal) { m_handlers.at(signal)(); }
+    bool isHandled(int signal) const { return m_handlers.contains(signal); }
 
     Journal* journal = nullptr;
+    std::set<int> ignored; ///< What the program's parent has it ignore.
 
 private:
     class Kept final : public Subscription { };

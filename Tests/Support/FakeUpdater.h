@@ -8,30 +8,28 @@
 namespace Orvello::Testing {
 
 /// An updater whose callbacks a test makes.
-class FakeUpdater final : public Updater {
+class FakeUpdater final : public Updater, public UpdateSchedule {
 public:
-    void startUpdater(UpdaterDelegate& updaterDelegate) override
+    void start(UpdaterDelegate& updaterDelegate) override
     {
         note(journal, "updater started");
         delegate = &updaterDelegate;
     }
-    void checkForUpdates() override
+    void check() override
     {
         note(journal, "updater asked to check");
         ++checks;
     }
-    bool automaticallyChecksForUpdates() const override { return isAutomatic; }
-    void setAutomaticallyChecksForUpdates(bool on) override
+    UpdateSchedule& schedule() override { return *this; }
+    bool isOn() const override { return isAutomatic; }
+    void setOn(bool on) override
     {
         if (std::exchange(isAutomatic, on) != on && m_changed)
             m_changed();
     }
-    void observeAutomaticChecks(std::function<void()> changed) override
-    {
-        m_changed = std::move(changed);
-    }
-    bool canCheckForUpdates() const override { return m_canCheck; }
-    std::optional<Date> lastUpdateCheckDate() const override { return m_lastCheck; }
+    void observe(std::function<void()> changed) override { m_changed = std::move(changed); }
+    bool canCheck() const override { return m_canCheck; }
+    std::optional<Date> lastCheck() const override { return m_lastCheck; }
     void observeChecks(std::function<void()> changed) override
     {
         m_checksChanged = std::move(changed);

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "Orvello/Prompting/Panel/CaptureExclusion.h"
+
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
-/// Stand-ins for the window server's private calls, found by name in the test program as the real
-/// ones are in the system. Each lies in a file of its own in WindowServer/, so that a program can
-/// have any subset of them.
+/// A stand-in for the window server's private calls, of which any may be missing.
 namespace Orvello::Testing::WindowServerStandIn {
 
 struct Rect {
@@ -35,9 +36,19 @@ struct State {
 
 State& state();
 
-/// A new region, counted.
-const void* made(const Rect& rect, const char* maker);
-
 inline constexpr std::uint32_t connection = 7;
+
+/// Which of the calls can be found.
+struct Calls {
+    bool connection = true;
+    bool shape = true;
+    bool regionCreate = true;
+    bool regionNew = true;
+};
+
+CaptureExclusion::LookUp lookUp(Calls present = {});
+
+/// For the names of test cases.
+void PrintTo(const Calls& present, std::ostream* stream);
 
 } // namespace Orvello::Testing::WindowServerStandIn

@@ -44,6 +44,7 @@ struct Log {
     std::string fileURL;
     std::string markerURL;
     bool previousSessionEndedAbnormally = false;
+    std::atomic<bool> hasOpenSession = false;
 };
 
 /// Never destroyed: the destructors of other static objects may still log.
@@ -99,6 +100,7 @@ void start(const Session& session)
     if (leftBehind)
         write("PREVIOUS_SESSION did not end cleanly: %@", *leftBehind);
     marker.write(markerText(session));
+    log().hasOpenSession = true;
 }
 
 void writeArguments(std::string_view format, std::span<const LogArgument> arguments)
@@ -114,7 +116,10 @@ void endSession()
 {
     write("QUIT clean");
     SessionMarker(log().markerURL).remove();
+    log().hasOpenSession = false;
 }
+
+bool hasOpenSession() noexcept { return log().hasOpenSession; }
 
 const std::string& directory() { return log().directory; }
 

@@ -46,6 +46,9 @@ void write(std::string_view format, const Arguments&... arguments)
 /// Logs "QUIT clean" and removes the marker. The log stays open for what is still written.
 void endSession();
 
+/// From start() to endSession(). Any thread.
+[[nodiscard]] bool hasOpenSession() noexcept;
+
 /// The folder of the log files; empty until start().
 [[nodiscard]] const std::string& directory();
 

@@ -38,5 +38,17 @@ TEST(PosixProcessSignalsTest, ignoresTheSignalOnceTheSubscriptionIsDropped)
     EXPECT_EQ(arrivals, 0);
 }
 
+TEST(PosixProcessSignalsTest, knowsWhatTheParentHadItIgnore)
+{
+    const PosixProcessSignals processSignals;
+    ASSERT_NE(std::signal(SIGHUP, SIG_DFL), SIG_ERR);
+    EXPECT_FALSE(processSignals.isIgnored(SIGHUP));
+
+    ASSERT_NE(std::signal(SIGHUP, SIG_IGN), SIG_ERR);
+    EXPECT_TRUE(processSignals.isIgnored(SIGHUP));
+
+    ASSERT_NE(std::signal(SIGHUP, SIG_DFL), SIG_ERR);
+}
+
 } // namespace
 } // namespace Orvello

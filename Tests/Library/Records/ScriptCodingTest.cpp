@@ -1,7 +1,6 @@
 #include "Orvello/Library/Records/ScriptCoding.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <gtest/gtest.h>
 
@@ -58,19 +57,22 @@ QByteArray withMember(const QByteArray& key, const QByteArray& value)
     return '{' + members.join(',') + '}';
 }
 
+/// Of which neither the order of keys nor the white space matters.
+QJsonDocument parsed(const QByteArray& json) { return QJsonDocument::fromJson(json); }
+
 QByteArray withSlide(const QByteArray& slide) { return required + ",\"slides\":[" + slide + "]}"; }
 
 TEST(ScriptEncodingTest, writesTheFiveRequiredKeysOfAPlainScript)
 {
-    EXPECT_EQ(ScriptCoding::encode(plainScript()), required + '}');
+    EXPECT_EQ(parsed(ScriptCoding::encode(plainScript())), parsed(required + '}'));
 }
 
 TEST(ScriptEncodingTest, writesADeckScript)
 {
-    EXPECT_EQ(ScriptCoding::encode(deckScript()),
-        required
+    EXPECT_EQ(parsed(ScriptCoding::encode(deckScript())),
+        parsed(required
             + R"(,"slides":[{"index":1,"title":"Intro","notes":"Hello all"},{"index":2,"notes":""}],)"
-              R"("deckSource":"talk.pptx"})");
+              R"("deckSource":"talk.pptx"})"));
 }
 
 TEST(ScriptEncodingTest, writesAnEmptyDeck)
@@ -78,24 +80,25 @@ TEST(ScriptEncodingTest, writesAnEmptyDeck)
     Script script = plainScript();
     script.slides.emplace();
 
-    EXPECT_EQ(ScriptCoding::encode(script), required + R"(,"slides":[]})");
+    EXPECT_EQ(parsed(ScriptCoding::encode(script)), parsed(required + R"(,"slides":[]})"));
 }
 
-TEST(ScriptEncodingTest, isUnderstoodByAnotherReader)
+TEST(ScriptEncodingTest, escapesWhatJsonCannotHoldAsItIs)
 {
-    Script script = deckScript();
+    Script script = plainScript();
     script.title = u"“é” \\ \" / \n \t 😀 \u0001"_s;
 
-    QJsonParseError error;
-    const QJsonObject object
-        = QJsonDocument::fromJson(ScriptCoding::encode(script), &error).object();
+    const QByteArray json = ScriptCoding::encode(script);
 
-    EXPECT_EQ(error.error, QJsonParseError::NoError);
-    EXPECT_EQ(object.keys(),
-        (QStringList { u"body"_s, u"createdAt"_s, u"deckSource"_s, u"id"_s, u"slides"_s, u"title"_s,
-            u"updatedAt"_s }));
-    EXPECT_EQ(object[u"title"].toString(), script.title);
-    EXPECT_EQ(object[u"createdAt"].toDouble(), 802345678.5);
+    EXPECT_TRUE(json.contains(R"("title":"“é” \\ \" / \n \t 😀 \u0001")")) << json.constData();
+}
+
+TEST(ScriptEncodingTest, writesNoWhiteSpaceBetweenMembers)
+{
+    const QByteArray json = ScriptCoding::encode(deckScript());
+
+    EXPECT_EQ(json.count(' '), 1) << json.constData(); // In "Hello all".
+    EXPECT_FALSE(json.contains('\n'));
 }
 
 TEST(ScriptCodingTest, givesBackWhatWasEncoded)
@@ -113,12 +116,23 @@ TEST(ScriptCodingTest, givesBackWhatWasEncoded)
     EXPECT_EQ(decodeOne(ScriptCoding::encode(plainScript())), plainScript());
 }
 
+TEST(ScriptCodingTest, keepsAByteOrderMarkAtTheBeginningOfAText)
+{
+    Script script = plainScript();
+    script.title = u"\uFEFF"_s;
+    script.body = u"\uFEFFplain text"_s;
+
+    EXPECT_EQ(decodeOne(ScriptCoding::encode(script)), script);
+}
+
 TEST(ScriptCodingTest, givesALoneSurrogateBackAsTheReplacementCharacter)
 {
     Script script = plainScript();
     script.body = u"a"_s + QChar(0xD83D) + u"b"_s;
-
     EXPECT_EQ(decodeOne(ScriptCoding::encode(script))->body, u"a\uFFFDb"_s);
+
+    script.body = u"😀\u0000b"_s + QChar(0xDE00);
+    EXPECT_EQ(decodeOne(ScriptCoding::encode(script))->body, u"😀\u0000b\uFFFD"_s);
 }
 
 TEST(ScriptDecodingTest, readsListsOfScriptsInOrder)
@@ -194,7 +208,6 @@ TEST(ScriptDecodingTest, readsAnyFiniteDate)
 {
     EXPECT_EQ(decodeOne(withMember("createdAt", "0"))->createdAt, Date { 0 });
     EXPECT_EQ(decodeOne(withMember("createdAt", "-1e300"))->createdAt, Date { -1e300 });
-    EXPECT_EQ(decodeOne(withMember("createdAt", "1e-400"))->createdAt, Date { 0 });
     EXPECT_EQ(decodeOne(withMember("createdAt", "12345678901234567890"))->createdAt,
         Date { 12345678901234567890.0 });
     EXPECT_EQ(decodeOne(withMember("createdAt", "1e400")), std::nullopt);
@@ -220,11 +233,11 @@ TEST(ScriptDecodingTest, readsIntegralSlideNumbersThatFit)
 TEST(ScriptDecodingTest, ignoresUnknownKeysWhateverTheyHold)
 {
     for (const QByteArray& value : { QByteArray("null"), QByteArray("true"), QByteArray("\"x\""),
-             QByteArray("1e400"), QByteArray("-12345678901234567890"), '1' + QByteArray(5000, '0'),
-             QByteArray("[]"), QByteArray(R"([{"id":5,"slides":[1]},[[]],"x"])"),
+             QByteArray("-12345678901234567890"), QByteArray("[]"),
+             QByteArray(R"([{"id":5,"slides":[1]},[[]],"x"])"),
              QByteArray(R"({"id":5,"title":null,"slides":{"index":"x"},"x":{}})"),
-             QByteArray(100'000, '[') + QByteArray(100'000, ']'),
-             QByteArray(R"({"a":)").repeated(100'000) + '1' + QByteArray(100'000, '}') }) {
+             QByteArray(500, '[') + QByteArray(500, ']'),
+             QByteArray(R"({"a":)").repeated(500) + '1' + QByteArray(500, '}') }) {
         EXPECT_EQ(decodeOne(required + ",\"color\":" + value + '}'), plainScript())
             << value.left(40).constData();
         EXPECT_EQ(decodeOne("{\"color\":" + value + ',' + required.sliced(1) + '}'), plainScript())
@@ -239,8 +252,27 @@ TEST(ScriptDecodingTest, ignoresUnknownKeysWhateverTheyHold)
 
 TEST(ScriptDecodingTest, refusesMalformedJsonUnderAnUnknownKey)
 {
-    for (const char* value : { "", "x", "[", "{]", "01", "\"\\ud83d\"", "\"\x80\"" })
+    for (const char* value : { "", "x", "[", "{]", "01", "1e400", "\"\x80\"" })
         EXPECT_EQ(decodeOne(required + ",\"color\":" + value + '}'), std::nullopt) << value;
+}
+
+TEST(ScriptDecodingTest, refusesNestingThatNobodyNeeds)
+{
+    for (const QByteArray& value : { QByteArray(100'000, '[') + QByteArray(100'000, ']'),
+             QByteArray(R"({"a":)").repeated(100'000) + '1' + QByteArray(100'000, '}') })
+        EXPECT_EQ(decodeOne(required + ",\"color\":" + value + '}'), std::nullopt)
+            << value.left(40).constData();
+}
+
+TEST(ScriptDecodingTest, refusesTextThatIsNoUnicode)
+{
+    for (const char* text : { R"("\ud83d")", R"("\ude00")", R"("\ud83dx")", R"("\ude00\ud83d")",
+             "\"\x80\"", "\"\xC0\x80\"", "\"\xED\xA0\x80\"", "\"\xF4\x90\x80\x80\"" }) {
+        EXPECT_EQ(decodeOne(withMember("title", text)), std::nullopt) << text;
+        EXPECT_EQ(decodeOne(withMember("body", text)), std::nullopt) << text;
+        EXPECT_EQ(decodeOne(required + ",\"deckSource\":" + text + '}'), std::nullopt) << text;
+    }
+    EXPECT_EQ(decodeOne(withMember("title", R"("\ud83d\ude00")"))->title, u"😀"_s);
 }
 
 TEST(ScriptDecodingTest, tellsKeysApartByCase)
@@ -248,17 +280,13 @@ TEST(ScriptDecodingTest, tellsKeysApartByCase)
     EXPECT_EQ(decodeOne(required + R"(,"Slides":5,"ID":5,"deck_source":5})"), plainScript());
 }
 
-TEST(ScriptDecodingTest, takesTheFirstOfDuplicateKeys)
+TEST(ScriptDecodingTest, takesTheLastOfDuplicateKeys)
 {
-    EXPECT_EQ(decodeOne(required
-                  + R"(,"id":5,"title":"Other","body":null,"createdAt":"x","updatedAt":1,)"
-                    R"("slides":null,"slides":[1],"deckSource":null,"deckSource":"x"})"),
-        plainScript());
-    Script deck = plainScript();
-    deck.slides = QList<SlideNote> { { 1, u"a"_s, u"n"_s } };
-    EXPECT_EQ(decodeOne(withSlide(
-                  R"({"index":1,"title":"a","notes":"n","index":2,"title":null,"notes":[]})")),
-        deck);
+    Script script = plainScript();
+    script.title = u"Other"_s;
+
+    EXPECT_EQ(decodeOne(required + R"(,"title":5,"title":"Other"})"), script);
+    EXPECT_EQ(decodeOne(required + R"(,"title":"Other","title":5})"), std::nullopt);
 }
 
 TEST(ScriptDecodingTest, startsEachScriptAfresh)

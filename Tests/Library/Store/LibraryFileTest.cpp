@@ -65,41 +65,43 @@ TEST_F(LibraryFileTest, isOneJsonArray)
     EXPECT_EQ(QJsonDocument::fromJson(contents()).array().size(), 2);
 }
 
-TEST_F(LibraryFileTest, writesEveryKindOfChangeBetweenSaves)
+TEST_F(LibraryFileTest, writesEveryKindOfChange)
 {
+    using Kind = LibraryChange::Kind;
     QList<Script> scripts;
-    const auto savedIs = [this](const QList<Script>& list) {
-        file.save(list);
-        return reread() == list;
+    const auto savedIs = [&](Kind kind, qsizetype row) {
+        file.save(scripts, { .kind = kind, .row = row });
+        return reread() == scripts;
     };
 
     for (const char16_t letter : u"ABCDEF"_s.toStdU16String()) {
         scripts.prepend(script(QChar(letter)));
-        EXPECT_TRUE(savedIs(scripts));
+        EXPECT_TRUE(savedIs(Kind::Inserted, 0));
     }
     for (qsizetype i = 0; i < scripts.size(); ++i) {
         scripts[i].body += u"!"_s;
-        EXPECT_TRUE(savedIs(scripts));
+        EXPECT_TRUE(savedIs(Kind::Edited, i));
     }
-    scripts[1].updatedAt = { 99 };
-    scripts[4].title = u"other"_s;
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.swapItemsAt(0, 5);
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.removeAt(3);
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.prepend(scripts.first());
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.append(scripts.last());
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.removeFirst();
-    EXPECT_TRUE(savedIs(scripts));
-    scripts.removeLast();
-    EXPECT_TRUE(savedIs(scripts));
-    scripts = { script(u"G"_s) };
-    EXPECT_TRUE(savedIs(scripts));
-    EXPECT_TRUE(savedIs({}));
-    EXPECT_TRUE(savedIs(scripts));
+    scripts.insert(2, script(u"G"_s));
+    EXPECT_TRUE(savedIs(Kind::Inserted, 2));
+    for (const qsizetype row : { 3, 0, 4, 0, 0, 1, 0 }) {
+        scripts.removeAt(row);
+        EXPECT_TRUE(savedIs(Kind::Removed, row));
+    }
+    EXPECT_EQ(contents(), "[]");
+}
+
+TEST_F(LibraryFileTest, encodesOnlyTheScriptThatChanged)
+{
+    QList<Script> scripts { script(u"A"_s), script(u"B"_s), script(u"C"_s) };
+    file.save(scripts);
+    QList<Script> changed = scripts;
+    for (Script& script : changed)
+        script.body = u"edited"_s;
+
+    file.save(changed, { .kind = LibraryChange::Kind::Edited, .row = 1 });
+
+    EXPECT_EQ(reread(), (QList<Script> { scripts[0], changed[1], scripts[2] }));
 }
 
 TEST_F(LibraryFileTest, savesWhatItLoadedBeforeAndAfterAnEdit)
@@ -113,7 +115,7 @@ TEST_F(LibraryFileTest, savesWhatItLoadedBeforeAndAfterAnEdit)
     EXPECT_EQ(reread(), scripts);
 
     scripts[1].body = u"edited"_s;
-    other.save(scripts);
+    other.save(scripts, { .kind = LibraryChange::Kind::Edited, .row = 1 });
     EXPECT_EQ(reread(), scripts);
 }
 

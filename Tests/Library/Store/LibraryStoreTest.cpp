@@ -253,6 +253,62 @@ TEST_F(LibraryStoreTest, announcesWhatChangedOnceItIsSaved)
     EXPECT_EQ(announcedScripts, 4);
 }
 
+TEST_F(LibraryStoreTest, saysWhichScriptCameOrWent)
+{
+    using Kind = LibraryChange::Kind;
+    LibraryStore& store = launchWith({ u"A"_s, u"B"_s, u"C"_s });
+    QList<LibraryChange> changes;
+    QObject::connect(&store, &LibraryStore::scriptsChanged, &store,
+        [&](const LibraryChange& change) { changes.append(change); });
+    const QUuid b = store.scripts()[1].id;
+
+    const QUuid added = store.addScript();
+    store.remove(b);
+
+    EXPECT_EQ(changes,
+        (QList<LibraryChange> { { .kind = Kind::Inserted, .row = 0, .id = added },
+            { .kind = Kind::Removed, .row = 2, .id = b } }));
+}
+
+TEST_F(LibraryStoreTest, saysWhatWasEditedAndWhere)
+{
+    LibraryStore& store = launchWith({ u"A"_s, u"B"_s });
+    const QUuid id = store.scripts()[1].id;
+    QList<LibraryChange> changes;
+    QObject::connect(&store, &LibraryStore::scriptsChanged, &store,
+        [&](const LibraryChange& change) { changes.append(change); });
+
+    store.editActive(5, 2, u"for"_s);
+    store.updateActive(u"New"_s, std::nullopt);
+    store.updateActive(u"New"_s, u"Other"_s);
+    store.updateActive(std::nullopt, u"Other"_s);
+
+    EXPECT_EQ(store.scripts()[1].body, u"Other"_s);
+    EXPECT_EQ(changes,
+        (QList<LibraryChange> { { .row = 1, .id = id, .body = TextEdit { 5, 2, 3 } },
+            { .row = 1, .id = id, .isOtherTitle = true },
+            { .row = 1, .id = id, .body = TextEdit { 0, 10, 5 } }, { .row = 1, .id = id } }));
+}
+
+TEST_F(LibraryStoreTest, editsAPartOfTheActiveBody)
+{
+    LibraryStore& store = launchWith({ u"A"_s, u"B"_s });
+    time.advance(60);
+
+    store.editActive(0, 4, u"Text"_s);
+    EXPECT_EQ(store.scripts()[1].body, u"Text of B"_s);
+    EXPECT_EQ(store.scripts()[1].updatedAt, time.date());
+    store.editActive(9, 0, u"!"_s);
+    EXPECT_EQ(store.scripts()[1].body, u"Text of B!"_s);
+    EXPECT_EQ(store.scripts()[0].body, u"Body of A"_s);
+    EXPECT_EQ(saved(), store.scripts());
+
+    store.setActiveScriptID(QUuid::createUuid());
+    EXPECT_TRUE(wasSaved());
+    store.editActive(0, 0, u"!"_s);
+    EXPECT_FALSE(wasSaved());
+}
+
 TEST_F(LibraryStoreTest, goesOnInMemoryWhenItCannotSave)
 {
     LibraryStore& store = launchWith({ u"A"_s });
@@ -279,21 +335,6 @@ TEST_F(LibraryStoreTest, startsWhereItCannotEverSave)
     store.addScript();
 
     EXPECT_EQ(titles(store.scripts()), (QStringList { u"Untitled"_s, u"Welcome to Orvello"_s }));
-}
-
-TEST_F(LibraryStoreTest, isTheSharedOneOnceAdopted)
-{
-    LibraryStore& store = launch();
-
-    LibraryStore::adoptShared(store);
-
-    EXPECT_EQ(&LibraryStore::shared(), &store);
-}
-
-TEST_F(LibraryStoreTest, joinsADecksNotes)
-{
-    EXPECT_EQ(
-        LibraryStore::joinedBody({ { 1, std::nullopt, u""_s } }), u"— Slide 1 —\n(no notes)"_s);
 }
 
 } // namespace

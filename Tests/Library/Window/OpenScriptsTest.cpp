@@ -226,15 +226,48 @@ TEST_F(OpenScriptsTest, showsWhatAnotherChangesAndLeavesTheCursorAlone)
     cursor.setPosition(5);
     const QSignalSpy scriptsChanged(&library, &LibraryStore::scriptsChanged);
 
-    library.updateActive(u"Uno"_s, u"To be or rather not"_s);
+    library.editActive(9, 0, u"rather "_s);
 
-    EXPECT_EQ(active().title(), u"Uno"_s);
     EXPECT_EQ(active().body(), u"To be or rather not"_s);
     EXPECT_EQ(active().wordCountText(), u"5 words"_s);
     EXPECT_EQ(field.document().toPlainText(), u"To be or rather not"_s);
     EXPECT_EQ(cursor.position(), 5);
     EXPECT_EQ(scriptsChanged.count(), 1);
     EXPECT_EQ(storedBody(), u"To be or rather not"_s);
+}
+
+TEST_F(OpenScriptsTest, showsATitleAndABodyThatAnotherReplaces)
+{
+    TextField field(active());
+
+    library.updateActive(u"Uno"_s, u"One\r\ntwo"_s);
+
+    EXPECT_EQ(active().title(), u"Uno"_s);
+    EXPECT_EQ(active().wordCountText(), u"2 words"_s);
+    EXPECT_EQ(field.document().toPlainText(), u"One\ntwo"_s);
+    EXPECT_EQ(storedBody(), u"One\r\ntwo"_s);
+
+    library.editActive(8, 0, u"!"_s);
+    EXPECT_EQ(field.document().toPlainText(), u"One\ntwo!"_s);
+
+    field.replace(8, 8, u"!"_s);
+    EXPECT_EQ(storedBody(), u"One\ntwo!!"_s);
+}
+
+TEST_F(OpenScriptsTest, tellsTheLibraryWhereTheUserTyped)
+{
+    TextField field(active());
+    QList<LibraryChange> changes;
+    QObject::connect(&library, &LibraryStore::scriptsChanged, &library,
+        [&](const LibraryChange& change) { changes.append(change); });
+
+    field.replace(5, 5, u" "_s);
+    field.replace(3, 5, u"say"_s);
+
+    ASSERT_EQ(changes.size(), 2);
+    EXPECT_EQ(changes[0].body, (TextEdit { 5, 0, 1 }));
+    EXPECT_EQ(changes[1].body, (TextEdit { 3, 2, 3 }));
+    EXPECT_EQ(storedBody(), u"To say  or not"_s);
 }
 
 TEST_F(OpenScriptsTest, keepsScriptsOpenWithWhatTheyCanUndo)
@@ -256,13 +289,35 @@ TEST_F(OpenScriptsTest, neverStoresAnEditInAnotherScript)
     TextField field(active());
     activate(2);
 
+    field.replace(10, 12, u"w"_s);
     field.replace(0, 2, u"Late"_s);
     EXPECT_EQ(library.scripts()[0].body, u"To be or not"_s);
     EXPECT_EQ(library.scripts()[2].body, u"3"_s);
 
     activate(0);
+    EXPECT_EQ(library.scripts()[0].body, u"Late be or nw"_s);
+    EXPECT_EQ(storedBody(), u"Late be or nw"_s);
+}
+
+TEST_F(OpenScriptsTest, neverStoresAnEditInAnotherScriptWhileTheTwoChangePlaces)
+{
+    ScriptEditor& first = active();
+    TextField field(first);
+    // An input method finishes a word when the text field loses the keyboard.
+    const auto finishWord = [&] {
+        field.replace(0, 2, u"Late"_s);
+        first.setTitle(u"Late"_s);
+    };
+    QObject::connect(
+        &open, &OpenScripts::activeChanged, &open, finishWord, Qt::SingleShotConnection);
+
+    activate(2);
+    EXPECT_EQ(library.scripts()[2].body, u"3"_s);
+    EXPECT_EQ(library.scripts()[2].title, u"Three"_s);
+    EXPECT_EQ(library.scripts()[0].body, u"To be or not"_s);
+
+    activate(0);
     EXPECT_EQ(library.scripts()[0].body, u"Late be or not"_s);
-    EXPECT_EQ(storedBody(), u"Late be or not"_s);
 }
 
 TEST_F(OpenScriptsTest, closesTheScriptThatWasNotSeenForLongest)
@@ -317,6 +372,21 @@ TEST_F(OpenScriptsTest, closesARemovedScript)
     EXPECT_EQ(first, nullptr);
     EXPECT_EQ(active().title(), u"Two"_s);
     EXPECT_EQ(open.rowCount(), 2);
+}
+
+TEST_F(OpenScriptsTest, closesEveryScriptOfAnIdThatTheFileHasTwice)
+{
+    const Script twin = LibraryServices::script(u"Twin"_s, {});
+    LibraryServices twins { { twin, twin, LibraryServices::script(u"Other"_s, {}) } };
+    twins.library.setActiveScriptID(std::nullopt);
+    OpenScripts scripts(twins.library);
+    const QAbstractItemModelTester check(
+        &scripts, QAbstractItemModelTester::FailureReportingMode::Fatal);
+
+    twins.library.remove(twin.id);
+
+    EXPECT_EQ(scripts.active()->title(), u"Other"_s);
+    EXPECT_EQ(scripts.rowCount(), 2);
 }
 
 TEST_F(OpenScriptsTest, showsEmptyFieldsForAnEmptyLibrary)

@@ -55,6 +55,14 @@ protected:
         Testing::drainEvents();
     }
 
+    /// The list in which the edits of the text shown are going to be.
+    const QList<TextEdit>& collectEdits()
+    {
+        QObject::connect(&controller, &DeckController::promptTextChanged, &controller,
+            [this](const TextEdit& edit) { m_edits.append(edit); });
+        return m_edits;
+    }
+
     Testing::SlideshowStage stage;
     Testing::FakeUserDefaults defaults;
     Testing::FakeFolders folders;
@@ -63,6 +71,9 @@ protected:
     SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
     DeckController controller { library, settings, sync };
     QUuid deck;
+
+private:
+    QList<TextEdit> m_edits;
 };
 
 TEST_F(DeckControllerTest, showsNothingBeforeTheMainLoopRuns)
@@ -265,6 +276,76 @@ TEST_F(DeckControllerTest, doesNotJumpWhenTheTextIsEdited)
     EXPECT_EQ(controller.promptText(), u"Two"_s);
     EXPECT_EQ(texts.count(), 2);
     EXPECT_EQ(controller.slideChangeToken(), token);
+}
+
+TEST_F(DeckControllerTest, saysWhereTheTextWasEdited)
+{
+    library.addScript();
+    library.updateActive({}, u"To be or not"_s);
+    Testing::drainEvents();
+    const QList<TextEdit>& edits = collectEdits();
+
+    library.editActive(9, 0, u"r"_s);
+    Testing::drainEvents();
+    EXPECT_EQ(edits, (QList<TextEdit> { { 9, 0, 1 } }));
+
+    // Both are in the library before the controller hears of the first.
+    library.editActive(10, 0, u"ather "_s);
+    library.editActive(0, 2, u"Not to"_s);
+    Testing::drainEvents();
+    EXPECT_EQ(controller.promptText(), u"Not to be or rather not"_s);
+    EXPECT_EQ(edits, (QList<TextEdit> { { 9, 0, 1 }, { 0, 10, 20 } }));
+}
+
+TEST_F(DeckControllerTest, saysNothingOfAnEditThatWasTakenBack)
+{
+    library.addScript();
+    library.updateActive({}, u"To be"_s);
+    Testing::drainEvents();
+    const QList<TextEdit>& edits = collectEdits();
+
+    library.editActive(5, 0, u"!"_s);
+    library.editActive(5, 1, {});
+    library.editActive(0, 2, u"To"_s);
+    Testing::drainEvents();
+
+    EXPECT_TRUE(edits.isEmpty());
+}
+
+TEST_F(DeckControllerTest, takesNoEditOfAnotherScriptForOneOfTheTextShown)
+{
+    const QUuid first = library.addScript();
+    library.updateActive({}, u"First"_s);
+    const QUuid second = library.addScript();
+    library.updateActive({}, u"Second"_s);
+    Testing::drainEvents();
+    const QList<TextEdit>& edits = collectEdits();
+
+    library.editActive(6, 0, u"!"_s);
+    library.setActiveScriptID(first);
+    library.editActive(0, 5, {});
+    library.setActiveScriptID(second);
+    Testing::drainEvents();
+    EXPECT_EQ(controller.promptText(), u"Second!"_s);
+    EXPECT_EQ(edits, (QList<TextEdit> { { 6, 0, 1 } }));
+
+    library.setActiveScriptID(first);
+    library.editActive(0, 0, u"1st"_s);
+    Testing::drainEvents();
+    EXPECT_EQ(controller.promptText(), u"1st"_s);
+    EXPECT_EQ(edits, (QList<TextEdit> { { 6, 0, 1 }, { 0, 7, 3 } }));
+}
+
+TEST_F(DeckControllerTest, saysNothingOfAnotherUnitWithTheSameText)
+{
+    library.addDeck(u"Same"_s, { { 1, {}, u"Same"_s }, { 2, {}, u"Same"_s } }, u"Keynote"_s);
+    Testing::drainEvents();
+    const QList<TextEdit>& edits = collectEdits();
+
+    controller.showNextSlide();
+
+    EXPECT_EQ(controller.displayIndex(), 1);
+    EXPECT_TRUE(edits.isEmpty());
 }
 
 TEST_F(DeckControllerTest, doesNotJumpWhenAnUntrackedDeckIsEdited)

@@ -23,7 +23,8 @@ using namespace Qt::StringLiterals;
 using namespace Testing::WindowServerStandIn;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using enum NativePanel::SharingType;
+constexpr bool capturable = false;
+constexpr bool hidden = true;
 
 class PrompterPanelControllerTest : public ::testing::Test {
 protected:
@@ -37,7 +38,7 @@ protected:
         controller = std::make_unique<PrompterPanelController>(
             PrompterPanelController::Services {
                 panel, engine, settings, stage.monitor, stage.time, screens, folders },
-            forceCapturable);
+            forceCapturable, CaptureExclusion(lookUp()));
         Testing::drainEvents();
         return *controller;
     }
@@ -54,7 +55,7 @@ protected:
     {
         log.clear();
         QFile::remove(stealthLogPath());
-        panel.sharingTypesSet.clear();
+        panel.hiddenSet.clear();
         state() = {};
     }
 
@@ -107,9 +108,8 @@ TEST_F(PrompterPanelControllerTest, placesThePanelUnderTheCameraAndThenRestoresI
 
     build();
 
-    EXPECT_EQ(
-        panel.calls, (QStringList { u"setFrame"_s, u"setFrameAutosaveName PrompterPanel"_s }));
-    EXPECT_EQ(panel.frameNow, QRectF(920, 1234, 720, 200));
+    EXPECT_EQ(panel.calls, (QStringList { u"setFrame"_s, u"saveFrameAs PrompterPanel"_s }));
+    EXPECT_EQ(panel.frameNow, QRectF(920, 6, 720, 200));
     EXPECT_FALSE(panel.visible);
 }
 
@@ -119,12 +119,12 @@ TEST_F(PrompterPanelControllerTest, placesThePanelOnAnAssumedScreenWithoutAny)
 
     build();
 
-    EXPECT_EQ(panel.frameNow, QRectF(360, 694, 720, 200));
+    EXPECT_EQ(panel.frameNow, QRectF(360, 6, 720, 200));
 }
 
 TEST_F(PrompterPanelControllerTest, logsWhatItBuiltLast)
 {
-    panel.savedFrame = { 10, 20, 800, 300 };
+    panel.savedFrame = { 10, 580, 800, 300 };
 
     build();
 
@@ -153,23 +153,23 @@ TEST_F(PrompterPanelControllerTest, hidesAFreshWindowByBothMechanisms)
     build();
 
     EXPECT_TRUE(controller->stealthOn());
-    EXPECT_THAT(panel.sharingTypesSet, ElementsAre(None));
+    EXPECT_THAT(panel.hiddenSet, ElementsAre(hidden));
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=both shape=1"));
 }
 
 TEST_F(PrompterPanelControllerTest, forcesAChangeOnAFreshWindowThatAlreadyHasTheType)
 {
-    panel.sharing = None;
+    panel.hidden = true;
     build();
-    EXPECT_THAT(panel.sharingTypesSet, ElementsAre(ReadOnly, None));
+    EXPECT_THAT(panel.hiddenSet, ElementsAre(capturable, hidden));
 
     forget();
     settings.setStealthMode(false);
     panel.number = 43;
-    panel.sharing = ReadOnly;
+    panel.hidden = false;
     controller->applyStealthMode(false);
-    EXPECT_THAT(panel.sharingTypesSet, ElementsAre(None, ReadOnly));
+    EXPECT_THAT(panel.hiddenSet, ElementsAre(hidden, capturable));
 }
 
 TEST_F(PrompterPanelControllerTest, makesThePanelAnOrdinaryWindowAgain)
@@ -179,7 +179,7 @@ TEST_F(PrompterPanelControllerTest, makesThePanelAnOrdinaryWindowAgain)
     controller->applyStealthMode(false);
 
     EXPECT_FALSE(controller->stealthOn());
-    EXPECT_THAT(panel.sharingTypesSet, ElementsAre(ReadOnly));
+    EXPECT_THAT(panel.hiddenSet, ElementsAre(capturable));
     EXPECT_THAT(state().shapeCalls, ElementsAre(clearing(42)));
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY OFF wid=42 fresh=false mode=both shape=1"));
     EXPECT_THAT(
@@ -192,7 +192,7 @@ TEST_F(PrompterPanelControllerTest, leavesTheTypeThatItAppliedToTheSameWindow)
 
     controller->applyStealthMode(true);
 
-    EXPECT_THAT(panel.sharingTypesSet, IsEmpty());
+    EXPECT_THAT(panel.hiddenSet, IsEmpty());
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
 }
 
@@ -227,7 +227,7 @@ TEST_F(PrompterPanelControllerTest, usesTheShapeAloneWhenToldSo)
 
     build();
 
-    EXPECT_EQ(panel.sharing, ReadOnly);
+    EXPECT_FALSE(panel.hidden);
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=shape shape=1"));
 }
@@ -238,7 +238,7 @@ TEST_F(PrompterPanelControllerTest, usesTheFlagAloneWhenToldSo)
 
     build();
 
-    EXPECT_EQ(panel.sharing, None);
+    EXPECT_TRUE(panel.hidden);
     EXPECT_THAT(state().shapeCalls, ElementsAre(clearing(42)));
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=42 fresh=true mode=flag shape=1"));
 }
@@ -247,12 +247,12 @@ TEST_F(PrompterPanelControllerTest, takesAnyOtherWordForBothAndLogsItAsGiven)
 {
     for (const char* word : { "Both", "", "FLAG", "%5 %@" }) {
         qputenv("ORVELLO_STEALTH", word);
-        panel.sharing = ReadOnly;
+        panel.hidden = false;
         built();
 
         controller->applyStealthMode(true);
 
-        EXPECT_EQ(panel.sharing, None);
+        EXPECT_TRUE(panel.hidden);
         EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
         EXPECT_THAT(stealthMessages(),
             ElementsAre("APPLY ON wid=42 fresh=false mode=" + std::string(word) + " shape=1"));
@@ -266,7 +266,7 @@ TEST_F(PrompterPanelControllerTest, neverHidesWhenForcedCapturable)
     controller->reassertStealth();
 
     EXPECT_FALSE(controller->stealthOn());
-    EXPECT_EQ(panel.sharing, ReadOnly);
+    EXPECT_FALSE(panel.hidden);
     EXPECT_THAT(stealthMessages(),
         ElementsAre("APPLY OFF wid=42 fresh=true mode=both shape=1",
             "APPLY OFF wid=42 fresh=false mode=both shape=1",
@@ -277,14 +277,14 @@ TEST_F(PrompterPanelControllerTest, treatsTheFirstShowOfAWindowWithoutANumberAsF
 {
     panel.number = 0;
     build();
-    EXPECT_EQ(panel.sharing, None);
+    EXPECT_TRUE(panel.hidden);
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=0 fresh=false mode=both shape=0"));
     forget();
 
     panel.number = 57;
     controller->reassertStealth();
 
-    EXPECT_THAT(panel.sharingTypesSet, ElementsAre(ReadOnly, None));
+    EXPECT_THAT(panel.hiddenSet, ElementsAre(capturable, hidden));
     EXPECT_THAT(stealthMessages(), ElementsAre("APPLY ON wid=57 fresh=true mode=both shape=1"));
 }
 
@@ -345,7 +345,7 @@ TEST_F(PrompterPanelControllerTest, takesItsSecondTryWithIt)
     stage.time.advance(0.5);
 
     EXPECT_THAT(stealthMessages(), IsEmpty());
-    EXPECT_THAT(panel.sharingTypesSet, IsEmpty());
+    EXPECT_THAT(panel.hiddenSet, IsEmpty());
     EXPECT_THAT(state().shapeCalls, IsEmpty());
 }
 
@@ -356,7 +356,7 @@ TEST_F(PrompterPanelControllerTest, coversAResizedPanelAtOnce)
     built();
 
     panel.frameNow.setSize({ 1000, 400 });
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
 
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 1000, 400)));
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
@@ -367,12 +367,12 @@ TEST_F(PrompterPanelControllerTest, coversAPanelDraggedLargerOnceAtTheEnd)
 {
     built();
 
-    panel.liveResize = true;
-    Q_EMIT panel.didResize();
-    Q_EMIT panel.didResize();
+    panel.beingResized = true;
+    Q_EMIT panel.resized();
+    Q_EMIT panel.resized();
     EXPECT_THAT(state().shapeCalls, IsEmpty());
-    panel.liveResize = false;
-    Q_EMIT panel.didEndLiveResize();
+    panel.beingResized = false;
+    Q_EMIT panel.resizeEnded();
 
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
 }
@@ -383,8 +383,8 @@ TEST_F(PrompterPanelControllerTest, ignoresResizesWhileStealthIsOff)
     controller->applyStealthMode(false);
     forget();
 
-    Q_EMIT panel.didResize();
-    Q_EMIT panel.didEndLiveResize();
+    Q_EMIT panel.resized();
+    Q_EMIT panel.resizeEnded();
 
     EXPECT_THAT(state().shapeCalls, IsEmpty());
     EXPECT_THAT(stealthMessages(), IsEmpty());
@@ -395,10 +395,10 @@ TEST_F(PrompterPanelControllerTest, coversAResizedPanelWhateverTheMechanismsInUs
     qputenv("ORVELLO_STEALTH", "flag");
     built();
 
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
 
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 720, 200)));
-    EXPECT_THAT(panel.sharingTypesSet, IsEmpty());
+    EXPECT_THAT(panel.hiddenSet, IsEmpty());
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
 }
 
@@ -407,7 +407,7 @@ TEST_F(PrompterPanelControllerTest, saysThatItReappliedEvenWithoutARegion)
     built();
     state().refusesRegions = true;
 
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
 
     EXPECT_THAT(state().shapeCalls, IsEmpty());
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
@@ -431,11 +431,11 @@ TEST_F(PrompterPanelControllerTest, waitsForTheEndOfACallAndThenCoversSilently)
     forget();
 
     panel.frameNow.setSize({ 800, 300 });
-    Q_EMIT panel.didEndLiveResize();
+    Q_EMIT panel.resizeEnded();
     EXPECT_THAT(state().shapeCalls, IsEmpty());
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapply postponed (in call)"));
     EXPECT_THAT(log.lines(), ElementsAre("SHAPE reapply postponed (in call)"));
-    Q_EMIT panel.didEndLiveResize();
+    Q_EMIT panel.resizeEnded();
     EXPECT_THAT(state().shapeCalls, IsEmpty());
 
     forget();
@@ -450,14 +450,14 @@ TEST_F(PrompterPanelControllerTest, postponesADragOnceAtItsEndAndCoversItAfterTh
     setInCall(true);
     forget();
 
-    panel.liveResize = true;
+    panel.beingResized = true;
     for (const double width : { 760.0, 800.0, 840.0 }) {
         panel.frameNow.setSize({ width, 300 });
-        Q_EMIT panel.didResize();
+        Q_EMIT panel.resized();
     }
     EXPECT_THAT(stealthMessages(), IsEmpty());
-    panel.liveResize = false;
-    Q_EMIT panel.didEndLiveResize();
+    panel.beingResized = false;
+    Q_EMIT panel.resizeEnded();
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapply postponed (in call)"));
     EXPECT_THAT(state().shapeCalls, IsEmpty());
 
@@ -474,13 +474,13 @@ TEST_F(PrompterPanelControllerTest, leavesADragThatOutlastsItsCallToItsEnd)
     setInCall(true);
     forget();
 
-    panel.liveResize = true;
+    panel.beingResized = true;
     panel.frameNow.setSize({ 800, 300 });
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
     setInCall(false);
     EXPECT_THAT(state().shapeCalls, IsEmpty());
-    panel.liveResize = false;
-    Q_EMIT panel.didEndLiveResize();
+    panel.beingResized = false;
+    Q_EMIT panel.resizeEnded();
 
     EXPECT_THAT(state().shapeCalls, ElementsAre(covering(42, 800, 300)));
     EXPECT_THAT(stealthMessages(), ElementsAre("SHAPE reapplied after resize"));
@@ -490,13 +490,13 @@ TEST_F(PrompterPanelControllerTest, takesWhatItPostponedWithIt)
 {
     built();
     setInCall(true);
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
     forget();
 
     controller.reset();
     setInCall(false);
-    Q_EMIT panel.didResize();
-    Q_EMIT panel.didEndLiveResize();
+    Q_EMIT panel.resized();
+    Q_EMIT panel.resizeEnded();
 
     EXPECT_THAT(state().shapeCalls, IsEmpty());
     EXPECT_THAT(stealthMessages(), IsEmpty());
@@ -506,7 +506,7 @@ TEST_F(PrompterPanelControllerTest, coversNothingAfterACallWhenStealthWasTurnedO
 {
     built();
     setInCall(true);
-    Q_EMIT panel.didResize();
+    Q_EMIT panel.resized();
     controller->applyStealthMode(false);
     forget();
 
@@ -589,7 +589,7 @@ TEST_F(PrompterPanelControllerTest, takesItsWatchdogWithIt)
 
 TEST_F(PrompterPanelControllerTest, saysThatThePanelIsVisibleInRecordingsWhereNothingHidesIt)
 {
-    panel.canExclude = false;
+    panel.canHide = false;
     build();
     EXPECT_TRUE(controller->isVisibleInRecordings());
 

@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/Text/LineImage.h"
 
 #include "Orvello/Prompting/Text/PromptFont.h"
+#include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <gtest/gtest.h>
 
@@ -22,8 +23,12 @@ protected:
 
     LineImage imageOf(const QString& text, double scale = 1, const QColor& color = Qt::white) const
     {
-        return LineImage::of(
-            { text, 0, QStringView(text).isRightToLeft() }, typography, color, scale);
+        return LineImage::of(firstLine(text), typography, color, scale);
+    }
+
+    PromptLine firstLine(const QString& text) const
+    {
+        return { std::make_shared<PromptPiece>(text, 0, false, typography), 0, 0 };
     }
 
     /// The part of the picture that has marks, in its own pixels.
@@ -70,13 +75,20 @@ TEST_F(LineImageTest, standsAtTheFramesRightEdgeFromRightToLeft)
 
 TEST_F(LineImageTest, setsALineFromRightToLeftInItsOrder)
 {
-    const auto right = [&](const QString& text) {
-        return LineImage::of({ text, 0, true }, typography, Qt::white, 1).place.right();
-    };
+    const auto right = [&](const QString& text) { return imageOf(text).place.right(); };
 
     // A sentence's end is at the left, so the mark does not push the word away from the right edge.
     EXPECT_NEAR(right(u"שלום"_s), right(u"שלום!"_s), 1);
     EXPECT_NEAR(right(u"שלום"_s), right(u"שלום Orvello 1.0"_s), 1);
+}
+
+TEST_F(LineImageTest, showsTheHyphenWhereASoftOneDividesAWord)
+{
+    typography.width = 200;
+    const QRectF divided = imageOf(u"aaaaaaa\u00ADaaaaaa"_s).place;
+
+    EXPECT_NEAR(divided.right(), imageOf(u"aaaaaaa-"_s).place.right(), 1);
+    EXPECT_GT(divided.right(), imageOf(u"aaaaaaa"_s).place.right() + 3);
 }
 
 TEST_F(LineImageTest, hasTwoRowsForEachDevicePixelAtAnyScale)

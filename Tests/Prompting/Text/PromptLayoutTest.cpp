@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/Text/PromptLayout.h"
 
 #include "Orvello/Prompting/Text/PromptFont.h"
+#include "Tests/Prompting/Text/ShownText.h"
 
 #include <QTextLayout>
 
@@ -34,24 +35,31 @@ PromptLayout complete(PromptLayout layout)
 
 PromptLayout fresh(const QString& text, double frameWidth = width)
 {
-    return complete(PromptLayout(text, typography(frameWidth), PromptLayout()));
+    return complete(PromptLayout(text, typography(frameWidth)));
+}
+
+void layOutInOneGo(QTextLayout& layout, bool isRightToLeft, double frameWidth = width)
+{
+    QTextOption option(isRightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    option.setTextDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine())
+        line.setLineWidth(frameWidth);
+    layout.endLayout();
 }
 
 /// The line starts of one paragraph when it is laid out in one go.
 std::vector<qsizetype> startsInOneGo(const QString& paragraph, double frameWidth = width)
 {
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setUseDesignMetrics(true);
     QTextLayout layout(paragraph, typography().font);
-    layout.setTextOption(option);
-    layout.beginLayout();
+    layOutInOneGo(layout, paragraph.isRightToLeft(), frameWidth);
     std::vector<qsizetype> starts;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(frameWidth);
-        starts.push_back(line.textStart());
-    }
-    layout.endLayout();
+    for (int i = 0; i < layout.lineCount(); ++i)
+        starts.push_back(layout.lineAt(i).textStart());
     return starts;
 }
 
@@ -66,16 +74,16 @@ std::vector<qsizetype> starts(const PromptLayout& layout)
 QStringList texts(const PromptLayout& layout)
 {
     QStringList result;
-    for (PromptLayout::Index i = 0; i < layout.lineCount(); ++i)
-        result.append(layout.line(i).text);
+    for (const PromptLine& line : layout.lines(0, layout.lineCount()))
+        result.append(Testing::shownText(line));
     return result;
 }
 
 std::vector<double> baselines(const PromptLayout& layout)
 {
     std::vector<double> result;
-    for (PromptLayout::Index i = 0; i < layout.lineCount(); ++i)
-        result.push_back(layout.line(i).baseline);
+    for (const PromptLine& line : layout.lines(0, layout.lineCount()))
+        result.push_back(line.baseline);
     return result;
 }
 
@@ -91,7 +99,7 @@ QString words(std::mt19937& random, int count)
 
 TEST(PromptLayoutTest, hasNoLinesAndNoHeightForTheEmptyText)
 {
-    const PromptLayout layout(QString(), typography(), PromptLayout());
+    const PromptLayout layout(QString(), typography());
 
     EXPECT_TRUE(layout.isComplete());
     EXPECT_EQ(layout.lineCount(), 0);
@@ -157,11 +165,11 @@ TEST(PromptLayoutTest, trimsWhatEndsALine)
     EXPECT_EQ(texts(fresh(u"one  \t \n  two"_s)), QStringList({ u"one"_s, u"  two"_s }));
 }
 
-TEST(PromptLayoutTest, showsTheHyphenWhereASoftOneDividesAWord)
+TEST(PromptLayoutTest, dividesAWordAtASoftHyphen)
 {
     const QString text = u"aaaaaaaaaaaaa\u00ADaaaaaaaaaaaa"_s;
 
-    EXPECT_EQ(texts(fresh(text)), QStringList({ u"aaaaaaaaaaaaa-"_s, u"aaaaaaaaaaaa"_s }));
+    EXPECT_EQ(texts(fresh(text)), QStringList({ u"aaaaaaaaaaaaa\u00AD"_s, u"aaaaaaaaaaaa"_s }));
 }
 
 TEST(PromptLayoutTest, breaksALongParagraphAsIfInOneGo)
@@ -205,13 +213,13 @@ TEST(PromptLayoutTest, neverDividesASurrogatePair)
 
 TEST(PromptLayoutTest, goesOnInBoundedSteps)
 {
-    PromptLayout layout(QString(100000, u'm'), typography(), PromptLayout());
+    PromptLayout layout(QString(100000, u'm'), typography());
 
     qsizetype reached = 0;
     while (!layout.isComplete()) {
         layout.step();
         const qsizetype last = layout.lineStart(layout.lineCount() - 1);
-        EXPECT_LE(last - reached, PromptLayout::stepLength);
+        EXPECT_LE(last - reached, PromptPiece::longest);
         reached = last;
     }
 }
@@ -219,7 +227,7 @@ TEST(PromptLayoutTest, goesOnInBoundedSteps)
 TEST(PromptLayoutTest, getsPastCharactersWithoutWidth)
 {
     const QString text = u"a"_s + QString(30000, QChar(0x0301)) + u"b"_s;
-    PromptLayout layout(text, typography(), PromptLayout());
+    PromptLayout layout(text, typography());
 
     int steps = 0;
     for (; !layout.isComplete() && steps < 1000; ++steps)
@@ -245,19 +253,68 @@ TEST(PromptLayoutTest, survivesTextThatIsNoText)
 TEST(PromptLayoutTest, givesEachParagraphItsDirection)
 {
     const PromptLayout layout = fresh(u"abc שלום\nשלום abc\n(42) مرحبا\n42"_s);
+    const std::vector<PromptLine> lines = layout.lines(0, 4);
 
-    EXPECT_FALSE(layout.line(0).isRightToLeft);
-    EXPECT_TRUE(layout.line(1).isRightToLeft);
-    EXPECT_TRUE(layout.line(2).isRightToLeft);
-    EXPECT_FALSE(layout.line(3).isRightToLeft);
+    EXPECT_FALSE(lines[0].piece->isRightToLeft());
+    EXPECT_TRUE(lines[1].piece->isRightToLeft());
+    EXPECT_TRUE(lines[2].piece->isRightToLeft());
+    EXPECT_FALSE(lines[3].piece->isRightToLeft());
 }
 
 TEST(PromptLayoutTest, keepsTheDirectionAllThroughALongParagraph)
 {
     const PromptLayout layout = fresh(u"שלום "_s + u"latin words "_s.repeated(2000));
 
-    for (PromptLayout::Index i = 0; i < layout.lineCount(); ++i)
-        ASSERT_TRUE(layout.line(i).isRightToLeft) << i;
+    for (const PromptLine& line : layout.lines(0, layout.lineCount()))
+        ASSERT_TRUE(line.piece->isRightToLeft());
+}
+
+/// Every line of a text of several paragraphs, with the lines of each paragraph laid out in one go.
+void expectToLookAsInOneGo(const QString& text)
+{
+    const PromptLayout layout = fresh(text);
+    const std::vector<PromptLine> lines = layout.lines(0, layout.lineCount());
+    std::size_t next = 0;
+    for (const QString& paragraph : text.split(u'\n')) {
+        QTextLayout inOneGo(paragraph, typography().font);
+        layOutInOneGo(inOneGo, paragraph.isRightToLeft());
+        for (int i = 0; i < inOneGo.lineCount(); ++i, ++next) {
+            ASSERT_LT(next, lines.size());
+            ASSERT_EQ(lines[next].inPiece().glyphRuns(), inOneGo.lineAt(i).glyphRuns())
+                << Testing::shownText(lines[next]).toStdString();
+        }
+    }
+    EXPECT_EQ(next, lines.size());
+}
+
+TEST(PromptLayoutTest, drawsBidirectionalParagraphsAsIfInOneGo)
+{
+    std::mt19937 random(17);
+    static const QStringList vocabulary { u"one"_s, u"(two)"_s, u"אבג"_s, u"\"דהו\""_s, u"مرحبا"_s,
+        u"42"_s, u"(3.5%)"_s, u"-"_s, u"زحط!"_s };
+    for (const int length : { 1, 2, 3, 5, 8, 20, 200, 2000 }) {
+        QStringList paragraphs;
+        for (int paragraph = 0; paragraph < 10; ++paragraph) {
+            QStringList words;
+            for (int i = 0; i < length; ++i)
+                words.append(vocabulary[static_cast<qsizetype>(random()) % vocabulary.size()]);
+            paragraphs.append(words.join(u' '));
+        }
+        ASSERT_NO_FATAL_FAILURE(expectToLookAsInOneGo(paragraphs.join(u'\n'))) << length;
+    }
+}
+
+TEST(PromptLayoutTest, sharesAPieceBetweenItsLines)
+{
+    const PromptLayout layout = fresh(u"one two three four five six seven eight\nnine"_s);
+    const std::vector<PromptLine> all = layout.lines(0, layout.lineCount());
+    ASSERT_GE(all.size(), 3U);
+    EXPECT_EQ(all[0].piece, all[1].piece);
+    EXPECT_NE(all.front().piece, all.back().piece);
+
+    const std::vector<PromptLine> later = layout.lines(1, layout.lineCount(), all);
+    EXPECT_EQ(later.front().piece, all[1].piece);
+    EXPECT_EQ(later.back().piece, all.back().piece);
 }
 
 TEST(PromptLayoutTest, findsTheLinesBetweenTwoHeights)
@@ -278,7 +335,7 @@ TEST(PromptLayoutTest, takesOverAnUnchangedBeginning)
 {
     const PromptLayout before = fresh(u"one\ntwo\nthree"_s);
 
-    const PromptLayout after(u"one\ntwo\nthree!"_s, typography(), before);
+    const PromptLayout after = before.edited(u"one\ntwo\nthree!"_s, { 13, 0, 1 });
 
     EXPECT_EQ(after.lineCount(), 2);
     EXPECT_EQ(texts(complete(after)), QStringList({ u"one"_s, u"two"_s, u"three!"_s }));
@@ -289,7 +346,7 @@ TEST(PromptLayoutTest, takesOverAnUnchangedRestInTwoSteps)
     const QString rest = u"\nmany words in each of many paragraphs"_s.repeated(5000);
     const PromptLayout before = fresh(u"title"_s + rest);
 
-    PromptLayout after(u"a better title"_s + rest, typography(), before);
+    PromptLayout after = before.edited(u"a better title"_s + rest, { 0, 0, 9 });
     after.step();
     after.step();
 
@@ -303,29 +360,38 @@ TEST(PromptLayoutTest, laysOutLittleWhenALongParagraphGrowsAtItsEnd)
     const QString text = words(random, 5000);
     const PromptLayout before = fresh(text);
 
-    PromptLayout after(text + u" more"_s, typography(), before);
+    PromptLayout after = before.edited(text + u" more"_s, { text.size(), 0, 5 });
+    EXPECT_GT(after.lineStart(after.lineCount() - 1), text.size() - 2 * PromptPiece::longest);
+    for (int step = 0; step < 3; ++step)
+        after.step();
 
-    EXPECT_GE(after.lineCount(), before.lineCount() - 3);
-    EXPECT_EQ(starts(complete(after)), starts(fresh(text + u" more"_s)));
+    EXPECT_TRUE(after.isComplete());
+    EXPECT_EQ(starts(after), starts(fresh(text + u" more"_s)));
 }
 
-TEST(PromptLayoutTest, takesOverNothingForAnotherTypography)
+TEST(PromptLayoutTest, seesThatAPieceNoLongerEndsTheText)
 {
-    const PromptLayout before = fresh(u"one\ntwo\nthree"_s);
+    const QString text(PromptPiece::longest, u'm');
 
-    const PromptLayout after(u"one\ntwo\nthree"_s, typography(100), before);
+    const PromptLayout after = fresh(text).edited(text + u"mm"_s, { text.size(), 0, 2 });
 
-    EXPECT_EQ(after.lineCount(), 0);
-    EXPECT_FALSE(after.isComplete());
+    EXPECT_EQ(texts(complete(after)).join(QString()), text + u"mm"_s);
+}
+
+TEST(PromptLayoutTest, takesNothingOverFromATextOfAnotherLength)
+{
+    const PromptLayout after = fresh(u"one\ntwo"_s).edited(u"something else"_s, { 5, 1, 1 });
+
+    EXPECT_EQ(texts(complete(after)), QStringList({ u"something else"_s }));
 }
 
 TEST(PromptLayoutTest, seesALineFeedThatJoinsACarriageReturn)
 {
     const PromptLayout before = fresh(u"a\rb"_s);
-    const PromptLayout joined = complete({ u"a\r\nb"_s, typography(), before });
+    const PromptLayout joined = complete(before.edited(u"a\r\nb"_s, { 2, 0, 1 }));
     EXPECT_EQ(texts(joined).join(u'|'), u"a|b"_s);
 
-    const PromptLayout parted = complete({ u"a\r-\nb"_s, typography(), joined });
+    const PromptLayout parted = complete(joined.edited(u"a\r-\nb"_s, { 2, 0, 1 }));
     EXPECT_EQ(texts(parted).join(u'|'), u"a|-|b"_s);
 }
 
@@ -342,10 +408,12 @@ TEST(PromptLayoutTest, takesOverLinesWithoutADifference)
 
     for (int edit = 0; edit < 400; ++edit) {
         const qsizetype at = static_cast<qsizetype>(random()) % (text.size() + 1);
-        text.remove(at, static_cast<qsizetype>(random() % 8));
-        if (random() % 4 != 0)
-            text.insert(at, scraps[static_cast<qsizetype>(random()) % scraps.size()]);
-        layout = PromptLayout(text, typography(), layout);
+        const qsizetype removed = std::min<qsizetype>(random() % 8, text.size() - at);
+        const QString inserted = random() % 4 == 0
+            ? QString()
+            : scraps[static_cast<qsizetype>(random()) % scraps.size()];
+        text.replace(at, removed, inserted);
+        layout = layout.edited(text, { at, removed, inserted.size() });
         for (auto steps = random() % 6; steps > 0; --steps)
             layout.step();
         if (edit % 8 != 0)

@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/Text/PromptLines.h"
 
 #include "Orvello/Prompting/Text/PromptFont.h"
+#include "Tests/Prompting/Text/ShownText.h"
 #include "Tests/Support/ManualTimeSource.h"
 
 #include <QFontInfo>
@@ -51,7 +52,6 @@ protected:
 
     PromptLinesTest()
     {
-        lines.setFontFamily(PromptFont::family());
         lines.setFontSize(30);
         lines.setTextWidth(600);
         lines.setVisibleHeight(height);
@@ -71,8 +71,9 @@ protected:
         std::map<double, QString> result;
         for (const PromptLine& line : lines.visibleLines()) {
             const double y = line.baseline * lines.shownTypography().scale - lines.visibleTop();
-            if (!line.text.isEmpty() && y > 0 && y < height)
-                result.emplace(y, line.text);
+            const QString text = Testing::shownText(line);
+            if (!text.isEmpty() && y > 0 && y < height)
+                result.emplace(y, text);
         }
         return result;
     }
@@ -261,7 +262,7 @@ TEST_F(PromptLinesTest, showsEveryLineAtEveryHeight)
             lines.setVisibleTop(top);
             QStringList texts;
             for (const PromptLine& line : lines.visibleLines())
-                texts.append(line.text);
+                texts.append(Testing::shownText(line));
             for (int line = static_cast<int>(top / pitch); line * pitch < top + visible; ++line)
                 ASSERT_TRUE(texts.contains(u"line %1"_s.arg(line))) << visible << ' ' << top;
         }
@@ -404,7 +405,8 @@ TEST_F(PromptLinesTest, showsWhatIsTypedIntoALongTextAtOnce)
     lines.setVisibleTop(4000 * pitch);
 
     const double before = time.worked();
-    lines.setText(QString(text).replace(u"line 4001\n"_s, u"typed\n"_s));
+    const qsizetype place = text.indexOf(u"line 4001\n"_s);
+    lines.edit(QString(text).replace(place, 9, u"typed"_s), { place, 9, 5 });
 
     EXPECT_EQ(shownTexts()[1], u"typed"_s);
     EXPECT_TRUE(lines.isLaidOut());
@@ -418,10 +420,42 @@ TEST_F(PromptLinesTest, announcesNoLineForAChangeElsewhere)
     finish();
     const QSignalSpy visibleLinesChanged(&lines, &PromptLines::visibleLinesChanged);
 
-    lines.setText(text + u"!"_s);
+    lines.edit(text + u"!"_s, { text.size(), 0, 1 });
 
     EXPECT_TRUE(lines.isLaidOut());
     EXPECT_EQ(visibleLinesChanged.count(), 0);
+}
+
+TEST_F(PromptLinesTest, showsTheSameLinesWhenTheTextAboveThemGrows)
+{
+    const QString text = numbered(1000);
+    lines.setText(text);
+    finish();
+    lines.setVisibleTop(20000);
+    const QStringList before = shownTexts();
+    const double wholeHeight = lines.contentHeight();
+
+    lines.edit(u"new\n"_s + text, { 0, 0, 4 });
+    lines.setVisibleTop(20000 + lines.contentHeight() - wholeHeight);
+    EXPECT_EQ(shownTexts(), before);
+
+    lines.edit(text, { 0, 4, 0 });
+    lines.setVisibleTop(20000);
+    EXPECT_EQ(shownTexts(), before);
+}
+
+TEST_F(PromptLinesTest, takesAnEditBeforeItsSizeIsKnown)
+{
+    PromptLines bare(time);
+    bare.setText(u"Hello"_s);
+    bare.edit(u"Hello!"_s, { 5, 0, 1 });
+
+    bare.setFontSize(30);
+    bare.setTextWidth(600);
+    bare.setVisibleHeight(height);
+
+    ASSERT_EQ(bare.visibleLines().size(), 1U);
+    EXPECT_EQ(Testing::shownText(bare.visibleLines().front()), u"Hello!"_s);
 }
 
 TEST_F(PromptLinesTest, survivesChangesOfEveryKindInTheMiddleOfALayout)
@@ -439,7 +473,6 @@ TEST_F(PromptLinesTest, survivesChangesOfEveryKindInTheMiddleOfALayout)
     finish();
 
     PromptLines afresh(time);
-    afresh.setFontFamily(PromptFont::family());
     afresh.setFontSize(64);
     afresh.setTextWidth(100);
     afresh.setText(numbered(2001, u"other"_s));
@@ -464,19 +497,18 @@ TEST_F(PromptLinesTest, announcesNothingThatDidNotChange)
 {
     lines.setText(u"Hello"_s);
     const QSignalSpy textChanged(&lines, &PromptLines::textChanged);
-    const QSignalSpy typographyChanged(&lines, &PromptLines::typographyChanged);
-    const QSignalSpy visiblePartChanged(&lines, &PromptLines::visiblePartChanged);
+    const QSignalSpy visibleLinesChanged(&lines, &PromptLines::visibleLinesChanged);
+    const QSignalSpy contentHeightChanged(&lines, &PromptLines::contentHeightChanged);
 
     lines.setText(u"Hello"_s);
-    lines.setFontFamily(PromptFont::family());
     lines.setFontSize(30);
     lines.setTextWidth(600);
     lines.setVisibleTop(0);
     lines.setVisibleHeight(height);
 
     EXPECT_EQ(textChanged.count(), 0);
-    EXPECT_EQ(typographyChanged.count(), 0);
-    EXPECT_EQ(visiblePartChanged.count(), 0);
+    EXPECT_EQ(visibleLinesChanged.count(), 0);
+    EXPECT_EQ(contentHeightChanged.count(), 0);
 }
 
 TEST_F(PromptLinesTest, leavesNoCallBehind)

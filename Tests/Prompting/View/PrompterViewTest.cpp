@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Orvello/Prompting/View/PromptText.h"
+#include "Tests/Prompting/Text/ShownText.h"
 #include "Tests/Support/PrompterServices.h"
 
 #include <QFontInfo>
@@ -77,7 +78,7 @@ protected:
         const PromptTypography& typography = lines().shownTypography();
         const QFontMetricsF metrics(typography.font);
         for (const PromptLine& line : lines().visibleLines()) {
-            if (line.text == text)
+            if (Testing::shownText(line) == text)
                 return { (item.width() - typography.width) / 2,
                     line.baseline - metrics.ascent() - lines().visibleTop(), typography.width,
                     std::ceil(metrics.ascent() + metrics.descent()) };
@@ -253,6 +254,16 @@ TEST_F(PrompterViewTest, takesOverAChangedText)
 
     EXPECT_TRUE(placeOfLine(u"Another"_s).isValid());
     EXPECT_FALSE(placeOfLine(u"One"_s).isValid());
+}
+
+TEST_F(PrompterViewTest, showsALetterThatIsTyped)
+{
+    services.library.editActive(3, 0, u"s"_s);
+    Testing::drainEvents();
+
+    EXPECT_TRUE(placeOfLine(u"Ones"_s).isValid());
+    EXPECT_TRUE(placeOfLine(u"Two"_s).isValid());
+    EXPECT_EQ(lines().text(), u"Ones\nTwo\nThree"_s);
 }
 
 TEST_F(PrompterViewTest, showsTheCountdownInTheMiddle)

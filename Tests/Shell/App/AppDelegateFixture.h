@@ -31,11 +31,14 @@ protected:
     void construct(const QStringList& arguments = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            platform,
-            [this](const ShellWindows::Services&) {
+            AppDelegate::Platforms { platform, platform, platform },
+            [this](const ShellWindows::Services& services) {
+                m_settings = &services.settings;
+                m_library = &services.library;
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::fromArguments(arguments));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+        platform.journal.clear();
     }
 
     void launch(const QStringList& arguments = {})
@@ -70,8 +73,9 @@ protected:
         Testing::drainEvents();
     }
 
-    SettingsStore& settings() { return SettingsStore::shared(); }
-    LibraryStore& library() { return LibraryStore::shared(); }
+    /// The delegate's own, once launched.
+    SettingsStore& settings() const { return *m_settings; }
+    LibraryStore& library() const { return *m_library; }
 
     /// The engine that moves the prompter's text: the view is told which.
     ScrollEngine& engine() const
@@ -106,6 +110,10 @@ protected:
     Testing::FakePlatform platform;
     Testing::FakeShellWindows::State windows;
     std::unique_ptr<AppDelegate> delegate;
+
+private:
+    SettingsStore* m_settings = nullptr;
+    LibraryStore* m_library = nullptr;
 };
 
 } // namespace Orvello

@@ -46,7 +46,7 @@ const Lines statusItemAndKeys {
 };
 const Lines signalHandlers = [] {
     Lines lines;
-    for (const int number : { SIGUSR1, SIGUSR2, SIGTERM, SIGINT })
+    for (const int number : { SIGUSR1, SIGUSR2 })
         lines.push_back("signal " + std::to_string(number) + " handled");
     return lines;
 }();
@@ -83,14 +83,14 @@ protected:
         "log STEALTH ON wid=42 fresh=1 mode=both sckExcludeApplied=0",
         "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=0 sckExclude=0",
         "windows made ready" };
-    const Lines panelShown { "panel ordered front",
+    const Lines panelShown { "panel shown",
         "log STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0" };
     const Lines capturablePanelMade { "panel made", "with the icon set",
         "panel hidden from captures", "panel capturable",
         "log STEALTH OFF wid=42 fresh=1 mode=both sckExcludeApplied=0",
         "log PANEL_UP frame={{360, 694}, {720, 200}} sharing=1 sckExclude=0",
         "windows made ready" };
-    const Lines capturablePanelShown { "panel ordered front",
+    const Lines capturablePanelShown { "panel shown",
         "log STEALTH OFF wid=42 fresh=0 mode=both sckExcludeApplied=0" };
     const Lines tourShown { "onboarding window made", "application activated",
         "onboarding window in front" };
@@ -182,7 +182,7 @@ TEST_F(AppDelegateTest, showsThePanelWhenTheTourIsFinished)
     windows.finishOnboarding();
 
     EXPECT_TRUE(platform.panel->isVisible());
-    EXPECT_THAT(platform.journal, Contains("panel ordered front"));
+    EXPECT_THAT(platform.journal, Contains("panel shown"));
     EXPECT_EQ(windows.openOnboardings, 1) << "the window is still closing";
     Testing::drainEvents();
     EXPECT_EQ(windows.openOnboardings, 0);
@@ -218,7 +218,7 @@ TEST_F(AppDelegateTest, neverHidesThePanelFromCapturesWithNoStealth)
         settings().setStealthMode(wanted);
         Testing::drainEvents();
 
-        EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::ReadOnly);
+        EXPECT_FALSE(platform.panel->hidden);
     }
 }
 
@@ -229,7 +229,7 @@ TEST_F(AppDelegateTest, knowsItsSwitchesOnlyAsWholeArguments)
     EXPECT_FALSE(settings().voiceFollow());
     EXPECT_FALSE(engine().isRunning());
     EXPECT_TRUE(platform.panel->isVisible());
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    EXPECT_TRUE(platform.panel->hidden);
 }
 
 // The subscriptions
@@ -237,12 +237,12 @@ TEST_F(AppDelegateTest, knowsItsSwitchesOnlyAsWholeArguments)
 TEST_F(AppDelegateTest, followsTheStealthSetting)
 {
     launchAndSettle();
-    ASSERT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    ASSERT_TRUE(platform.panel->hidden);
 
     settings().setStealthMode(false);
     Testing::drainEvents();
 
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::ReadOnly);
+    EXPECT_FALSE(platform.panel->hidden);
 }
 
 TEST_F(AppDelegateTest, startsAndStopsListeningWithTheVoiceSetting)
@@ -366,6 +366,31 @@ TEST_F(AppDelegateTest, importsTheDeckOfTheEnvironment)
     EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
 }
 
+TEST_F(AppDelegateTest, importsTheDecksOfTheCommandLine)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.pptx"_s);
+    QFile deck(path);
+    ASSERT_TRUE(deck.open(QIODevice::WriteOnly));
+    deck.write(Testing::DeckBuilder().slide("Intro", "Hello all").build());
+    deck.close();
+
+    launchAndSettle({ path });
+
+    EXPECT_EQ(library().activeScript()->title, u"talk");
+}
+
+TEST_F(AppDelegateTest, opensTheWindowsOfTheCommandLine)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+
+    launchAndSettle({ u"--scripts"_s, u"--settings"_s, u"--toggle"_s });
+
+    EXPECT_THAT(platform.journal, Contains("library window in front"));
+    EXPECT_THAT(platform.journal, Contains("settings window in front"));
+    EXPECT_TRUE(engine().isRunning());
+}
+
 // Addresses
 
 TEST_F(AppDelegateTest, logsAnAddressOfBeforeTheLaunchOnce)
@@ -393,11 +418,24 @@ TEST_F(AppDelegateTest, logsAnAddressOfAfterTheLaunchAtOnce)
 
 class StartedAgainTest : public AppDelegateFixture {
 protected:
-    void startAgain(const QStringList& arguments = {})
+    void startAgain(const QStringList& arguments = {}, const QVariantMap& environment = {})
     {
-        delegate->applicationStartedAgain(LaunchOptions::fromArguments(arguments));
+        delegate->applicationStartedAgain(
+            LaunchOptions::of({ arguments, folder.path(), environment }),
+            [this](const QStringList& refusals) { answers.append(refusals); });
         Testing::drainEvents();
     }
+
+    QString makeDeck(const QString& name) const
+    {
+        QFile deck(folder.filePath(name));
+        EXPECT_TRUE(deck.open(QIODevice::WriteOnly));
+        deck.write(Testing::DeckBuilder().slide("Intro", "Hello all").build());
+        return deck.fileName();
+    }
+
+    const QTemporaryDir folder; ///< Where the later starts happen.
+    QList<QStringList> answers;
 };
 
 TEST_F(StartedAgainTest, opensTheMenu)
@@ -416,7 +454,7 @@ TEST_F(StartedAgainTest, opensTheMenuForASwitchThatComesTooLate)
     startAgain({ u"--no-stealth"_s });
 
     EXPECT_EQ(windows.openedMenus, 1);
-    EXPECT_EQ(platform.panel->sharingType(), NativePanel::SharingType::None);
+    EXPECT_TRUE(platform.panel->hidden);
 }
 
 TEST_F(StartedAgainTest, leavesItToTheLaunchToShowWhatThereIsToSee)
@@ -454,7 +492,8 @@ TEST_F(StartedAgainTest, keepsTheSwitchesOfAStartInTheMidstOfTheLaunch)
 {
     construct();
     platform.panelMade = [this] {
-        delegate->applicationStartedAgain(LaunchOptions::fromArguments({ u"--onboarding"_s }));
+        delegate->applicationStartedAgain(
+            LaunchOptions::of({ { u"--onboarding"_s }, {}, {} }), [](const QStringList&) {});
     };
 
     delegate->applicationDidFinishLaunching();
@@ -489,7 +528,108 @@ TEST_F(StartedAgainTest, doesWhatTheSwitchesAskFor)
     EXPECT_EQ(windows.openedMenus, 0);
 }
 
+TEST_F(StartedAgainTest, opensTheWindowsAndTogglesTheScrolling)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+    launchAndSettle();
+    platform.journal.clear();
+
+    startAgain({ u"--toggle"_s, u"--scripts"_s, u"--settings"_s });
+    EXPECT_TRUE(engine().isRunning());
+    startAgain({ u"--toggle"_s });
+    EXPECT_FALSE(engine().isRunning());
+
+    EXPECT_THAT(platform.journal, Contains("library window in front"));
+    EXPECT_THAT(platform.journal, Contains("settings window in front"));
+    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_THAT(answers, ElementsAre(IsEmpty(), IsEmpty()));
+}
+
+TEST_F(StartedAgainTest, importsTheDecks)
+{
+    makeDeck(u"first.pptx"_s);
+    makeDeck(u"second.pptx"_s);
+    launchAndSettle();
+
+    startAgain({ u"second.pptx"_s }, { { u"ORVELLO_IMPORT_PPTX"_s, u"first.pptx"_s } });
+
+    EXPECT_EQ(library().scripts()[0].title, u"second");
+    EXPECT_EQ(library().scripts()[1].title, u"first");
+    EXPECT_EQ(library().activeScript()->title, u"second");
+    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_THAT(answers, ElementsAre(IsEmpty()));
+}
+
+TEST_F(StartedAgainTest, answersForADeckThatCannotBeReadAndDoesNotScroll)
+{
+    platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
+    QFile(folder.filePath(u"broken.pptx"_s)).open(QIODevice::WriteOnly);
+    launchAndSettle();
+
+    startAgain({ u"--autostart"_s }, { { u"ORVELLO_IMPORT_PPTX"_s, u"broken.pptx"_s } });
+
+    EXPECT_FALSE(engine().isRunning());
+    EXPECT_EQ(
+        logged("IMPORT_PPTX failed: The file could not be opened as a PowerPoint package."), 1);
+    EXPECT_THAT(answers,
+        ElementsAre(ElementsAre(folder.filePath(u"broken.pptx"_s)
+            + u": The file could not be opened as a PowerPoint package."_s)));
+}
+
+TEST_F(StartedAgainTest, answersForWhatCountsOnlyAtTheLaunch)
+{
+    launchAndSettle();
+
+    startAgain({ u"--no-stealth"_s, u"-textColorName"_s, u"Yellow"_s, u"--voice"_s },
+        { { u"ORVELLO_STEALTH"_s, u"shape"_s } });
+
+    const QString reason = u" counts only at the launch: quit the Orvello that runs first"_s;
+    EXPECT_THAT(answers,
+        ElementsAre(ElementsAre(u"--no-stealth"_s + reason, u"-textColorName Yellow"_s + reason,
+            u"ORVELLO_STEALTH"_s + reason)));
+    EXPECT_TRUE(settings().voiceFollow());
+}
+
+TEST_F(StartedAgainTest, refusesNothingThatIsSoAlready)
+{
+    platform.userDefaultsFake.stored.insert(u"textColorName"_s, u"Yellow"_s);
+    launchAndSettle({ u"--no-stealth"_s });
+
+    startAgain({ u"--no-stealth"_s, u"-textColorName"_s, u"Yellow"_s });
+
+    EXPECT_THAT(answers, ElementsAre(IsEmpty()));
+}
+
+TEST_F(StartedAgainTest, answersTheEarlyStartsWhenTheLaunchEnds)
+{
+    construct();
+    startAgain({ u"--no-stealth"_s });
+    EXPECT_THAT(answers, IsEmpty());
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_THAT(answers, ElementsAre(::testing::SizeIs(1)));
+}
+
 // Signals
+
+TEST_F(AppDelegateTest, handlesTheSignalsThatEndItBeforeTheLaunch)
+{
+    platform.processSignalsFake.ignored = { SIGHUP };
+
+    construct();
+
+    EXPECT_TRUE(platform.processSignalsFake.isHandled(SIGTERM));
+    EXPECT_TRUE(platform.processSignalsFake.isHandled(SIGINT));
+    EXPECT_FALSE(platform.processSignalsFake.isHandled(SIGHUP)) << "what nohup started";
+}
+
+TEST_F(AppDelegateTest, endsAtAHangUp)
+{
+    construct();
+
+    EXPECT_TRUE(platform.processSignalsFake.isHandled(SIGHUP));
+}
 
 TEST_F(AppDelegateTest, togglesStealthAtTheFirstUserSignal)
 {
@@ -547,6 +687,19 @@ TEST_F(AppDelegateTest, runsEachHotKey)
     EXPECT_FALSE(platform.panel->isVisible());
     press(HotKey::keyH);
     EXPECT_TRUE(platform.panel->isVisible());
+}
+
+TEST_F(AppDelegateTest, tellsTheDesktopWhatEachKeyDoes)
+{
+    launchAndSettle();
+    QStringList told;
+    for (const HotKeyPurpose& purpose : platform.hotKeysFake.purposes)
+        told.append(purpose.name + u": "_s + purpose.description);
+
+    EXPECT_THAT(told,
+        ElementsAre(u"toggle: Start or pause scrolling"_s, u"faster: Scroll faster"_s,
+            u"slower: Scroll slower"_s, u"restart: Go back to the top of the script"_s,
+            u"hide: Show or hide the prompter"_s));
 }
 
 TEST_F(AppDelegateTest, keepsTheSpeedKeysInsideTheirBounds)

@@ -42,12 +42,14 @@ TEST(CommandTest, saysWhatEachKeyDoes)
     QStringList lines;
     for (const Command& command : Commands::all()) {
         if (command.key)
-            lines.append(Commands::keyLabel(command, keys) + u' ' + Commands::description(command));
+            lines.append(
+                Commands::keyLabel(command, keys) + u' ' + Commands::purpose(command).description);
     }
 
     EXPECT_THAT(lines,
-        ElementsAre(u"⌥⌘P Start / pause scrolling"_s, u"⌥⌘↑ Speed up"_s, u"⌥⌘↓ Speed down"_s,
-            u"⌥⌘R Back to top"_s, u"⌥⌘H Show / hide prompter"_s));
+        ElementsAre(u"⌥⌘P Start or pause scrolling"_s, u"⌥⌘↑ Scroll faster"_s,
+            u"⌥⌘↓ Scroll slower"_s, u"⌥⌘R Go back to the top of the script"_s,
+            u"⌥⌘H Show or hide the prompter"_s));
 }
 
 } // namespace

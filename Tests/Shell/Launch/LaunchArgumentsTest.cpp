@@ -59,5 +59,24 @@ TEST(LaunchArgumentsTest, keepTheLastValueOfARepeatedKey)
         (QVariantMap { { u"speed"_s, u"50"_s } }));
 }
 
+TEST(LaunchArgumentsTest, tellOptionsFromOperands)
+{
+    const LaunchArguments::Parts parts = LaunchArguments::parts(
+        { u"--voice"_s, u"talk.pptx"_s, u"-fontSize"_s, u"--x"_s, u"-5"_s, u"-"_s });
+
+    EXPECT_EQ(parts.options, (QStringList { u"--voice"_s, u"-fontSize"_s, u"--x"_s }));
+    EXPECT_EQ(parts.operands, (QStringList { u"talk.pptx"_s, u"-5"_s, u"-"_s }));
+}
+
+TEST(LaunchArgumentsTest, takeEverythingAfterTwoDashesForOperands)
+{
+    const LaunchArguments::Parts parts = LaunchArguments::parts(
+        { u"-speed"_s, u"--"_s, u"--voice"_s, u"-speed"_s, u"40"_s, u"--"_s });
+
+    EXPECT_EQ(parts.options, (QStringList { u"-speed"_s }));
+    EXPECT_EQ(parts.operands, (QStringList { u"--voice"_s, u"-speed"_s, u"40"_s, u"--"_s }));
+    EXPECT_TRUE(parts.preferences.isEmpty());
+}
+
 } // namespace
 } // namespace Orvello

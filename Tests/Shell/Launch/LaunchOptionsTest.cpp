@@ -1,5 +1,7 @@
 #include "Orvello/Shell/Launch/LaunchOptions.h"
 
+#include <QTemporaryDir>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,11 +10,28 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
-TEST(LaunchOptionsTest, knowsEachSwitch)
+class LaunchOptionsTest : public ::testing::Test {
+protected:
+    LaunchOptions of(const QStringList& arguments) const
+    {
+        return LaunchOptions::of({ arguments, folder.path(), {} });
+    }
+
+    void makeFile(const QString& name) const
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    const QTemporaryDir folder; ///< Where the program is started.
+};
+
+TEST_F(LaunchOptionsTest, knowsEachSwitch)
 {
-    const auto with = [](const QString& argument) {
-        return LaunchOptions::fromArguments({ u"-speed"_s, u"40"_s, argument });
+    const auto with = [this](const QString& argument) {
+        return of({ u"-speed"_s, u"40"_s, argument });
     };
 
     EXPECT_TRUE(with(u"--help"_s).help);
@@ -22,39 +41,107 @@ TEST(LaunchOptionsTest, knowsEachSwitch)
     EXPECT_TRUE(with(u"--check-updates"_s).checkUpdates);
     EXPECT_TRUE(with(u"--voice"_s).voice);
     EXPECT_TRUE(with(u"--autostart"_s).autostart);
+    EXPECT_TRUE(with(u"--scripts"_s).scripts);
+    EXPECT_TRUE(with(u"--settings"_s).settings);
+    EXPECT_TRUE(with(u"--toggle"_s).toggle);
 }
 
-TEST(LaunchOptionsTest, asksForNothingByItself)
-{
-    const LaunchOptions options = LaunchOptions::fromArguments({ u"--voice=1"_s, u"-voice"_s });
+TEST_F(LaunchOptionsTest, asksForNothingByItself) { EXPECT_EQ(of({}), LaunchOptions()); }
 
-    EXPECT_FALSE(options.help || options.version || options.noStealth || options.onboarding
-        || options.checkUpdates || options.voice || options.autostart);
-    EXPECT_TRUE(options.urls.isEmpty());
+TEST_F(LaunchOptionsTest, findsFaultWithAnUnknownOptionAndSuggestsTheNearest)
+{
+    const LaunchOptions options = of({ u"--voice=1"_s, u"-voice"_s, u"--frobnicate"_s });
+
+    EXPECT_FALSE(options.voice);
+    EXPECT_THAT(options.mistakes,
+        ElementsAre(u"unknown option --voice=1; did you mean --voice?"_s,
+            u"unknown option -voice; did you mean --voice?"_s, u"unknown option --frobnicate"_s));
 }
 
-TEST(LaunchOptionsTest, tellsOfEachSwitchAndVariableInTheHelp)
+TEST_F(LaunchOptionsTest, findsFaultWithAPreferenceWithoutAValue)
 {
-    for (const QString& name : { u"--help"_s, u"--version"_s, u"--no-stealth"_s, u"--onboarding"_s,
-             u"--check-updates"_s, u"--voice"_s, u"--autostart"_s, u"ORVELLO_IMPORT_PPTX"_s,
-             u"ORVELLO_ONBOARDING_PAGE"_s, u"ORVELLO_STEALTH"_s, u"SIGUSR1"_s, u"SIGUSR2"_s })
-        EXPECT_TRUE(LaunchOptions::helpText().contains(name)) << qPrintable(name);
+    EXPECT_THAT(of({ u"-fontSize"_s, u"--voice"_s }).mistakes,
+        ElementsAre(u"the preference -fontSize lacks its value"_s));
 }
 
-TEST(LaunchOptionsTest, takesAddressesThatAreNoValues)
+TEST_F(LaunchOptionsTest, takesPairsForPreferences)
 {
-    EXPECT_THAT(
-        LaunchOptions::fromArguments({ u"orvello:one"_s, u"--voice"_s, u"-OrvelloAppcastURL"_s,
-                                         u"https://example.com/feed"_s, u"orvello://two"_s })
-            .urls,
+    const LaunchOptions options = of({ u"-speed"_s, u"40"_s, u"-textColorName"_s, u"Yellow"_s });
+
+    EXPECT_EQ(options.preferences,
+        (QVariantMap { { u"speed"_s, u"40"_s }, { u"textColorName"_s, u"Yellow"_s } }));
+    EXPECT_THAT(options.mistakes, IsEmpty());
+}
+
+TEST_F(LaunchOptionsTest, takesDecksByTheirPathsAndAddresses)
+{
+    makeFile(u"talk.pptx"_s);
+    makeFile(u"Große Reden.PPTX"_s);
+    const QString talk = folder.filePath(u"talk.pptx"_s);
+
+    const LaunchOptions options = of({ u"talk.pptx"_s, u"./talk.pptx"_s, talk,
+        QUrl::fromLocalFile(talk).toString(), u"file://localhost"_s + talk,
+        QUrl::fromLocalFile(folder.filePath(u"Große Reden.PPTX"_s)).toString(QUrl::FullyEncoded) });
+
+    EXPECT_THAT(options.files,
+        ElementsAre(talk, talk, talk, talk, talk, folder.filePath(u"Große Reden.PPTX"_s)));
+    EXPECT_THAT(options.mistakes, IsEmpty());
+}
+
+TEST_F(LaunchOptionsTest, takesAFileForAFileWhateverItLooksLike)
+{
+    makeFile(u"talk:2.pptx"_s);
+    makeFile(u"--voice.pptx"_s);
+
+    const LaunchOptions options = of({ u"talk:2.pptx"_s, u"--"_s, u"--voice.pptx"_s });
+
+    EXPECT_THAT(options.files,
+        ElementsAre(folder.filePath(u"talk:2.pptx"_s), folder.filePath(u"--voice.pptx"_s)));
+    EXPECT_THAT(options.mistakes, IsEmpty());
+}
+
+TEST_F(LaunchOptionsTest, findsFaultWithWhatIsNoDeck)
+{
+    makeFile(u"notes.txt"_s);
+
+    const LaunchOptions options = of({ u"notes.txt"_s, u"gone.pptx"_s, u""_s, u"-"_s, u"12:30"_s,
+        u"https://example.com/talk.pptx"_s, u"file://server/talk.pptx"_s });
+
+    EXPECT_THAT(options.files, IsEmpty());
+    EXPECT_THAT(options.mistakes,
+        ElementsAre(u"notes.txt is not a PowerPoint deck (.pptx)"_s,
+            u"there is no file \"gone.pptx\""_s, u"there is no file \"\""_s,
+            u"there is no file \"-\""_s, u"there is no file \"12:30\""_s,
+            u"https://example.com/talk.pptx is no address that Orvello opens"_s,
+            u"file://server/talk.pptx is no address that Orvello opens"_s));
+}
+
+TEST_F(LaunchOptionsTest, takesItsOwnAddressesThatAreNoValues)
+{
+    EXPECT_THAT(of({ u"orvello:one"_s, u"--voice"_s, u"-OrvelloAppcastURL"_s,
+                       u"https://example.com/feed"_s, u"orvello://two"_s })
+                    .urls,
         ElementsAre(QUrl(u"orvello:one"_s), QUrl(u"orvello://two"_s)));
 }
 
-TEST(LaunchOptionsTest, takesNoFileForAnAddress)
+TEST_F(LaunchOptionsTest, findsTheDeckOfTheVariableInTheFolderOfTheStart)
 {
-    EXPECT_TRUE(
-        LaunchOptions::fromArguments({ u"talk.pptx"_s, u"/tmp/a:b"_s, u"12:30"_s, u":x"_s, u""_s })
-            .urls.isEmpty());
+    const LaunchOptions options = LaunchOptions::of(
+        { {}, u"/home/ada"_s, { { u"ORVELLO_IMPORT_PPTX"_s, u"talks/talk.pptx"_s } } });
+
+    EXPECT_EQ(options.importedPath, u"/home/ada/talks/talk.pptx");
+}
+
+TEST_F(LaunchOptionsTest, remembersTheProductsVariablesOfItsStart)
+{
+    qputenv("ORVELLO_STEALTH", "flag");
+
+    const ProgramStart start = LaunchOptions::thisStart({ u"--voice"_s });
+    qunsetenv("ORVELLO_STEALTH");
+
+    EXPECT_EQ(start.arguments, QStringList { u"--voice"_s });
+    EXPECT_EQ(start.directory, QDir::currentPath());
+    EXPECT_EQ(start.environment, (QVariantMap { { u"ORVELLO_STEALTH"_s, u"flag"_s } }));
 }
 
 } // namespace

@@ -44,8 +44,7 @@ protected:
     /// Starts the updater without letting the main loop turn.
     void startWithoutATurn(std::optional<QString> address = std::nullopt)
     {
-        const Appcast::Host host { u"57"_s, u"6.1.0"_s, u"linux"_s };
-        updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, host,
+        updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, u"57"_s,
             address.value_or(server.url(u"/feed"_s).toString()));
         controller.emplace(UpdateController::Services {
             *updater, defaults, [this] { desktop.activateApplication(); } });
@@ -95,10 +94,10 @@ TEST_F(AppcastUpdaterTest, offersANewerRelease)
 
 TEST_F(AppcastUpdaterTest, cannotCheckBeforeItIsStarted)
 {
-    updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop },
-        Appcast::Host { u"57"_s, u"6.1.0"_s, u"linux"_s }, u"https://example.com/feed"_s);
+    updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, u"57"_s,
+        u"https://example.com/feed"_s);
 
-    EXPECT_FALSE(updater->canCheckForUpdates());
+    EXPECT_FALSE(updater->canCheck());
 }
 
 TEST_F(AppcastUpdaterTest, cannotCheckWhileItReadsTheFeed)
@@ -106,14 +105,14 @@ TEST_F(AppcastUpdaterTest, cannotCheckWhileItReadsTheFeed)
     forbidAutomaticChecks();
     server.serve(u"/feed"_s, feed("58", "2.1"));
     start();
-    EXPECT_TRUE(updater->canCheckForUpdates());
-    EXPECT_EQ(updater->lastUpdateCheckDate(), std::nullopt);
+    EXPECT_TRUE(updater->canCheck());
+    EXPECT_EQ(updater->lastCheck(), std::nullopt);
     QList<bool> announced;
-    updater->observeChecks([&] { announced.append(updater->canCheckForUpdates()); });
+    updater->observeChecks([&] { announced.append(updater->canCheck()); });
 
     controller->checkForUpdates();
-    EXPECT_FALSE(updater->canCheckForUpdates());
-    EXPECT_NEAR(updater->lastUpdateCheckDate()->unixSeconds(), time.date().unixSeconds(), 1e-3);
+    EXPECT_FALSE(updater->canCheck());
+    EXPECT_NEAR(updater->lastCheck()->unixSeconds(), time.date().unixSeconds(), 1e-3);
     ASSERT_TRUE(waitForLine("UPDATES found"));
 
     // While the user is asked, a check brings the question to the front.

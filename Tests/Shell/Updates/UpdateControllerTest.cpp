@@ -106,7 +106,7 @@ TEST_F(UpdateControllerTest, announcesAChangeThatTheUpdaterMade)
     controller.start();
     const QSignalSpy changed(&controller, &UpdateController::checksAutomaticallyChanged);
 
-    std::thread([this] { updater.setAutomaticallyChecksForUpdates(true); }).join();
+    std::thread([this] { updater.setOn(true); }).join();
 
     EXPECT_EQ(changed.count(), 0);
     Testing::drainEvents();

@@ -156,6 +156,17 @@ TEST_F(OnboardingWindowTest, saysEverythingOnTheLastPage)
     EXPECT_FALSE(showsText(view(), u"Continue"_s));
 }
 
+TEST_F(OnboardingWindowTest, showsTheKeysAsTheDesktopNamesThem)
+{
+    keys.assignedKeys().setTriggers({ { u"hide"_s, u"Press <Super><Alt>h"_s } });
+
+    openOn("2");
+
+    EXPECT_TRUE(showsText(view(), u"Press <Super><Alt>h"_s));
+    EXPECT_FALSE(showsText(view(), u"⌥⌘H"_s));
+    EXPECT_TRUE(showsText(view(), u"⌥⌘P"_s)) << "which the desktop leaves to the program";
+}
+
 TEST_F(OnboardingWindowTest, speaksOfZoomOnlyToThoseWhoHaveIt)
 {
     openOn("1");

@@ -9,6 +9,7 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -467,6 +468,30 @@ TEST_F(SettingsWindowTest, explainsEachSetting)
             << QString::fromUtf16(text).toStdString();
 }
 
+TEST_F(SettingsWindowTest, showsTheKeysAsTheDesktopNamesThem)
+{
+    keys.assignedKeys().setTriggers({ { u"toggle"_s, u"Press <Ctrl><Alt>space"_s },
+        { u"faster"_s, u"Meta+Up"_s }, { u"slower"_s, u"Meta+Down"_s } });
+
+    EXPECT_TRUE(showsText(view(), u"Press <Ctrl><Alt>space"_s));
+    EXPECT_FALSE(showsText(view(), u"⌥⌘P"_s));
+    EXPECT_TRUE(showsText(view(), u"Meta+Up  /  Meta+Down"_s));
+    EXPECT_TRUE(showsText(view(), u"⌥⌘H"_s)) << "which the desktop leaves to the program";
+}
+
+TEST_F(SettingsWindowTest, opensTheDesktopsOwnWindowForTheKeysWhereThereIsOne)
+{
+    const QSignalSpy requests(&keys.assignedKeys(), &AssignedKeys::configurationRequested);
+    EXPECT_EQ(controlNamed(view(), u"Change Shortcuts…"_s), nullptr);
+
+    keys.assignedKeys().setCanConfigure(true);
+    drainEvents();
+    QTest::qWait(50); // The row finds its place.
+    click(view(), control(u"Change Shortcuts…"_s));
+
+    EXPECT_EQ(requests.count(), 1);
+}
+
 TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
 {
     const QString warning
@@ -529,7 +554,7 @@ TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)
 
     click(view(), toggle);
     EXPECT_TRUE(updater.isAutomatic);
-    updater.setAutomaticallyChecksForUpdates(false);
+    updater.setOn(false);
     drainEvents();
     EXPECT_FALSE(toggle.property("checked").toBool());
 }

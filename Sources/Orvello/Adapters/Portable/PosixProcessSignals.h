@@ -8,6 +8,7 @@ namespace Orvello {
 /// system.
 class PosixProcessSignals final : public ProcessSignals {
 public:
+    bool isIgnored(int signal) const override;
     std::unique_ptr<Subscription> handle(int signal, std::function<void()> handler) override;
 };
 

@@ -10,11 +10,10 @@ QList<QRectF> QtScreens::frames() const
     const QScreen* main = QGuiApplication::primaryScreen();
     if (!main)
         return {};
-    const double mainHeight = main->geometry().height();
-    QList<QRectF> frames { turnedOver(main->geometry(), mainHeight) };
+    QList<QRectF> frames { main->geometry() };
     for (const QScreen* screen : QGuiApplication::screens()) {
         if (screen != main)
-            frames.append(turnedOver(screen->geometry(), mainHeight));
+            frames.append(screen->geometry());
     }
     return frames;
 }

@@ -9,9 +9,18 @@
 namespace Orvello::UuidText {
 
 /// Upper case, as in "E621E1F8-C36C-495A-93FC-0C247A3E6E5F".
-[[nodiscard]] QString format(const QUuid& uuid);
+[[nodiscard]] inline QString format(const QUuid& uuid)
+{
+    return uuid.toString(QUuid::WithoutBraces).toUpper();
+}
 
 /// Reads either case, and nothing but the 36 characters: no braces, no white space.
-[[nodiscard]] std::optional<QUuid> parse(QStringView text);
+[[nodiscard]] inline std::optional<QUuid> parse(const QString& text)
+{
+    const QUuid uuid = QUuid::fromString(text);
+    if (text.compare(uuid.toString(QUuid::WithoutBraces), Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    return uuid;
+}
 
 } // namespace Orvello::UuidText

@@ -1,7 +1,6 @@
 #include "Orvello/Library/Store/LibraryFile.h"
 
 #include "Orvello/Foundation/AtomicFile.h"
-#include "Orvello/Foundation/JsonReader.h"
 #include "Orvello/Library/Records/ScriptCoding.h"
 #include "Orvello/Platform/Early/Folders.h"
 
@@ -9,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <vector>
 
 namespace Orvello {
@@ -18,11 +16,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A thousand times what somebody has who writes a lot.
+constexpr qint64 largestFile = 1'000'000'000;
+
 QByteArray contents(const QString& path)
 {
     // A pipe or a device in the file's place could block the launch or never end.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > Json::maximumSize
+    if (!QFileInfo(path).isFile() || file.size() > largestFile
         || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
     return file.readAll();
@@ -47,14 +48,43 @@ QList<Script> LibraryFile::load()
     QList<Script> scripts
         = ScriptCoding::decode(contents(preparedPath())).value_or(QList<Script> {});
     // Now rather than at the first save, so that the first key press is as quick as any other.
-    encodeChanges(scripts);
+    encode(scripts);
     return scripts;
 }
 
 void LibraryFile::save(const QList<Script>& scripts)
 {
-    encodeChanges(scripts);
+    encode(scripts);
+    write();
+}
 
+void LibraryFile::save(const QList<Script>& scripts, const LibraryChange& change)
+{
+    switch (change.kind) {
+    case LibraryChange::Kind::Inserted:
+        m_encoded.insert(change.row, ScriptCoding::encode(scripts[change.row]));
+        break;
+    case LibraryChange::Kind::Removed:
+        m_encoded.removeAt(change.row);
+        break;
+    case LibraryChange::Kind::Edited:
+        m_encoded[change.row] = ScriptCoding::encode(scripts[change.row]);
+        break;
+    }
+    Q_ASSERT(m_encoded.size() == scripts.size());
+    write();
+}
+
+void LibraryFile::encode(const QList<Script>& scripts)
+{
+    m_encoded.clear();
+    m_encoded.reserve(scripts.size());
+    for (const Script& script : scripts)
+        m_encoded.append(ScriptCoding::encode(script));
+}
+
+void LibraryFile::write() const
+{
     std::vector<std::string_view> pieces;
     pieces.reserve(static_cast<std::size_t>(m_encoded.size()) * 2 + 2);
     pieces.emplace_back("[");
@@ -66,28 +96,6 @@ void LibraryFile::save(const QList<Script>& scripts)
     pieces.emplace_back("]");
 
     static_cast<void>(AtomicFile::replace(preparedPath(), pieces));
-}
-
-void LibraryFile::encodeChanges(const QList<Script>& scripts)
-{
-    // An edit, an insertion and a removal each leave a head and a tail of the list as they were.
-    const qsizetype shorter = std::min(scripts.size(), m_scripts.size());
-    qsizetype head = 0;
-    while (head < shorter && scripts[head] == m_scripts[head])
-        ++head;
-    qsizetype tail = 0;
-    while (tail < shorter - head
-        && scripts[scripts.size() - 1 - tail] == m_scripts[m_scripts.size() - 1 - tail])
-        ++tail;
-
-    QList<QByteArray> encoded = m_encoded.first(head);
-    encoded.reserve(scripts.size());
-    for (qsizetype i = head; i < scripts.size() - tail; ++i)
-        encoded.append(ScriptCoding::encode(scripts[i]));
-    encoded += m_encoded.last(tail);
-
-    m_encoded = std::move(encoded);
-    m_scripts = scripts;
 }
 
 } // namespace Orvello

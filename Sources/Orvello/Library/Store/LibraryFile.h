@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Records/LibraryChange.h"
 #include "Orvello/Library/Records/Script.h"
 
 #include <QByteArray>
@@ -10,7 +11,7 @@ class Folders;
 
 /// The library on disk: "scripts.json" in the product's own application-support folder, which is
 /// created with whatever is missing above it at each use. It is written at every key press, so the
-/// encoded form of each script is kept, and a save encodes only what changed since the last one.
+/// encoded form of each script is kept, and a save encodes only the script that changed.
 class LibraryFile {
 public:
     explicit LibraryFile(const Folders& folders); ///< `folders` must outlive the file.
@@ -21,12 +22,15 @@ public:
     /// Replaces the file's content. A failure leaves the old file as it is and is not reported.
     void save(const QList<Script>& scripts);
 
+    /// The same for scripts that differ by one change from those that were loaded or saved last.
+    void save(const QList<Script>& scripts, const LibraryChange& change);
+
 private:
     QString preparedPath() const;
-    void encodeChanges(const QList<Script>& scripts);
+    void encode(const QList<Script>& scripts);
+    void write() const;
 
     const Folders& m_folders;
-    QList<Script> m_scripts; ///< What `m_encoded` holds.
     QList<QByteArray> m_encoded; ///< The JSON of each script.
 };
 

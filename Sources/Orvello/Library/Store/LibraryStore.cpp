@@ -1,6 +1,7 @@
 #include "Orvello/Library/Store/LibraryStore.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
@@ -10,14 +11,13 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-LibraryStore* sharedStore = nullptr;
 
 const QString activeScriptIDKey = u"activeScriptID"_s;
 const QString singleScriptKey = u"script"_s; // The one script of the first versions.
@@ -30,18 +30,6 @@ QString withoutExtension(const QString& fileName)
 }
 
 } // namespace
-
-LibraryStore& LibraryStore::shared()
-{
-    Q_ASSERT(sharedStore);
-    return *sharedStore;
-}
-
-void LibraryStore::adoptShared(LibraryStore& store)
-{
-    Q_ASSERT(!sharedStore);
-    sharedStore = &store;
-}
 
 LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
     const Facts& facts, QObject* parent)
@@ -57,12 +45,6 @@ LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, const
         makeFirstScript(facts);
     if (!m_activeScriptID)
         assignActiveScriptID(firstScriptID());
-}
-
-LibraryStore::~LibraryStore()
-{
-    if (sharedStore == this)
-        sharedStore = nullptr;
 }
 
 void LibraryStore::makeFirstScript(const Facts& facts)
@@ -87,7 +69,7 @@ void LibraryStore::setActiveScriptID(std::optional<QUuid> id)
 
 bool LibraryStore::assignActiveScriptID(std::optional<QUuid> id)
 {
-    const bool isAnother = std::exchange(m_activeScriptID, id) != id;
+    const bool isAnother = assign(m_activeScriptID, id);
     persistActiveScriptID();
     return isAnother;
 }
@@ -124,23 +106,36 @@ QUuid LibraryStore::addOnTop(const Script& script)
 {
     m_scripts.prepend(script);
     const bool isNewlyActive = assignActiveScriptID(script.id);
-    m_file.save(m_scripts);
-
-    Q_EMIT scriptsChanged();
+    publish({ .kind = LibraryChange::Kind::Inserted, .row = 0, .id = script.id });
     if (isNewlyActive)
         Q_EMIT activeScriptIDChanged();
     return script.id;
 }
 
+void LibraryStore::publish(const LibraryChange& change)
+{
+    m_file.save(m_scripts, change);
+    Q_EMIT scriptsChanged(change);
+}
+
 void LibraryStore::remove(QUuid id)
 {
-    const bool isRemoved
-        = m_scripts.removeIf([id](const Script& script) { return script.id == id; }) > 0;
-    const bool isAnotherActive = m_activeScriptID == id && assignActiveScriptID(firstScriptID());
-    m_file.save(m_scripts);
+    const auto hasID = [id](const Script& script) { return script.id == id; };
+    const auto remaining = std::ranges::find_if_not(std::as_const(m_scripts), hasID);
+    const bool isAnotherActive = m_activeScriptID == id
+        && assignActiveScriptID(
+            remaining == m_scripts.cend() ? std::nullopt : std::optional(remaining->id));
 
-    if (isRemoved)
-        Q_EMIT scriptsChanged();
+    auto script = std::ranges::find_if(std::as_const(m_scripts), hasID);
+    if (script == m_scripts.cend())
+        m_file.save(m_scripts);
+    while (script != m_scripts.cend()) {
+        const qsizetype row = script - m_scripts.cbegin();
+        m_scripts.removeAt(row);
+        publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
+        script = std::ranges::find_if(std::as_const(m_scripts), hasID); // A file may have it twice.
+    }
+
     if (isAnotherActive)
         Q_EMIT activeScriptIDChanged();
 }
@@ -148,20 +143,49 @@ void LibraryStore::remove(QUuid id)
 void LibraryStore::updateActive(
     const std::optional<QString>& title, const std::optional<QString>& body)
 {
-    const std::optional<QUuid> target = m_activeScriptID ? m_activeScriptID : firstScriptID();
-    const auto script = std::ranges::find(
-        m_scripts, target, [](const Script& candidate) { return std::optional(candidate.id); });
-    if (script == m_scripts.end())
+    Script* const script = editedScript();
+    if (!script)
         return;
 
-    if (title)
+    LibraryChange change;
+    if (title) {
+        change.isOtherTitle = *title != script->title;
         script->title = *title;
-    if (body)
+    }
+    if (body && *body != script->body) {
+        change.body = TextEdit { 0, script->body.size(), body->size() };
         script->body = *body;
-    script->updatedAt = m_time.date();
-    m_file.save(m_scripts);
+    }
+    edit(*script, change);
+}
 
-    Q_EMIT scriptsChanged();
+void LibraryStore::editActive(qsizetype position, qsizetype removed, const QString& inserted)
+{
+    Script* const script = editedScript();
+    if (!script)
+        return;
+
+    Q_ASSERT(position >= 0 && removed >= 0 && position + removed <= script->body.size());
+    script->body.replace(position, removed, inserted);
+    edit(*script, { .body = TextEdit { position, removed, inserted.size() } });
+}
+
+/// The active script, or the first if none is active. Null if that id names no script.
+Script* LibraryStore::editedScript()
+{
+    const std::optional<QUuid> id = m_activeScriptID ? m_activeScriptID : firstScriptID();
+    const auto script = std::ranges::find(
+        m_scripts, id, [](const Script& candidate) { return std::optional(candidate.id); });
+    return script == m_scripts.end() ? nullptr : &*script;
+}
+
+void LibraryStore::edit(Script& script, LibraryChange change)
+{
+    script.updatedAt = m_time.date();
+    change.kind = LibraryChange::Kind::Edited;
+    change.row = &script - m_scripts.constData();
+    change.id = script.id;
+    publish(change);
 }
 
 Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
@@ -184,11 +208,6 @@ QUuid LibraryStore::addDeck(
     script.slides = slides;
     script.deckSource = source;
     return addOnTop(script);
-}
-
-QString LibraryStore::joinedBody(const QList<SlideNote>& slides)
-{
-    return Orvello::joinedBody(slides);
 }
 
 } // namespace Orvello

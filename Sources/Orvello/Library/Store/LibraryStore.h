@@ -19,20 +19,12 @@ class UserDefaults;
 /// before it is announced. Main thread.
 class LibraryStore final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QList<Orvello::Script> scripts READ scripts NOTIFY scriptsChanged FINAL)
-    Q_PROPERTY(std::optional<QUuid> activeScriptID READ activeScriptID WRITE setActiveScriptID
-            NOTIFY activeScriptIDChanged FINAL)
 
 public:
-    /// The process's one store; `adoptShared` names it once, at launch.
-    static LibraryStore& shared();
-    static void adoptShared(LibraryStore& store);
-
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
     LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
         const Facts& facts, QObject* parent = nullptr);
-    ~LibraryStore() override;
 
     const QList<Script>& scripts() const { return m_scripts; }
 
@@ -54,6 +46,9 @@ public:
     /// renewed in any case.
     void updateActive(const std::optional<QString>& title, const std::optional<QString>& body);
 
+    /// Replaces a part of that script's body. The part must be inside the body.
+    void editActive(qsizetype position, qsizetype removed, const QString& inserted);
+
     /// Adds a deck's speaker notes on top and makes them active. `source` names the deck; without
     /// one its file name does. On failure the library stays as it was.
     Result<QUuid, PptxImporter::ImportError> importPptx(
@@ -62,16 +57,16 @@ public:
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
-    /// The body of a deck script.
-    [[nodiscard]] static QString joinedBody(const QList<SlideNote>& slides);
-
 Q_SIGNALS:
-    void scriptsChanged();
+    void scriptsChanged(const Orvello::LibraryChange& change);
     void activeScriptIDChanged();
 
 private:
     void makeFirstScript(const Facts& facts);
     QUuid addOnTop(const Script& script);
+    Script* editedScript();
+    void edit(Script& script, LibraryChange change);
+    void publish(const LibraryChange& change);
     std::optional<QUuid> firstScriptID() const;
 
     /// Assigns and persists; says whether the id is another one than before.

@@ -2,8 +2,6 @@
 
 #include "Orvello/Library/Store/LibraryStore.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <utility>
 
@@ -35,33 +33,25 @@ QVariant OpenScripts::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> OpenScripts::roleNames() const { return { { EditorRole, "editor" } }; }
 
-void OpenScripts::followScripts()
+void OpenScripts::followScripts(const LibraryChange& change)
 {
-    QHash<QUuid, const Script*> scripts;
-    for (std::size_t i = 1; i < m_open.size(); ++i)
-        scripts.insert(m_open[i].editor->scriptID(), nullptr);
-    for (const Script& script : m_library.scripts()) {
-        const auto wanted = scripts.find(script.id);
-        if (wanted != scripts.end() && !*wanted)
-            *wanted = &script;
+    if (change.kind == LibraryChange::Kind::Edited) {
+        if (const auto open = find(change.id); open != m_open.end())
+            open->editor->update(m_library.scripts()[change.row], change);
+        return;
     }
-
-    for (std::size_t i = 1; i < m_open.size(); ++i) {
-        if (const Script* script = scripts.value(m_open[i].editor->scriptID()))
-            m_open[i].editor->update(*script);
-    }
-    followActiveScript(); // Before any is closed: it may be the one that is seen.
-    for (std::size_t i = m_open.size() - 1; i > 0; --i) {
-        const QUuid id = m_open[i].editor->scriptID();
-        if (scripts.contains(id) && !scripts.value(id))
-            close(i);
-    }
+    followActiveScript(); // Before one is closed: it may be the one that is seen.
+    const auto open = find(change.id);
+    const bool isGone = change.kind == LibraryChange::Kind::Removed && open != m_open.end()
+        && open->editor.get() != m_active; // Of which the file may have another with that id.
+    if (isGone)
+        close(static_cast<std::size_t>(open - m_open.begin()));
 }
 
 void OpenScripts::followActiveScript()
 {
     const Script* script = m_library.activeScript();
-    ScriptEditor* const active = script ? opened(*script) : m_open.front().editor.get();
+    ScriptEditor* const active = script ? editorFor(*script) : m_open.front().editor.get();
     ScriptEditor* const before = std::exchange(m_active, active);
     const std::optional<QUuid> edited = m_library.activeScriptID();
     active->setEditable(script && (!edited || edited == script->id));
@@ -72,13 +62,17 @@ void OpenScripts::followActiveScript()
     closeBeyondBounds();
 }
 
-/// The editor of a script, which is seen from now on.
-ScriptEditor* OpenScripts::opened(const Script& script)
+std::vector<OpenScripts::Open>::iterator OpenScripts::find(const QUuid& id)
+{
+    return std::ranges::find_if(m_open.begin() + 1, m_open.end(),
+        [&](const Open& open) { return open.editor->scriptID() == id; });
+}
+
+/// The script is seen from now on.
+ScriptEditor* OpenScripts::editorFor(const Script& script)
 {
     ++m_now;
-    const auto open = std::ranges::find_if(m_open.begin() + 1, m_open.end(),
-        [&](const Open& candidate) { return candidate.editor->scriptID() == script.id; });
-    if (open != m_open.end()) {
+    if (const auto open = find(script.id); open != m_open.end()) {
         open->lastSeen = m_now;
         return open->editor.get();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Records/LibraryChange.h"
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include <QAbstractListModel>
@@ -43,9 +44,10 @@ private:
         quint64 lastSeen; ///< Counts the changes of the active script.
     };
 
-    void followScripts();
+    void followScripts(const LibraryChange& change);
     void followActiveScript();
-    ScriptEditor* opened(const Script& script);
+    std::vector<Open>::iterator find(const QUuid& id);
+    ScriptEditor* editorFor(const Script& script);
     void closeBeyondBounds();
     void close(std::size_t place);
     bool isBeyondBounds() const;

@@ -1,5 +1,6 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Library/Window/WordCount.h"
 
@@ -10,6 +11,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace Orvello {
 
@@ -35,12 +37,6 @@ QString textBetween(QTextDocument& document, qsizetype begin, qsizetype end)
     return cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
-/// Bodies have a megabyte, and most of the time nobody has touched the one in question.
-bool isSame(const QString& one, const QString& other)
-{
-    return (one.constData() == other.constData() && one.size() == other.size()) || one == other;
-}
-
 } // namespace
 
 ScriptEditor::ScriptEditor(LibraryStore& library)
@@ -52,9 +48,9 @@ ScriptEditor::ScriptEditor(LibraryStore& library, const Script& script)
     : m_library(library)
     , m_id(script.id)
     , m_title(script.title)
-    , m_stored(script.body)
     , m_body(asInDocument(script.body))
     , m_wordCount(WordCount::of(m_body))
+    , m_isAsInLibrary(m_body.size() == script.body.size())
 {
     if (script.slides)
         m_deckSource = script.deckSource.value_or(QString());
@@ -64,7 +60,7 @@ ScriptEditor::~ScriptEditor() = default;
 
 void ScriptEditor::setTitle(const QString& title)
 {
-    if (m_isEditable && title != m_title)
+    if (canStore() && title != m_title)
         m_library.updateActive(title, {}); // Comes back as an update.
 }
 
@@ -83,7 +79,7 @@ QString ScriptEditor::deckNotice() const
 
 void ScriptEditor::setEditable(bool isEditable)
 {
-    if (std::exchange(m_isEditable, isEditable) == isEditable)
+    if (!assign(m_isEditable, isEditable))
         return;
     store();
     Q_EMIT editableChanged();
@@ -100,21 +96,23 @@ void ScriptEditor::follow(QQuickTextDocument* document)
     connect(m_document, &QTextDocument::contentsChanged, this, &ScriptEditor::store);
 }
 
-void ScriptEditor::update(const Script& script)
+void ScriptEditor::update(const Script& script, const LibraryChange& change)
 {
-    if (script.title != m_title) {
+    if (change.isOtherTitle) {
         m_title = script.title;
         Q_EMIT titleChanged();
     }
-    if (isSame(script.body, m_stored))
+    if (!change.body || m_isStoring)
         return;
-    m_stored = script.body;
-    const QString body = asInDocument(script.body);
-    if (m_document)
-        replaceInDocument(body);
-    else
-        replaceInBody(0, m_body.size(), body);
-    m_hasUnstoredEdit = false;
+    const QString inserted = script.body.sliced(change.body->position, change.body->inserted);
+    if (m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
+        show(change.body->position, change.body->removed, inserted);
+    } else {
+        const QString body = asInDocument(script.body);
+        m_isAsInLibrary = body.size() == script.body.size();
+        show(0, m_body.size(), body);
+    }
+    m_unstored.reset();
     Q_EMIT bodyChanged();
 }
 
@@ -139,34 +137,46 @@ void ScriptEditor::replaceInBody(qsizetype position, qsizetype removed, const QS
     m_wordCount -= WordCount::beginningIn(m_body, position, position + removed + 1);
     m_body.replace(position, removed, inserted);
     m_wordCount += WordCount::beginningIn(m_body, position, position + inserted.size() + 1);
-    m_hasUnstoredEdit = true;
+    const TextEdit edit { position, removed, inserted.size() };
+    m_unstored = m_unstored ? m_unstored->followedBy(edit) : edit;
 }
 
-/// Replaces only what differs, which leaves the cursor and the place on the screen alone.
-void ScriptEditor::replaceInDocument(const QString& body)
+void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& inserted)
 {
-    const auto [oldBegin, newBegin]
-        = std::mismatch(m_body.cbegin(), m_body.cend(), body.cbegin(), body.cend());
-    const auto [oldEnd, newEnd] = std::mismatch(m_body.crbegin(),
-        std::make_reverse_iterator(oldBegin), body.crbegin(), std::make_reverse_iterator(newBegin));
-
-    const auto position = [this](auto at) { return static_cast<int>(at - m_body.cbegin()); };
+    if (!m_document) {
+        replaceInBody(position, removed, inserted);
+        return;
+    }
     QTextCursor cursor(m_document);
-    cursor.setPosition(position(oldBegin));
-    cursor.setPosition(position(oldEnd.base()), QTextCursor::KeepAnchor);
+    cursor.setPosition(static_cast<int>(position));
+    cursor.setPosition(static_cast<int>(position + removed), QTextCursor::KeepAnchor);
     const QScopedValueRollback updating(m_isUpdating, true);
-    cursor.insertText(QString(newBegin, newEnd.base() - newBegin));
+    cursor.insertText(inserted);
 }
 
-/// An input method may finish a word in a text field that has gone out of sight already. The store
-/// would put it into another script, so that it waits until this one is active again.
+/// An input method may finish a word in a text field that is going out of sight or has gone
+/// already. The library would put it into another script, so that it waits until this one is active
+/// again.
+bool ScriptEditor::canStore() const
+{
+    const Script* const active = m_library.activeScript();
+    return m_isEditable && active && active->id == m_id;
+}
+
 void ScriptEditor::store()
 {
-    if (!m_hasUnstoredEdit || m_isUpdating || !m_isEditable)
+    if (!m_unstored || m_isUpdating || !canStore())
         return;
-    m_hasUnstoredEdit = false;
-    m_stored = m_body;
-    m_library.updateActive({}, m_body);
+    const TextEdit edit = *std::exchange(m_unstored, std::nullopt);
+    {
+        const QScopedValueRollback storing(m_isStoring, true);
+        if (m_isAsInLibrary)
+            m_library.editActive(
+                edit.position, edit.removed, m_body.sliced(edit.position, edit.inserted));
+        else
+            m_library.updateActive({}, m_body);
+    }
+    m_isAsInLibrary = true;
     Q_EMIT bodyChanged();
 }
 

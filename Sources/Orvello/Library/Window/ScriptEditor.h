@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Records/LibraryChange.h"
 #include "Orvello/Library/Records/Script.h"
 
 #include <QObject>
@@ -33,7 +34,7 @@ public:
     const QString& title() const { return m_title; }
     void setTitle(const QString& title);
 
-    /// As the library has it: what the document of the text field starts with.
+    /// What the document of the text field starts with.
     const QString& body() const { return m_body; }
 
     /// "12 words".
@@ -50,8 +51,8 @@ public:
     /// Follows the edits that the user makes in a document that shows the body.
     Q_INVOKABLE void follow(QQuickTextDocument* document);
 
-    /// Shows what the library has now.
-    void update(const Script& script);
+    /// Shows what the library has after a change of this script.
+    void update(const Script& script, const LibraryChange& change);
 
 Q_SIGNALS:
     void titleChanged();
@@ -61,18 +62,20 @@ Q_SIGNALS:
 private:
     void takeOver(int position, int removed, int added);
     void replaceInBody(qsizetype position, qsizetype removed, const QString& inserted);
-    void replaceInDocument(const QString& body);
+    void show(qsizetype position, qsizetype removed, const QString& inserted);
+    bool canStore() const;
     void store();
 
     LibraryStore& m_library;
     QUuid m_id;
     QString m_title;
-    QString m_stored; ///< The body that the library has.
-    QString m_body; ///< The same as a document has it: with plain line feeds.
+    QString m_body; ///< As a document has it: with plain line feeds.
     std::optional<QString> m_deckSource; ///< Of a deck, an absent one as empty.
     qsizetype m_wordCount = 0;
     bool m_isEditable = false;
-    bool m_hasUnstoredEdit = false;
+    bool m_isAsInLibrary = true; ///< The body, but for the unstored edit.
+    std::optional<TextEdit> m_unstored; ///< Where the library does not have the user's edits yet.
+    bool m_isStoring = false; ///< The library is taking over the user's edit.
     bool m_isUpdating = false; ///< The document is following the library: no edit of the user's.
     QPointer<QTextDocument> m_document;
 };

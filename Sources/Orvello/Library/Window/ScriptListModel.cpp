@@ -1,5 +1,6 @@
 #include "Orvello/Library/Window/ScriptListModel.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 
 #include <algorithm>
@@ -13,7 +14,8 @@ ScriptListModel::ScriptListModel(LibraryStore& library)
     connect(&library, &LibraryStore::scriptsChanged, this, &ScriptListModel::followScripts);
     connect(
         &library, &LibraryStore::activeScriptIDChanged, this, &ScriptListModel::followActiveScript);
-    followScripts();
+    std::ranges::transform(library.scripts(), std::back_inserter(m_rows), rowOf);
+    followActiveScript();
 }
 
 ScriptListModel::~ScriptListModel() = default;
@@ -60,53 +62,28 @@ ScriptListModel::Row ScriptListModel::rowOf(const Script& script)
     return { script.id, script.title, script.slides ? script.slides->size() : noDeck };
 }
 
-/// An insertion and a removal each leave a head and a tail of the list as they were.
-void ScriptListModel::followScripts()
+void ScriptListModel::followScripts(const LibraryChange& change)
 {
-    const auto isSame = [](const Row& row, const Script& script) { return row.id == script.id; };
-    const QList<Script>& scripts = m_library.scripts();
-    const auto [headEnd, scriptsHeadEnd]
-        = std::mismatch(m_rows.begin(), m_rows.end(), scripts.begin(), scripts.end(), isSame);
-    const auto [tailBegin, scriptsTailBegin]
-        = std::mismatch(m_rows.rbegin(), std::make_reverse_iterator(headEnd), scripts.rbegin(),
-            std::make_reverse_iterator(scriptsHeadEnd), isSame);
-
-    replace(headEnd - m_rows.begin(), tailBegin.base() - headEnd,
-        scriptsTailBegin.base() - scriptsHeadEnd);
-    refresh();
-    followActiveScript();
-}
-
-void ScriptListModel::replace(qsizetype first, qsizetype removed, qsizetype inserted)
-{
-    const int row = static_cast<int>(first);
-    if (removed > 0) {
-        beginRemoveRows({}, row, row + static_cast<int>(removed) - 1);
-        m_rows.erase(m_rows.begin() + first, m_rows.begin() + first + removed);
-        endRemoveRows();
-    }
-    if (inserted > 0) {
-        std::vector<Row> rows;
-        const auto begin = m_library.scripts().begin() + first;
-        std::transform(begin, begin + inserted, std::back_inserter(rows), rowOf);
-        beginInsertRows({}, row, row + static_cast<int>(inserted) - 1);
-        m_rows.insert(m_rows.begin() + first, rows.begin(), rows.end());
+    const int row = static_cast<int>(change.row);
+    switch (change.kind) {
+    case LibraryChange::Kind::Inserted:
+        beginInsertRows({}, row, row);
+        m_rows.insert(m_rows.begin() + row, rowOf(m_library.scripts()[change.row]));
         endInsertRows();
-    }
-}
-
-/// Announces the rows that show something else than before.
-void ScriptListModel::refresh()
-{
-    const QList<Script>& scripts = m_library.scripts();
-    for (int i = 0; i < rowCount(); ++i) {
-        const Script& script = scripts[i];
-        Row& row = m_rows[static_cast<std::size_t>(i)];
-        if (row.title == script.title
-            && row.slideCount == (script.slides ? script.slides->size() : noDeck))
-            continue;
-        row = rowOf(script);
-        Q_EMIT dataChanged(index(i), index(i));
+        followActiveScript();
+        break;
+    case LibraryChange::Kind::Removed:
+        beginRemoveRows({}, row, row);
+        m_rows.erase(m_rows.begin() + row);
+        endRemoveRows();
+        followActiveScript();
+        break;
+    case LibraryChange::Kind::Edited:
+        if (!change.isOtherTitle)
+            break;
+        m_rows[static_cast<std::size_t>(row)].title = m_library.scripts()[change.row].title;
+        Q_EMIT dataChanged(index(row), index(row));
+        break;
     }
 }
 
@@ -115,7 +92,7 @@ void ScriptListModel::followActiveScript()
     const std::optional<QUuid> id = m_library.activeScriptID();
     const auto active = std::ranges::find_if(m_rows, [&](const Row& row) { return row.id == id; });
     const int row = active == m_rows.end() ? -1 : static_cast<int>(active - m_rows.begin());
-    if (std::exchange(m_activeRow, row) != row)
+    if (assign(m_activeRow, row))
         Q_EMIT activeRowChanged();
 }
 

@@ -44,15 +44,11 @@ private:
         QUuid id;
         QString title;
         qsizetype slideCount; ///< Or `noDeck`.
-
-        friend bool operator==(const Row&, const Row&) = default;
     };
     static constexpr qsizetype noDeck = -1;
 
     static Row rowOf(const struct Script& script);
-    void followScripts();
-    void replace(qsizetype first, qsizetype removed, qsizetype inserted);
-    void refresh();
+    void followScripts(const struct LibraryChange& change);
     void followActiveScript();
 
     LibraryStore& m_library;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -27,6 +29,12 @@ inline constexpr std::uint32_t optionKey = 0x800; ///< Alt where there is no opt
 struct HotKeyID {
     std::uint32_t signature = 0;
     std::uint32_t id = 0;
+};
+
+/// What a key does, for desktops that list the keys and let the user assign others.
+struct HotKeyPurpose {
+    QString name; ///< For ever the same: the desktop remembers the user's choice by it.
+    QString description; ///< In the user's language.
 };
 
 /// The system's hot-key service. Main thread.
@@ -58,8 +66,22 @@ public:
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
         = 0;
 
+    /// The same for a key that the user may know by its purpose.
+    [[nodiscard]] virtual std::unique_ptr<Reference> registerHotKeyFor(
+        const HotKeyPurpose&, std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
+    {
+        return registerHotKey(keyCode, modifiers, id);
+    }
+
     /// What people call the key with these modifiers here: "⌥⌘P", or "Alt+Super+P".
     virtual QString label(std::uint32_t keyCode, std::uint32_t modifiers) const = 0;
+
+    /// What the user has assigned; nothing where a key is what the program asks for.
+    AssignedKeys& assignedKeys() { return m_assignedKeys; }
+    const AssignedKeys& assignedKeys() const { return m_assignedKeys; }
+
+private:
+    AssignedKeys m_assignedKeys;
 };
 
 } // namespace Orvello

@@ -7,12 +7,12 @@
 
 namespace Orvello {
 
+class CaptureHiding;
+
 /// The one prompter window as the window system sees it: borderless, above every other window
 /// (full-screen ones too), on every workspace, never given the keyboard, dragged by its background
-/// and resized at its edges. The view inside it is somebody else's. Main thread.
-///
-/// Frames are in points in screen coordinates with the origin at the main screen's bottom left and
-/// y upward, on every platform; adapters for window systems that count downward translate.
+/// and resized at its edges. The view inside it is somebody else's. Frames are in the coordinates
+/// of Screens. Main thread.
 class NativePanel : public QObject {
     Q_OBJECT
 
@@ -20,12 +20,6 @@ public:
     /// The limits that the user's resizing keeps to.
     static constexpr QSizeF minimumSize { 340, 130 };
     static constexpr QSizeF maximumSize { 1600, 900 };
-
-    /// Who else may read the window's pixels. The numbers are the macOS ones, which the log shows.
-    enum class SharingType : int {
-        None = 0, ///< Hidden from screen sharing, recordings and screenshots.
-        ReadOnly = 1, ///< Capturable like any other window.
-    };
 
     using QObject::QObject;
 
@@ -35,30 +29,22 @@ public:
     /// Names the saved frame: a frame saved under the name in an earlier run replaces the present
     /// one at once, brought back onto a screen if it lies on none; from now on moves and resizes
     /// are saved under it.
-    virtual void setFrameAutosaveName(const QString& name) = 0;
+    virtual void saveFrameAs(const QString& name) = 0;
 
     /// Shows the panel above everything without activating the application or taking the focus.
-    virtual void orderFrontRegardless() = 0;
-    virtual void orderOut() = 0;
+    virtual void show() = 0;
+    virtual void hide() = 0;
     virtual bool isVisible() const = 0;
 
-    /// The window system's number for the window; below 1 while it has none.
-    virtual qint64 windowNumber() const = 0;
-
     /// Whether the user is resizing the panel with the mouse right now.
-    virtual bool inLiveResize() const = 0;
+    virtual bool isBeingResized() const = 0;
 
-    virtual SharingType sharingType() const = 0;
-
-    /// Remembers the type and enforces it where the platform can.
-    virtual void setSharingType(SharingType type) = 0;
-
-    /// Whether this platform can keep the window out of captures at all.
-    virtual bool canExcludeFromCapture() const = 0;
+    /// What keeps the panel out of captures. Lives as long as the panel.
+    virtual CaptureHiding& captureHiding() = 0;
 
 Q_SIGNALS:
-    void didResize();
-    void didEndLiveResize();
+    void resized();
+    void resizeEnded(); ///< The user let go.
     void scrolled(double delta); ///< Precise vertical scrolling delta of one wheel or trackpad
                                  ///< event, upward positive.
 };

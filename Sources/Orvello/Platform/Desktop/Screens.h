@@ -10,8 +10,9 @@ class Screens {
 public:
     virtual ~Screens() = default;
 
-    /// Their frames in points, the main screen first, in coordinates with the origin at the main
-    /// screen's bottom left and y upward. Empty without any screen.
+    /// Their frames, the main screen first. Empty without any screen. In points from the top left
+    /// corner of the primary screen, y downward, like every place on the screen in any port; the
+    /// primary screen is the main one, unless the user works on another.
     virtual QList<QRectF> frames() const = 0;
 };
 

@@ -49,6 +49,18 @@ public:
     virtual void willScheduleUpdateCheckAfterDelay(double seconds) = 0;
 };
 
+/// Whether updates are looked for regularly. The updater stores it. Main thread.
+class UpdateSchedule {
+public:
+    virtual ~UpdateSchedule() = default;
+
+    virtual bool isOn() const = 0;
+    virtual void setOn(bool isOn) = 0;
+
+    /// `changed` runs after every change, whoever made it, on any thread.
+    virtual void observe(std::function<void()> changed) = 0;
+};
+
 /// The system's updater: it reads the feed, keeps the schedule, talks to the user and installs.
 /// Main thread.
 class Updater {
@@ -57,23 +69,18 @@ public:
 
     /// Begins the schedule, and asks the user whether there may be one if nobody has asked before.
     /// `delegate` must outlive the updater. Called once.
-    virtual void startUpdater(UpdaterDelegate& delegate) = 0;
+    virtual void start(UpdaterDelegate& delegate) = 0;
 
     /// Checks now and shows the user whatever comes of it.
-    virtual void checkForUpdates() = 0;
+    virtual void check() = 0;
 
-    /// Whether the schedule is on. The updater itself stores it.
-    virtual bool automaticallyChecksForUpdates() const = 0;
-    virtual void setAutomaticallyChecksForUpdates(bool on) = 0;
-
-    /// `changed` runs after every change of the above, whoever made it, on any thread.
-    virtual void observeAutomaticChecks(std::function<void()> changed) = 0;
+    virtual UpdateSchedule& schedule() = 0;
 
     /// Whether the user may ask for a check: the updater runs and is not reading the feed already.
-    virtual bool canCheckForUpdates() const = 0;
+    virtual bool canCheck() const = 0;
 
     /// When the feed was last asked for, if ever.
-    virtual std::optional<Date> lastUpdateCheckDate() const = 0;
+    virtual std::optional<Date> lastCheck() const = 0;
 
     /// `changed` runs after every change of one of these two, on any thread.
     virtual void observeChecks(std::function<void()> changed) = 0;

@@ -11,7 +11,7 @@ namespace Orvello {
 /// One window as the window server sees it.
 struct WindowOnScreen {
     QString ownerName; ///< Of the application; empty when unknown.
-    std::optional<QRectF> bounds; ///< Global points, origin at the main display's top left.
+    std::optional<QRectF> bounds; ///< In the coordinates of Screens.
 };
 
 /// What is on the user's screens. Main thread. Reads the state afresh at every call.

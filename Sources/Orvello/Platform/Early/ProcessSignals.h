@@ -21,6 +21,10 @@ public:
 
     virtual ~ProcessSignals() = default;
 
+    /// Whether the process ignores the signal, as its parent may have left it: nohup does with
+    /// SIGHUP.
+    virtual bool isIgnored(int signal) const = 0;
+
     /// From now on the signal's default action never happens; `handler` runs on the main loop each
     /// time it arrives. One subscription for each signal number.
     [[nodiscard]] virtual std::unique_ptr<Subscription> handle(

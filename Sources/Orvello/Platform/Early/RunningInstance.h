@@ -1,38 +1,57 @@
 #pragma once
 
+#include <QList>
+#include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <QVariantMap>
 
 #include <functional>
 
 namespace Orvello {
 
-/// Sees to it that the user runs the program once, and hears what the system and later starts ask
-/// of the one that runs. Main thread.
+/// What a start of the program was given.
+struct ProgramStart {
+    QStringList arguments; ///< Without the program's name.
+    QString directory; ///< Where relative paths start.
+    QVariantMap environment; ///< The product's own variables, those that are set.
+    friend bool operator==(const ProgramStart&, const ProgramStart&) = default;
+};
+
+/// Sees to it that the user runs the program once on a display, and hears what the system and later
+/// starts ask of the one that runs. Main thread.
 class RunningInstance {
 public:
+    /// Called once, with what the running program could not do, in words for the user.
+    using Answer = std::function<void(const QStringList& refusals)>;
+
     struct Handlers {
         std::function<void(const QList<QUrl>&)> opened; ///< Addresses that the system passes on.
-        /// The program was started once more, with these arguments.
-        std::function<void(const QStringList&)> startedAgain;
+        std::function<void(const ProgramStart&, const Answer&)> startedAgain;
+    };
+
+    enum class Claim {
+        Granted, ///< This process is the one, which it stays until it ends.
+        HandedOver, ///< The one that runs has done what it could of what was asked.
+        Unanswered, ///< One runs, and cannot be asked.
+    };
+    struct Outcome {
+        Claim claim = Claim::Granted;
+        QStringList messages; ///< What the user must be told of it.
     };
 
     virtual ~RunningInstance() = default;
 
-    enum class Claim {
-        Granted, ///< This process is the one, which it stays until it ends.
-        HandedOver, ///< The one that runs has been told of the arguments.
-        Unanswered, ///< One runs, and does not listen. The user has been told.
-    };
-
-    /// Tries to be the one. A process that is not has nothing left to do. `arguments` are the
-    /// command line's, without the program's name. Before the application object is made; at most
-    /// once.
-    [[nodiscard]] virtual Claim claim(const QStringList& arguments) = 0;
+    /// Tries to be the one. A process that is not has nothing left to do. Before the application
+    /// object is made; at most once.
+    [[nodiscard]] virtual Outcome claim(const ProgramStart& start) = 0;
 
     /// From now on the handlers run on the main loop. Requests that came earlier come first. After
     /// the application object is made; once.
     virtual void listen(Handlers handlers) = 0;
+
+    /// Leaves nothing behind that tells of this process. For an end without destructors.
+    virtual void release() = 0;
 };
 
 } // namespace Orvello

@@ -1,6 +1,8 @@
 #include "Orvello/Presentations/Slideshow/DeckController.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
+#include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 
@@ -22,15 +24,9 @@ qint64 slideCountOf(const Script* script)
     return script && script->slides ? script->slides->size() : 0;
 }
 
-/// Equality, without comparing a text with itself: a whole deck's text is millions of characters.
-bool isSameText(const QString& a, const QString& b)
-{
-    return (a.constData() == b.constData() && a.size() == b.size()) || a == b;
-}
-
 QString unitKey(const Script* script, const std::optional<qint64>& slide)
 {
-    const QString id = script ? script->id.toString(QUuid::WithoutBraces).toUpper() : QString(u'-');
+    const QString id = script ? UuidText::format(script->id) : QString(u'-');
     return id + u'|' + (slide ? "true"_L1 : "false"_L1) + u'|'
         + QString::number(slide.value_or(-1));
 }
@@ -45,6 +41,7 @@ DeckController::DeckController(const LibraryStore& library, const SettingsStore&
     , m_sync(sync)
 {
     const auto recomputed = [this](auto) { recompute(); };
+    connect(&library, &LibraryStore::scriptsChanged, this, &DeckController::noteEdit);
     observe(library, nothing, &LibraryStore::scriptsChanged, *this, recomputed);
     observe(library, nothing, &LibraryStore::activeScriptIDChanged, *this, recomputed);
     observe(settings, nothing, &SettingsStore::slideSyncChanged, *this, recomputed);
@@ -66,6 +63,13 @@ void DeckController::showNextSlide()
     recompute();
 }
 
+/// At once, unlike what follows from it: the library may have more edits when the change arrives.
+void DeckController::noteEdit(const LibraryChange& change)
+{
+    if (change.body && change.id == m_lastScriptID)
+        m_edit = m_edit ? m_edit->followedBy(*change.body) : change.body;
+}
+
 void DeckController::followLiveSlide(const std::optional<qint64>& slide)
 {
     if (slide)
@@ -75,9 +79,8 @@ void DeckController::followLiveSlide(const std::optional<qint64>& slide)
 
 void DeckController::setSyncState(SlideSyncService::State state)
 {
-    if (state == m_syncState)
+    if (!assign(m_syncState, state))
         return;
-    m_syncState = state;
     Q_EMIT syncStateChanged();
 }
 
@@ -118,18 +121,26 @@ DeckController::Unit DeckController::unitOf(const Script* script) const
         slide.title, m_manualIndex };
 }
 
+/// How the text shown becomes the unit's, if it has to change.
+std::optional<TextEdit> DeckController::editTo(const Unit& unit, bool isOtherUnit) const
+{
+    if (isOtherUnit && unit.text != m_promptText)
+        return TextEdit { 0, m_promptText.size(), unit.text.size() };
+    if (isOtherUnit || unit.slide || !m_edit)
+        return std::nullopt; // A slide's notes never change.
+    const QStringView removed = QStringView(m_promptText).sliced(m_edit->position, m_edit->removed);
+    const QStringView inserted = QStringView(unit.text).sliced(m_edit->position, m_edit->inserted);
+    return removed == inserted ? std::nullopt : m_edit;
+}
+
 void DeckController::publish(const Script* script, const Unit& unit)
 {
-    const auto assign = [](auto& member, const auto& value) {
-        const bool isOther = member != value;
-        member = value;
-        return isOther;
-    };
     const bool isOtherUnit = assign(m_lastUnitKey, unitKey(script, unit.slide));
     if (isOtherUnit)
         ++m_slideChangeToken;
-    const bool isOtherText = !isSameText(m_promptText, unit.text);
+    const std::optional<TextEdit> edit = editTo(unit, isOtherUnit);
     m_promptText = unit.text;
+    m_edit.reset();
     const bool isOtherTracking = assign(m_trackingActive, unit.slide.has_value());
     const bool isOtherIndex = assign(m_displayIndex, m_manualIndex);
     const bool isOtherCount = assign(m_slideCount, slideCountOf(script));
@@ -137,8 +148,8 @@ void DeckController::publish(const Script* script, const Unit& unit)
 
     if (isOtherUnit)
         Q_EMIT slideChangeTokenChanged();
-    if (isOtherText)
-        Q_EMIT promptTextChanged();
+    if (edit)
+        Q_EMIT promptTextChanged(*edit);
     if (isOtherTracking)
         Q_EMIT trackingActiveChanged();
     if (isOtherIndex)

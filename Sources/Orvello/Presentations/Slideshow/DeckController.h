@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Foundation/TextEdit.h"
 #include "Orvello/Presentations/Slideshow/SlideSyncService.h"
 
 #include <QObject>
@@ -12,6 +13,7 @@ namespace Orvello {
 
 class LibraryStore;
 class SettingsStore;
+struct LibraryChange;
 struct Script;
 
 /// Decides what the prompter shows: one slide's speaker notes while slide tracking is on and the
@@ -19,14 +21,6 @@ struct Script;
 /// stepped to by hand.
 class DeckController final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString promptText READ promptText NOTIFY promptTextChanged FINAL)
-    Q_PROPERTY(qint64 slideChangeToken READ slideChangeToken NOTIFY slideChangeTokenChanged FINAL)
-    Q_PROPERTY(bool trackingActive READ trackingActive NOTIFY trackingActiveChanged FINAL)
-    Q_PROPERTY(qint64 displayIndex READ displayIndex NOTIFY displayIndexChanged FINAL)
-    Q_PROPERTY(qint64 slideCount READ slideCount NOTIFY slideCountChanged FINAL)
-    Q_PROPERTY(QString slideTitle READ slideTitleText NOTIFY slideTitleChanged FINAL)
-    Q_PROPERTY(
-        Orvello::SlideSyncService::State syncState READ syncState NOTIFY syncStateChanged FINAL)
 
 public:
     /// Everything must outlive the controller.
@@ -42,11 +36,11 @@ public:
     const std::optional<QString>& slideTitle() const { return m_slideTitle; } ///< If one is shown.
     SlideSyncService::State syncState() const { return m_syncState; }
 
-    Q_INVOKABLE void showPreviousSlide();
-    Q_INVOKABLE void showNextSlide();
+    void showPreviousSlide();
+    void showNextSlide();
 
 Q_SIGNALS:
-    void promptTextChanged();
+    void promptTextChanged(const Orvello::TextEdit& edit); ///< From the text before.
     void slideChangeTokenChanged();
     void trackingActiveChanged();
     void displayIndexChanged();
@@ -62,12 +56,13 @@ private:
         std::optional<qint64> slide; ///< 0-based; none when the unit is the whole script.
     };
 
-    QString slideTitleText() const { return m_slideTitle.value_or(QString()); }
+    void noteEdit(const LibraryChange& change);
     void followLiveSlide(const std::optional<qint64>& slide);
     void setSyncState(SlideSyncService::State state);
     void recompute();
     void settlePosition(const Script* script);
     Unit unitOf(const Script* script) const;
+    std::optional<TextEdit> editTo(const Unit& unit, bool isOtherUnit) const;
     void publish(const Script* script, const Unit& unit);
 
     const LibraryStore& m_library;
@@ -81,6 +76,7 @@ private:
     std::optional<QString> m_slideTitle;
     SlideSyncService::State m_syncState = SlideSyncService::State::Idle;
     qint64 m_manualIndex = 0; ///< Follows the live slide, so that it stays when the slideshow ends.
+    std::optional<TextEdit> m_edit; ///< Of the last script's body, since the text was published.
     QString m_lastUnitKey;
     std::optional<QUuid> m_lastScriptID;
 };

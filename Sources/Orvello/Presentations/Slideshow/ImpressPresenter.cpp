@@ -137,25 +137,17 @@ void ImpressPresenter::disallow(Completion completion)
 void ImpressPresenter::change(const QString& question, Completion completion)
 {
     m_isAdviceDue = false; // The user has found the way.
-    setChanging(true);
+    m_isChanging = true;
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {
             if (!self)
                 return;
-            self->setChanging(false);
+            self->m_isChanging = false;
             const bool isDone = result.status == 0;
             completion({ isDone,
                 inUsersLanguage(
                     (isDone ? result.standardOutput : result.standardError).trimmed()) });
         });
-}
-
-void ImpressPresenter::setChanging(bool isChanging)
-{
-    if (isChanging == m_isChanging)
-        return;
-    m_isChanging = isChanging;
-    Q_EMIT isChangingChanged();
 }
 
 } // namespace Orvello

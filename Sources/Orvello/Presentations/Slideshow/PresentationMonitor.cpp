@@ -1,6 +1,7 @@
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Platform/Desktop/WindowServer.h"
 #include "Orvello/Platform/Desktop/Workspace.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
@@ -60,18 +61,13 @@ void PresentationMonitor::poll()
 void PresentationMonitor::pollPresentingApp()
 {
     const std::optional<QString> app = detectPresentingApp();
-    const bool isOther = app != m_presentingApp;
-    const bool isTransition = app.has_value() != m_isPresenting;
     m_presentingApp = app;
-    m_isPresenting = app.has_value();
-
+    const bool isTransition = assign(m_isPresenting, app.has_value());
     if (isTransition) {
         AppLog::write(
             "Orvello PRESENTING=%d app=%@", app ? 1 : 0, app ? *app : QStringLiteral("-"));
         Q_EMIT isPresentingChanged();
     }
-    if (isOther)
-        Q_EMIT presentingAppChanged();
 }
 
 void PresentationMonitor::pollMeetingApps()
@@ -80,18 +76,16 @@ void PresentationMonitor::pollMeetingApps()
     const bool isRunning = std::any_of(running.begin(), running.end(), [](const auto& app) {
         return app.bundleIdentifier && MeetingApplications::contain(*app.bundleIdentifier);
     });
-    if (isRunning == m_meetingAppRunning)
+    if (!assign(m_meetingAppRunning, isRunning))
         return;
-    m_meetingAppRunning = isRunning;
     Q_EMIT meetingAppRunningChanged();
 }
 
 void PresentationMonitor::pollMicrophone()
 {
     const bool isCapturing = m_sources.microphone.otherProcessCapturingInput();
-    if (isCapturing == m_inCall)
+    if (!assign(m_inCall, isCapturing))
         return;
-    m_inCall = isCapturing;
     AppLog::write("Orvello IN_CALL=%d", m_inCall ? 1 : 0);
     Q_EMIT inCallChanged();
 }

@@ -1,12 +1,11 @@
 #include "Orvello/Presentations/Slideshow/SlideSyncService.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>
-
-#include <algorithm>
 
 namespace Orvello {
 
@@ -19,19 +18,12 @@ constexpr double pollSeconds = 0.5;
 /// The system's error number for an Apple event that the user has not authorised.
 constexpr QStringView notAuthorised = u"-1743";
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
-
 /// The number of a slide: a decimal integer of at least 1 between white space, and nothing else.
 std::optional<qint64> slideNumber(const QString& output)
 {
-    const QString trimmed = output.trimmed();
-    const bool hasSign = trimmed.startsWith(u'+') || trimmed.startsWith(u'-');
-    const QStringView digits = QStringView(trimmed).sliced(hasSign ? 1 : 0);
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit))
-        return std::nullopt;
-    bool fits = false;
-    const qint64 number = trimmed.toLongLong(&fits);
-    return fits && number >= 1 ? std::optional(number) : std::nullopt;
+    bool isNumber = false;
+    const qint64 number = output.toLongLong(&isNumber);
+    return isNumber && number >= 1 ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
@@ -49,9 +41,8 @@ SlideSyncService::~SlideSyncService() = default;
 
 void SlideSyncService::setActive(bool on)
 {
-    if (on == m_isActive)
+    if (!assign(m_isActive, on))
         return;
-    m_isActive = on;
     if (on) {
         setState(State::Manual);
         m_timer = m_time.callEvery(pollSeconds, [this] { tick(); });
@@ -60,7 +51,7 @@ void SlideSyncService::setActive(bool on)
         m_isInFlight = false;
         setState(State::Idle);
         setLiveSlide(std::nullopt);
-        setApp(nullptr);
+        m_app = nullptr;
     }
     AppLog::write("Orvello SYNC active=%d", on ? 1 : 0);
 }
@@ -79,7 +70,7 @@ void SlideSyncService::tick()
 void SlideSyncService::follow(const PresenterApp& app)
 {
     if (m_app != &app) {
-        setApp(&app);
+        m_app = &app;
         if (m_state == State::Denied)
             setState(State::Manual); // Another application gets a fresh chance.
         AppLog::write("Orvello SYNC following %@", app.logName);
@@ -93,7 +84,7 @@ void SlideSyncService::follow(const PresenterApp& app)
 void SlideSyncService::standBy()
 {
     setLiveSlide(std::nullopt);
-    setApp(nullptr);
+    m_app = nullptr;
     if (m_state == State::Live)
         setState(State::Manual);
 }
@@ -128,26 +119,16 @@ void SlideSyncService::complete(const PresenterApp& app, const ScriptResult& res
 
 void SlideSyncService::setState(State state)
 {
-    if (state == m_state)
+    if (!assign(m_state, state))
         return;
-    m_state = state;
     Q_EMIT stateChanged();
 }
 
 void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
 {
-    if (slide == m_liveSlide)
+    if (!assign(m_liveSlide, slide))
         return;
-    m_liveSlide = slide;
     Q_EMIT liveSlideChanged();
-}
-
-void SlideSyncService::setApp(const PresenterApp* app)
-{
-    if (app == m_app)
-        return;
-    m_app = app;
-    Q_EMIT appChanged();
 }
 
 } // namespace Orvello

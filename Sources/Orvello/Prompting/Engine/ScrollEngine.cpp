@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 
 #include <algorithm>
@@ -42,7 +43,7 @@ void ScrollEngine::setOffset(double points) { publish(points, m_isRunning, m_cou
 
 void ScrollEngine::setHoverPaused(bool paused)
 {
-    if (std::exchange(m_hoverPaused, paused) != paused)
+    if (assign(m_hoverPaused, paused))
         Q_EMIT hoverPausedChanged();
 }
 
@@ -53,13 +54,13 @@ QString ScrollEngine::countdownText() const
 
 void ScrollEngine::setVoiceFollowActive(bool active)
 {
-    if (std::exchange(m_voiceFollowActive, active) != active)
+    if (assign(m_voiceFollowActive, active))
         Q_EMIT voiceFollowActiveChanged();
 }
 
 void ScrollEngine::setVoiceGate(bool open)
 {
-    if (std::exchange(m_voiceGate, open) != open)
+    if (assign(m_voiceGate, open))
         Q_EMIT voiceGateChanged();
 }
 
@@ -160,12 +161,9 @@ void ScrollEngine::countDown()
 
 void ScrollEngine::publish(double offset, bool isRunning, std::optional<qint64> countdown)
 {
-    const bool offsetChanges = m_offset != offset;
-    const bool isRunningChanges = m_isRunning != isRunning;
-    const bool countdownChanges = m_countdown != countdown;
-    m_offset = offset;
-    m_isRunning = isRunning;
-    m_countdown = countdown;
+    const bool offsetChanges = assign(m_offset, offset);
+    const bool isRunningChanges = assign(m_isRunning, isRunning);
+    const bool countdownChanges = assign(m_countdown, countdown);
     if (offsetChanges)
         Q_EMIT offsetChanged();
     if (isRunningChanges)

@@ -53,10 +53,10 @@ public:
     void setVoiceGate(bool open); ///< Open while the speaker speaks.
 
     double contentHeight() const { return m_contentHeight; }
-    Q_INVOKABLE void setContentHeight(double points); ///< Of the whole text, as laid out.
+    void setContentHeight(double points); ///< Of the whole text, as laid out.
 
     double viewportHeight() const { return m_viewportHeight; }
-    Q_INVOKABLE void setViewportHeight(double points); ///< Of the visible text area.
+    void setViewportHeight(double points); ///< Of the visible text area.
 
     double speed() const; ///< Of the settings, in points per second.
 
@@ -73,17 +73,17 @@ public:
     double endOffset() const;
 
     /// How much of the way is done, 0 to 1; 1 for a text too short to scroll.
-    Q_INVOKABLE double progress() const;
+    double progress() const;
 
     /// Begins to scroll, from the top through the countdown of the settings. A finished text starts
     /// again from the top.
-    Q_INVOKABLE void start();
+    void start();
 
     /// Starts when idle; otherwise stops and cancels a countdown.
-    Q_INVOKABLE void toggle();
+    void toggle();
 
     /// Moves the text back toward its start by `delta` points, onward when negative.
-    Q_INVOKABLE void nudge(double delta);
+    void nudge(double delta);
 
 Q_SIGNALS:
     void offsetChanged();

@@ -1,113 +1,86 @@
 #include "Orvello/Prompting/Panel/CaptureExclusion.h"
 
-#include <cstdint>
 #include <dlfcn.h>
 #include <limits>
 
-namespace Orvello::CaptureExclusion {
+namespace Orvello {
 
 namespace {
 
-/// The rectangle that the calls take; the same memory layout and calling convention as
-/// CoreGraphics' CGRect.
-struct ServerRect {
-    double x;
-    double y;
-    double width;
-    double height;
-};
-
-using ConnectionID = std::uint32_t;
-using WindowID = std::uint32_t;
-using ErrorCode = std::int32_t;
-constexpr ErrorCode success = 0;
-
-// Declarations of the private calls as other open-source window tools use them; regions are
-// CoreFoundation objects.
-using MainConnectionID = ConnectionID (*)();
-using SetWindowCaptureExcludeShape = ErrorCode (*)(ConnectionID, WindowID, const void* region);
-using RegionCreateWithRect = const void* (*)(ServerRect);
-using NewRegionWithRect = ErrorCode (*)(const ServerRect*, const void** region);
-using Release = void (*)(const void*);
+constexpr std::int32_t success = 0;
 
 template <typename Function>
-Function lookUp(const char* name)
+void assign(Function& function, void* address)
 {
-    return reinterpret_cast<Function>(::dlsym(RTLD_DEFAULT, name));
+    function = reinterpret_cast<Function>(address);
 }
 
-struct EntryPoints {
-    MainConnectionID mainConnectionID = lookUp<MainConnectionID>("CGSMainConnectionID");
-    SetWindowCaptureExcludeShape setWindowCaptureExcludeShape
-        = lookUp<SetWindowCaptureExcludeShape>("CGSSetWindowCaptureExcludeShape");
-    RegionCreateWithRect regionCreateWithRect
-        = lookUp<RegionCreateWithRect>("CGRegionCreateWithRect");
-    NewRegionWithRect newRegionWithRect = lookUp<NewRegionWithRect>("CGSNewRegionWithRect");
-    Release release = lookUp<Release>("CFRelease");
-};
+} // namespace
 
-const EntryPoints& entryPoints()
+void* CaptureExclusion::lookUpInProcess(const char* name) { return ::dlsym(RTLD_DEFAULT, name); }
+
+CaptureExclusion::CaptureExclusion(const LookUp& lookUp)
 {
-    static const EntryPoints found;
-    return found;
+    assign(m_mainConnectionID, lookUp("CGSMainConnectionID"));
+    assign(m_setWindowCaptureExcludeShape, lookUp("CGSSetWindowCaptureExcludeShape"));
+    assign(m_regionCreateWithRect, lookUp("CGRegionCreateWithRect"));
+    assign(m_newRegionWithRect, lookUp("CGSNewRegionWithRect"));
+    assign(m_release, lookUp("CFRelease"));
 }
 
-Region owned(const void* region)
+CaptureExclusion::Region CaptureExclusion::owned(const void* region) const
 {
     if (!region)
         return nullptr;
-    return { region, [](const void* last) {
-                if (entryPoints().release)
-                    entryPoints().release(last);
+    return { region, [release = m_release](const void* last) {
+                if (release)
+                    release(last);
             } };
 }
 
-WindowID checkedWindowID(qint64 windowNumber)
+CaptureExclusion::WindowID CaptureExclusion::checkedWindowID(qint64 windowNumber)
 {
     if (windowNumber > std::numeric_limits<std::int32_t>::max())
         qFatal("window number %lld does not fit 32 bits", static_cast<long long>(windowNumber));
     return static_cast<WindowID>(windowNumber);
 }
 
-} // namespace
-
-bool canSetShape()
+bool CaptureExclusion::canSetShape() const
 {
-    return entryPoints().mainConnectionID && entryPoints().setWindowCaptureExcludeShape;
+    return m_mainConnectionID && m_setWindowCaptureExcludeShape;
 }
 
-bool isUsable()
+bool CaptureExclusion::isUsable() const
 {
-    return canSetShape() && (entryPoints().regionCreateWithRect || entryPoints().newRegionWithRect);
+    return canSetShape() && (m_regionCreateWithRect || m_newRegionWithRect);
 }
 
-Region makeRegion(const QRectF& rect)
+CaptureExclusion::Region CaptureExclusion::makeRegion(const QRectF& rect) const
 {
     const ServerRect serverRect { rect.x(), rect.y(), rect.width(), rect.height() };
-    if (entryPoints().regionCreateWithRect)
-        return owned(entryPoints().regionCreateWithRect(serverRect));
-    if (entryPoints().newRegionWithRect) {
+    if (m_regionCreateWithRect)
+        return owned(m_regionCreateWithRect(serverRect));
+    if (m_newRegionWithRect) {
         const void* region = nullptr;
-        if (entryPoints().newRegionWithRect(&serverRect, &region) == success)
+        if (m_newRegionWithRect(&serverRect, &region) == success)
             return owned(region);
     }
     return nullptr;
 }
 
-bool setExcluded(bool on, qint64 windowNumber, QSizeF windowSize)
+bool CaptureExclusion::setExcluded(bool on, qint64 windowNumber, QSizeF windowSize) const
 {
     if (!canSetShape())
         return false;
-    const ConnectionID connection = entryPoints().mainConnectionID();
+    const ConnectionID connection = m_mainConnectionID();
     const WindowID window = windowNumber < 1 ? 0 : checkedWindowID(windowNumber);
     if (window < 1)
         return false;
     if (!on)
-        return entryPoints().setWindowCaptureExcludeShape(connection, window, nullptr) == success;
+        return m_setWindowCaptureExcludeShape(connection, window, nullptr) == success;
     const Region region
         = makeRegion({ 0, 0, windowSize.width() + margin, windowSize.height() + margin });
-    return region
-        && entryPoints().setWindowCaptureExcludeShape(connection, window, region.get()) == success;
+    return region && m_setWindowCaptureExcludeShape(connection, window, region.get()) == success;
 }
 
-} // namespace Orvello::CaptureExclusion
+} // namespace Orvello

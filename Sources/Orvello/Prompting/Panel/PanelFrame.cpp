@@ -31,16 +31,29 @@ double distance(const QRectF& frame, const QRectF& screen)
     return std::hypot(between.x(), between.y());
 }
 
+const QRectF& mainScreen(const QList<QRectF>& screens)
+{
+    return screens.isEmpty() ? assumedScreen : screens.first();
+}
+
+/// The frame with its y counted the other way, up or down. Its own inverse.
+QRectF turnedOver(const QRectF& frame, const QList<QRectF>& screens)
+{
+    const auto isPrimary = [](const QRectF& screen) { return screen.topLeft().isNull(); };
+    const auto primary = std::ranges::find_if(screens, isPrimary);
+    const double height = (primary == screens.end() ? mainScreen(screens) : *primary).height();
+    return { frame.x(), height - frame.y() - frame.height(), frame.width(), frame.height() };
+}
+
 QString number(double value) { return QString::number(value, 'g', 12); }
 
 } // namespace
 
-QRectF initial(const QRectF& mainScreen)
+QRectF initial(const QList<QRectF>& screens)
 {
-    // QRectF counts y downward in its names: the greatest y of a frame, its top edge here, is
-    // bottom().
-    return { mainScreen.center().x() - panelWidth / 2,
-        mainScreen.bottom() - panelHeight - gapBelowScreenTop, panelWidth, panelHeight };
+    const QRectF screen = mainScreen(screens);
+    return { screen.center().x() - panelWidth / 2, screen.top() + gapBelowScreenTop, panelWidth,
+        panelHeight };
 }
 
 QRectF onScreen(const QRectF& frame, const QList<QRectF>& screens)
@@ -60,26 +73,28 @@ QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest)
 {
     const double width = std::clamp(frame.width(), smallest.width(), largest.width());
     const double height = std::clamp(frame.height(), smallest.height(), largest.height());
-    return { frame.x(), frame.bottom() - height, width, height };
+    return { frame.x(), frame.y(), width, height };
 }
 
-QString description(const QRectF& frame)
+QString description(const QRectF& frame, const QList<QRectF>& screens)
 {
-    return u"{{%1, %2}, {%3, %4}}"_s.arg(
-        number(frame.x()), number(frame.y()), number(frame.width()), number(frame.height()));
+    const QRectF counted = turnedOver(frame, screens);
+    return u"{{%1, %2}, {%3, %4}}"_s.arg(number(counted.x()), number(counted.y()),
+        number(counted.width()), number(counted.height()));
 }
 
-QString text(const QRectF& frame, const QRectF& screen)
+QString text(const QRectF& frame, const QList<QRectF>& screens)
 {
     QStringList numbers;
-    for (const QRectF& part : { frame, screen }) {
+    for (const QRectF& part :
+        { turnedOver(frame, screens), turnedOver(mainScreen(screens), screens) }) {
         for (const double value : { part.x(), part.y(), part.width(), part.height() })
             numbers.append(number(value));
     }
     return numbers.join(u' ');
 }
 
-std::optional<QRectF> parsed(const QString& text)
+std::optional<QRectF> parsed(const QString& text, const QList<QRectF>& screens)
 {
     constexpr double farthest = 1e6; // Points; no desktop is larger.
     const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
@@ -95,7 +110,7 @@ std::optional<QRectF> parsed(const QString& text)
     const QRectF frame(values[0], values[1], values[2], values[3]);
     if (frame.width() <= 0 || frame.height() <= 0)
         return std::nullopt;
-    return frame;
+    return turnedOver(frame, screens);
 }
 
 } // namespace Orvello::PanelFrame

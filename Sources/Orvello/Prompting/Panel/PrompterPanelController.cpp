@@ -2,23 +2,26 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Observe.h"
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/Screens.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
-using SharingType = NativePanel::SharingType;
 
 namespace {
 
 constexpr double watchdogPeriod = 2.0; // Seconds.
 constexpr double reassertionDelay = 0.1; // Seconds the window server may need to place a window.
 constexpr double pointsPerScrollDelta = 3.0;
+
+// What the log calls the two, by the numbers that macOS has for them.
+constexpr long sharingNone = 0;
+constexpr long sharingReadOnly = 1;
 
 /// Which of the two mechanisms are in use, for experiments: "shape", "flag", or both for anything
 /// else.
@@ -28,14 +31,18 @@ QString onOrOff(bool on) { return on ? u"ON"_s : u"OFF"_s; }
 
 } // namespace
 
-PrompterPanelController::PrompterPanelController(const Services& services, bool forceCapturable)
+PrompterPanelController::PrompterPanelController(
+    const Services& services, bool forceCapturable, const CaptureExclusion& captureExclusion)
     : m_panel(services.panel)
+    , m_hiding(services.panel.captureHiding())
+    , m_screens(services.screens)
     , m_presentation(services.presentation)
     , m_time(services.time)
     , m_stealthLog(services.folders)
+    , m_captureExclusion(captureExclusion)
     , m_forceCapturable(forceCapturable)
 {
-    placePanel(services.screens);
+    placePanel();
     connect(&m_panel, &NativePanel::scrolled, &services.engine,
         [&engine = services.engine](double delta) { engine.nudge(pointsPerScrollDelta * delta); });
     applyStealthMode(services.settings.stealthMode());
@@ -44,42 +51,39 @@ PrompterPanelController::PrompterPanelController(const Services& services, bool 
         *this, [this](bool inCall) { callChanged(inCall); });
     m_stealthWatchdog = m_time.callEvery(watchdogPeriod, [this] { checkWindow(); });
     AppLog::write("Orvello PANEL_UP frame=%@ sharing=%ld sckExclude=%d",
-        PanelFrame::description(m_panel.frame()), static_cast<long>(m_panel.sharingType()),
-        static_cast<int>(CaptureExclusion::isUsable()));
+        PanelFrame::description(m_panel.frame(), m_screens.frames()),
+        m_hiding.isHidden() ? sharingNone : sharingReadOnly,
+        static_cast<int>(m_captureExclusion.isUsable()));
 }
 
 PrompterPanelController::~PrompterPanelController() = default;
 
 bool PrompterPanelController::isVisibleInRecordings() const
 {
-    return m_wantsStealth && !m_panel.canExcludeFromCapture();
+    return m_wantsStealth && !m_hiding.isPossible();
 }
 
-void PrompterPanelController::placePanel(const Screens& screens)
+void PrompterPanelController::placePanel()
 {
-    const QList<QRectF> frames = screens.frames();
-    m_panel.setFrame(
-        PanelFrame::initial(frames.isEmpty() ? PanelFrame::assumedScreen : frames.first()));
-    m_panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    m_panel.setFrame(PanelFrame::initial(m_screens.frames()));
+    m_panel.saveFrameAs(u"PrompterPanel"_s);
 }
 
 void PrompterPanelController::applyStealthMode(bool on)
 {
     const bool wasVisibleInRecordings = isVisibleInRecordings();
     const bool effective = on && !m_forceCapturable;
-    const bool isChange = effective != m_stealthOn;
-    m_wantsStealth = on;
     m_stealthOn = effective;
+    m_wantsStealth = on;
     const QString mode = stealthMechanisms();
-    const SharingType desired
-        = !effective || mode == u"shape" ? SharingType::ReadOnly : SharingType::None;
+    const bool isHidden = effective && mode != u"shape";
 
-    const qint64 wid = m_panel.windowNumber();
-    const bool fresh = applySharingType(desired, wid);
+    const qint64 wid = m_hiding.windowNumber();
+    const bool fresh = hideFromCaptures(isHidden, wid);
     const bool applied = applyShape(effective, mode);
     if (wid >= 1) {
         m_appliedWid = wid;
-        m_appliedSharing = desired;
+        m_appliedHidden = isHidden;
     }
 
     m_stealthLog.write(u"APPLY "_s + onOrOff(effective) + u" wid="_s + QString::number(wid)
@@ -87,39 +91,36 @@ void PrompterPanelController::applyStealthMode(bool on)
         + (applied ? u"1"_s : u"0"_s));
     AppLog::write("Orvello STEALTH %@ wid=%ld fresh=%d mode=%@ sckExcludeApplied=%d",
         onOrOff(effective), wid, static_cast<int>(fresh), mode, static_cast<int>(applied));
-    if (isChange)
-        Q_EMIT stealthOnChanged();
     if (isVisibleInRecordings() != wasVisibleInRecordings)
         Q_EMIT visibleInRecordingsChanged();
 }
 
-/// Sets the sharing type and returns whether the window is a fresh one.
-bool PrompterPanelController::applySharingType(SharingType desired, qint64 windowNumber)
+/// Returns whether the window is a fresh one.
+bool PrompterPanelController::hideFromCaptures(bool isHidden, qint64 windowNumber)
 {
     if (windowNumber >= 1 && windowNumber != m_appliedWid) {
-        // The window server takes notice of a change only, not of the type that a window was
-        // created with.
-        if (m_panel.sharingType() == desired)
-            m_panel.setSharingType(
-                desired == SharingType::None ? SharingType::ReadOnly : SharingType::None);
-        m_panel.setSharingType(desired);
+        // The window server takes notice of a change only, not of what a window was created with.
+        if (m_hiding.isHidden() == isHidden)
+            m_hiding.setHidden(!isHidden);
+        m_hiding.setHidden(isHidden);
         return true;
     }
-    if (m_appliedSharing != desired)
-        m_panel.setSharingType(desired);
+    if (m_appliedHidden != isHidden)
+        m_hiding.setHidden(isHidden);
     return false;
 }
 
 bool PrompterPanelController::applyShape(bool on, const QString& mode)
 {
     const bool isWanted = on && mode != u"flag";
-    return CaptureExclusion::setExcluded(isWanted, m_panel.windowNumber(), m_panel.frame().size());
+    return m_captureExclusion.setExcluded(
+        isWanted, m_hiding.windowNumber(), m_panel.frame().size());
 }
 
 void PrompterPanelController::reassertStealth()
 {
     applyStealthMode(m_wantsStealth);
-    if (!m_stealthOn || m_panel.windowNumber() >= 1)
+    if (!m_stealthOn || m_hiding.windowNumber() >= 1)
         return;
     m_delayedReassertions.push_back(m_time.callAfter(reassertionDelay, [this] {
         if (m_stealthOn)
@@ -129,11 +130,11 @@ void PrompterPanelController::reassertStealth()
 
 void PrompterPanelController::watchResizes()
 {
-    connect(&m_panel, &NativePanel::didResize, this, [this] {
-        if (m_stealthOn && !m_panel.inLiveResize())
+    connect(&m_panel, &NativePanel::resized, this, [this] {
+        if (m_stealthOn && !m_panel.isBeingResized())
             reapplyShapeOrPostpone();
     });
-    connect(&m_panel, &NativePanel::didEndLiveResize, this, [this] {
+    connect(&m_panel, &NativePanel::resizeEnded, this, [this] {
         if (m_stealthOn)
             reapplyShapeOrPostpone();
     });
@@ -155,7 +156,7 @@ void PrompterPanelController::reapplyShapeOrPostpone()
 
 void PrompterPanelController::coverCurrentFrame()
 {
-    CaptureExclusion::setExcluded(true, m_panel.windowNumber(), m_panel.frame().size());
+    m_captureExclusion.setExcluded(true, m_hiding.windowNumber(), m_panel.frame().size());
 }
 
 void PrompterPanelController::callChanged(bool inCall)
@@ -169,7 +170,7 @@ void PrompterPanelController::callChanged(bool inCall)
 
 void PrompterPanelController::checkWindow()
 {
-    const qint64 wid = m_panel.windowNumber();
+    const qint64 wid = m_hiding.windowNumber();
     if (!m_stealthOn || !m_panel.isVisible() || wid < 1 || wid == m_appliedWid)
         return;
     m_stealthLog.write(u"HEAL window recreated %1 -> %2, re-applying"_s.arg(m_appliedWid).arg(wid));

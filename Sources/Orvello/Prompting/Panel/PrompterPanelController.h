@@ -2,6 +2,7 @@
 
 #include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 #include "Orvello/Prompting/Panel/StealthLog.h"
 
 #include <QObject>
@@ -12,6 +13,7 @@
 
 namespace Orvello {
 
+class CaptureHiding;
 class Folders;
 class PresentationMonitor;
 class Screens;
@@ -19,15 +21,12 @@ class ScrollEngine;
 class SettingsStore;
 
 /// Places the prompter panel and keeps it out of captures while Stealth Mode is on. Two independent
-/// mechanisms hide the panel: the window's sharing type and a capture-exclude shape. The window
+/// mechanisms hide the panel: the window system's own and a capture-exclude shape. The window
 /// server can silently drop either (the window gets a new number, or outgrows the shape), so the
 /// controller remembers what it applied and repairs it: after every resize, after a call ends, and
 /// from a watchdog. The panel is built but not shown: showing it is the shell's business.
 class PrompterPanelController final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool stealthOn READ stealthOn NOTIFY stealthOnChanged FINAL)
-    Q_PROPERTY(
-        bool visibleInRecordings READ isVisibleInRecordings NOTIFY visibleInRecordingsChanged FINAL)
 
 public:
     /// All of them must outlive the controller.
@@ -42,7 +41,8 @@ public:
     };
 
     /// With `forceCapturable` Stealth Mode never takes effect.
-    PrompterPanelController(const Services& services, bool forceCapturable);
+    PrompterPanelController(const Services& services, bool forceCapturable,
+        const CaptureExclusion& captureExclusion = CaptureExclusion());
     ~PrompterPanelController() override;
 
     NativePanel& panel() { return m_panel; }
@@ -64,28 +64,30 @@ public:
     void reapplyShapeOrPostpone();
 
 Q_SIGNALS:
-    void stealthOnChanged();
     void visibleInRecordingsChanged();
 
 private:
-    void placePanel(const Screens& screens);
+    void placePanel();
     void watchResizes();
     void callChanged(bool inCall);
     void checkWindow();
     void coverCurrentFrame();
-    bool applySharingType(NativePanel::SharingType desired, qint64 windowNumber);
+    bool hideFromCaptures(bool isHidden, qint64 windowNumber);
     bool applyShape(bool on, const QString& mode);
 
     NativePanel& m_panel;
+    CaptureHiding& m_hiding;
+    const Screens& m_screens;
     PresentationMonitor& m_presentation;
     TimeSource& m_time;
     StealthLog m_stealthLog;
+    const CaptureExclusion m_captureExclusion;
     const bool m_forceCapturable;
     bool m_stealthOn = false;
     bool m_wantsStealth = false;
     bool m_pendingShapeReapply = false; ///< A shape was left as it was because a call was going on.
     qint64 m_appliedWid = -1; ///< Window number at the last application.
-    std::optional<NativePanel::SharingType> m_appliedSharing;
+    std::optional<bool> m_appliedHidden;
     std::unique_ptr<TimeSource::Ticket> m_stealthWatchdog;
     /// One for each request; few, because a window has its number soon.
     std::vector<std::unique_ptr<TimeSource::Ticket>> m_delayedReassertions;

@@ -13,23 +13,10 @@ namespace {
 /// Of a picture; every renderer takes one a little larger as a texture.
 constexpr double largestSide = 4000;
 
-void lay(QTextLayout& layout, const PromptLine& line, const PromptTypography& typography)
-{
-    QTextOption option(line.isRightToLeft ? Qt::AlignRight : Qt::AlignLeft);
-    option.setTextDirection(line.isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    option.setWrapMode(QTextOption::NoWrap);
-    option.setUseDesignMetrics(true); // As in the layout that broke the line.
-    layout.setTextOption(option);
-    layout.beginLayout();
-    layout.createLine().setLineWidth(typography.width);
-    layout.endLayout();
-}
-
 /// In which all glyphs lie, in points from the frame's left edge and the baseline. Accents may be
 /// stacked, and letters may lean out of their boxes, by half the font's size.
-QRectF roomFor(const QTextLayout& layout)
+QRectF roomFor(const QTextLine& line)
 {
-    const QTextLine line = layout.lineAt(0);
     const double reach = 0.5 * line.height();
     const QRectF box = line.naturalTextRect();
     return box.translated(0, -line.ascent()).adjusted(-reach, -reach, reach, reach);
@@ -76,9 +63,8 @@ QRect devicePixelsAround(const QRect& ink)
 LineImage LineImage::of(
     const PromptLine& line, const PromptTypography& typography, const QColor& color, double scale)
 {
-    QTextLayout layout(line.text, typography.font);
-    lay(layout, line, typography);
-    const QRectF room = roomFor(layout);
+    const QTextLine laidOut = line.inPiece();
+    const QRectF room = roomFor(laidOut);
     // A line that no texture could hold is drawn coarser.
     const double resolution = std::min({ scale, largestSide / (room.width() * typography.scale),
         largestSide / (room.height() * typography.scale * rowsPerPixel) });
@@ -91,7 +77,7 @@ LineImage LineImage::of(
     painter.scale(1, rowsPerPixel);
     painter.translate(-area.topLeft());
     painter.scale(pixels, pixels);
-    layout.draw(&painter, { 0, -layout.lineAt(0).ascent() });
+    laidOut.draw(&painter, { 0, -laidOut.ascent() });
     painter.end();
 
     const QRect ink = inkOf(canvas);

@@ -1,5 +1,8 @@
 #include "Orvello/Prompting/Text/PromptLines.h"
 
+#include "Orvello/Foundation/Assign.h"
+#include "Orvello/Prompting/Text/PromptFont.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -39,41 +42,36 @@ PromptLines::~PromptLines() = default;
 
 void PromptLines::setText(const QString& text)
 {
-    if (text == m_text)
+    if (!assign(m_text, text))
         return;
-    m_text = text;
     restart();
     Q_EMIT textChanged();
 }
 
-void PromptLines::setFontFamily(const QString& family)
+void PromptLines::edit(const QString& text, const TextEdit& edit)
 {
-    if (std::exchange(m_fontFamily, family) != family)
-        typographyWasSet();
+    m_text = text;
+    if (canLayOut())
+        layOut(newest().edited(text, edit));
+    Q_EMIT textChanged();
 }
 
 void PromptLines::setFontSize(double points)
 {
-    if (std::exchange(m_fontSize, points) != points)
-        typographyWasSet();
+    if (assign(m_fontSize, points))
+        restart();
 }
 
 void PromptLines::setTextWidth(double points)
 {
-    if (std::exchange(m_textWidth, points) != points)
-        typographyWasSet();
-}
-
-void PromptLines::typographyWasSet()
-{
-    restart();
-    Q_EMIT typographyChanged();
+    if (assign(m_textWidth, points))
+        restart();
 }
 
 PromptTypography PromptLines::typography() const
 {
     const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
-    QFont font(QStringList { m_fontFamily, emojiFamily });
+    QFont font(QStringList { PromptFont::family(), emojiFamily });
     const double wholeSize = std::ceil(size);
     font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);
@@ -84,18 +82,14 @@ PromptTypography PromptLines::typography() const
 
 void PromptLines::setVisibleTop(double points)
 {
-    if (std::exchange(m_visibleTop, points) == points)
-        return;
-    showVisibleLines();
-    Q_EMIT visiblePartChanged();
+    if (assign(m_visibleTop, points))
+        showVisibleLines();
 }
 
 void PromptLines::setVisibleHeight(double points)
 {
-    if (std::exchange(m_visibleHeight, points) == points)
-        return;
-    showVisibleLines();
-    Q_EMIT visiblePartChanged();
+    if (assign(m_visibleHeight, points))
+        showVisibleLines();
 }
 
 bool PromptLines::isLaidOut() const { return !m_next && m_shown.isComplete(); }
@@ -107,11 +101,18 @@ std::size_t PromptLines::positionBytes() const
 
 PromptLayout& PromptLines::newest() { return m_next ? *m_next : m_shown; }
 
+/// Whether size and width are known, and numbers.
+bool PromptLines::canLayOut() const { return m_fontSize > 0 && m_textWidth > 0; }
+
 void PromptLines::restart()
 {
-    if (!(m_fontSize > 0 && m_textWidth > 0))
-        return; // Not known yet, or no number.
-    m_next = PromptLayout(m_text, typography(), newest());
+    if (canLayOut())
+        layOut(PromptLayout(m_text, typography()));
+}
+
+void PromptLines::layOut(PromptLayout layout)
+{
+    m_next = std::move(layout);
     layOutSlice();
 }
 
@@ -151,7 +152,7 @@ void PromptLines::updateContentHeight()
     const PromptLayout& layout = newest();
     const double height
         = layout.isComplete() ? heightOf(layout) : std::max(heightOf(layout), m_contentHeight);
-    if (std::exchange(m_contentHeight, height) != height)
+    if (assign(m_contentHeight, height))
         Q_EMIT contentHeightChanged();
 }
 
@@ -160,12 +161,18 @@ void PromptLines::showVisibleLines()
     const double scale = m_shown.typography().scale;
     const auto range = m_shown.linesBetween(
         (m_visibleTop - margin) / scale, (m_visibleTop + m_visibleHeight + margin) / scale);
-    if (std::exchange(m_visibleRange, range) == range)
+    const auto before = std::exchange(m_visibleRange, range);
+    if (before == range)
         return;
-    std::vector<PromptLine> lines;
-    for (PromptLayout::Index line = range.first; line < range.second; ++line)
-        lines.push_back(m_shown.line(line));
-    if (std::exchange(m_visibleLines, lines) != lines)
+    // Lines of an earlier layout are no help in this one.
+    std::vector<PromptLine> lines = m_shown.lines(
+        range.first, range.second, before ? m_visibleLines : std::vector<PromptLine>());
+    const bool isSame = std::ranges::equal(
+        lines, m_visibleLines, [](const PromptLine& line, const PromptLine& shown) {
+            return line.baseline == shown.baseline && line.looksLike(shown);
+        });
+    m_visibleLines = std::move(lines);
+    if (!isSame)
         Q_EMIT visibleLinesChanged();
 }
 

@@ -17,12 +17,7 @@ namespace Orvello {
 /// successor is ready. Lengths are in points. Main thread.
 class PromptLines final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged FINAL)
-    Q_PROPERTY(
-        QString fontFamily READ fontFamily WRITE setFontFamily NOTIFY typographyChanged FINAL)
-    Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY typographyChanged FINAL)
-    Q_PROPERTY(double textWidth READ textWidth WRITE setTextWidth NOTIFY typographyChanged FINAL)
-    Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentHeightChanged FINAL)
+    Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
 
 public:
     explicit PromptLines(
@@ -32,8 +27,9 @@ public:
     const QString& text() const { return m_text; }
     void setText(const QString& text);
 
-    const QString& fontFamily() const { return m_fontFamily; }
-    void setFontFamily(const QString& family);
+    /// Takes over a text that differs from the present one by the edit alone: at the cost of the
+    /// edit, not of the text.
+    void edit(const QString& text, const TextEdit& edit);
 
     double fontSize() const { return m_fontSize; }
     void setFontSize(double points);
@@ -64,17 +60,16 @@ public:
 
 Q_SIGNALS:
     void textChanged();
-    void typographyChanged();
     void visibleLinesChanged();
     void shownTypographyChanged();
-    void visiblePartChanged();
     void contentHeightChanged();
 
 private:
     PromptTypography typography() const;
     PromptLayout& newest();
-    void typographyWasSet();
+    bool canLayOut() const;
     void restart();
+    void layOut(PromptLayout layout);
     void layOutSlice();
     void adoptWhenReady();
     void updateContentHeight();
@@ -82,7 +77,6 @@ private:
 
     TimeSource& m_time;
     QString m_text;
-    QString m_fontFamily;
     double m_fontSize = 0;
     double m_textWidth = 0;
     double m_visibleTop = 0;

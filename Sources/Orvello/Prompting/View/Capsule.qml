@@ -1,4 +1,5 @@
 import QtQuick
+import Orvello
 
 // A dark pill that keeps small things readable above moving text and over any wallpaper.
 Rectangle {
@@ -10,9 +11,9 @@ Rectangle {
     readonly property int spacing: 6
 
     implicitWidth: row.implicitWidth + 2 * padding
-    implicitHeight: 18
+    implicitHeight: CardStyle.capsuleHeight
     radius: height / 2
-    color: Qt.rgba(0, 0, 0, 0.88)
+    color: CardStyle.capsule
 
     Row {
         id: row

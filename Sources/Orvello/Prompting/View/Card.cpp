@@ -1,5 +1,8 @@
 #include "Orvello/Prompting/View/Card.h"
 
+#include "Orvello/Foundation/Assign.h"
+#include "Orvello/Prompting/View/CardStyle.h"
+
 #include <QQuickWindow>
 #include <QSGFlatColorMaterial>
 #include <QSGGeometryNode>
@@ -9,7 +12,6 @@
 #include <array>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 namespace Orvello {
 
@@ -144,7 +146,7 @@ Card::Card(QQuickItem* parent)
 
 void Card::setColor(const QColor& color)
 {
-    if (std::exchange(m_color, color) == color)
+    if (!assign(m_color, color))
         return;
     update();
     Q_EMIT colorChanged();
@@ -159,7 +161,7 @@ void Card::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
 QSGNode* Card::updatePaintNode(QSGNode* root, UpdatePaintNodeData* /*data*/)
 {
     auto* const node = root ? static_cast<CardNode*>(root) : new CardNode;
-    const double radius = std::min({ cornerRadius, width() / 2, height() / 2 });
+    const double radius = std::min({ CardStyle::cornerRadius, width() / 2, height() / 2 });
     node->middle.fill(size(), radius, m_color);
     node->corners.fill(size(), radius, m_color, window()->effectiveDevicePixelRatio());
     return node;

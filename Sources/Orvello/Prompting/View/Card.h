@@ -13,8 +13,6 @@ class Card : public QQuickItem {
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
 
 public:
-    static constexpr double cornerRadius = 16;
-
     explicit Card(QQuickItem* parent = nullptr);
 
     QColor color() const { return m_color; }

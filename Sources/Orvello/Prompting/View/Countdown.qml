@@ -1,4 +1,5 @@
 import QtQuick
+import Orvello
 
 // The seconds until the text starts, above a text that steps back for as long.
 Rectangle {
@@ -11,17 +12,17 @@ Rectangle {
     Accessible.name: number
     Accessible.description: qsTr("Countdown")
 
-    radius: 16
-    color: Qt.rgba(0, 0, 0, 0.6)
+    radius: CardStyle.cornerRadius
+    color: CardStyle.veil
 
     Text {
         anchors.centerIn: parent
         Accessible.ignored: true
         text: root.number
         textFormat: Text.PlainText
-        color: "white"
+        color: CardStyle.text
         font.family: root.fontFamily
-        font.pixelSize: 84
+        font.pixelSize: CardStyle.countdownSize
         font.weight: Font.Bold
     }
 }

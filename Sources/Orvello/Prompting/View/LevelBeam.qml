@@ -17,7 +17,7 @@ Row {
 
             width: 3
             height: 10
-            color: index < root.meter.litBars ? root.meter.litColor : Qt.rgba(1, 1, 1, 0.15)
+            color: index < root.meter.litBars ? CardStyle.green : CardStyle.unlit
         }
     }
 }

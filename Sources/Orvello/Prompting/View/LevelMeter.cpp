@@ -1,9 +1,7 @@
 #include "Orvello/Prompting/View/LevelMeter.h"
 
-#include "Orvello/Prompting/View/SignalColors.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
-
-#include <utility>
 
 namespace Orvello {
 
@@ -13,12 +11,10 @@ LevelMeter::LevelMeter(const VoiceActivityEngine& voice, QObject* parent)
 {
     connect(&voice, &VoiceActivityEngine::levelChanged, this, [this, &voice] {
         const int lit = litBarsAt(voice.level());
-        if (std::exchange(m_litBars, lit) != lit)
+        if (assign(m_litBars, lit))
             Q_EMIT litBarsChanged();
     });
 }
-
-QColor LevelMeter::litColor() { return SignalColors::green; }
 
 int LevelMeter::litBarsAt(float level)
 {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QObject>
 
 namespace Orvello {
@@ -13,7 +12,6 @@ class LevelMeter final : public QObject {
     Q_OBJECT
     Q_PROPERTY(int litBars READ litBars NOTIFY litBarsChanged FINAL)
     Q_PROPERTY(int barCount READ barCount CONSTANT FINAL)
-    Q_PROPERTY(QColor litColor READ litColor CONSTANT FINAL)
 
 public:
     static constexpr int bars = 5;
@@ -23,7 +21,6 @@ public:
 
     int litBars() const { return m_litBars; } ///< From the left.
     static int barCount() { return bars; }
-    static QColor litColor();
 
     /// Bar i is lit when i / 5 is less than the level.
     [[nodiscard]] static int litBarsAt(float level);

@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/View/PromptText.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Prompting/View/FadingTextNode.h"
 
 #include <QQuickWindow>
@@ -17,16 +18,15 @@ namespace {
 /// Where the first line stands at offset 0, in parts of the card's height.
 constexpr double firstLineTop = 0.18;
 
+/// Beside the text, in points, on cards that are wide enough.
+constexpr double sideMargin = 28;
+constexpr double smallestTextWidth = 100;
+
 /// From asking Qt for a frame until it begins to prepare it, in seconds: QPlatformWindow waits this
 /// long for further requests.
 constexpr double requestLatency = 0.005;
 
 constexpr double usualFrameInterval = 1.0 / 60.0;
-
-bool isSameText(const PromptLine& a, const PromptLine& b)
-{
-    return a.text == b.text && a.isRightToLeft == b.isRightToLeft;
-}
 
 } // namespace
 
@@ -50,13 +50,12 @@ void PromptText::setEngine(ScrollEngine* engine)
              &ScrollEngine::voiceGateChanged })
         connect(engine, signal, this, &PromptText::follow);
     Q_EMIT engineChanged();
-    polish();
+    tellSize();
 }
 
 void PromptText::setLines(PromptLines* lines)
 {
     m_lines = lines;
-    m_lines->setVisibleHeight(height());
     connect(lines, &PromptLines::visibleLinesChanged, this, [this] {
         m_areLinesNew = true;
         polish();
@@ -64,11 +63,12 @@ void PromptText::setLines(PromptLines* lines)
     connect(lines, &PromptLines::shownTypographyChanged, this, &PromptText::redrawAllLines);
     Q_EMIT linesChanged();
     redrawAllLines();
+    tellSize();
 }
 
 void PromptText::setColor(const QColor& color)
 {
-    if (std::exchange(m_color, color) == color)
+    if (!assign(m_color, color))
         return;
     redrawAllLines();
     Q_EMIT colorChanged();
@@ -77,8 +77,17 @@ void PromptText::setColor(const QColor& color)
 void PromptText::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (m_lines)
-        m_lines->setVisibleHeight(height());
+    tellSize();
+}
+
+/// The engine and the layout cannot know how much room there is.
+void PromptText::tellSize()
+{
+    if (!m_engine || !m_lines)
+        return;
+    m_engine->setViewportHeight(height());
+    m_lines->setVisibleHeight(height());
+    m_lines->setTextWidth(std::max(width() - 2 * sideMargin, smallestTextWidth));
     polish();
 }
 
@@ -144,7 +153,7 @@ void PromptText::drawVisibleLines()
     std::vector<ShownLine> before = std::exchange(m_shown, {});
     for (const PromptLine& line : m_lines->visibleLines()) {
         const auto same = std::ranges::find_if(
-            before, [&](const ShownLine& shown) { return isSameText(shown.line, line); });
+            before, [&](const ShownLine& shown) { return shown.line.looksLike(line); });
         if (same == before.end()) {
             const double scale = window() ? window()->effectiveDevicePixelRatio() : 1;
             m_shown.push_back(

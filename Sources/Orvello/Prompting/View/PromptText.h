@@ -59,6 +59,7 @@ private:
         FadingTextNode* node = nullptr; ///< Owned by the scene graph.
     };
 
+    void tellSize();
     void follow();
     void frameWasShown();
     void redrawAllLines();

@@ -1,9 +1,8 @@
 #include "Orvello/Prompting/View/PrompterStatus.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Prompting/View/SignalColors.h"
-
-#include <utility>
+#include "Orvello/Prompting/View/CardStyle.h"
 
 namespace Orvello {
 
@@ -31,26 +30,32 @@ QStringList PrompterStatus::labels()
     return labels;
 }
 
+void PrompterStatus::setVisibleInRecordings(bool isVisible)
+{
+    if (assign(m_isVisibleInRecordings, isVisible))
+        Q_EMIT visibleInRecordingsChanged();
+}
+
 PrompterStatus::Appearance PrompterStatus::appearance(State state)
 {
     switch (state) {
     case State::GetReady:
         //: On the card, at most about 20 characters: the countdown runs.
-        return { tr("get ready"), SignalColors::yellow };
+        return { tr("get ready"), CardStyle::yellow };
     case State::HoverPause:
         //: On the card, at most about 20 characters: the pointer over the card holds the text.
-        return { tr("hover pause"), SignalColors::orange };
+        return { tr("hover pause"), CardStyle::orange };
     case State::Paused:
         //: On the card, at most about 20 characters: the text stands still.
-        return { tr("paused"), SignalColors::orange };
+        return { tr("paused"), CardStyle::orange };
     case State::Listening:
         //: On the card, at most about 20 characters: the text waits for the user to speak.
-        return { tr("listening…"), SignalColors::yellow };
+        return { tr("listening…"), CardStyle::yellow };
     case State::Scrolling:
         break;
     }
     //: On the card, at most about 20 characters: the text moves.
-    return { tr("scrolling"), SignalColors::green };
+    return { tr("scrolling"), CardStyle::green };
 }
 
 PrompterStatus::State PrompterStatus::stateOfEngine() const
@@ -69,7 +74,7 @@ PrompterStatus::State PrompterStatus::stateOfEngine() const
 void PrompterStatus::update()
 {
     const State state = stateOfEngine();
-    if (std::exchange(m_state, state) != state)
+    if (assign(m_state, state))
         Q_EMIT changed();
 }
 

@@ -9,12 +9,14 @@ namespace Orvello {
 
 class ScrollEngine;
 
-/// What the prompter's status badge says about the scroll engine.
+/// What the prompter's badges say: what the scroll engine does, and whether recordings show it all.
 class PrompterStatus final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString label READ label NOTIFY changed FINAL)
     Q_PROPERTY(QColor color READ color NOTIFY changed FINAL)
     Q_PROPERTY(QStringList labels READ labels CONSTANT FINAL)
+    Q_PROPERTY(bool isVisibleInRecordings READ isVisibleInRecordings NOTIFY
+            visibleInRecordingsChanged FINAL)
 
 public:
     explicit PrompterStatus(
@@ -25,8 +27,13 @@ public:
 
     static QStringList labels(); ///< Every label there is: a badge has room for each.
 
+    /// Whether Stealth Mode is wanted where nothing can hide the panel.
+    bool isVisibleInRecordings() const { return m_isVisibleInRecordings; }
+    void setVisibleInRecordings(bool isVisible);
+
 Q_SIGNALS:
     void changed();
+    void visibleInRecordingsChanged();
 
 private:
     enum class State { GetReady, HoverPause, Paused, Listening, Scrolling };
@@ -42,6 +49,7 @@ private:
 
     const ScrollEngine& m_engine;
     State m_state;
+    bool m_isVisibleInRecordings = false;
 };
 
 } // namespace Orvello

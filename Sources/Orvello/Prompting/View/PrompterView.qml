@@ -3,7 +3,7 @@ import QtQuick
 import Orvello
 
 // The dark card with the script, moved up by the scroll engine, and the small status elements at
-// its edges. It tells the engine the two heights and the hovering that the engine cannot know.
+// its edges.
 Item {
     id: root
 
@@ -14,13 +14,8 @@ Item {
     required property LevelMeter levelMeter
     required property SlideStatus slideStatus
     required property ShareWarning shareWarning
-    required property string promptText
     required property string fontFamily
     required property bool forceCapturable
-    property bool visibleInRecordings: false // Stealth Mode is wanted where nothing can hide the panel.
-
-    readonly property double textWidth: Math.max(width - 56, 100)
-    readonly property int edge: 6
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Prompter")
@@ -28,23 +23,6 @@ Item {
 
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
-    onHeightChanged: engine.setViewportHeight(height)
-    Component.onCompleted: {
-        engine.setViewportHeight(height);
-        engine.setContentHeight(lines.contentHeight);
-    }
-
-    Connections {
-        target: root.lines
-        function onContentHeightChanged() {
-            root.engine.setContentHeight(root.lines.contentHeight);
-        }
-    }
-
-    Binding { target: root.lines; property: "fontFamily"; value: root.fontFamily }
-    Binding { target: root.lines; property: "fontSize"; value: root.settings.fontSize }
-    Binding { target: root.lines; property: "textWidth"; value: root.textWidth }
-    Binding { target: root.lines; property: "text"; value: root.promptText }
     Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
 
     HoverHandler {
@@ -63,7 +41,7 @@ Item {
         color: root.settings.textColor
 
         Accessible.role: Accessible.StaticText
-        Accessible.name: root.promptText
+        Accessible.name: root.lines.text
     }
 
     Countdown {
@@ -77,7 +55,7 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: statusBadge.top
-        anchors.margins: root.edge
+        anchors.margins: CardStyle.edge
         warning: root.shareWarning
     }
 
@@ -85,7 +63,7 @@ Item {
         id: statusBadge
         anchors.left: parent.left
         anchors.bottom: parent.bottom
-        anchors.margins: root.edge
+        anchors.margins: CardStyle.edge
         status: root.status
         meter: root.levelMeter
     }
@@ -93,8 +71,8 @@ Item {
     SlideChip {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        anchors.margins: root.edge
-        maximumWidth: parent.width - statusBadge.width - 3 * root.edge
+        anchors.margins: CardStyle.edge
+        maximumWidth: parent.width - statusBadge.width - 3 * CardStyle.edge
         visible: root.slideStatus.isShown
         status: root.slideStatus
     }
@@ -102,8 +80,8 @@ Item {
     RecordingBadge {
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.margins: root.edge
-        visible: root.forceCapturable || root.visibleInRecordings
+        anchors.margins: CardStyle.edge
+        visible: root.forceCapturable || root.status.isVisibleInRecordings
         //: On the card, at most about 40 characters: others can see the prompter.
         message: root.forceCapturable ? qsTr("DEBUG — VISIBLE IN RECORDINGS") : qsTr("VISIBLE IN RECORDINGS")
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Orvello
 
 // Says that others can see the prompter, so plainly that nobody believes it hidden.
 Rectangle {
@@ -10,7 +11,7 @@ Rectangle {
     implicitWidth: label.implicitWidth + 12
     implicitHeight: 16
     radius: 4
-    color: "#ff453a" // SignalColors::red
+    color: CardStyle.red
 
     Text {
         id: label
@@ -18,8 +19,8 @@ Rectangle {
         anchors.centerIn: parent
         textFormat: Text.PlainText
         renderType: Text.NativeRendering
-        color: "white"
-        font.pixelSize: 10
+        color: CardStyle.text
+        font.pixelSize: CardStyle.labelSize
         font.weight: Font.Bold
     }
 }

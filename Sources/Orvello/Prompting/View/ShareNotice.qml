@@ -10,9 +10,9 @@ Rectangle {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message.text
 
-    radius: 9
-    implicitHeight: Math.max(18, message.implicitHeight + 6)
-    color: Qt.rgba(0, 0, 0, 0.88)
+    radius: CardStyle.capsuleHeight / 2
+    implicitHeight: Math.max(CardStyle.capsuleHeight, message.implicitHeight + 6)
+    color: CardStyle.capsule
     visible: warning.isShown
 
     Symbol {
@@ -23,7 +23,7 @@ Rectangle {
         width: 13
         height: 13
         name: "eye.trianglebadge.exclamationmark"
-        color: root.warning.color
+        color: CardStyle.yellow
     }
 
     SmallLabel {
@@ -34,17 +34,17 @@ Rectangle {
         anchors.right: dismissal.left
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.")
-        color: Qt.rgba(1, 1, 1, 0.7)
+        color: CardStyle.notice
         wrapMode: Text.Wrap
     }
 
-    SymbolButton {
+    CardButton {
         id: dismissal
         anchors.right: parent.right
         anchors.rightMargin: 2
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         description: qsTr("Dismiss")
-        onPressed: root.warning.dismiss()
+        onActivated: root.warning.dismiss()
     }
 }

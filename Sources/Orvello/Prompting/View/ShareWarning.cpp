@@ -1,11 +1,9 @@
 #include "Orvello/Prompting/View/ShareWarning.h"
 
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Prompting/View/SignalColors.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
-
-#include <utility>
 
 namespace Orvello {
 
@@ -25,8 +23,6 @@ ShareWarning::ShareWarning(const PresentationMonitor& presentation, const Settin
     connect(&engine, &ScrollEngine::countdownChanged, this, &ShareWarning::update);
 }
 
-QColor ShareWarning::color() { return SignalColors::yellow; }
-
 void ShareWarning::dismiss()
 {
     m_isDismissed = true;
@@ -44,7 +40,7 @@ bool ShareWarning::isCalledFor() const
 void ShareWarning::update()
 {
     const bool isShown = isCalledFor();
-    if (std::exchange(m_isShown, isShown) != isShown)
+    if (assign(m_isShown, isShown))
         Q_EMIT isShownChanged();
 }
 

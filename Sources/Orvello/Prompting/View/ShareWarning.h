@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QObject>
 
 namespace Orvello {
@@ -14,7 +13,6 @@ class SettingsStore;
 class ShareWarning final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isShown READ isShown NOTIFY isShownChanged FINAL)
-    Q_PROPERTY(QColor color READ color CONSTANT FINAL)
 
 public:
     /// All of them must outlive it.
@@ -22,7 +20,6 @@ public:
         const ScrollEngine& engine, QObject* parent = nullptr);
 
     bool isShown() const { return m_isShown; }
-    static QColor color(); ///< Of its symbol.
 
     Q_INVOKABLE void dismiss();
 

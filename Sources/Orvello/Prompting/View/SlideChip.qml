@@ -53,34 +53,34 @@ Capsule {
         id: buttons
         height: parent.height
 
-        SymbolButton {
+        CardButton {
             symbol: root.isMirrored ? "chevron.right" : "chevron.left"
             description: qsTr("Previous slide")
             isInert: !root.status.canGoBack
-            onPressed: root.status.goBack()
+            onActivated: root.status.goBack()
         }
 
         SmallLabel {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.ceil(widestPosition.width)
             text: root.status.position
-            color: Qt.rgba(1, 1, 1, 0.85)
+            color: CardStyle.strongLabel
             font.weight: Font.DemiBold
             horizontalAlignment: Text.AlignHCenter
 
             TextMetrics {
                 id: widestPosition
                 text: root.status.widestPosition
-                font.pixelSize: 10
+                font.pixelSize: CardStyle.labelSize
                 font.weight: Font.DemiBold
             }
         }
 
-        SymbolButton {
+        CardButton {
             symbol: root.isMirrored ? "chevron.left" : "chevron.right"
             description: qsTr("Next slide")
             isInert: !root.status.canGoOn
-            onPressed: root.status.goOn()
+            onActivated: root.status.goOn()
         }
     }
 }

@@ -1,7 +1,7 @@
 #include "Orvello/Prompting/View/SlideStatus.h"
 
 #include "Orvello/Presentations/Slideshow/DeckController.h"
-#include "Orvello/Prompting/View/SignalColors.h"
+#include "Orvello/Prompting/View/CardStyle.h"
 
 namespace Orvello {
 
@@ -15,13 +15,13 @@ struct Appearance {
 Appearance live()
 {
     //: On the card, at most about 12 characters: the notes follow the running slideshow.
-    return { SlideStatus::tr("Live"), SignalColors::green };
+    return { SlideStatus::tr("Live"), CardStyle::green };
 }
 
 Appearance noAccess()
 {
     //: On the card, at most about 12 characters: the presentation program may not be asked.
-    return { SlideStatus::tr("No access"), SignalColors::red };
+    return { SlideStatus::tr("No access"), CardStyle::red };
 }
 
 Appearance manual()

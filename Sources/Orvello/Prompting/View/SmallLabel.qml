@@ -1,9 +1,10 @@
 import QtQuick
+import Orvello
 
 // The small print of the card's edges.
 Text {
-    color: Qt.rgba(1, 1, 1, 0.55)
-    font.pixelSize: 10
+    color: CardStyle.label
+    font.pixelSize: CardStyle.labelSize
     font.weight: Font.Medium
     textFormat: Text.PlainText
     renderType: Text.NativeRendering

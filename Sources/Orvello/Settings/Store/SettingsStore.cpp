@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-SettingsStore* sharedStore = nullptr;
-
 double numberOr(double fallback, const UserDefaults& defaults, const QString& key)
 {
     return DefaultsValue::asNumber(defaults.value(key)).value_or(fallback);
@@ -24,18 +22,6 @@ bool booleanOr(bool fallback, const UserDefaults& defaults, const QString& key)
 }
 
 } // namespace
-
-SettingsStore& SettingsStore::shared()
-{
-    Q_ASSERT(sharedStore);
-    return *sharedStore;
-}
-
-void SettingsStore::adoptShared(SettingsStore& store)
-{
-    Q_ASSERT(!sharedStore);
-    sharedStore = &store;
-}
 
 SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     : QObject(parent)
@@ -53,12 +39,6 @@ SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     , m_slideSync(booleanOr(true, defaults, u"slideSync"_s))
     , m_onboardingSeenVersion(DefaultsValue::asInteger(defaults.value(u"onboardingSeenVersion"_s)))
 {
-}
-
-SettingsStore::~SettingsStore()
-{
-    if (sharedStore == this)
-        sharedStore = nullptr;
 }
 
 template <typename Value, typename Signal>

@@ -15,15 +15,20 @@ RowLayout {
     Accessible.name: qsTr("%1: %2").arg(keys).arg(label)
 
     Rectangle {
-        Layout.preferredWidth: 120
-        implicitHeight: 26
+        Layout.preferredWidth: Math.max(120, words.implicitWidth + 16)
+        Layout.maximumWidth: 200
+        implicitHeight: Math.max(26, words.implicitHeight + 8)
         radius: 6
         color: Qt.rgba(1, 1, 1, 0.09)
         border.color: Qt.rgba(1, 1, 1, 0.12)
 
         TourText {
+            id: words
+
             anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 12)
             text: root.keys
+            horizontalAlignment: Text.AlignHCenter
             color: TourStyle.text
             font.pixelSize: 12
             font.weight: Font.Medium

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace Orvello {
@@ -11,16 +13,11 @@ using namespace Qt::StringLiterals;
 
 int WelcomeTour::pageNamed(const QString& text)
 {
-    const bool isSigned = text.startsWith(u'+') || text.startsWith(u'-');
-    const QStringView digits = QStringView(text).sliced(isSigned ? 1 : 0);
-    const bool isNumber = !digits.isEmpty() && std::ranges::all_of(digits, [](QChar character) {
-        return character >= u'0' && character <= u'9';
-    });
-    if (!isNumber || text.startsWith(u'-'))
+    static const QRegularExpression decimalInteger(u"\\A[+-]?[0-9]+\\z"_s);
+    if (!decimalInteger.match(text).hasMatch())
         return 0;
-    bool isInRange = false;
-    const int page = digits.toInt(&isInRange);
-    return isInRange ? std::min(page, pageCount - 1) : pageCount - 1;
+    constexpr double lastPage = pageCount - 1;
+    return static_cast<int>(std::clamp(text.toDouble(), 0.0, lastPage));
 }
 
 WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, const Facts& facts, QObject* parent)

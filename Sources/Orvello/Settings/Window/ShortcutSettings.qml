@@ -1,7 +1,9 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Controls
 import Orvello
 
+// The global keys. Where the desktop assigns them, it says in its own words what they are.
 SettingsSection {
     id: root
 
@@ -12,5 +14,15 @@ SettingsSection {
     Repeater {
         model: root.shortcuts
         delegate: SettingsShortcut {}
+    }
+    SettingsRow {
+        visible: root.shortcuts.assignedKeys.canConfigure
+        label: qsTr("Other keys")
+
+        Button {
+            text: qsTr("Change Shortcuts…")
+            Accessible.name: text
+            onClicked: root.shortcuts.assignedKeys.configure()
+        }
     }
 }

@@ -2,9 +2,14 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Observe.h"
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
-#include "Orvello/Platform/Desktop/Platform.h"
+#include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/EarlyPlatform.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
@@ -24,37 +29,41 @@
 
 namespace Orvello {
 
+using namespace Qt::StringLiterals;
+
 AppDelegate::AppDelegate(
-    Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options)
-    : m_platform(platform)
+    const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
+    : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
-    , m_settings(platform.userDefaults())
-    , m_library(platform.userDefaults(), platform.folders(), platform.time(), platform.facts())
-    , m_scriptRunner(platform.childProcess())
-    , m_micActivity(platform.audioProcesses(), QCoreApplication::applicationPid())
-    , m_engine([this] { return std::make_unique<ScrollEngine>(m_settings, m_platform.time()); })
+    , m_settings(platforms.early.userDefaults())
+    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
+          platforms.early.facts())
+    , m_scriptRunner(platforms.early.childProcess())
+    , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
+    , m_engine(
+          [this] { return std::make_unique<ScrollEngine>(m_settings, m_platforms.early.time()); })
     , m_voice([this] {
         return std::make_unique<VoiceActivityEngine>(m_settings,
-            VoiceActivityEngine::Ports { m_platform.time(), m_platform.microphonePermission(),
-                m_platform.voiceProcessing(), m_platform.rawMicrophone(), m_micActivity,
-                m_platform.workspace() });
+            VoiceActivityEngine::Ports { m_platforms.early.time(),
+                m_platforms.sound.microphonePermission(), m_platforms.sound.voiceProcessing(),
+                m_platforms.sound.rawMicrophone(), m_micActivity,
+                m_platforms.desktop.workspace() });
     })
-    , m_presentation({ m_presenters, platform.workspace(), platform.windowServer(), m_micActivity,
-          platform.time() })
+    , m_presentation({ m_presenters, platforms.desktop.workspace(),
+          platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
     , m_slideSync([this] {
-        return std::make_unique<SlideSyncService>(m_presentation, m_presenters, m_platform.time());
+        return std::make_unique<SlideSyncService>(
+            m_presentation, m_presenters, m_platforms.early.time());
     })
     , m_deck(
           [this] { return std::make_unique<DeckController>(m_library, m_settings, m_slideSync()); })
-    , m_updates({ platform.updater(), platform.userDefaults(),
-          [&platform] { platform.desktopServices().activateApplication(); } })
-    , m_hotKeys(platform.hotKeys())
+    , m_updates({ platforms.desktop.updater(), platforms.early.userDefaults(),
+          [this] { m_platforms.desktop.desktopServices().activateApplication(); } })
+    , m_hotKeys(platforms.desktop.hotKeys())
 {
-    SettingsStore::adoptShared(m_settings);
-    LibraryStore::adoptShared(m_library);
-    HotKeyCenter::adoptShared(m_hotKeys);
     addPresenters();
+    quitAtSignals();
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -63,7 +72,7 @@ void AppDelegate::addPresenters()
 {
     m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
     m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
-    if (HelperProcess* helper = m_platform.impressHelper()) {
+    if (HelperProcess* helper = m_platforms.desktop.impressHelper()) {
         m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
         m_presenters.add(m_impress->row());
         m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
@@ -84,17 +93,17 @@ void AppDelegate::applicationDidFinishLaunching()
     subscribe();
     m_presentation.start();
     followSlideTracking();
-    importDeckFromEnvironment();
-    m_plainPKey = std::make_unique<PlainPKey>(
-        PlainPKey::Services { HotKeyCenter::shared(), m_settings, m_presentation },
-        [this] { m_engine().toggle(); });
-    if (m_options.autostart)
-        m_engine().start();
+    importDecks();
+    m_plainPKey
+        = std::make_unique<PlainPKey>(PlainPKey::Services { m_hotKeys, m_settings, m_presentation },
+            [this] { m_engine().toggle(); });
+    scroll(m_options);
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
+    openWindows(m_options);
     m_hasLaunched = true;
-    for (const LaunchOptions& options : std::exchange(m_earlyStarts, {}))
-        follow(options);
+    for (const EarlyStart& start : std::exchange(m_earlyStarts, {}))
+        follow(start.options, start.answer);
 }
 
 void AppDelegate::applicationWillTerminate() { AppLog::endSession(); }
@@ -113,27 +122,79 @@ void AppDelegate::handle(const QList<QUrl>& urls)
         AppLog::write("Orvello URL ignored: %@", url.toString(QUrl::FullyEncoded));
 }
 
-void AppDelegate::applicationStartedAgain(const LaunchOptions& options)
+void AppDelegate::applicationStartedAgain(
+    const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
     applicationOpen(options.urls);
     if (!m_hasLaunched)
-        m_earlyStarts.push_back(options);
-    else if (options.asksRunningProgram())
-        follow(options);
-    else
+        m_earlyStarts.push_back({ options, answer });
+    else if (!follow(options, answer) && options.urls.isEmpty())
         m_statusItem->openMenu();
 }
 
-void AppDelegate::follow(const LaunchOptions& options)
+/// Whether there was anything that this process can do, which addresses are not.
+bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
+    QStringList decks = options.files;
+    if (!options.importedPath.isEmpty())
+        decks.prepend(options.importedPath);
+    QStringList refusals;
+    for (const QString& deck : decks) {
+        if (const auto problem = importDeck(deck))
+            refusals.append(deck + u": "_s + *problem);
+    }
+    const bool hasDecks = refusals.isEmpty();
+    // Before anything that may keep the user, and with it the other process, waiting.
+    answer(options.mistakes + refusals + comesTooLate(options));
+
     if (options.onboarding)
         showOnboarding();
     if (options.checkUpdates)
         m_updates.checkForUpdates();
     if (options.voice)
         m_settings.setVoiceFollow(true);
+    if (hasDecks)
+        scroll(options);
+    openWindows(options);
+    return !decks.isEmpty() || options.onboarding || options.checkUpdates || options.voice
+        || options.autostart || options.toggle || options.scripts || options.settings;
+}
+
+/// What would have to be different from the launch on.
+QStringList AppDelegate::comesTooLate(const LaunchOptions& options) const
+{
+    const QString text = tr("%1 counts only at the launch: quit the Orvello that runs first");
+    QStringList refusals;
+    if (options.noStealth && !m_options.noStealth)
+        refusals.append(text.arg(u"--no-stealth"_s));
+    for (auto pair = options.preferences.begin(); pair != options.preferences.end(); ++pair) {
+        const QVariant current = m_platforms.early.userDefaults().value(pair.key());
+        if (current.toString() != pair.value().toString())
+            refusals.append(text.arg(u'-' + pair.key() + u' ' + pair.value().toString()));
+    }
+    for (auto variable = options.environment.begin(); variable != options.environment.end();
+         ++variable) {
+        const bool isImport = variable.key() == u"ORVELLO_IMPORT_PPTX"_s;
+        if (!isImport && variable.value() != m_options.environment.value(variable.key()))
+            refusals.append(text.arg(variable.key()));
+    }
+    return refusals;
+}
+
+void AppDelegate::scroll(const LaunchOptions& options)
+{
     if (options.autostart)
         m_engine().start();
+    if (options.toggle)
+        m_engine().toggle();
+}
+
+void AppDelegate::openWindows(const LaunchOptions& options)
+{
+    if (options.scripts)
+        m_commands->openLibrary();
+    if (options.settings)
+        m_commands->openSettings();
 }
 
 void AppDelegate::makePanel()
@@ -141,23 +202,34 @@ void AppDelegate::makePanel()
     ScrollEngine& engine = m_engine();
     VoiceActivityEngine& voice = m_voice();
     DeckController& deck = m_deck();
-    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services {
-        engine, m_settings, voice, m_presentation, deck, m_platform.time(), m_options.noStealth });
-    m_panel = m_platform.makePanel(m_prompterWindow->window());
+    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services { .engine = engine,
+        .settings = m_settings,
+        .voice = voice,
+        .presentation = m_presentation,
+        .deck = deck,
+        .time = m_platforms.early.time(),
+        .forceCapturable = m_options.noStealth });
+    m_panel = m_platforms.desktop.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
-        PrompterPanelController::Services { *m_panel, engine, m_settings, m_presentation,
-            m_platform.time(), m_platform.screens(), m_platform.folders() },
+        PrompterPanelController::Services { .panel = *m_panel,
+            .engine = engine,
+            .settings = m_settings,
+            .presentation = m_presentation,
+            .time = m_platforms.early.time(),
+            .screens = m_platforms.desktop.screens(),
+            .folders = m_platforms.early.folders() },
         m_options.noStealth);
 }
 
 void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
-        m_scriptRunner, m_platform.workspace(), m_platform.openPanel(), m_platform.windowChrome(),
-        m_platform.statusBar(), m_platform.hotKeys(), m_platform.facts() });
+        m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
+        m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts() });
     m_commands = std::make_unique<AppCommands>(
-        AppCommands::Services { m_engine(), m_settings, m_updates, m_platform.desktopServices(),
-            *m_windows, m_platform.facts() },
+        AppCommands::Services { m_engine(), m_settings, m_updates,
+            m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
         AppCommands::Delegate {
             .togglePanel = [this] { togglePanel(); },
             .isPanelVisible = [this] { return m_panel->isVisible(); },
@@ -175,14 +247,14 @@ void AppDelegate::showFirstWindow()
 
 void AppDelegate::showPanel()
 {
-    m_panelController->panel().orderFrontRegardless();
+    m_panelController->panel().show();
     m_panelController->reassertStealth();
 }
 
 void AppDelegate::togglePanel()
 {
     if (m_panelController->panel().isVisible())
-        m_panelController->panel().orderOut();
+        m_panelController->panel().hide();
     else
         showPanel();
 }
@@ -191,7 +263,7 @@ void AppDelegate::showOnboarding()
 {
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
-    m_platform.desktopServices().activateApplication();
+    m_platforms.desktop.desktopServices().activateApplication();
     m_onboarding->makeKeyAndOrderFront();
 }
 
@@ -206,7 +278,7 @@ void AppDelegate::onboardingFinished()
 void AppDelegate::setupStatusItem()
 {
     m_statusMenu = std::make_unique<StatusMenu>(
-        *m_commands, m_platform.hotKeys(), AppCommands::versionText());
+        *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
@@ -217,8 +289,8 @@ void AppDelegate::registerHotKeys()
 {
     for (const Command& command : Commands::all()) {
         if (command.key)
-            HotKeyCenter::shared().registerHotKey(command.key->code, command.key->modifiers,
-                [this, run = command.run] { (m_commands.get()->*run)(); });
+            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
+                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
     }
 }
 
@@ -262,30 +334,45 @@ void AppDelegate::followSlideTracking()
         changeOf(m_library, &LibraryStore::scriptsChanged));
 }
 
-void AppDelegate::importDeckFromEnvironment()
+void AppDelegate::importDecks()
 {
-    constexpr const char* variable = "ORVELLO_IMPORT_PPTX";
-    if (!qEnvironmentVariableIsSet(variable))
-        return;
-    const auto imported = m_library.importPptx(qEnvironmentVariable(variable));
-    if (!imported)
-        AppLog::write(
-            "Orvello IMPORT_PPTX failed: %@", PptxImporter::description(imported.error()));
+    if (!m_options.importedPath.isEmpty())
+        importDeck(m_options.importedPath);
+    for (const QString& file : m_options.files)
+        importDeck(file);
+}
+
+/// Returns what kept it from being imported, in words for the user.
+std::optional<QString> AppDelegate::importDeck(const QString& path)
+{
+    const auto imported = m_library.importPptx(path);
+    if (imported)
+        return std::nullopt;
+    const QString problem = PptxImporter::description(imported.error());
+    AppLog::write("Orvello IMPORT_PPTX failed: %@", problem);
+    return problem;
+}
+
+/// A kill, Ctrl-C or the end of the terminal is an ordinary quit: the session ends cleanly and
+/// leaves no marker. Not where the parent has it ignored, as nohup does.
+void AppDelegate::quitAtSignals()
+{
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP }) {
+        if (!m_platforms.early.processSignals().isIgnored(signal))
+            m_signals.push_back(m_platforms.early.processSignals().handle(
+                signal, [] { QCoreApplication::exit(); }));
+    }
 }
 
 void AppDelegate::installSignalHandlers()
 {
-    ProcessSignals& processSignals = m_platform.processSignals();
+    ProcessSignals& processSignals = m_platforms.early.processSignals();
     m_signals.push_back(processSignals.handle(SIGUSR1, [this] {
         m_settings.setStealthMode(!m_settings.stealthMode());
         AppLog::write(
             "Orvello DEBUG stealth toggled -> %d", static_cast<int>(m_settings.stealthMode()));
     }));
     m_signals.push_back(processSignals.handle(SIGUSR2, [this] { togglePanel(); }));
-
-    // A kill or Ctrl-C is an ordinary quit: the session ends cleanly and leaves no marker.
-    for (const int signal : { SIGTERM, SIGINT })
-        m_signals.push_back(processSignals.handle(signal, [this] { m_commands->terminate(); }));
 }
 
 } // namespace Orvello

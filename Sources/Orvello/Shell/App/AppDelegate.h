@@ -2,6 +2,7 @@
 
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Platform/Early/ProcessSignals.h"
+#include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Presentations/Presenters/AppleScriptRunner.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 #include "Orvello/Presentations/Slideshow/DeckController.h"
@@ -24,16 +25,19 @@
 #include <QUrl>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Orvello {
 
+class DesktopPlatform;
+class EarlyPlatform;
 class ImpressAdviceDialog;
 class ImpressPresenter;
 class PlainPKey;
-class Platform;
 class PrompterWindow;
 class RightClickFilter;
+class SoundPlatform;
 class StatusItem;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
@@ -42,8 +46,15 @@ class AppDelegate final : public QObject {
     Q_OBJECT
 
 public:
-    /// `platform` must outlive the delegate.
-    AppDelegate(Platform& platform, ShellWindows::Factory makeWindows, LaunchOptions options);
+    /// All that the system does. All of it must outlive the delegate.
+    struct Platforms {
+        EarlyPlatform& early;
+        DesktopPlatform& desktop;
+        SoundPlatform& sound;
+    };
+
+    AppDelegate(
+        const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options);
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -56,9 +67,10 @@ public:
     void applicationOpen(const QList<QUrl>& urls);
 
     /// The user has started the program once more, while it runs. Does what that start asks for, at
-    /// the end of the launch at the earliest. A start that asks for nothing opens the menu, unless
-    /// the launch is about to show what there is to see.
-    void applicationStartedAgain(const LaunchOptions& options);
+    /// the end of the launch at the earliest, and answers what it could not do. A start that asks
+    /// for nothing opens the menu, unless the launch is about to show what there is to see.
+    void applicationStartedAgain(
+        const LaunchOptions& options, const RunningInstance::Answer& answer);
 
     /// Opens the welcome tour, or brings it to the front.
     void showOnboarding();
@@ -78,13 +90,18 @@ private:
     void startUpdates();
     void subscribe();
     void followSlideTracking();
-    void importDeckFromEnvironment();
-    void follow(const LaunchOptions& options);
+    void importDecks();
+    std::optional<QString> importDeck(const QString& path);
+    void openWindows(const LaunchOptions& options);
+    void scroll(const LaunchOptions& options);
+    bool follow(const LaunchOptions& options, const RunningInstance::Answer& answer);
+    QStringList comesTooLate(const LaunchOptions& options) const;
     static void handle(const QList<QUrl>& urls);
+    void quitAtSignals();
     void installSignalHandlers();
 
     // In this order: what is made later uses what was made before.
-    Platform& m_platform;
+    const Platforms m_platforms;
     const ShellWindows::Factory m_makeWindows;
     const LaunchOptions m_options;
     SettingsStore m_settings;
@@ -115,7 +132,11 @@ private:
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
     QList<QUrl> m_pendingURLs;
     bool m_hasLaunched = false;
-    std::vector<LaunchOptions> m_earlyStarts; ///< Of before the end of the launch.
+    struct EarlyStart {
+        LaunchOptions options;
+        RunningInstance::Answer answer;
+    };
+    std::vector<EarlyStart> m_earlyStarts; ///< Those before the end of the launch.
 };
 
 } // namespace Orvello

@@ -1,17 +1,21 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
-#include "Orvello/Platform/Desktop/Platform.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/Folders.h"
 #include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Platform/Sound/SoundPlatform.h"
+#include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Settings/Store/LegacyMigration.h"
 #include "Orvello/Shell/App/AppDelegate.h"
 #include "Orvello/Shell/App/OrvelloApplication.h"
 #include "Orvello/Shell/App/Translation.h"
 #include "Orvello/Shell/Commands/MainMenu.h"
 #include "Orvello/Shell/Commands/MenuBar.h"
+#include "Orvello/Shell/Launch/CommandLineTable.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
 #include "Orvello/Shell/Windows/QtShellWindows.h"
 
@@ -20,7 +24,9 @@
 #include <QSysInfo>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -40,7 +46,7 @@ void print(std::FILE* stream, const QString& text)
     static_cast<void>(std::fputs(text.toLocal8Bit().constData(), stream));
 }
 
-AppLog::Session sessionOn(Platform& platform)
+AppLog::Session sessionOn(EarlyPlatform& platform)
 {
     return {
         .applicationSupport = platform.folders().applicationSupport().toStdString(),
@@ -53,11 +59,61 @@ AppLog::Session sessionOn(Platform& platform)
 }
 
 /// Before any settings are read.
-void migrate(Platform& platform)
+void migrate(EarlyPlatform& platform)
 {
     const auto former = platform.userDefaultsOf(LegacyMigration::formerDomain.toString());
     LegacyMigration::runIfNeeded({ platform.userDefaults(), *former, platform.folders(),
         WelcomeScript::body(platform.facts()) });
+}
+
+/// What keeps a file from being imported, for each of the files that are no decks.
+QStringList unreadableDecks(const QStringList& files)
+{
+    QStringList problems;
+    for (const QString& file : files) {
+        if (const auto notes = PptxImporter::importNotes(file); !notes)
+            problems.append(file + u": "_s + PptxImporter::description(notes.error()));
+    }
+    return problems;
+}
+
+/// Tells the user, a line each, in the terminal or the log of whoever started the program.
+void complain(const QStringList& problems)
+{
+    for (const QString& problem : problems)
+        print(stderr, u"orvello: "_s + problem + u'\n');
+}
+
+/// The exit status of a start that leaves everything to the process that runs.
+int finishAfter(const RunningInstance::Outcome& outcome)
+{
+    complain(outcome.messages);
+    if (outcome.claim == RunningInstance::Claim::Unanswered)
+        return ExitStatus::cannotRun;
+    return outcome.messages.isEmpty() ? EXIT_SUCCESS : ExitStatus::refused;
+}
+
+RunningInstance* runningInstance = nullptr;
+
+/// The toolkit ends the process by itself, with exit(3), when the X server goes away, on whichever
+/// thread notices. The session ends as it does at any quit; static objects, which other threads may
+/// still use, are left alone.
+void endSessionAtExit()
+{
+    if (!AppLog::hasOpenSession())
+        return;
+    AppLog::endSession();
+    runningInstance->release();
+    std::_Exit(ExitStatus::cannotRun);
+}
+
+/// From now on the session is ended whichever way the process ends, short of a kill or a crash.
+void guardSession(RunningInstance& instance)
+{
+    runningInstance = &instance;
+    static_cast<void>(std::atexit(endSessionAtExit));
+    // The log goes to standard error too, and whoever read that may be gone before the program is.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
 }
 
 /// From now on the delegate hears what the system and later starts ask for.
@@ -65,8 +121,8 @@ void listen(RunningInstance& instance, AppDelegate& delegate)
 {
     instance.listen({
         [&delegate](const QList<QUrl>& urls) { delegate.applicationOpen(urls); },
-        [&delegate](const QStringList& arguments) {
-            delegate.applicationStartedAgain(LaunchOptions::fromArguments(arguments));
+        [&delegate](const ProgramStart& start, const RunningInstance::Answer& answer) {
+            delegate.applicationStartedAgain(LaunchOptions::of(start), answer);
         },
     });
 }
@@ -76,34 +132,44 @@ void listen(RunningInstance& instance, AppDelegate& delegate)
 int main(int argc, char** argv)
 {
     const QStringList arguments = argumentsWithoutProgram(argc, argv);
-    const LaunchOptions options = LaunchOptions::fromArguments(arguments);
+    const ProgramStart start = LaunchOptions::thisStart(arguments);
+    const LaunchOptions options = LaunchOptions::of(start);
     if (options.help || options.version) {
         print(stdout,
-            options.help ? LaunchOptions::helpText()
+            options.help ? CommandLineTable::helpText()
                          : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
-        return 0;
+        return EXIT_SUCCESS;
     }
-    std::unique_ptr<Platform> earlyPlatform = Platform::create(arguments);
-    const RunningInstance::Claim claim = earlyPlatform->runningInstance().claim(arguments);
-    if (claim != RunningInstance::Claim::Granted)
-        return claim == RunningInstance::Claim::HandedOver ? 0 : 1;
+    const QStringList mistakes = options.mistakes + unreadableDecks(options.files);
+    if (!mistakes.isEmpty()) {
+        complain(mistakes);
+        print(stderr, u"Try \"orvello --help\".\n"_s);
+        return ExitStatus::mistaken;
+    }
+    std::unique_ptr<EarlyPlatform> firstStep = EarlyPlatform::create(arguments);
+    const RunningInstance::Outcome outcome = firstStep->runningInstance().claim(start);
+    if (outcome.claim != RunningInstance::Claim::Granted)
+        return finishAfter(outcome);
 
-    AppLog::start(sessionOn(*earlyPlatform));
+    AppLog::start(sessionOn(*firstStep));
     CrashGuard::install();
-    if (const QString obstacle = earlyPlatform->prepareApplication(); !obstacle.isEmpty()) {
+    guardSession(firstStep->runningInstance());
+    if (const QString obstacle = DesktopPlatform::prepare(); !obstacle.isEmpty()) {
         AppLog::write("LAUNCH failed: %@", obstacle);
         AppLog::endSession();
-        return 1;
+        return ExitStatus::cannotRun;
     }
     OrvelloApplication application(argc, argv);
     installTranslation(application);
-    const std::unique_ptr<Platform> platform = std::move(earlyPlatform); // Ends before it.
-    if (MenuBar* const menuBar = platform->statusBar().menuBar())
+    const std::unique_ptr<EarlyPlatform> early = std::move(firstStep); // Ends before it.
+    const std::unique_ptr<DesktopPlatform> desktop = DesktopPlatform::create(*early);
+    if (MenuBar* const menuBar = desktop->statusBar().menuBar())
         menuBar->setMainMenu(makeMainMenu(&sendToFocusObject));
-    migrate(*platform);
+    migrate(*early);
+    const std::unique_ptr<SoundPlatform> sound = SoundPlatform::create();
 
     AppDelegate delegate(
-        *platform,
+        { .early = *early, .desktop = *desktop, .sound = *sound },
         [](const ShellWindows::Services& services) {
             return std::make_unique<QtShellWindows>(services);
         },
@@ -111,7 +177,7 @@ int main(int argc, char** argv)
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
         &AppDelegate::applicationWillTerminate);
     delegate.applicationOpen(options.urls);
-    listen(platform->runningInstance(), delegate);
+    listen(early->runningInstance(), delegate);
     QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);
     return OrvelloApplication::exec();
 }

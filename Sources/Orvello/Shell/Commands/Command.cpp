@@ -28,6 +28,7 @@ constexpr std::array table {
         .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Start / pause scrolling"),
         //: What a key does, in a narrow list of keys: at most about 20 characters.
         .shortDescription = QT_TRANSLATE_NOOP("Orvello::Commands", "Start / pause"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Start or pause scrolling"),
         .key = Command::Key { HotKey::keyP, optionCommand },
         .titleHasKey = true,
         .run = &CommandTarget::toggleScroll,
@@ -36,16 +37,14 @@ constexpr std::array table {
     Command {
         .name = "faster",
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Faster"),
-        //: What a key does: the text scrolls faster.
-        .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Speed up"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll faster"),
         .key = Command::Key { HotKey::keyUp, optionCommand },
         .run = &CommandTarget::speedUp,
     },
     Command {
         .name = "slower",
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Slower"),
-        //: What a key does: the text scrolls slower.
-        .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Speed down"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll slower"),
         .key = Command::Key { HotKey::keyDown, optionCommand },
         .run = &CommandTarget::slowDown,
     },
@@ -55,6 +54,7 @@ constexpr std::array table {
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Back to Top"),
         //: What a key does: it scrolls back to the beginning of the script.
         .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Back to top"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Go back to the top of the script"),
         .key = Command::Key { HotKey::keyR, optionCommand },
         .run = &CommandTarget::backToTop,
     },
@@ -66,6 +66,7 @@ constexpr std::array table {
         .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Show / hide prompter"),
         //: What a key does, in a narrow list of keys: at most about 20 characters.
         .shortDescription = QT_TRANSLATE_NOOP("Orvello::Commands", "Show / hide"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Show or hide the prompter"),
         .key = Command::Key { HotKey::keyH, optionCommand },
         .titleHasKey = true,
         .run = &CommandTarget::togglePanel,
@@ -163,9 +164,19 @@ QString shortDescription(const Command& command)
     return command.shortDescription ? translated(command.shortDescription) : description(command);
 }
 
+HotKeyPurpose purpose(const Command& command)
+{
+    return { QString::fromUtf8(command.name.data(), static_cast<qsizetype>(command.name.size())),
+        translated(command.purpose) };
+}
+
 QString keyLabel(const Command& command, const HotKeys& keys)
 {
-    return command.key ? keys.label(command.key->code, command.key->modifiers) : QString();
+    if (!command.key)
+        return {};
+    const QVariant assigned = keys.assignedKeys().triggers().value(purpose(command).name);
+    return assigned.isValid() ? assigned.toString()
+                              : keys.label(command.key->code, command.key->modifiers);
 }
 
 } // namespace Orvello::Commands

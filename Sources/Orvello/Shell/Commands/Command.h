@@ -52,6 +52,7 @@ struct Command {
     const char* titleWhileOn = nullptr; ///< In a menu while it is on, of a command with two titles.
     const char* description = nullptr; ///< What its key does.
     const char* shortDescription = nullptr; ///< The same where there is less room.
+    const char* purpose = nullptr; ///< The same in the desktop's list of keys.
     std::optional<Key> key {}; ///< Its hot key.
     bool titleHasKey = false; ///< The title in the menu names the hot key.
     char16_t menuKey
@@ -80,7 +81,10 @@ namespace Commands {
 [[nodiscard]] QString description(const Command& command);
 [[nodiscard]] QString shortDescription(const Command& command);
 
-/// What people call its hot key here; empty without one.
+/// What its key is for, to the desktop.
+[[nodiscard]] HotKeyPurpose purpose(const Command& command);
+
+/// What people call its hot key here, or have assigned in its place; empty without one.
 [[nodiscard]] QString keyLabel(const Command& command, const HotKeys& keys);
 
 } // namespace Commands

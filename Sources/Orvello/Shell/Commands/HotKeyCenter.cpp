@@ -7,38 +7,27 @@
 
 namespace Orvello {
 
-namespace {
-
-HotKeyCenter* sharedCenter = nullptr;
-
-} // namespace
-
-HotKeyCenter& HotKeyCenter::shared()
-{
-    Q_ASSERT(sharedCenter);
-    return *sharedCenter;
-}
-
-void HotKeyCenter::adoptShared(HotKeyCenter& center)
-{
-    Q_ASSERT(!sharedCenter);
-    sharedCenter = &center;
-}
-
 HotKeyCenter::HotKeyCenter(HotKeys& system, std::uint32_t firstID)
     : m_system(system)
     , m_nextID(firstID)
 {
 }
 
-HotKeyCenter::~HotKeyCenter()
-{
-    if (sharedCenter == this)
-        sharedCenter = nullptr;
-}
-
 std::uint32_t HotKeyCenter::registerHotKey(
     std::uint32_t keyCode, std::uint32_t modifiers, Action action)
+{
+    return add(std::move(action),
+        [&](HotKeyID key) { return m_system.registerHotKey(keyCode, modifiers, key); });
+}
+
+std::uint32_t HotKeyCenter::registerHotKeyFor(
+    const HotKeyPurpose& purpose, std::uint32_t keyCode, std::uint32_t modifiers, Action action)
+{
+    return add(std::move(action),
+        [&](HotKeyID key) { return m_system.registerHotKeyFor(purpose, keyCode, modifiers, key); });
+}
+
+std::uint32_t HotKeyCenter::add(Action action, const Registration& registration)
 {
     if (!m_installed) {
         m_installed = true;
@@ -48,7 +37,7 @@ std::uint32_t HotKeyCenter::registerHotKey(
         qFatal("HotKeyCenter: no hot-key id is left");
     const std::uint32_t id = m_nextID++;
     m_actions.emplace(id, std::move(action));
-    if (auto reference = m_system.registerHotKey(keyCode, modifiers, { signature, id }))
+    if (auto reference = registration({ signature, id }))
         m_refs.emplace(id, std::move(reference));
     return id;
 }

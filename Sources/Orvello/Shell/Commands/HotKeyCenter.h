@@ -18,13 +18,8 @@ public:
     /// The four-character code 'OVHK' that marks this program's keys.
     static constexpr std::uint32_t signature = 0x4F56484B;
 
-    /// The process's one center; `adoptShared` names it once, at launch.
-    static HotKeyCenter& shared();
-    static void adoptShared(HotKeyCenter& center);
-
     /// `system` must outlive the center. Ids count up from `firstID`.
     explicit HotKeyCenter(HotKeys& system, std::uint32_t firstID = 1);
-    ~HotKeyCenter();
     HotKeyCenter(const HotKeyCenter&) = delete;
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
@@ -33,9 +28,16 @@ public:
     /// Ids are never used twice; running out of them ends the process.
     std::uint32_t registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers, Action action);
 
+    /// The same for a key that the desktop may list and assign by its purpose.
+    std::uint32_t registerHotKeyFor(const HotKeyPurpose& purpose, std::uint32_t keyCode,
+        std::uint32_t modifiers, Action action);
+
     void unregister(std::uint32_t id); ///< An unknown id is ignored.
 
 private:
+    using Registration = std::function<std::unique_ptr<HotKeys::Reference>(HotKeyID)>;
+
+    std::uint32_t add(Action action, const Registration& registration);
     void pressed(HotKeyID key) const;
 
     HotKeys& m_system;

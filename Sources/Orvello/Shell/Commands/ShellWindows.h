@@ -46,7 +46,7 @@ public:
         OpenPanel& openPanel;
         WindowChrome& windowChrome;
         StatusBar& statusBar;
-        const HotKeys& hotKeys;
+        HotKeys& hotKeys;
         Facts facts; ///< What the windows may say of this machine.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;

@@ -23,10 +23,11 @@ qsizetype commonModifiers(const QString& first, const QString& second)
 
 } // namespace
 
-ShortcutList::ShortcutList(const HotKeys& keys, Width width)
+ShortcutList::ShortcutList(HotKeys& keys, Width width)
     : m_keys(keys)
     , m_width(width)
 {
+    connect(&keys.assignedKeys(), &AssignedKeys::triggersChanged, this, &ShortcutList::refresh);
 }
 
 int ShortcutList::rowCount(const QModelIndex& parent) const
@@ -90,6 +91,7 @@ QStringList ShortcutList::menuLines() const
     return lines;
 }
 
+/// The user has assigned other keys.
 void ShortcutList::refresh()
 {
     Q_EMIT dataChanged(index(0), index(rowCount() - 1), { KeysRole });

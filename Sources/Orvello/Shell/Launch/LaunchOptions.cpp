@@ -1,52 +1,121 @@
 #include "Orvello/Shell/Launch/LaunchOptions.h"
 
+#include "Orvello/Shell/Launch/CommandLineTable.h"
 #include "Orvello/Shell/Launch/LaunchArguments.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-LaunchOptions LaunchOptions::fromArguments(const QStringList& arguments)
+namespace {
+
+struct Switch {
+    QStringView name;
+    bool LaunchOptions::*member;
+};
+constexpr std::array switches {
+    Switch { u"--autostart", &LaunchOptions::autostart },
+    Switch { u"--check-updates", &LaunchOptions::checkUpdates },
+    Switch { u"--help", &LaunchOptions::help },
+    Switch { u"--no-stealth", &LaunchOptions::noStealth },
+    Switch { u"--onboarding", &LaunchOptions::onboarding },
+    Switch { u"--scripts", &LaunchOptions::scripts },
+    Switch { u"--settings", &LaunchOptions::settings },
+    Switch { u"--toggle", &LaunchOptions::toggle },
+    Switch { u"--version", &LaunchOptions::version },
+    Switch { u"--voice", &LaunchOptions::voice },
+};
+
+/// Whether it starts with the scheme of an address, as RFC 3986 writes it.
+bool isAddress(const QString& operand)
 {
-    return {
-        .help = arguments.contains(u"--help"_s),
-        .version = arguments.contains(u"--version"_s),
-        .noStealth = arguments.contains(u"--no-stealth"_s),
-        .onboarding = arguments.contains(u"--onboarding"_s),
-        .checkUpdates = arguments.contains(u"--check-updates"_s),
-        .voice = arguments.contains(u"--voice"_s),
-        .autostart = arguments.contains(u"--autostart"_s),
-        .urls = LaunchArguments::urls(arguments),
-    };
+    static const QRegularExpression scheme(u"^[A-Za-z][A-Za-z0-9+.-]+:"_s);
+    return scheme.match(operand).hasMatch() && QUrl(operand, QUrl::StrictMode).isValid();
 }
 
-QString LaunchOptions::helpText()
+} // namespace
+
+LaunchOptions LaunchOptions::of(const ProgramStart& start)
 {
-    return uR"(Usage: orvello [options] [-Key value ...] [address ...]
+    const LaunchArguments::Parts parts = LaunchArguments::parts(start.arguments);
+    const QDir directory(start.directory);
+    LaunchOptions options;
+    options.preferences = parts.preferences;
+    options.environment = start.environment;
+    const auto imported = start.environment.constFind(u"ORVELLO_IMPORT_PPTX"_s);
+    if (imported != start.environment.constEnd())
+        options.importedPath = directory.absoluteFilePath(imported->toString());
+    for (const QString& option : parts.options)
+        options.takeOption(option);
+    for (const QString& operand : parts.operands)
+        options.takeOperand(operand, directory);
+    return options;
+}
 
-A private teleprompter: your script in a small panel under the camera. When it runs already, it
-does what a second start asks for, or opens its menu.
+ProgramStart LaunchOptions::thisStart(const QStringList& arguments)
+{
+    QVariantMap environment;
+    for (const CommandLineTable::Entry& entry : CommandLineTable::entries()) {
+        const QByteArray name(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
+        if (entry.section == CommandLineTable::Section::Environment
+            && qEnvironmentVariableIsSet(name))
+            environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
+    }
+    return { arguments, QDir::currentPath(), environment };
+}
 
-Options:
-  --autostart      start scrolling at once
-  --check-updates  look for a newer version
-  --no-stealth     never hide the prompter from screen sharing
-  --onboarding     show the welcome tour
-  --voice          follow the voice: the text moves while you speak
-  --help           show this text and exit
-  --version        show the version and exit
-  -Key value       use this text for a preference, for this run only
+void LaunchOptions::takeOption(const QString& option)
+{
+    const auto* const known = std::ranges::find(switches, option, &Switch::name);
+    if (known != switches.end()) {
+        this->*(known->member) = true;
+        return;
+    }
+    const QString nearest = CommandLineTable::nearestOption(option);
+    if (!nearest.isEmpty())
+        mistakes.append(tr("unknown option %1; did you mean %2?").arg(option, nearest));
+    else if (option.startsWith(u"--"_s))
+        mistakes.append(tr("unknown option %1").arg(option));
+    else
+        mistakes.append(tr("the preference %1 lacks its value").arg(option));
+}
 
-Environment:
-  ORVELLO_IMPORT_PPTX      import the .pptx file at this path at launch
-  ORVELLO_ONBOARDING_PAGE  open the welcome tour on this page, 0 to 2
-  ORVELLO_STEALTH          hide the prompter by "flag" or by "shape" alone, for experiments
+/// A file that is there is a file, whatever address its name looks like.
+void LaunchOptions::takeOperand(const QString& operand, const QDir& directory)
+{
+    if (isAddress(operand) && !QFileInfo::exists(directory.absoluteFilePath(operand)))
+        takeAddress(operand, directory);
+    else
+        takeFile(operand, directory);
+}
 
-Signals:
-  SIGUSR1          turn Stealth Mode on or off
-  SIGUSR2          show or hide the prompter
-  SIGTERM, SIGINT  quit
-)"_s;
+void LaunchOptions::takeAddress(const QString& address, const QDir& directory)
+{
+    const QUrl url(address, QUrl::StrictMode);
+    const bool isOnThisComputer = url.host().isEmpty() || url.host() == u"localhost"_s;
+    if (url.scheme() == u"orvello"_s)
+        urls.append(url);
+    else if (url.scheme() == u"file"_s && isOnThisComputer)
+        takeFile(url.path(QUrl::FullyDecoded), directory);
+    else
+        mistakes.append(tr("%1 is no address that Orvello opens").arg(address));
+}
+
+void LaunchOptions::takeFile(const QString& name, const QDir& directory)
+{
+    const QFileInfo file(directory.absoluteFilePath(name));
+    if (name.isEmpty() || !file.exists())
+        mistakes.append(tr("there is no file \"%1\"").arg(name));
+    else if (file.suffix().compare(u"pptx"_s, Qt::CaseInsensitive) != 0)
+        mistakes.append(tr("%1 is not a PowerPoint deck (.pptx)").arg(name));
+    else
+        files.append(QDir::cleanPath(file.filePath()));
 }
 
 } // namespace Orvello

@@ -1,15 +1,22 @@
 #pragma once
 
+#include "Orvello/Platform/Early/RunningInstance.h"
+
+#include <QCoreApplication>
+#include <QDir>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <QVariantMap>
 
 namespace Orvello {
 
-/// What the command line asks for. Each switch is a whole-argument match; pairs `-Key value` are
-/// left to the user defaults, Qt's own options to Qt.
-struct LaunchOptions {
+/// What the command line asks for.
+class LaunchOptions {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::LaunchOptions)
+
+public:
     bool help = false;
     bool version = false;
     bool noStealth = false;
@@ -17,20 +24,37 @@ struct LaunchOptions {
     bool checkUpdates = false;
     bool voice = false;
     bool autostart = false;
-    QList<QUrl> urls; ///< To open.
+    bool scripts = false;
+    bool settings = false;
+    bool toggle = false;
+    QStringList files; ///< Decks to import: absolute paths.
+    QList<QUrl> urls; ///< Addresses of the program's own scheme.
+    QVariantMap preferences; ///< For one run: each pair `-Key value`.
+    QVariantMap environment; ///< The product's variables.
+    QString importedPath; ///< The deck of the variable for it: an absolute path. Empty without it.
+    QStringList mistakes; ///< What else is there, in words for the user.
 
-    /// Whether it asks for something that a program that runs already can do: not `noStealth`,
-    /// which is for a panel that is still to be made.
-    bool asksRunningProgram() const
-    {
-        return onboarding || checkUpdates || voice || autostart || !urls.isEmpty();
-    }
     friend bool operator==(const LaunchOptions&, const LaunchOptions&) = default;
 
-    /// Without the program's name.
-    static LaunchOptions fromArguments(const QStringList& arguments);
+    static LaunchOptions of(const ProgramStart& start);
 
-    static QString helpText();
+    /// The start of this process. `arguments` are without the program's name.
+    static ProgramStart thisStart(const QStringList& arguments);
+
+private:
+    void takeOption(const QString& option);
+    void takeOperand(const QString& operand, const QDir& directory);
+    void takeAddress(const QString& address, const QDir& directory);
+    void takeFile(const QString& name, const QDir& directory);
 };
+
+/// What the process ends with; CommandLineTable tells the user of it.
+namespace ExitStatus {
+
+inline constexpr int cannotRun = 1;
+inline constexpr int mistaken = 2;
+inline constexpr int refused = 3;
+
+} // namespace ExitStatus
 
 } // namespace Orvello

@@ -22,17 +22,15 @@ UpdateItem updateItem(const AppcastItem& item) { return { item.version, item.dis
 
 } // namespace
 
-AppcastUpdater::AppcastUpdater(const Services& services, Appcast::Host host, QString feed)
+AppcastUpdater::AppcastUpdater(const Services& services, QString version, QString feed)
     : m_services(services)
-    , m_host(std::move(host))
+    , m_version(std::move(version))
     , m_builtInFeed(std::move(feed))
     , m_loader(services.time)
 {
 }
 
-AppcastUpdater::~AppcastUpdater() = default;
-
-void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
+void AppcastUpdater::start(UpdaterDelegate& delegate)
 {
     m_delegate = &delegate;
     announceChecks();
@@ -40,7 +38,7 @@ void AppcastUpdater::startUpdater(UpdaterDelegate& delegate)
     // user who asks for a check before that is not asked whether to check.
     m_nextCheck = m_services.time.callAfter(0, [this] {
         askPermissionOnce();
-        schedule();
+        scheduleNextCheck();
     });
 }
 
@@ -58,35 +56,35 @@ void AppcastUpdater::askPermissionOnce()
     m_services.user.askPermission([this](bool isAllowed) {
         // The settings window may have answered meanwhile.
         if (!m_services.defaults.value(automaticKey).isValid())
-            setAutomaticallyChecksForUpdates(isAllowed);
+            setOn(isAllowed);
     });
 }
 
-bool AppcastUpdater::automaticallyChecksForUpdates() const
+bool AppcastUpdater::isOn() const
 {
     return DefaultsValue::asBoolean(m_services.defaults.value(automaticKey)).value_or(false);
 }
 
-void AppcastUpdater::setAutomaticallyChecksForUpdates(bool on)
+void AppcastUpdater::setOn(bool on)
 {
-    const bool isChange = automaticallyChecksForUpdates() != on;
+    const bool isChange = isOn() != on;
     m_services.defaults.setValue(automaticKey, on);
     if (!isChange)
         return;
     for (const auto& changed : m_observers)
         changed();
     // Whoever switches has logged that first by then.
-    m_nextCheck = m_services.time.callAfter(0, [this] { schedule(); });
+    m_nextCheck = m_services.time.callAfter(0, [this] { scheduleNextCheck(); });
 }
 
-void AppcastUpdater::observeAutomaticChecks(std::function<void()> changed)
+void AppcastUpdater::observe(std::function<void()> changed)
 {
     m_observers.push_back(std::move(changed));
 }
 
-bool AppcastUpdater::canCheckForUpdates() const { return m_delegate && m_phase != Phase::Loading; }
+bool AppcastUpdater::canCheck() const { return m_delegate && m_phase != Phase::Loading; }
 
-std::optional<Date> AppcastUpdater::lastUpdateCheckDate() const
+std::optional<Date> AppcastUpdater::lastCheck() const
 {
     const std::optional<double> last
         = DefaultsValue::asNumber(m_services.defaults.value(lastCheckKey));
@@ -110,10 +108,10 @@ void AppcastUpdater::enter(Phase phase)
     announceChecks();
 }
 
-void AppcastUpdater::schedule()
+void AppcastUpdater::scheduleNextCheck()
 {
     m_nextCheck.reset();
-    if (!m_delegate || !automaticallyChecksForUpdates() || feed().isEmpty())
+    if (!m_delegate || !isOn() || feed().isEmpty())
         return;
     const double delay = secondsUntilNextCheck();
     if (delay > 0)
@@ -123,7 +121,7 @@ void AppcastUpdater::schedule()
 
 double AppcastUpdater::secondsUntilNextCheck() const
 {
-    const std::optional<Date> last = lastUpdateCheckDate();
+    const std::optional<Date> last = lastCheck();
     if (!last)
         return 0;
     const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
@@ -131,7 +129,7 @@ double AppcastUpdater::secondsUntilNextCheck() const
     return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
 }
 
-void AppcastUpdater::checkForUpdates() { check(Origin::User); }
+void AppcastUpdater::check() { check(Origin::User); }
 
 void AppcastUpdater::check(Origin origin)
 {
@@ -151,7 +149,7 @@ void AppcastUpdater::check(Origin origin)
         return abort({ tr("There is no valid update feed."), UpdateError::invalidFeed });
     if (!FeedLoader::isSecure(url))
         return abort({ tr("The update feed is not secure."), UpdateError::insecureFeed });
-    m_loader.load(url, u"Orvello/"_s + m_host.version,
+    m_loader.load(url, u"Orvello/"_s + m_version,
         [this](const Result<QByteArray, QString>& document) { loaded(document); });
 }
 
@@ -162,13 +160,13 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
             //: %1: why, as a sentence.
             { tr("The update feed cannot be read: %1").arg(document.error()),
                 UpdateError::download });
-    const auto items = Appcast::parse(*document, m_host.operatingSystem);
+    const auto items = Appcast::parse(*document, u"linux"_s);
     if (!items)
         return abort(
             //: %1: why, as a sentence.
             { tr("The update feed makes no sense: %1").arg(items.error()),
                 UpdateError::appcastParse });
-    const AppcastItem* const item = Appcast::newest(*items, m_host);
+    const AppcastItem* const item = Appcast::newest(*items, m_version);
     const bool isSkipped = item && m_origin == Origin::Schedule
         && DefaultsValue::asString(m_services.defaults.value(skippedKey)) == item->version;
     if (item && !isSkipped)
@@ -230,7 +228,7 @@ void AppcastUpdater::finish(const QString& outcome)
     if (m_origin == Origin::User && !outcome.isEmpty())
         m_services.user.showOutcome(outcome);
     m_origin = Origin::Schedule;
-    schedule();
+    scheduleNextCheck();
 }
 
 } // namespace Orvello

@@ -19,7 +19,7 @@ class UserDefaults;
 /// An updater for systems whose programs are installed by others: it reads the same feed as the
 /// macOS one, tells the user about a new release, and opens its download page. What it remembers
 /// lies in the user defaults under the macOS updater's keys.
-class AppcastUpdater final : public QObject, public Updater {
+class AppcastUpdater final : public QObject, public Updater, private UpdateSchedule {
     Q_OBJECT
 
 public:
@@ -33,17 +33,14 @@ public:
         DesktopServices& desktop;
     };
 
-    /// Looks for updates of `host` in `feed`; an empty feed is none.
-    AppcastUpdater(const Services& services, Appcast::Host host, QString feed);
-    ~AppcastUpdater() override;
+    /// Looks in `feed` for updates of a program of that version; an empty feed is none.
+    AppcastUpdater(const Services& services, QString version, QString feed);
 
-    void startUpdater(UpdaterDelegate& delegate) override;
-    void checkForUpdates() override;
-    bool automaticallyChecksForUpdates() const override;
-    void setAutomaticallyChecksForUpdates(bool on) override;
-    void observeAutomaticChecks(std::function<void()> changed) override;
-    bool canCheckForUpdates() const override;
-    std::optional<Date> lastUpdateCheckDate() const override;
+    void start(UpdaterDelegate& delegate) override;
+    void check() override;
+    UpdateSchedule& schedule() override { return *this; }
+    bool canCheck() const override;
+    std::optional<Date> lastCheck() const override;
     void observeChecks(std::function<void()> changed) override;
     std::optional<QString> builtInFeed() const override;
 
@@ -51,9 +48,13 @@ private:
     enum class Phase { Idle, Loading, Asking };
     enum class Origin { Schedule, User };
 
+    bool isOn() const override;
+    void setOn(bool isOn) override;
+    void observe(std::function<void()> changed) override;
+
     QString feed() const;
     void askPermissionOnce();
-    void schedule();
+    void scheduleNextCheck();
     double secondsUntilNextCheck() const;
     void check(Origin origin);
     void enter(Phase phase);
@@ -67,7 +68,7 @@ private:
     void finish(const QString& outcome);
 
     const Services m_services;
-    const Appcast::Host m_host;
+    const QString m_version;
     const QString m_builtInFeed;
     FeedLoader m_loader;
     UpdaterDelegate* m_delegate = nullptr; ///< Null until started.

@@ -38,8 +38,8 @@ UpdateController::UpdateController(Services services, QObject* parent)
 
 void UpdateController::start()
 {
-    m_services.updater.startUpdater(*this);
-    m_services.updater.observeAutomaticChecks(
+    m_services.updater.start(*this);
+    m_services.updater.schedule().observe(
         onMainThread(&UpdateController::checksAutomaticallyChanged));
     m_services.updater.observeChecks(onMainThread(&UpdateController::checksChanged));
     Q_EMIT checksChanged(); // The updater has begun to answer.
@@ -57,28 +57,22 @@ std::function<void()> UpdateController::onMainThread(void (UpdateController::*si
 void UpdateController::checkForUpdates()
 {
     m_services.activateApplication();
-    m_services.updater.checkForUpdates();
+    m_services.updater.check();
 }
 
-bool UpdateController::checksAutomatically() const
-{
-    return m_services.updater.automaticallyChecksForUpdates();
-}
+bool UpdateController::checksAutomatically() const { return m_services.updater.schedule().isOn(); }
 
 void UpdateController::setChecksAutomatically(bool on)
 {
-    m_services.updater.setAutomaticallyChecksForUpdates(on);
+    m_services.updater.schedule().setOn(on);
     AppLog::write("UPDATES automatic checks -> %d", static_cast<int>(on));
 }
 
-bool UpdateController::canCheckForUpdates() const
-{
-    return m_services.updater.canCheckForUpdates();
-}
+bool UpdateController::canCheckForUpdates() const { return m_services.updater.canCheck(); }
 
 QString UpdateController::lastCheckText() const
 {
-    const std::optional<Date> last = m_services.updater.lastUpdateCheckDate();
+    const std::optional<Date> last = m_services.updater.lastCheck();
     if (!last)
         return {};
     constexpr double millisecondsPerSecond = 1000;

@@ -2,9 +2,11 @@
 
 #include "Orvello/Foundation/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/Card.h"
+#include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
@@ -35,10 +37,24 @@ struct ShortcutListType {
     QML_UNCREATABLE("The program makes it.")
 };
 
+struct AssignedKeysType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::AssignedKeys)
+    QML_NAMED_ELEMENT(AssignedKeys)
+    QML_UNCREATABLE("The program makes it.")
+};
+
 struct CardType {
     Q_GADGET
     QML_FOREIGN(Orvello::Card)
     QML_NAMED_ELEMENT(Card)
+};
+
+struct CardStyleType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::CardStyle)
+    QML_NAMED_ELEMENT(CardStyle)
+    QML_SINGLETON
 };
 
 struct ScrollEngineType {

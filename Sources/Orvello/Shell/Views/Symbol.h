@@ -3,12 +3,13 @@
 #include <QColor>
 #include <QQuickPaintedItem>
 #include <QString>
+#include <QSvgRenderer>
 #include <QtQml/qqml.h>
 
 namespace Orvello {
 
-/// One of the small line drawings of the views, sharp at any size and scale, as large as fits and
-/// in the middle. The names are those of the macOS symbols that they look like.
+/// One of the small drawings in Resources/Icons in a colour, sharp at any size and scale, as large
+/// as fits and in the middle. The names are those of the macOS symbols that they look like.
 class Symbol : public QQuickPaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
@@ -34,6 +35,7 @@ Q_SIGNALS:
 private:
     QString m_name;
     QColor m_color = Qt::white;
+    QSvgRenderer m_drawing;
 };
 
 } // namespace Orvello

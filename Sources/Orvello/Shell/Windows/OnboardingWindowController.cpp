@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/OnboardingWindowController.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Platform/Desktop/WindowChrome.h"
 #include "Orvello/Platform/Desktop/Workspace.h"
 #include "Orvello/Prompting/Text/PromptFont.h"

@@ -11,6 +11,7 @@
 
 namespace Orvello {
 
+class AssignedKeys;
 class SettingsStore;
 class WindowChrome;
 class Workspace;
@@ -28,7 +29,7 @@ public:
         SettingsStore& settings;
         const Workspace& workspace;
         WindowChrome& chrome;
-        const HotKeys& hotKeys;
+        HotKeys& hotKeys;
         Facts facts; ///< What the tour may say of this machine.
     };
 

@@ -19,6 +19,7 @@ PrompterWindow::PrompterWindow(const Services& services)
     , m_slideStatus(services.deck)
     , m_shareWarning(services.presentation, services.settings, services.engine)
 {
+    connectText(services);
     m_view.setTitle(u"Orvello"_s);
     m_view.setColor(Qt::transparent);
     ViewWindow::load(m_view, u"PrompterView"_s,
@@ -30,28 +31,36 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
-            { u"promptText"_s, services.deck.promptText() },
             { u"fontFamily"_s, PromptFont::family() },
             { u"forceCapturable"_s, services.forceCapturable },
         });
-
-    followDeck(services.deck, services.engine);
 }
 
 PrompterWindow::~PrompterWindow() = default;
 
 void PrompterWindow::setVisibleInRecordings(bool isVisible)
 {
-    m_view.rootObject()->setProperty("visibleInRecordings", isVisible);
+    m_status.setVisibleInRecordings(isVisible);
 }
 
-void PrompterWindow::followDeck(const DeckController& deck, ScrollEngine& engine)
+/// The text and its size go from the services to the layout, its height from there to the engine.
+void PrompterWindow::connectText(const Services& services)
 {
-    connect(&deck, &DeckController::promptTextChanged, this,
-        [this, &deck] { m_view.rootObject()->setProperty("promptText", deck.promptText()); });
+    const auto follow = [this](const auto& source, auto changed, const auto& takeOver) {
+        connect(&source, changed, this, takeOver);
+        takeOver();
+    };
+    follow(services.settings, &SettingsStore::fontSizeChanged,
+        [this, &settings = services.settings] { m_lines.setFontSize(settings.fontSize()); });
+    follow(m_lines, &PromptLines::contentHeightChanged,
+        [this, &engine = services.engine] { engine.setContentHeight(m_lines.contentHeight()); });
+    m_lines.setText(services.deck.promptText());
+    connect(&services.deck, &DeckController::promptTextChanged, this,
+        [this, &deck = services.deck](
+            const TextEdit& edit) { m_lines.edit(deck.promptText(), edit); });
     // Every slide's notes start at the top.
-    connect(
-        &deck, &DeckController::slideChangeTokenChanged, this, [&engine] { engine.setOffset(0); });
+    connect(&services.deck, &DeckController::slideChangeTokenChanged, this,
+        [&engine = services.engine] { engine.setOffset(0); });
 }
 
 } // namespace Orvello

@@ -44,7 +44,7 @@ public:
     void setVisibleInRecordings(bool isVisible);
 
 private:
-    void followDeck(const DeckController& deck, ScrollEngine& engine);
+    void connectText(const Services& services);
 
     PromptLines m_lines;
     PrompterStatus m_status;

@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/SystemPalette.h"

@@ -9,6 +9,7 @@
 
 namespace Orvello {
 
+class AssignedKeys;
 class SettingsStore;
 class UpdateController;
 class VoiceActivityEngine;
@@ -25,7 +26,7 @@ public:
         SettingsStore& settings;
         VoiceActivityEngine& voice;
         UpdateController& updates;
-        const HotKeys& hotKeys;
+        HotKeys& hotKeys;
         Facts facts; ///< What the window may say of this machine.
     };
 

@@ -47,10 +47,9 @@ class X11PanelTest : public ::testing::Test {
 protected:
     X11PanelTest()
     {
-        QObject::connect(&panel, &NativePanel::didResize,
-            [this] { news.emplace_back(panel.inLiveResize() ? "resized live" : "resized"); });
-        QObject::connect(
-            &panel, &NativePanel::didEndLiveResize, [this] { news.emplace_back("ended"); });
+        QObject::connect(&panel, &NativePanel::resized,
+            [this] { news.emplace_back(panel.isBeingResized() ? "resized live" : "resized"); });
+        QObject::connect(&panel, &NativePanel::resizeEnded, [this] { news.emplace_back("ended"); });
         QObject::connect(
             &panel, &NativePanel::scrolled, [this](double delta) { scrolls.push_back(delta); });
         panel.setFrame(initial);
@@ -59,7 +58,7 @@ protected:
 
     void show()
     {
-        panel.orderFrontRegardless();
+        panel.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
         settle();
         news.clear();
@@ -96,10 +95,10 @@ protected:
 
     std::optional<QRectF> saved() const
     {
-        return PanelFrame::parsed(defaults.stored.value(savedKey).toString());
+        return PanelFrame::parsed(defaults.stored.value(savedKey).toString(), screens);
     }
 
-    // On a screen of 1280 × 800, as the panel counts and as the server does.
+    inline static const QList<QRectF> screens { { 0, 0, 1280, 800 } };
     static constexpr QRectF initial { 100, 300, 720, 200 };
     static constexpr QPoint middle { 460, 400 };
     static constexpr QPoint bottomRight { 818, 498 };
@@ -114,9 +113,9 @@ protected:
 
 TEST_F(X11PanelTest, isAWindowThatCapturesShow)
 {
-    EXPECT_GE(panel.windowNumber(), 1);
-    EXPECT_EQ(panel.windowNumber(), static_cast<qint64>(view.winId()));
-    EXPECT_FALSE(panel.canExcludeFromCapture());
+    EXPECT_GE(panel.captureHiding().windowNumber(), 1);
+    EXPECT_EQ(panel.captureHiding().windowNumber(), static_cast<qint64>(view.winId()));
+    EXPECT_FALSE(panel.captureHiding().isPossible());
     EXPECT_EQ(panel.frame(), initial);
     EXPECT_EQ(view.geometry(), QRect(100, 300, 720, 200));
 }
@@ -145,11 +144,11 @@ TEST_F(X11PanelTest, isDraggedByItsBackground)
 {
     press(middle);
     move(middle + QPoint(30, 40));
-    EXPECT_FALSE(panel.inLiveResize());
+    EXPECT_FALSE(panel.isBeingResized());
     release(middle + QPoint(30, 40));
     settle();
 
-    EXPECT_EQ(panel.frame(), initial.translated(30, -40));
+    EXPECT_EQ(panel.frame(), initial.translated(30, 40));
     EXPECT_THAT(news, IsEmpty());
 }
 
@@ -178,27 +177,27 @@ TEST_F(X11PanelTest, isDraggedByTheLeftButtonAlone)
     release(middle, Qt::RightButton);
     move(middle + QPoint(30, 40));
     settle();
-    EXPECT_EQ(panel.frame(), initial.translated(30, -40)) << "the drag goes on";
+    EXPECT_EQ(panel.frame(), initial.translated(30, 40)) << "the drag goes on";
 }
 
 TEST_F(X11PanelTest, saysOfADragOfItsEdgeWhereItEnds)
 {
     press(bottomRight);
-    EXPECT_TRUE(panel.inLiveResize());
+    EXPECT_TRUE(panel.isBeingResized());
     move(bottomRight + QPoint(50, 20));
     settle();
     EXPECT_THAT(news, ElementsAre("resized live"));
     release(bottomRight + QPoint(50, 20));
     settle();
 
-    EXPECT_EQ(panel.frame(), QRectF(100, 280, 770, 220));
+    EXPECT_EQ(panel.frame(), QRectF(100, 300, 770, 220));
     EXPECT_THAT(news, ElementsAre("resized live", "ended"));
-    EXPECT_FALSE(panel.inLiveResize());
+    EXPECT_FALSE(panel.isBeingResized());
 }
 
 TEST_F(X11PanelTest, countsALastMoveThatComesWithTheRelease)
 {
-    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    panel.saveFrameAs(u"PrompterPanel"_s);
 
     press(bottomRight);
     for (const int step : { 10, 20, 30, 40 })
@@ -206,7 +205,7 @@ TEST_F(X11PanelTest, countsALastMoveThatComesWithTheRelease)
     release(bottomRight + QPoint(40, 40));
     settle();
 
-    EXPECT_EQ(panel.frame(), QRectF(100, 260, 760, 240));
+    EXPECT_EQ(panel.frame(), QRectF(100, 300, 760, 240));
     EXPECT_EQ(saved(), panel.frame());
     ASSERT_THAT(news, Contains("resized live"));
     EXPECT_EQ(news.back(), "ended");
@@ -230,9 +229,9 @@ TEST_F(X11PanelTest, endsItsResizeWhenItIsHidden)
 {
     press(bottomRight);
     move(bottomRight + QPoint(50, 20));
-    panel.orderOut();
+    panel.hide();
     settle();
-    EXPECT_FALSE(panel.inLiveResize());
+    EXPECT_FALSE(panel.isBeingResized());
     ASSERT_FALSE(news.empty());
     EXPECT_EQ(news.back(), "ended");
     EXPECT_THAT(news, Contains("ended").Times(1));
@@ -241,7 +240,7 @@ TEST_F(X11PanelTest, endsItsResizeWhenItIsHidden)
     move(bottomRight + QPoint(90, 90));
     release(bottomRight + QPoint(90, 90));
     settle();
-    EXPECT_EQ(panel.frame(), QRectF(100, 280, 770, 220));
+    EXPECT_EQ(panel.frame(), QRectF(100, 300, 770, 220));
     EXPECT_THAT(news, IsEmpty());
 }
 
@@ -249,13 +248,13 @@ TEST_F(X11PanelTest, endsItsDragWhenItIsHidden)
 {
     press(middle);
     move(middle + QPoint(30, 40));
-    panel.orderOut();
+    panel.hide();
     settle();
 
     show();
     move(middle + QPoint(90, 90));
     settle();
-    EXPECT_EQ(panel.frame(), initial.translated(30, -40));
+    EXPECT_EQ(panel.frame(), initial.translated(30, 40));
     EXPECT_THAT(news, IsEmpty());
 }
 
@@ -274,7 +273,7 @@ TEST_F(X11PanelTest, tellsOfASizeThatItIsGiven)
 
 TEST_F(X11PanelTest, savesWhereADragEndsAndNothingBefore)
 {
-    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    panel.saveFrameAs(u"PrompterPanel"_s);
     settle();
     ASSERT_EQ(saved(), std::nullopt) << "where it was put";
 
@@ -285,16 +284,16 @@ TEST_F(X11PanelTest, savesWhereADragEndsAndNothingBefore)
     release(middle + QPoint(30, 40));
     settle();
 
-    EXPECT_EQ(saved(), initial.translated(30, -40));
+    EXPECT_EQ(saved(), initial.translated(30, 40));
     EXPECT_EQ(defaults.writes, 1);
 }
 
 TEST_F(X11PanelTest, takesTheSavedFrame)
 {
     const QRectF frame(20, 30, 640, 250);
-    defaults.stored.insert(savedKey, PanelFrame::text(frame, { 0, 0, 1280, 800 }));
+    defaults.stored.insert(savedKey, PanelFrame::text(frame, screens));
 
-    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    panel.saveFrameAs(u"PrompterPanel"_s);
     settle();
 
     EXPECT_EQ(panel.frame(), frame);
@@ -304,9 +303,9 @@ TEST_F(X11PanelTest, takesTheSavedFrame)
 TEST_F(X11PanelTest, bringsASavedFrameBackOntoTheScreen)
 {
     defaults.stored.insert(
-        savedKey, PanelFrame::text({ 5000, 3000, 9000, 10 }, { 0, 0, 2560, 1440 }));
+        savedKey, PanelFrame::text({ 5000, 3000, 9000, 10 }, { { 0, 0, 2560, 1440 } }));
 
-    panel.setFrameAutosaveName(u"PrompterPanel"_s);
+    panel.saveFrameAs(u"PrompterPanel"_s);
     settle();
 
     EXPECT_TRUE(QRectF(0, 0, 1280, 800).contains(panel.frame()));

@@ -3,17 +3,32 @@
 #include "Orvello/Adapters/Portable/QtHelperProcess.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Beside the program in the build folder; in the installed one's folder for programs that nobody
+/// starts by hand.
+QString helperScript()
+{
+    const QString folder = QCoreApplication::applicationDirPath() + u'/';
+    const QString besideProgram = folder + u"impress-helper.py"_s;
+    if (QFile::exists(besideProgram))
+        return besideProgram;
+    return folder + QStringLiteral(ORVELLO_INSTALLED_HELPER);
+}
+
+} // namespace
+
 std::unique_ptr<HelperProcess> makeImpressHelper()
 {
     // The distribution's own Python, because its package python3-uno serves no other one.
-    return std::make_unique<QtHelperProcess>(u"/usr/bin/python3"_s,
-        QStringList {
-            QCoreApplication::applicationDirPath() + u"/impress-helper.py"_s, u"serve"_s });
+    return std::make_unique<QtHelperProcess>(
+        u"/usr/bin/python3"_s, QStringList { helperScript(), u"serve"_s });
 }
 
 } // namespace Orvello

@@ -1,5 +1,7 @@
 #include "Orvello/Adapters/Linux/Desktop/LinuxStatusBar.h"
 
+#include "Orvello/Foundation/Assign.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -65,7 +67,7 @@ void LinuxStatusBar::update()
     if (!m_hasHost)
         return;
     const bool isThere = *m_hasHost || m_tray.isThere();
-    if (std::exchange(m_isThere, isThere) != isThere)
+    if (assign(m_isThere, isThere))
         m_changed(isThere);
 }
 

@@ -2,18 +2,16 @@
 
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 
-#include <QGuiApplication>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 namespace Orvello {
 
@@ -23,12 +21,6 @@ namespace {
 
 constexpr int edgeWidth = 6; ///< How far from its edge the panel is taken by the edge, in points.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
-
-double mainScreenHeight()
-{
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->geometry().height() : PanelFrame::assumedScreen.height();
-}
 
 Qt::Edges edgesAt(QPointF position, QSize size)
 {
@@ -64,7 +56,7 @@ Qt::CursorShape cursorFor(Qt::Edges edges)
 
 /// The geometry with the given edges moved by `delta`, inside the size limits; the opposite edges
 /// stay where they are.
-QRect resized(QRect geometry, Qt::Edges edges, QPoint delta)
+QRect resizedBy(QRect geometry, Qt::Edges edges, QPoint delta)
 {
     const QSize smallest = NativePanel::minimumSize.toSize();
     const QSize largest = NativePanel::maximumSize.toSize();
@@ -107,34 +99,35 @@ X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
 
 X11Panel::~X11Panel() { m_window.removeEventFilter(this); }
 
-QRectF X11Panel::frame() const { return turnedOver(m_window.geometry(), mainScreenHeight()); }
+QRectF X11Panel::frame() const { return m_window.geometry(); }
 
 void X11Panel::setFrame(const QRectF& frame)
 {
     m_settledFrame = frame;
-    m_window.setGeometry(turnedOver(frame, mainScreenHeight()).toRect());
+    m_window.setGeometry(frame.toRect());
     announceSize();
 }
 
-void X11Panel::setFrameAutosaveName(const QString& name)
+void X11Panel::saveFrameAs(const QString& name)
 {
     // The key and the text are those of the macOS window system, so that both editions read the
     // same.
     m_autosaveKey = u"NSWindow Frame "_s + name;
     const std::optional<QString> saved = DefaultsValue::asString(m_defaults.value(m_autosaveKey));
     const QList<QRectF> screens = QtScreens().frames();
-    if (const std::optional<QRectF> frame = saved ? PanelFrame::parsed(*saved) : std::nullopt)
+    if (const std::optional<QRectF> frame
+        = saved ? PanelFrame::parsed(*saved, screens) : std::nullopt)
         setFrame(PanelFrame::onScreen(
             PanelFrame::withSizeBetween(*frame, minimumSize, maximumSize), screens));
 }
 
-void X11Panel::orderFrontRegardless()
+void X11Panel::show()
 {
     m_window.show();
     m_stackingGuard->raise();
 }
 
-void X11Panel::orderOut() { m_window.hide(); }
+void X11Panel::hide() { m_window.hide(); }
 
 bool X11Panel::isVisible() const { return m_window.isVisible(); }
 
@@ -198,8 +191,9 @@ bool X11Panel::moved(const QMouseEvent& event)
         return false;
     }
     const QPoint delta = event.globalPosition().toPoint() - m_gesture.startPointer;
-    m_window.setGeometry(m_gesture.edges ? resized(m_gesture.startGeometry, m_gesture.edges, delta)
-                                         : m_gesture.startGeometry.translated(delta));
+    m_window.setGeometry(m_gesture.edges
+            ? resizedBy(m_gesture.startGeometry, m_gesture.edges, delta)
+            : m_gesture.startGeometry.translated(delta));
     return true;
 }
 
@@ -221,14 +215,14 @@ void X11Panel::endGesture()
     m_gesture = {};
     saveFrame();
     if (wasResize)
-        Q_EMIT didEndLiveResize();
+        Q_EMIT resizeEnded();
 }
 
 /// A window that is shown, or only moved, is told of its size again.
 void X11Panel::announceSize()
 {
-    if (std::exchange(m_announcedSize, m_window.size()) != m_window.size())
-        Q_EMIT didResize();
+    if (assign(m_announcedSize, m_window.size()))
+        Q_EMIT resized();
 }
 
 void X11Panel::saveFrame()
@@ -237,10 +231,7 @@ void X11Panel::saveFrame()
     if (m_autosaveKey.isEmpty() || m_gesture.isActive || frame() == m_settledFrame)
         return;
     m_settledFrame = frame();
-    const QList<QRectF> screens = QtScreens().frames();
-    m_defaults.setValue(m_autosaveKey,
-        PanelFrame::text(
-            m_settledFrame, screens.isEmpty() ? PanelFrame::assumedScreen : screens.first()));
+    m_defaults.setValue(m_autosaveKey, PanelFrame::text(m_settledFrame, QtScreens().frames()));
 }
 
 } // namespace Orvello

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 
@@ -20,7 +21,7 @@ class X11StackingGuard;
 /// panel asks none of them: it is an override-redirect window, which no manager places, focuses or
 /// assigns to a workspace. What the manager would do otherwise is done here: staying on top,
 /// dragging, resizing, remembering the frame.
-class X11Panel final : public NativePanel {
+class X11Panel final : public NativePanel, private CaptureHiding {
     Q_OBJECT
 
 public:
@@ -30,17 +31,12 @@ public:
 
     QRectF frame() const override;
     void setFrame(const QRectF& frame) override;
-    void setFrameAutosaveName(const QString& name) override;
-    void orderFrontRegardless() override;
-    void orderOut() override;
+    void saveFrameAs(const QString& name) override;
+    void show() override;
+    void hide() override;
     bool isVisible() const override;
-    qint64 windowNumber() const override;
-    bool inLiveResize() const override { return m_gesture.edges && m_gesture.isActive; }
-    SharingType sharingType() const override { return m_sharingType; }
-    void setSharingType(SharingType type) override { m_sharingType = type; }
-
-    /// X11 shows every window to every client; no request keeps one out.
-    bool canExcludeFromCapture() const override { return false; }
+    bool isBeingResized() const override { return m_gesture.edges && m_gesture.isActive; }
+    CaptureHiding& captureHiding() override { return *this; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -52,6 +48,12 @@ private:
         QPoint startPointer;
         QRect startGeometry;
     };
+
+    /// X11 shows every window to every client; no request keeps one out.
+    bool isPossible() const override { return false; }
+    void setHidden(bool isHidden) override { m_isHidden = isHidden; }
+    bool isHidden() const override { return m_isHidden; }
+    qint64 windowNumber() const override;
 
     bool pressed(QMouseEvent& event);
     bool moved(const QMouseEvent& event);
@@ -66,7 +68,7 @@ private:
     QString m_autosaveKey; ///< Empty while the frame is not saved.
     QRectF m_settledFrame; ///< As it was set or saved last: what need not be saved.
     QSize m_announcedSize;
-    SharingType m_sharingType = SharingType::ReadOnly;
+    bool m_isHidden = false;
     Gesture m_gesture;
 };
 

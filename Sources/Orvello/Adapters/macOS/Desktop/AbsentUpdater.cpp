@@ -12,17 +12,17 @@ AbsentUpdater::AbsentUpdater(QString reason)
 {
 }
 
-void AbsentUpdater::startUpdater(UpdaterDelegate&) { logAbsence(); }
+void AbsentUpdater::start(UpdaterDelegate&) { logAbsence(); }
 
-void AbsentUpdater::checkForUpdates() { logAbsence(); }
+void AbsentUpdater::check() { logAbsence(); }
 
-void AbsentUpdater::setAutomaticallyChecksForUpdates(bool)
+void AbsentUpdater::setOn(bool)
 {
     for (const auto& changed : m_observers)
         changed();
 }
 
-void AbsentUpdater::observeAutomaticChecks(std::function<void()> changed)
+void AbsentUpdater::observe(std::function<void()> changed)
 {
     m_observers.push_back(std::move(changed));
 }

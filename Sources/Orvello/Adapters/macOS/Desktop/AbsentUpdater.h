@@ -7,22 +7,24 @@
 namespace Orvello {
 
 /// The updater of a program that cannot update itself. It says why in the log.
-class AbsentUpdater final : public Updater {
+class AbsentUpdater final : public Updater, private UpdateSchedule {
 public:
     explicit AbsentUpdater(QString reason);
 
-    void startUpdater(UpdaterDelegate& delegate) override;
-    void checkForUpdates() override;
-    bool automaticallyChecksForUpdates() const override { return false; }
-    /// Changes nothing, and says so to whoever shows the wish already.
-    void setAutomaticallyChecksForUpdates(bool on) override;
-    void observeAutomaticChecks(std::function<void()> changed) override;
-    bool canCheckForUpdates() const override { return false; }
-    std::optional<Date> lastUpdateCheckDate() const override { return std::nullopt; }
+    void start(UpdaterDelegate& delegate) override;
+    void check() override;
+    UpdateSchedule& schedule() override { return *this; }
+    bool canCheck() const override { return false; }
+    std::optional<Date> lastCheck() const override { return std::nullopt; }
     void observeChecks(std::function<void()>) override { }
     std::optional<QString> builtInFeed() const override;
 
 private:
+    bool isOn() const override { return false; }
+    /// Changes nothing, and says so to whoever shows the wish already.
+    void setOn(bool isOn) override;
+    void observe(std::function<void()> changed) override;
+
     void logAbsence() const;
 
     QString m_reason;

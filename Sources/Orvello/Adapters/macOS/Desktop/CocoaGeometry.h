@@ -2,7 +2,7 @@
 
 #include <QRectF>
 
-#import <Foundation/Foundation.h>
+#import <AppKit/AppKit.h>
 
 namespace Orvello {
 
@@ -14,6 +14,14 @@ constexpr QRectF qRect(const CGRect& rect)
 inline CGRect cgRect(const QRectF& rect)
 {
     return { { rect.x(), rect.y() }, { rect.width(), rect.height() } };
+}
+
+/// A rectangle on the screen with its y counted the other way: AppKit counts upward from the bottom
+/// left corner of the primary screen. Its own inverse.
+inline QRectF turnedOver(const QRectF& rect)
+{
+    const CGFloat height = NSScreen.screens.firstObject.frame.size.height;
+    return { rect.x(), height - rect.y() - rect.height(), rect.width(), rect.height() };
 }
 
 inline CGSize cgSize(const QSizeF& size) { return { size.width(), size.height() }; }

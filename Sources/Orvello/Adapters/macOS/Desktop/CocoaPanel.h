@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/NativePanel.h"
 
 #import <AppKit/AppKit.h>
@@ -28,7 +29,7 @@ class Screens;
 /// - a press that the view does not want starts a drag of the panel;
 /// - the sharing type is the panel's own, which Qt never touches. Windows that Qt opens beside it,
 ///   such as tool tips, would be capturable, so the view must not use any.
-class CocoaPanel final : public NativePanel {
+class CocoaPanel final : public NativePanel, private CaptureHiding {
 public:
     /// `view` must not have been shown. Both must outlive the panel.
     CocoaPanel(QWindow& view, const Screens& screens);
@@ -36,19 +37,21 @@ public:
 
     QRectF frame() const override;
     void setFrame(const QRectF& frame) override;
-    void setFrameAutosaveName(const QString& name) override;
-    void orderFrontRegardless() override;
-    void orderOut() override;
+    void saveFrameAs(const QString& name) override;
+    void show() override;
+    void hide() override;
     bool isVisible() const override;
-    qint64 windowNumber() const override;
-    bool inLiveResize() const override;
-    SharingType sharingType() const override;
-    void setSharingType(SharingType type) override;
-    bool canExcludeFromCapture() const override { return true; }
+    bool isBeingResized() const override;
+    CaptureHiding& captureHiding() override { return *this; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isPossible() const override { return true; }
+    void setHidden(bool isHidden) override;
+    bool isHidden() const override;
+    qint64 windowNumber() const override;
+
     void embedView();
     void observePanel();
     bool pressed(QMouseEvent& event);

@@ -24,18 +24,14 @@ NSView* nativeViewOf(QWindow& window)
     return (__bridge NSView*)reinterpret_cast<void*>(window.winId());
 }
 
-static_assert(static_cast<int>(NativePanel::SharingType::None) == NSWindowSharingNone);
-static_assert(static_cast<int>(NativePanel::SharingType::ReadOnly) == NSWindowSharingReadOnly);
-
 } // namespace
 
 CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
     : m_view(view)
     , m_screens(screens)
-    , m_panel([[PrompterPanel alloc]
-          initWithSize:cgSize(PanelFrame::initial(PanelFrame::assumedScreen).size())
-               minimum:cgSize(minimumSize)
-               maximum:cgSize(maximumSize)])
+    , m_panel([[PrompterPanel alloc] initWithSize:cgSize(PanelFrame::initial({}).size())
+                                          minimum:cgSize(minimumSize)
+                                          maximum:cgSize(maximumSize)])
     , m_nativeView(nativeViewOf(view))
 {
     embedView();
@@ -79,26 +75,26 @@ void CocoaPanel::observePanel()
                              queue:nil
                         usingBlock:^(NSNotification*) {
                             if (self)
-                                Q_EMIT self->didResize();
+                                Q_EMIT self->resized();
                         }],
         [center addObserverForName:NSWindowDidEndLiveResizeNotification
                             object:m_panel
                              queue:nil
                         usingBlock:^(NSNotification*) {
                             if (self)
-                                Q_EMIT self->didEndLiveResize();
+                                Q_EMIT self->resizeEnded();
                         }],
     ];
 }
 
-QRectF CocoaPanel::frame() const { return qRect(m_panel.frame); }
+QRectF CocoaPanel::frame() const { return turnedOver(qRect(m_panel.frame)); }
 
 void CocoaPanel::setFrame(const QRectF& frame)
 {
-    shielded([&] { [m_panel setFrame:cgRect(frame) display:YES]; });
+    shielded([&] { [m_panel setFrame:cgRect(turnedOver(frame)) display:YES]; });
 }
 
-void CocoaPanel::setFrameAutosaveName(const QString& name)
+void CocoaPanel::saveFrameAs(const QString& name)
 {
     NSString* const autosaveName = nsString(name);
     shielded([&] {
@@ -113,13 +109,13 @@ void CocoaPanel::setFrameAutosaveName(const QString& name)
         setFrame(wanted);
 }
 
-void CocoaPanel::orderFrontRegardless()
+void CocoaPanel::show()
 {
     m_view.setVisible(true); // First: Qt shows its view no earlier than its window.
     shielded([&] { [m_panel orderFrontRegardless]; });
 }
 
-void CocoaPanel::orderOut()
+void CocoaPanel::hide()
 {
     shielded([&] { [m_panel orderOut:nil]; });
     // AppKit tells no tracking area that its window went from under the pointer.
@@ -132,19 +128,14 @@ bool CocoaPanel::isVisible() const { return m_panel.visible; }
 
 qint64 CocoaPanel::windowNumber() const { return m_panel.windowNumber; }
 
-bool CocoaPanel::inLiveResize() const { return m_panel.inLiveResize; }
+bool CocoaPanel::isBeingResized() const { return m_panel.inLiveResize; }
 
-NativePanel::SharingType CocoaPanel::sharingType() const
-{
-    return m_panel.sharingType == NSWindowSharingNone ? SharingType::None : SharingType::ReadOnly;
-}
+bool CocoaPanel::isHidden() const { return m_panel.sharingType == NSWindowSharingNone; }
 
-void CocoaPanel::setSharingType(SharingType type)
+void CocoaPanel::setHidden(bool isHidden)
 {
-    shielded([&] {
-        m_panel.sharingType
-            = type == SharingType::None ? NSWindowSharingNone : NSWindowSharingReadOnly;
-    });
+    shielded(
+        [&] { m_panel.sharingType = isHidden ? NSWindowSharingNone : NSWindowSharingReadOnly; });
 }
 
 bool CocoaPanel::eventFilter(QObject* watched, QEvent* event)

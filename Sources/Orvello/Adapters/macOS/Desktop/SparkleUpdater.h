@@ -9,7 +9,7 @@
 namespace Orvello {
 
 /// Sparkle's standard updater with its own windows. The framework must be present.
-class SparkleUpdater final : public Updater {
+class SparkleUpdater final : public Updater, private UpdateSchedule {
 public:
     /// The framework is linked weakly: a bundle that lost it still starts.
     static bool isPresent();
@@ -19,17 +19,19 @@ public:
     SparkleUpdater(const SparkleUpdater&) = delete;
     SparkleUpdater& operator=(const SparkleUpdater&) = delete;
 
-    void startUpdater(UpdaterDelegate& delegate) override;
-    void checkForUpdates() override;
-    bool automaticallyChecksForUpdates() const override;
-    void setAutomaticallyChecksForUpdates(bool on) override;
-    void observeAutomaticChecks(std::function<void()> changed) override;
-    bool canCheckForUpdates() const override;
-    std::optional<Date> lastUpdateCheckDate() const override;
+    void start(UpdaterDelegate& delegate) override;
+    void check() override;
+    UpdateSchedule& schedule() override { return *this; }
+    bool canCheck() const override;
+    std::optional<Date> lastCheck() const override;
     void observeChecks(std::function<void()> changed) override;
     std::optional<QString> builtInFeed() const override;
 
 private:
+    bool isOn() const override;
+    void setOn(bool isOn) override;
+    void observe(std::function<void()> changed) override;
+
     SparkleDelegate* m_delegate; ///< Sparkle itself holds it weakly.
     SPUStandardUpdaterController* m_controller;
 };

@@ -28,37 +28,31 @@ SparkleUpdater::~SparkleUpdater()
     m_delegate.target = nullptr;
 }
 
-void SparkleUpdater::startUpdater(UpdaterDelegate& delegate)
+void SparkleUpdater::start(UpdaterDelegate& delegate)
 {
     m_delegate.target = &delegate;
     shielded([&] { [m_controller startUpdater]; });
 }
 
-void SparkleUpdater::checkForUpdates()
+void SparkleUpdater::check()
 {
     shielded([&] { [m_controller checkForUpdates:nil]; });
 }
 
-bool SparkleUpdater::automaticallyChecksForUpdates() const
-{
-    return m_controller.updater.automaticallyChecksForUpdates;
-}
+bool SparkleUpdater::isOn() const { return m_controller.updater.automaticallyChecksForUpdates; }
 
-void SparkleUpdater::setAutomaticallyChecksForUpdates(bool on)
-{
-    m_controller.updater.automaticallyChecksForUpdates = on;
-}
+void SparkleUpdater::setOn(bool isOn) { m_controller.updater.automaticallyChecksForUpdates = isOn; }
 
-void SparkleUpdater::observeAutomaticChecks(std::function<void()> changed)
+void SparkleUpdater::observe(std::function<void()> changed)
 {
     [m_delegate observe:m_controller.updater
                 keyPath:@"automaticallyChecksForUpdates"
                 changed:std::move(changed)];
 }
 
-bool SparkleUpdater::canCheckForUpdates() const { return m_controller.updater.canCheckForUpdates; }
+bool SparkleUpdater::canCheck() const { return m_controller.updater.canCheckForUpdates; }
 
-std::optional<Date> SparkleUpdater::lastUpdateCheckDate() const
+std::optional<Date> SparkleUpdater::lastCheck() const
 {
     NSDate* const date = m_controller.updater.lastUpdateCheckDate;
     return date ? std::optional(Date { date.timeIntervalSinceReferenceDate }) : std::nullopt;

@@ -4,7 +4,7 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-RunningInstance::Claim LaunchServicesInstance::claim(const QStringList&) { return Claim::Granted; }
+RunningInstance::Outcome LaunchServicesInstance::claim(const ProgramStart&) { return {}; }
 
 void LaunchServicesInstance::listen(Handlers handlers)
 {

@@ -1,0 +1,69 @@
+#include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaDesktop.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaOpenPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaStatusBar.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
+#include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
+#include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
+#include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
+#include "Orvello/Platform/Desktop/DesktopPlatform.h"
+
+namespace Orvello {
+
+namespace {
+
+class MacDesktopPlatform final : public DesktopPlatform {
+public:
+    Screens& screens() override { return m_screens; }
+    Workspace& workspace() override { return m_workspace; }
+    WindowServer& windowServer() override { return m_windowServer; }
+    DesktopServices& desktopServices() override { return m_desktop; }
+    OpenPanel& openPanel() override { return m_openPanel; }
+    StatusBar& statusBar() override { return m_statusBar; }
+    HotKeys& hotKeys() override { return m_hotKeys; }
+
+    Updater& updater() override
+    {
+        if (!m_updater)
+            m_updater = makeMacUpdater();
+        return *m_updater;
+    }
+    WindowChrome& windowChrome() override { return m_windowChrome; }
+
+    /// Keynote and PowerPoint are the presenters here.
+    HelperProcess* impressHelper() override { return nullptr; }
+
+    std::unique_ptr<NativePanel> makePanel(QWindow& view) override
+    {
+        return std::make_unique<CocoaPanel>(view, m_screens);
+    }
+
+private:
+    CocoaScreens m_screens;
+    CocoaWorkspace m_workspace;
+    QuartzWindowServer m_windowServer;
+    CocoaDesktop m_desktop;
+    CocoaOpenPanel m_openPanel;
+    CocoaStatusBar m_statusBar;
+    CarbonHotKeys m_hotKeys;
+    std::unique_ptr<Updater> m_updater;
+    CocoaWindowChrome m_windowChrome;
+};
+
+} // namespace
+
+QString DesktopPlatform::prepare()
+{
+    makeApplicationObject();
+    return {};
+}
+
+std::unique_ptr<DesktopPlatform> DesktopPlatform::create(EarlyPlatform&)
+{
+    return std::make_unique<MacDesktopPlatform>();
+}
+
+} // namespace Orvello

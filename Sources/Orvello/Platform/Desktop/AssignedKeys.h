@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <QVariantMap>
+
+namespace Orvello {
+
+/// The hot keys as the user has assigned them, where that is the desktop's business. Main thread.
+class AssignedKeys : public QObject { // Not final: the views derive from what they could make.
+    Q_OBJECT
+    /// What to press, in the desktop's own words, by the name of the key's purpose. Without those
+    /// that the desktop leaves to the program.
+    Q_PROPERTY(QVariantMap triggers READ triggers NOTIFY triggersChanged FINAL)
+    /// Whether the desktop has a window for assigning them.
+    Q_PROPERTY(bool canConfigure READ canConfigure NOTIFY canConfigureChanged FINAL)
+
+public:
+    const QVariantMap& triggers() const { return m_triggers; }
+    void setTriggers(const QVariantMap& triggers)
+    {
+        if (m_triggers == triggers)
+            return;
+        m_triggers = triggers;
+        Q_EMIT triggersChanged();
+    }
+
+    bool canConfigure() const { return m_canConfigure; }
+    void setCanConfigure(bool can)
+    {
+        if (m_canConfigure == can)
+            return;
+        m_canConfigure = can;
+        Q_EMIT canConfigureChanged();
+    }
+
+    /// Opens the desktop's window, if it has one.
+    Q_INVOKABLE void configure() { Q_EMIT configurationRequested(); }
+
+Q_SIGNALS:
+    void triggersChanged();
+    void canConfigureChanged();
+    void configurationRequested(); ///< For who talks to the desktop.
+
+private:
+    QVariantMap m_triggers;
+    bool m_canConfigure = false;
+};
+
+} // namespace Orvello

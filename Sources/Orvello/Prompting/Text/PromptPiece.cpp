@@ -1,0 +1,103 @@
+#include "Orvello/Prompting/Text/PromptPiece.h"
+
+#include <QGlyphRun>
+
+#include <algorithm>
+
+namespace Orvello {
+
+namespace {
+
+/// How much of a paragraph is laid out once more before its next part: enough to have a letter with
+/// a direction in it.
+constexpr qsizetype longestContext = 100;
+
+/// No line is as wide, and every layout can still count in it.
+constexpr double unlimitedWidth = 1e6;
+
+/// The words of the same paragraph before `start`, on a line of their own. The direction of numbers
+/// and punctuation marks after it depends on them.
+QString contextBefore(const QString& text, qsizetype start)
+{
+    const qsizetype stop = std::max<qsizetype>(start - longestContext, 0);
+    qsizetype from = start;
+    while (from > stop && !isParagraphEnd(text[from - 1]))
+        --from;
+    if (from < start && text[from].isLowSurrogate())
+        ++from;
+    return from < start ? text.sliced(from, start - from) + QChar(QChar::LineSeparator) : QString();
+}
+
+} // namespace
+
+bool isParagraphEnd(QChar character)
+{
+    switch (character.unicode()) {
+    case '\n':
+    case '\v':
+    case '\f':
+    case '\r':
+    case 0x0085: // next line
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+        return true;
+    default:
+        return false;
+    }
+}
+
+PromptPiece::PromptPiece(
+    const QString& text, qsizetype start, bool isRightToLeft, const PromptTypography& typography)
+    : m_start(start)
+    , m_isRightToLeft(isRightToLeft)
+{
+    const QStringView rest = QStringView(text).sliced(start);
+    const QStringView ahead = rest.first(std::min(longest, rest.size()));
+    m_length = std::ranges::find_if(ahead, isParagraphEnd) - ahead.begin();
+    m_endsParagraph = m_length < ahead.size() || ahead.size() == rest.size();
+    if (!m_endsParagraph && ahead.back().isHighSurrogate())
+        --m_length;
+    const QString context = contextBefore(text, start);
+    m_contextLength = context.size();
+    if (context.isEmpty())
+        m_isRightToLeft = ahead.first(m_length).isRightToLeft();
+
+    QTextOption option(m_isRightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    option.setTextDirection(m_isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    // The widths that glyphs have when they are drawn at fractions of a pixel.
+    option.setUseDesignMetrics(true);
+    m_layout.setFont(typography.font);
+    m_layout.setTextOption(option);
+    m_layout.setText(context + text.mid(start, m_length));
+    m_layout.setCacheEnabled(true); // To be drawn without being shaped again.
+    m_layout.beginLayout();
+    for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
+        const bool isContext = line.textStart() < m_contextLength;
+        line.setLineWidth(isContext ? unlimitedWidth : typography.width);
+        m_contextLines += isContext ? 1 : 0;
+    }
+    m_layout.endLayout();
+}
+
+qsizetype PromptPiece::lineStart(int index) const
+{
+    return m_start + line(index).textStart() - m_contextLength;
+}
+
+QString PromptPiece::lineText(int index) const
+{
+    return m_layout.text().mid(line(index).textStart(), line(index).textLength());
+}
+
+bool PromptLine::looksLike(const PromptLine& other) const
+{
+    if (piece == other.piece && index == other.index)
+        return true;
+    const QTextLine line = inPiece();
+    const QTextLine otherLine = other.inPiece();
+    return line.naturalTextWidth() == otherLine.naturalTextWidth()
+        && line.glyphRuns() == otherLine.glyphRuns();
+}
+
+} // namespace Orvello
