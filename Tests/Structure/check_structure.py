@@ -7,7 +7,8 @@
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
     check_structure.py format     the sources are laid out as clang-format does it
-    check_structure.py translations LUPDATE   what a translation replaces stands in the sources
+    check_structure.py translations LUPDATE LANGUAGE...   each translation file has the texts of the sources and no
+                                  others; those of the languages named are translated, every one
 """
 
 import json
@@ -191,23 +192,65 @@ def check_format():
     return result.stderr.splitlines() if result.returncode else []
 
 
-def messages(translation):
-    """The (context, source text) pairs of a .ts file."""
-    return {(context.findtext("name"), message.findtext("source"))
-            for context in xml.etree.ElementTree.parse(translation).getroot().iter("context")
+TRANSLATIONS = ROOT / "Resources" / "Translations"
+# Forms that a language has for a number of things.
+PLURAL_FORMS = {"de": 2, "es": 2, "fr": 2, "ja": 1, "pt_BR": 2, "zh_CN": 1}
+
+
+def messages(file):
+    """The messages of a .ts file by context and source text."""
+    return {(context.findtext("name"), message.findtext("source")): message
+            for context in xml.etree.ElementTree.parse(file).getroot().iter("context")
             for message in context.iter("message")}
 
 
+def placeholders(text):
+    """What stands for other texts, and what must stay as it is."""
+    return sorted(set(re.findall(r"%n|%L?\d", text))), sorted(re.findall(r"</?\w+>", text)), text.count("\n")
+
+
+def problems_of(language, source, message):
+    """What is wrong with one message of a language that is complete."""
+    translation = message.find("translation")
+    if translation.get("type") is not None:
+        return ["is unfinished"]
+    forms = [form.text or "" for form in translation.iter("numerusform")] or [translation.text or ""]
+    problems = []
+    if message.get("numerus") == "yes" and len(forms) != PLURAL_FORMS[language]:
+        problems.append(f"has {len(forms)} forms for numbers, not {PLURAL_FORMS[language]}")
+    for form in forms:
+        if not form.strip():
+            problems.append("is empty")
+        elif placeholders(form) != placeholders(source):
+            problems.append(f"has other placeholders than the source: \"{form}\"")
+        elif form[0].isspace() != source[0].isspace() or form[-1].isspace() != source[-1].isspace():
+            problems.append("begins or ends with another blank than the source")
+    return problems
+
+
 def check_translations():
+    lupdate, *complete = sys.argv[2:]
     with tempfile.TemporaryDirectory() as folder:
         extracted = pathlib.Path(folder) / "all.ts"
-        subprocess.run([sys.argv[2], "-silent", "-no-obsolete", "-I", str(ROOT / "Sources"), str(SOURCES), "-ts", str(extracted)],
-                       check=True, capture_output=True)
-        in_sources = messages(extracted)
+        subprocess.run([lupdate, "-silent", "-no-obsolete", "-I", str(ROOT / "Sources"), str(SOURCES), "-ts",
+                        str(extracted)], check=True, capture_output=True)
+        in_sources = messages(extracted).keys()
     assert in_sources, "the sources have no text to translate"
-    return [f"{path.name} translates \"{source}\" of {context}, which no source says"
-            for path in sorted((ROOT / "Resources" / "Translations").glob("*.ts"))
-            for context, source in sorted(messages(path) - in_sources)]
+    files = sorted(TRANSLATIONS.glob("orvello_*.ts"))
+    assert [file.stem for file in files] == [f"orvello_{language}" for language in sorted(PLURAL_FORMS)], files
+    found = []
+    for file in files:
+        language = file.stem.removeprefix("orvello_")
+        translated = messages(file)
+        found += [f"{file.name} translates \"{source}\" of {context}, which no source says"
+                  for context, source in sorted(translated.keys() - in_sources)]
+        found += [f"{file.name} lacks \"{source}\" of {context}: run the target update-translations"
+                  for context, source in sorted(in_sources - translated.keys())]
+        if language in complete:
+            found += [f"{file.name}: \"{source}\" of {context} {problem}"
+                      for (context, source), message in translated.items()
+                      for problem in problems_of(language, source, message)]
+    return found
 
 
 CHECKS = {"paths": check_paths, "graph": check_graph, "walls": check_walls, "platforms": check_platforms,
