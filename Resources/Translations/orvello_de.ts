@@ -5,95 +5,95 @@
     <name>Countdown</name>
     <message>
         <source>Countdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Countdown</translation>
     </message>
 </context>
 <context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Speaker notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprechernotizen</translation>
     </message>
     <message>
         <source>Script text</source>
-        <translation type="unfinished"></translation>
+        <translation>Skripttext</translation>
     </message>
     <message>
         <source>Shown in the prompter · autosaved locally, nothing leaves your Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Mac</translation>
     </message>
     <message>
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
 </context>
 <context>
     <name>ImportMenu</name>
     <message>
         <source>Import speaker notes from a deck</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprechernotizen aus einer Präsentation importieren</translation>
     </message>
 </context>
 <context>
     <name>LibraryAlert</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>Orvello::AppDelegate</name>
     <message>
         <source>%1 counts only at the launch: quit the Orvello that runs first</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gilt nur beim Start: Beenden Sie zuerst das laufende Orvello</translation>
     </message>
 </context>
 <context>
     <name>Orvello::Appcast</name>
     <message>
         <source>It declares a document type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie deklariert einen Dokumenttyp.</translation>
     </message>
     <message>
         <source>It is no RSS feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein RSS-Feed.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::AppcastUpdater</name>
     <message>
         <source>There is no valid update feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen gültigen Update-Feed.</translation>
     </message>
     <message>
         <source>The update feed is not secure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Feed ist nicht sicher.</translation>
     </message>
     <message>
         <source>The update feed cannot be read: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Feed lässt sich nicht lesen: %1</translation>
     </message>
     <message>
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Feed ist unverständlich: %1</translation>
     </message>
     <message>
         <source>The update feed names no secure page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Update-Feed nennt keine sichere Seite.</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Download-Seite lässt sich nicht öffnen.</translation>
     </message>
     <message>
         <source>Orvello is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello ist auf dem neuesten Stand.</translation>
     </message>
 </context>
 <context>
@@ -101,151 +101,151 @@
     <message>
         <source>permission denied — allow Orvello to control %1 in System Settings → Privacy &amp; Security → Automation</source>
         <extracomment>Follows &quot;Couldn&apos;t read the presentation:&quot;. %1: a presentation program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert – erlauben Sie Orvello die Steuerung von %1 unter Systemeinstellungen → Datenschutz &amp; Sicherheit → Automation</translation>
     </message>
     <message>
         <source>presenter notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Moderationsnotizen</translation>
     </message>
     <message>
         <source>speaker notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprechernotizen</translation>
     </message>
 </context>
 <context>
     <name>Orvello::BusInstance</name>
     <message>
         <source>Orvello is running already, but does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello läuft bereits, antwortet aber nicht.</translation>
     </message>
     <message>
         <source>Orvello is running already, but cannot be asked for anything: the two do not share a session bus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello läuft bereits, kann aber um nichts gebeten werden: Die beiden teilen keinen Sitzungsbus.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::Commands</name>
     <message>
         <source>Start Scrolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf starten</translation>
     </message>
     <message>
         <source>Pause Scrolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf anhalten</translation>
     </message>
     <message>
         <source>Start / pause scrolling</source>
         <extracomment>What a key does, in a list of keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lauf starten / anhalten</translation>
     </message>
     <message>
         <source>Start / pause</source>
         <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Start / Pause</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer</translation>
     </message>
     <message>
         <source>Back to Top</source>
         <extracomment>In a menu: scrolls back to the beginning of the script.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Anfang</translation>
     </message>
     <message>
         <source>Back to top</source>
         <extracomment>What a key does: it scrolls back to the beginning of the script.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Anfang</translation>
     </message>
     <message>
         <source>Show Prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prompter zeigen</translation>
     </message>
     <message>
         <source>Hide Prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prompter verbergen</translation>
     </message>
     <message>
         <source>Show / hide prompter</source>
         <extracomment>What a key does, in a list of keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Prompter zeigen / verbergen</translation>
     </message>
     <message>
         <source>Show / hide</source>
         <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen / verbergen</translation>
     </message>
     <message>
         <source>Voice-Follow Scrolling</source>
         <extracomment>A mode: the text scrolls while the user speaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Stimme folgen</translation>
     </message>
     <message>
         <source>Slide Tracking</source>
         <extracomment>A mode: the notes follow the slides of a running slideshow.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Den Folien folgen</translation>
     </message>
     <message>
         <source>Stealth Mode</source>
         <extracomment>A mode: the prompter is hidden from screen sharing and recordings.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Stealth-Modus</translation>
     </message>
     <message>
         <source>Scripts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Skripte …</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen …</translation>
     </message>
     <message>
         <source>Welcome Tour…</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommenstour …</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen …</translation>
     </message>
     <message>
         <source>Contact Support…</source>
-        <translation type="unfinished"></translation>
+        <translation>Support kontaktieren …</translation>
     </message>
     <message>
         <source>Reveal Log Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolldateien zeigen</translation>
     </message>
     <message>
         <source>Quit Orvello</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello beenden</translation>
     </message>
     <message>
         <source>%1  (%2)</source>
         <extracomment>A line of a menu with two blanks in it. %1: its text; %2: its key, such as &quot;⌥⌘P&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  (%2)</translation>
     </message>
     <message>
         <source>Start or pause scrolling</source>
-        <translation type="unfinished"></translation>
+        <translation>Lauf starten oder anhalten</translation>
     </message>
     <message>
         <source>Scroll faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller laufen</translation>
     </message>
     <message>
         <source>Scroll slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer laufen</translation>
     </message>
     <message>
         <source>Go back to the top of the script</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Anfang des Skripts</translation>
     </message>
     <message>
         <source>Show or hide the prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prompter zeigen oder verbergen</translation>
     </message>
 </context>
 <context>
@@ -253,66 +253,66 @@
     <message>
         <source>%1 isn&apos;t running. Open your presentation in %1 first.</source>
         <extracomment>%1: a presentation program, such as Keynote.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 läuft nicht. Öffnen Sie Ihre Präsentation zuerst in %1.</translation>
     </message>
     <message>
         <source>No presentation is open in %1.</source>
         <extracomment>%1: a presentation program, such as Keynote.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In %1 ist keine Präsentation geöffnet.</translation>
     </message>
     <message>
         <source>That %1 presentation has no %2 on any slide.</source>
         <extracomment>%1: a presentation program; %2: what it calls the notes, such as &quot;speaker notes&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Diese %1-Präsentation hat auf keiner Folie %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t read the %1 presentation: %2</source>
         <extracomment>%1: a presentation program; %2: why, a sentence or a part of one.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die %1-Präsentation konnte nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>
     <name>Orvello::DeckImports</name>
     <message>
         <source>PowerPoint file (.pptx)…</source>
-        <translation type="unfinished"></translation>
+        <translation>PowerPoint-Datei (.pptx) …</translation>
     </message>
     <message>
         <source>Open %1 presentation</source>
         <extracomment>An item of a menu. %1: a presentation program, such as Keynote.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>In %1 geöffnete Präsentation</translation>
     </message>
     <message>
         <source>Choose a PowerPoint presentation — Orvello imports its speaker notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine PowerPoint-Präsentation – Orvello importiert ihre Sprechernotizen.</translation>
     </message>
     <message>
         <source>Import failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Import fehlgeschlagen</translation>
     </message>
     <message>
         <source>No speaker notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Sprechernotizen</translation>
     </message>
     <message>
         <source>The deck was imported, but no slide has speaker notes. Add notes in PowerPoint&apos;s notes pane and re-import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Präsentation wurde importiert, aber keine Folie hat Sprechernotizen. Fügen Sie im Notizenbereich von PowerPoint Notizen hinzu und importieren Sie erneut.</translation>
     </message>
     <message>
         <source>The deck was imported, but no slide has speaker notes. Add notes in your presentation program&apos;s notes pane and re-import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Präsentation wurde importiert, aber keine Folie hat Sprechernotizen. Fügen Sie im Notizenbereich Ihres Präsentationsprogramms Notizen hinzu und importieren Sie erneut.</translation>
     </message>
     <message>
         <source>Imported the saved copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Kopie importiert</translation>
     </message>
     <message>
         <source>PowerPoint has unsaved changes, so the notes came from the last saved copy. Save the presentation and import again to include them.</source>
-        <translation type="unfinished"></translation>
+        <translation>PowerPoint hat ungesicherte Änderungen, deshalb stammen die Notizen aus der zuletzt gespeicherten Kopie. Speichern Sie die Präsentation und importieren Sie erneut, um sie zu übernehmen.</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Fehler</translation>
     </message>
 </context>
 <context>
@@ -320,64 +320,66 @@
     <message>
         <source>Keynote or PowerPoint</source>
         <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Keynote oder PowerPoint</translation>
     </message>
     <message>
         <source>Keynote or Microsoft PowerPoint</source>
         <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Keynote oder Microsoft PowerPoint</translation>
     </message>
 </context>
 <context>
     <name>Orvello::FeedLoader</name>
     <message>
         <source>The server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The server redirects to an insecure address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server leitet auf eine unsichere Adresse um.</translation>
     </message>
     <message>
         <source>The document is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist zu groß.</translation>
     </message>
     <message>
         <source>The server answers with status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server antwortet mit Status %1.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::ImpressAdviceDialog</name>
     <message>
         <source>Let Orvello follow your Impress presentations?</source>
-        <translation type="unfinished"></translation>
+        <translation>Darf Orvello Ihren Impress-Präsentationen folgen?</translation>
     </message>
     <message>
         <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>LibreOffice verrät anderen Programmen nichts über eine Präsentation, solange Sie es nicht erlauben. Orvello kann das für Sie tun: Es ändert eine Einstellung von LibreOffice, und Sie können es jederzeit zurücknehmen.</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlauben</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>Orvello is talking to LibreOffice…
 
 This may take some seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello spricht mit LibreOffice …
+
+Das kann einige Sekunden dauern.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
@@ -385,67 +387,69 @@ This may take some seconds.</source>
     <message>
         <source>notes</source>
         <extracomment>What Impress calls a speaker&apos;s notes.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>permission denied — LibreOffice answers other programs only once you allow it</source>
         <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert – LibreOffice antwortet anderen Programmen erst, wenn Sie es erlauben</translation>
     </message>
     <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um Impress zu folgen, braucht Orvello das Paket python3-uno. Installieren Sie es und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>LibreOffice isn&apos;t installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>LibreOffice ist nicht installiert.</translation>
     </message>
     <message>
         <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>LibreOffice hat nicht geantwortet. Schließen Sie es und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>LibreOffice already listens to another program (%1).</source>
         <extracomment>%1: how the other program is connected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>LibreOffice hört bereits auf ein anderes Programm (%1).</translation>
     </message>
     <message>
         <source>Orvello may now follow Impress. Start the slideshow or the import again.
 
 To take this back later: %1</source>
         <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello darf Impress jetzt folgen. Starten Sie die Präsentation oder den Import noch einmal.
+
+So nehmen Sie das später zurück: %1</translation>
     </message>
     <message>
         <source>Orvello may no longer follow Impress.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello darf Impress nicht mehr folgen.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::LaunchOptions</name>
     <message>
         <source>unknown option %1; did you mean %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Option %1; meinten Sie %2?</translation>
     </message>
     <message>
         <source>unknown option %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Option %1</translation>
     </message>
     <message>
         <source>the preference %1 lacks its value</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Einstellung %1 fehlt der Wert</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Adresse, die Orvello öffnet</translation>
     </message>
     <message>
         <source>there is no file &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Datei „%1“</translation>
     </message>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine PowerPoint-Präsentation (.pptx)</translation>
     </message>
 </context>
 <context>
@@ -453,19 +457,19 @@ To take this back later: %1</source>
     <message>
         <source>My Script</source>
         <extracomment>The title of the only script of a user of the first versions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mein Skript</translation>
     </message>
     <message>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
 </context>
 <context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Skripte</translation>
     </message>
 </context>
 <context>
@@ -473,56 +477,56 @@ To take this back later: %1</source>
     <message>
         <source>%1 deck</source>
         <extracomment>The title of a deck without a name. %1: a presentation program, such as Keynote.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1-Präsentation</translation>
     </message>
 </context>
 <context>
     <name>Orvello::MainMenu</name>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einsetzen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
 </context>
 <context>
     <name>Orvello::OnboardingWindowController</name>
     <message>
         <source>Welcome to Orvello</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Orvello</translation>
     </message>
 </context>
 <context>
     <name>Orvello::PptxImporter</name>
     <message>
         <source>The file could not be opened as a PowerPoint package.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ließ sich nicht als PowerPoint-Paket öffnen.</translation>
     </message>
     <message>
         <source>No slides were found — is this a .pptx presentation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Folien gefunden – ist das eine .pptx-Präsentation?</translation>
     </message>
 </context>
 <context>
@@ -530,42 +534,42 @@ To take this back later: %1</source>
     <message>
         <source>get ready</source>
         <extracomment>On the card, at most about 20 characters: the countdown runs.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>gleich geht’s los</translation>
     </message>
     <message>
         <source>hover pause</source>
         <extracomment>On the card, at most about 20 characters: the pointer over the card holds the text.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger hält an</translation>
     </message>
     <message>
         <source>paused</source>
         <extracomment>On the card, at most about 20 characters: the text stands still.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>angehalten</translation>
     </message>
     <message>
         <source>listening…</source>
         <extracomment>On the card, at most about 20 characters: the text waits for the user to speak.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>hört zu …</translation>
     </message>
     <message>
         <source>scrolling</source>
         <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>läuft</translation>
     </message>
 </context>
 <context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Wort</numerusform>
+            <numerusform>%n Wörter</numerusform>
         </translation>
     </message>
     <message>
         <source>Imported deck (%1) — notes are read-only here; edit them in the presentation and re-import.</source>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Importierte Präsentation (%1) – Notizen sind hier schreibgeschützt; bearbeiten Sie sie in der Präsentation und importieren Sie erneut.</translation>
     </message>
 </context>
 <context>
@@ -573,13 +577,13 @@ To take this back later: %1</source>
     <message>
         <source>Untitled</source>
         <extracomment>Stands for a script without a title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message numerus="yes">
         <source>%n slides</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Folie</numerusform>
+            <numerusform>%n Folien</numerusform>
         </translation>
     </message>
 </context>
@@ -588,74 +592,74 @@ To take this back later: %1</source>
     <message>
         <source>%1%</source>
         <extracomment>%1: a number. The sign stands where the language has it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Font size — %1</source>
         <extracomment>%1: the size in points.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schriftgröße – %1</translation>
     </message>
     <message>
         <source>Scroll speed — %1 pt/s</source>
         <extracomment>%1: points per second.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lauftempo – %1 pt/s</translation>
     </message>
     <message>
         <source>Background opacity — %1</source>
         <extracomment>%1: a percentage.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft des Hintergrunds – %1</translation>
     </message>
     <message>
         <source>Sensitivity — %1</source>
         <extracomment>Of the microphone&apos;s detector of speech. %1: a percentage.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Empfindlichkeit – %1</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>3 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>3 Sekunden</translation>
     </message>
     <message>
         <source>5 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>5 Sekunden</translation>
     </message>
     <message>
         <source>10 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>10 Sekunden</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>Orange</translation>
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa</translation>
     </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
     <message>
         <source>Orvello Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello – Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -663,11 +667,11 @@ To take this back later: %1</source>
     <message>
         <source>Speed up / down</source>
         <extracomment>What two keys do, one each. The second text is for a narrow list: at most about 20 characters.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schneller / langsamer</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
 </context>
 <context>
@@ -675,34 +679,34 @@ To take this back later: %1</source>
     <message>
         <source>Live</source>
         <extracomment>On the card, at most about 12 characters: the notes follow the running slideshow.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Live</translation>
     </message>
     <message>
         <source>No access</source>
         <extracomment>On the card, at most about 12 characters: the presentation program may not be asked.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kein Zugriff</translation>
     </message>
     <message>
         <source>Manual</source>
         <extracomment>On the card, at most about 12 characters: the user turns the notes by hand.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand</translation>
     </message>
     <message>
         <source>%1 / %2</source>
         <extracomment>On the card: which slide of how many.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Orvello %1</source>
         <extracomment>A line of the help menu. %1: the program&apos;s version, such as &quot;2.1 (57)&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>
@@ -710,58 +714,59 @@ To take this back later: %1</source>
     <message>
         <source>Orvello %1</source>
         <extracomment>The subject of a mail to the support. %1: the program&apos;s version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1</translation>
     </message>
     <message>
         <source>Orvello %1, %2
 If something went wrong, attach the log: Orvello menu → Help → Reveal Log Files.</source>
         <extracomment>The last lines of a mail to the support, below what the user writes. %1: the program&apos;s version, %2: the operating system with its version. The path names the menu&apos;s lines.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1, %2
+Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hilfe → Protokolldateien zeigen.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::UpdateDialogs</name>
     <message>
         <source>Check for updates automatically?</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen?</translation>
     </message>
     <message>
         <source>Once a day, Orvello would look at the vendor&apos;s web site for a newer version. Nothing about you is sent. You can change this in the settings at any time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvello würde einmal am Tag auf der Website des Anbieters nach einer neueren Version sehen. Nichts über Sie wird gesendet. Sie können das jederzeit in den Einstellungen ändern.</translation>
     </message>
     <message>
         <source>Check Automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch suchen</translation>
     </message>
     <message>
         <source>Don’t Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht suchen</translation>
     </message>
     <message>
         <source>Orvello %1 is available.</source>
         <extracomment>%1: the version, such as 2.1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1 ist verfügbar.</translation>
     </message>
     <message>
         <source>You have %1. The new version is on its download page, which Install opens in your browser.</source>
         <extracomment>%1: the version. Install is the button&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben %1. Die neue Version liegt auf ihrer Download-Seite, die „Installieren“ in Ihrem Browser öffnet.</translation>
     </message>
     <message>
         <source>Install…</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren …</translation>
     </message>
     <message>
         <source>Skip This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version überspringen</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>You have %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben %1.</translation>
     </message>
 </context>
 <context>
@@ -769,125 +774,125 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>another app is using the microphone</source>
         <extracomment>Stands in brackets in the middle of a sentence.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm benutzt das Mikrofon</translation>
     </message>
     <message>
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist geöffnet</translation>
     </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
     <message>
         <source>Welcome to Orvello</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Orvello</translation>
     </message>
     <message>
         <source>Welcome to Orvello. This is your private teleprompter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Orvello. Das ist Ihr privater Teleprompter.</translation>
     </message>
     <message>
         <source>Drag this panel anywhere — put it right under your camera for natural eye contact. Resize it from any edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie dieses Feld, wohin Sie möchten – am besten direkt unter Ihre Kamera, dann wirkt Ihr Blick natürlich. Die Größe ändern Sie an jedem Rand.</translation>
     </message>
     <message>
         <source>Press %1P to start or pause scrolling. Use %1Up or Down to change the speed on the fly. Hover the mouse over this panel any time to pause instantly; move away and it resumes.</source>
         <extracomment>%1: the keys to hold, as in &quot;Option-Command-P&quot; or &quot;Alt+Super+P&quot;. Up and Down are the arrow keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie %1P, um den Lauf zu starten oder anzuhalten. Mit %1Pfeil hoch oder Pfeil runter ändern Sie unterwegs das Tempo. Halten Sie den Mauszeiger über dieses Feld, um sofort anzuhalten; bewegen Sie ihn weg, und es geht weiter.</translation>
     </message>
     <message>
         <source>Turn on voice-follow in the menu bar and the script scrolls while you speak, then waits when you pause.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie „Der Stimme folgen“ in der Menüleiste ein, und das Skript läuft, während Sie sprechen, und wartet, wenn Sie innehalten.</translation>
     </message>
     <message>
         <source>Turn on voice-follow in the menu and the script scrolls while you speak, then waits when you pause. The menu opens from the tray, or with a right click on this panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie „Der Stimme folgen“ im Menü ein, und das Skript läuft, während Sie sprechen, und wartet, wenn Sie innehalten. Das Menü öffnet sich im Infobereich oder mit einem Rechtsklick auf dieses Feld.</translation>
     </message>
     <message>
         <source>With Stealth Mode on, this window is invisible to screen sharing, recordings, and screenshots. Your audience only sees your slides — never your notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Stealth-Modus ist dieses Fenster für Bildschirmfreigaben, Aufnahmen und Bildschirmfotos unsichtbar. Ihr Publikum sieht nur Ihre Folien – nie Ihre Notizen.</translation>
     </message>
     <message>
         <source>Sharing your screen? Leave Stealth Mode alone while you share — toggling it mid-share can make your meeting app show a gray box where the prompter sits. Close and open Orvello again to clear it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie teilen Ihren Bildschirm? Lassen Sie den Stealth-Modus dabei in Ruhe – wird er währenddessen umgeschaltet, zeigt Ihr Besprechungsprogramm an der Stelle des Prompters womöglich einen grauen Kasten. Schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien: Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
     </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
     <message>
         <source>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom → Bildschirm freigeben → „Fenster Ihrer Folien“ (nicht „Gesamter Bildschirm“)</translation>
     </message>
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom → Einstellungen → Bildschirm freigeben → Erweitert → Bildschirmaufnahmemodus → „Erweiterte Aufnahme mit Fensterfilterung“ (oder „Vorherige Betriebssysteme“)</translation>
     </message>
 </context>
 <context>
     <name>PrivacySettings</name>
     <message>
         <source>Privacy</source>
-        <translation type="unfinished"></translation>
+        <translation>Privatsphäre</translation>
     </message>
     <message>
         <source>Stealth Mode — hide from screen sharing, recordings &amp; screenshots</source>
-        <translation type="unfinished"></translation>
+        <translation>Stealth-Modus – bei Bildschirmfreigabe, Aufnahmen und Bildschirmfotos verbergen</translation>
     </message>
     <message>
         <source>This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Desktop kann kein Fenster vor Bildschirmfreigaben, Aufnahmen oder Bildschirmfotos verbergen. Dort ist der Prompter sichtbar, ob der Stealth-Modus ein- oder ausgeschaltet ist.</translation>
     </message>
     <message>
         <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist der Stealth-Modus eingeschaltet, bevor das Teilen beginnt, ist der Prompter für Bildschirmfreigaben, Aufnahmen und Bildschirmfotos unsichtbar (Zoom, Meet, QuickTime und andere) – während Sie ihn weiter vollständig sehen.</translation>
     </message>
     <message>
         <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots — while staying fully visible to you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist der Stealth-Modus eingeschaltet, bevor das Teilen beginnt, ist der Prompter für Bildschirmfreigaben, Aufnahmen und Bildschirmfotos unsichtbar – während Sie ihn weiter vollständig sehen.</translation>
     </message>
     <message>
         <source>Stealth Mode takes effect on desktops that can keep a window out of screen sharing, recordings, and screenshots. With it on, the prompter&apos;s card says when this one cannot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stealth-Modus wirkt auf Desktops, die ein Fenster aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraushalten können. Ist er eingeschaltet, sagt die Karte des Prompters, wenn dieser es nicht kann.</translation>
     </message>
     <message>
         <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz ohne Risiko: Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms. Ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
     </message>
     <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lassen Sie den Stealth-Modus während des Teilens in Ruhe: Wird er umgeschaltet, zeichnet das Besprechungsprogramm an seiner Stelle womöglich einen grauen Kasten (schließen und öffnen Sie Orvello dann neu). Ganz ohne Risiko: Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms.</translation>
     </message>
 </context>
 <context>
     <name>PrompterSettings</name>
     <message>
         <source>Prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prompter</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe</translation>
     </message>
 </context>
 <context>
     <name>PrompterView</name>
     <message>
         <source>Prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Prompter</translation>
     </message>
     <message>
         <source>DEBUG — VISIBLE IN RECORDINGS</source>
         <extracomment>On the card, at most about 40 characters: others can see the prompter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>DEBUG – IN AUFNAHMEN SICHTBAR</translation>
     </message>
     <message>
         <source>VISIBLE IN RECORDINGS</source>
-        <translation type="unfinished"></translation>
+        <translation>IN AUFNAHMEN SICHTBAR</translation>
     </message>
 </context>
 <context>
@@ -895,42 +900,42 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>%1, %2</source>
         <extracomment>Read aloud. %1: a script&apos;s title; %2: how many slides it has, as in &quot;4 slides&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>ScriptSidebar</name>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Skripte</translation>
     </message>
     <message>
         <source>New script</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Skript</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
     <name>SessionSettings</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung</translation>
     </message>
     <message>
         <source>Countdown before start</source>
-        <translation type="unfinished"></translation>
+        <translation>Countdown vor dem Start</translation>
     </message>
     <message>
         <source>Press P to pause during a slideshow</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit P während einer Präsentation anhalten</translation>
     </message>
     <message>
         <source>While a %1 slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. %2 always works too.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;; %2: keys, as in &quot;⌥⌘P&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Solange eine Präsentation in %1 zu sehen ist (der Zeiger ist dann ausgeblendet und kann nicht anhalten), hält ein einfaches P an oder setzt fort. Es wirkt nur während der Präsentation und stört daher nicht beim Tippen. %2 geht immer.</translation>
     </message>
 </context>
 <context>
@@ -938,33 +943,33 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>%1: %2</source>
         <extracomment>Read aloud. %1: what the keys do; %2: the keys.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>ShareNotice</name>
     <message>
         <source>Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Stealth-Modus während einer Bildschirmfreigabe umzuschalten kann diesen Prompter grau überdecken – schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
     <name>ShortcutSettings</name>
     <message>
         <source>Keyboard shortcuts (global)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel (überall)</translation>
     </message>
     <message>
         <source>Other keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Tasten</translation>
     </message>
     <message>
         <source>Change Shortcuts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel ändern …</translation>
     </message>
 </context>
 <context>
@@ -972,76 +977,76 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Slide %1</source>
         <extracomment>Read aloud. %1: which slide of how many, as in &quot;2 / 14&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Folie %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>Read aloud. %1: the slide&apos;s title; %2: who turns the slides, as in &quot;Live&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Previous slide</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige Folie</translation>
     </message>
     <message>
         <source>Next slide</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Folie</translation>
     </message>
 </context>
 <context>
     <name>SlidesSettings</name>
     <message>
         <source>Slides</source>
-        <translation type="unfinished"></translation>
+        <translation>Folien</translation>
     </message>
     <message>
         <source>Slide Tracking — notes follow the live slideshow</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Folien folgen – die Notizen wechseln mit der Präsentation</translation>
     </message>
     <message>
         <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. The first time, macOS asks to let Orvello control that app — that&apos;s the sync. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ist eine Präsentation importiert (Skripte → Import-Knopf) und „Den Folien folgen“ eingeschaltet, zeigt der Prompter die Sprechernotizen der aktuellen Folie und wechselt von selbst, während Sie in %1 weiterblättern. Beim ersten Mal fragt macOS, ob Orvello dieses Programm steuern darf – das ist der Abgleich. Ausgeschaltet läuft die ganze Präsentation wie ein gewöhnliches Skript.</translation>
     </message>
     <message>
         <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
         <extracomment>%1: a presentation program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ist eine Präsentation importiert (Skripte → Import-Knopf) und „Den Folien folgen“ eingeschaltet, zeigt der Prompter die Sprechernotizen der aktuellen Folie und wechselt von selbst, während Sie in %1 weiterblättern. Ausgeschaltet läuft die ganze Präsentation wie ein gewöhnliches Skript.</translation>
     </message>
     <message>
         <source>If sync shows &quot;No access&quot;: System Settings → Privacy &amp; Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.</source>
         <extracomment>The words in quotation marks are those of the card. %1: presentation programs.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Steht dort „Kein Zugriff“: Systemeinstellungen → Datenschutz &amp; Sicherheit → Automation → Orvello → %1 erlauben, dann „Den Folien folgen“ aus- und einschalten.</translation>
     </message>
     <message>
         <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
         <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Steht dort „Kein Zugriff“: LibreOffice antwortet anderen Programmen erst, wenn Sie es erlauben. Importieren Sie die geöffnete Präsentation (Skripte → Import-Knopf), wählen Sie „Erlauben“, wenn Orvello es anbietet, und starten Sie die Präsentation neu.</translation>
     </message>
 </context>
 <context>
     <name>StatusBadge</name>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
 </context>
 <context>
     <name>TourCloseButton</name>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>TourCopyButton</name>
     <message>
         <source>Copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert</translation>
     </message>
     <message>
         <source>Copy the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad kopieren</translation>
     </message>
 </context>
 <context>
@@ -1049,7 +1054,7 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Page %1 of %2</source>
         <extracomment>Read aloud. %1: a page of the tour; %2: how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -1057,26 +1062,26 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>%1. %2</source>
         <extracomment>Read aloud, two sentences. %1: a title; %2: a text.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>TourFooter</name>
     <message>
         <source>Skip tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour überspringen</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Open my prompter</source>
-        <translation type="unfinished"></translation>
+        <translation>Meinen Prompter öffnen</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
 </context>
 <context>
@@ -1084,252 +1089,252 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>%1: %2</source>
         <extracomment>Read aloud. %1: keys; %2: what they do.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>TourPrivacyPage</name>
     <message>
         <source>One rule keeps your notes off the recording: share a window, never the whole screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Regel hält Ihre Notizen aus der Aufnahme heraus: Teilen Sie ein Fenster, nie den ganzen Bildschirm.</translation>
     </message>
     <message>
         <source>One rule and one safety net keep your notes off the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Regel und ein Sicherheitsnetz halten Ihre Notizen aus der Aufnahme heraus.</translation>
     </message>
     <message>
         <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Regel, ein Sicherheitsnetz und eine Zoom-Einstellung halten Ihre Notizen aus der Aufnahme heraus.</translation>
     </message>
     <message>
         <source>Stealth Mode is on by default</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stealth-Modus ist von Anfang an eingeschaltet</translation>
     </message>
     <message>
         <source>This desktop cannot hide a window</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Desktop kann kein Fenster verbergen</translation>
     </message>
     <message>
         <source>No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier kann kein Programm sein Fenster aus Bildschirmaufnahmen heraushalten, deshalb bewirkt der Stealth-Modus nichts. Der Prompter sagt das auf seiner Karte: Wer Ihren ganzen Bildschirm sieht, sieht auch ihn.</translation>
     </message>
     <message>
         <source>Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie ihn ein, bevor Sie teilen, und lassen Sie ihn dann in Ruhe. Wird er während des Teilens umgeschaltet, zeichnet Ihr Besprechungsprogramm an der Stelle des Prompters womöglich einen grauen Kasten – schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
         <source>Want zero risk? Share just the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz ohne Risiko? Teilen Sie nur das Fenster</translation>
     </message>
     <message>
         <source>Zero risk: share just the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Risiko: nur das Fenster teilen</translation>
     </message>
     <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem Stealth-Modus dürfen Sie den ganzen Bildschirm teilen. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
     </message>
     <message>
         <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie in Ihrem Besprechungsprogramm das Fenster Ihrer Folien statt des ganzen Bildschirms. Ein geteiltes Fenster kann den Prompter nie enthalten. Auch Aufnahmeprogramme können ein einzelnes Fenster aufnehmen.</translation>
     </message>
 </context>
 <context>
     <name>TourSetupPage</name>
     <message>
         <source>You&apos;re set. Here&apos;s where things are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles bereit. Hier finden Sie, was Sie brauchen.</translation>
     </message>
     <message>
         <source>Drag the prompter right under your camera for natural eye contact. Resize it from any edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen Sie den Prompter direkt unter Ihre Kamera, dann wirkt Ihr Blick natürlich. Die Größe ändern Sie an jedem Rand.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Pause during a slideshow</source>
-        <translation type="unfinished"></translation>
+        <translation>Während einer Präsentation anhalten</translation>
     </message>
     <message>
         <source>Hover</source>
         <extracomment>Instead of a key: the pointer rests on the prompter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zeiger darüber</translation>
     </message>
     <message>
         <source>Pause instantly</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort anhalten</translation>
     </message>
     <message>
         <source>Menu bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Menüleiste</translation>
     </message>
     <message>
         <source>Tray menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü im Infobereich</translation>
     </message>
     <message>
         <source>… and Scripts, where you write or import what you say, Settings, and this tour.</source>
-        <translation type="unfinished"></translation>
+        <translation>… und Skripte, wo Sie schreiben oder importieren, was Sie sagen, Einstellungen und diese Tour.</translation>
     </message>
     <message>
         <source>… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.</source>
-        <translation type="unfinished"></translation>
+        <translation>… und Skripte, wo Sie schreiben oder importieren, was Sie sagen, Einstellungen und diese Tour. Ohne Infobereich: Rechtsklick auf den Prompter.</translation>
     </message>
 </context>
 <context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Orvello</translation>
     </message>
     <message>
         <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr privater Teleprompter. Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
     </message>
     <message>
         <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr privater Teleprompter. Teilen Sie das Fenster Ihrer Folien, und Ihr Publikum sieht Ihre Notizen nie.</translation>
     </message>
     <message>
         <source>Invisible on screen shares</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Bildschirmteilen unsichtbar</translation>
     </message>
     <message>
         <source>Not part of a window share</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht Teil eines geteilten Fensters</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stealth-Modus verbirgt den Prompter vor Zoom, Meet, Teams, Aufnahmen und Bildschirmfotos – während Sie ihn bestens sehen.</translation>
     </message>
     <message>
         <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster, und nur Sie sehen den Prompter. Wird der ganze Bildschirm geteilt, zeigt dieser Desktop ihn allen.</translation>
     </message>
     <message>
         <source>Follows your voice</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgt Ihrer Stimme</translation>
     </message>
     <message>
         <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft, während Sie sprechen, wartet, wenn Sie innehalten. Der Ton wird nur auf diesem Mac ausgewertet – nichts wird aufgenommen oder hochgeladen.</translation>
     </message>
     <message>
         <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft, während Sie sprechen, wartet, wenn Sie innehalten. Der Ton wird nur auf diesem Computer ausgewertet – nichts wird aufgenommen oder hochgeladen.</translation>
     </message>
     <message>
         <source>Follows your slides</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgt Ihren Folien</translation>
     </message>
     <message>
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Importieren Sie eine .pptx-Datei oder eine in %1 geöffnete Präsentation, und die Sprechernotizen wechseln mit Ihren Folien.</translation>
     </message>
 </context>
 <context>
     <name>TourZoomCard</name>
     <message>
         <source>Using Zoom? Set this once</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie benutzen Zoom? Einmal einstellen</translation>
     </message>
     <message>
         <source>Using Zoom? Share a window</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie benutzen Zoom? Teilen Sie ein Fenster</translation>
     </message>
     <message>
         <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung von Zoom verbirgt hier den Prompter: Wird der ganze Bildschirm geteilt, sind Ihre Notizen zu sehen. Bei einem geteilten Fenster nie.</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zooms Voreinstellung „Automatisch“ genügt meistens – aber sie wählt das Aufnahmeverfahren in jeder Sitzung neu, und eines davon kann Ihre Notizen zeigen.</translation>
     </message>
     <message>
         <source>Zoom → Share Screen → &lt;b&gt;your slides&apos; window&lt;/b&gt; (not Entire Screen).</source>
         <extracomment>The words between &lt;b&gt; and &lt;/b&gt; are shown in bold.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zoom → Bildschirm freigeben → &lt;b&gt;Fenster Ihrer Folien&lt;/b&gt; (nicht der gesamte Bildschirm).</translation>
     </message>
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom → Einstellungen → Bildschirm freigeben → Erweitert → Bildschirmaufnahmemodus → &lt;b&gt;Erweiterte Aufnahme mit Fensterfilterung&lt;/b&gt; (oder Vorherige Betriebssysteme).</translation>
     </message>
 </context>
 <context>
     <name>UpdateSettings</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Check for updates automatically (once a day)</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch nach Updates suchen (einmal am Tag)</translation>
     </message>
     <message>
         <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your computer beyond the app version. Orvello installs nothing by itself: if you want the new version, it opens the download page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche fragt die Website des Anbieters nach der neuesten Version und sendet außer der Programmversion nichts über Sie oder Ihren Computer. Orvello installiert nichts von selbst: Wenn Sie die neue Version möchten, öffnet es die Download-Seite.</translation>
     </message>
     <message>
         <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your Mac beyond the app version. Updates are signed, and you always confirm before one installs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche fragt die Website des Anbieters nach der neuesten Version und sendet außer der Programmversion nichts über Sie oder Ihren Mac. Updates sind signiert, und Sie bestätigen jede Installation.</translation>
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
         <extracomment>%1: the version.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1 – noch nicht gesucht</translation>
     </message>
     <message>
         <source>Orvello %1 — last checked %2</source>
         <extracomment>%1: the version; %2: a date and a time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Orvello %1 – zuletzt gesucht %2</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt suchen</translation>
     </message>
 </context>
 <context>
     <name>VoiceSettings</name>
     <message>
         <source>Voice-follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Stimme folgen</translation>
     </message>
     <message>
         <source>Scroll while I speak, pause when I pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft, während ich spreche, hält an, wenn ich innehalte</translation>
     </message>
     <message>
         <source>Mic level</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofonpegel</translation>
     </message>
     <message>
         <source>Microphone access is denied. Allow it in your desktop&apos;s privacy settings, then toggle voice-follow again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zugriff auf das Mikrofon ist verweigert. Erlauben Sie ihn in den Datenschutzeinstellungen Ihres Desktops, dann schalten Sie „Der Stimme folgen“ aus und ein.</translation>
     </message>
     <message>
         <source>Microphone access is denied. Enable it in System Settings → Privacy &amp; Security → Microphone, then toggle voice-follow again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Zugriff auf das Mikrofon ist verweigert. Erlauben Sie ihn unter Systemeinstellungen → Datenschutz &amp; Sicherheit → Mikrofon, dann schalten Sie „Der Stimme folgen“ aus und ein.</translation>
     </message>
     <message>
         <source>Echo cancellation: on — audio playing from this Mac won&apos;t move the prompter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Echounterdrückung: ein – was dieser Mac abspielt, bewegt den Prompter nicht.</translation>
     </message>
     <message>
         <source>Echo cancellation: on — audio playing from this computer won&apos;t move the prompter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Echounterdrückung: ein – was dieser Computer abspielt, bewegt den Prompter nicht.</translation>
     </message>
     <message>
         <source>Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
         <extracomment>%1: why, such as &quot;another app is using the microphone&quot; or &quot;Zoom is open&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Echounterdrückung: pausiert (%1), damit Ihre Stimme in Gesprächen weiter wirkt. Über Lautsprecher können laute Gegenstellen den Prompter anstoßen – mit Kopfhörern nicht.</translation>
     </message>
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton wird nur auf dem Gerät und nur auf Lautstärke ausgewertet. Nichts wird aufgenommen, erkannt oder hochgeladen.</translation>
     </message>
 </context>
 </TS>
