@@ -7,8 +7,8 @@
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
     check_structure.py format     the sources are laid out as clang-format does it
-    check_structure.py translations LUPDATE LANGUAGE...   each translation file has the texts of the sources and no
-                                  others; those of the languages named are translated, every one
+    check_structure.py translations LUPDATE   each translation file has the texts of the sources and no others,
+                                  every one translated
 """
 
 import json
