@@ -102,7 +102,7 @@ TEST_F(CocoaUserDefaultsTest, storesWhatItDoesNotRead)
 {
     NSArray* const list = @[ @"Helvetica", @12 ];
     NSUserDefaults* const database = [NSUserDefaults standardUserDefaults];
-    [database setPersistentDomain:@{@"speed" : list} forName:@"app.former.program"];
+    [database setPersistentDomain:@ { @"speed" : list } forName:@"app.former.program"];
 
     defaults.setValue(
         u"speed"_s, CocoaUserDefaults(u"app.former.program"_s).storedValues().value(u"speed"_s));

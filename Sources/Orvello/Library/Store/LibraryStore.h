@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/LibraryFile.h"
@@ -23,7 +24,7 @@ public:
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
     LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
-        QObject* parent = nullptr);
+        const Facts& facts, QObject* parent = nullptr);
 
     const QList<Script>& scripts() const { return m_scripts; }
 
@@ -61,7 +62,7 @@ Q_SIGNALS:
     void activeScriptIDChanged();
 
 private:
-    void makeFirstScript();
+    void makeFirstScript(const Facts& facts);
     QUuid addOnTop(const Script& script);
     Script* editedScript();
     void edit(Script& script, LibraryChange change);

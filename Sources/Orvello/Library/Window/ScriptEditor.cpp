@@ -64,10 +64,14 @@ void ScriptEditor::setTitle(const QString& title)
         m_library.updateActive(title, {}); // Comes back as an update.
 }
 
-QString ScriptEditor::wordCountText() const { return tr("%1 words").arg(m_wordCount); }
+QString ScriptEditor::wordCountText() const
+{
+    return tr("%n words", nullptr, static_cast<int>(m_wordCount));
+}
 
 QString ScriptEditor::deckNotice() const
 {
+    //: %1: where the deck is from: a program or a file.
     return tr("Imported deck (%1) — notes are read-only here; edit them in the presentation and "
               "re-import.")
         .arg(m_deckSource.value_or(QString()));

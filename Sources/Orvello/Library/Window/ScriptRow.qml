@@ -23,7 +23,8 @@ ItemDelegate {
     rightPadding: 16
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: isDeck ? title + ", " + slides : title
+    //: Read aloud. %1: a script's title; %2: how many slides it has, as in "4 slides".
+    Accessible.name: isDeck ? qsTr("%1, %2").arg(title).arg(slides) : title
     Accessible.selectable: true
     Accessible.selected: isActive
 

@@ -26,6 +26,7 @@ public:
         Live, ///< Following a slideshow.
         Denied, ///< The system, or the application, refuses to be asked.
     };
+    Q_ENUM(State)
 
     /// Everything must outlive the service.
     SlideSyncService(const PresentationMonitor& presentation, const PresenterTable& presenters,

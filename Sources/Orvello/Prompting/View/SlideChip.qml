@@ -12,9 +12,12 @@ Capsule {
     required property double maximumWidth
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: "Slide " + status.position
-    Accessible.description: status.title ? status.title + ", " + status.stateLabel : status.stateLabel
+    //: Read aloud. %1: which slide of how many, as in "2 / 14".
+    Accessible.name: qsTr("Slide %1").arg(status.position)
+    //: Read aloud. %1: the slide's title; %2: who turns the slides, as in "Live".
+    Accessible.description: status.title ? qsTr("%1, %2").arg(status.title).arg(status.stateLabel) : status.stateLabel
 
+    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
 
@@ -51,8 +54,8 @@ Capsule {
         height: parent.height
 
         CardButton {
-            symbol: "chevron.left"
-            description: "Previous slide"
+            symbol: root.isMirrored ? "chevron.right" : "chevron.left"
+            description: qsTr("Previous slide")
             isInert: !root.status.canGoBack
             onActivated: root.status.goBack()
         }
@@ -74,8 +77,8 @@ Capsule {
         }
 
         CardButton {
-            symbol: "chevron.right"
-            description: "Next slide"
+            symbol: root.isMirrored ? "chevron.left" : "chevron.right"
+            description: qsTr("Next slide")
             isInert: !root.status.canGoOn
             onActivated: root.status.goOn()
         }

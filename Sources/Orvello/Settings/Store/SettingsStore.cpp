@@ -72,12 +72,17 @@ const std::array<SettingsStore::ColorPreset, 6>& SettingsStore::colorPresets()
 {
     // The system colours of the macOS dark appearance, which suits the dark card on every desktop.
     static const std::array<ColorPreset, 6> presets { {
-        { u"White"_s, QColor(255, 255, 255) },
-        { u"Yellow"_s, QColor(255, 214, 10) },
-        { u"Green"_s, QColor(48, 209, 88) },
-        { u"Cyan"_s, QColor(64, 200, 224) },
-        { u"Orange"_s, QColor(255, 159, 10) },
-        { u"Pink"_s, QColor(255, 55, 95) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "White")),
+            QColor(255, 255, 255) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Yellow")),
+            QColor(255, 214, 10) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Green")),
+            QColor(48, 209, 88) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Cyan")),
+            QColor(64, 200, 224) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Orange")),
+            QColor(255, 159, 10) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Pink")), QColor(255, 55, 95) },
     } };
     return presets;
 }

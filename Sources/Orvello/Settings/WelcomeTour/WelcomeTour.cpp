@@ -20,9 +20,10 @@ int WelcomeTour::pageNamed(const QString& text)
     return static_cast<int>(std::clamp(text.toDouble(), 0.0, lastPage));
 }
 
-WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, QObject* parent)
+WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, const Facts& facts, QObject* parent)
     : QObject(parent)
     , zoomInstalled(zoomIsInstalled)
+    , m_facts(facts)
     , m_page(std::clamp(initialPage, 0, pageCount - 1))
 {
 }
@@ -49,11 +50,15 @@ void WelcomeTour::turnTo(int page)
     Q_EMIT pageChanged();
 }
 
-void WelcomeTour::copyZoomPath() const
+void WelcomeTour::copyZoomPath() const { QGuiApplication::clipboard()->setText(zoomPath()); }
+
+QString WelcomeTour::zoomPath() const
 {
-    QGuiApplication::clipboard()->setText(
-        tr("Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
-           "with window filtering\" (or \"Previous operating systems\")"));
+    if (!m_facts.zoomChoosesCapture)
+        return tr("Zoom → Share Screen → \"your slides' window\" (not \"Entire Screen\")");
+    return tr(
+        "Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
+        "with window filtering\" (or \"Previous operating systems\")");
 }
 
 } // namespace Orvello

@@ -31,22 +31,14 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// What the speed keys do, in points per second.
-constexpr double speedStep = 10;
-constexpr double slowestSpeed = 15;
-constexpr double fastestSpeed = 240;
-
-} // namespace
-
 AppDelegate::AppDelegate(
     const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
     : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
     , m_settings(platforms.early.userDefaults())
-    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time())
+    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
+          platforms.early.facts())
     , m_scriptRunner(platforms.early.childProcess())
     , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
     , m_engine(
@@ -234,12 +226,15 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys().assignedKeys(), m_panel->captureHiding().isPossible() });
-    m_commands
-        = std::make_unique<AppCommands>(AppCommands::Services { m_engine(), m_settings, m_updates,
-                                            m_platforms.desktop.desktopServices(), *m_windows,
-                                            m_platforms.early.operatingSystemVersion() },
-            AppCommands::Delegate { [this] { togglePanel(); }, [this] { showOnboarding(); } });
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts() });
+    m_commands = std::make_unique<AppCommands>(
+        AppCommands::Services { m_engine(), m_settings, m_updates,
+            m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
+        AppCommands::Delegate {
+            .togglePanel = [this] { togglePanel(); },
+            .isPanelVisible = [this] { return m_panel->isVisible(); },
+            .showOnboarding = [this] { showOnboarding(); },
+        });
 }
 
 void AppDelegate::showFirstWindow()
@@ -282,9 +277,8 @@ void AppDelegate::onboardingFinished()
 
 void AppDelegate::setupStatusItem()
 {
-    m_statusMenu
-        = std::make_unique<StatusMenu>(StatusMenu::State { m_engine(), m_settings, *m_panel },
-            *m_commands, AppCommands::versionText());
+    m_statusMenu = std::make_unique<StatusMenu>(
+        *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
@@ -293,29 +287,10 @@ void AppDelegate::setupStatusItem()
 
 void AppDelegate::registerHotKeys()
 {
-    for (const HotKeyTable::Entry& key : HotKeyTable::entries())
-        m_hotKeys.registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
-            [this, command = key.command] { run(command); });
-}
-
-void AppDelegate::run(HotKeyTable::Command command)
-{
-    switch (command) {
-    case HotKeyTable::Command::Toggle:
-        m_engine().toggle();
-        break;
-    case HotKeyTable::Command::Faster:
-        m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed));
-        break;
-    case HotKeyTable::Command::Slower:
-        m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed));
-        break;
-    case HotKeyTable::Command::Restart:
-        m_engine().setOffset(0);
-        break;
-    case HotKeyTable::Command::Hide:
-        togglePanel();
-        break;
+    for (const Command& command : Commands::all()) {
+        if (command.key)
+            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
+                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
     }
 }
 

@@ -14,7 +14,6 @@
 #include "Orvello/Shell/App/Lazy.h"
 #include "Orvello/Shell/Commands/AppCommands.h"
 #include "Orvello/Shell/Commands/HotKeyCenter.h"
-#include "Orvello/Shell/Commands/HotKeyTable.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
 #include "Orvello/Shell/Commands/StatusMenu.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
@@ -88,7 +87,6 @@ private:
     void onboardingFinished();
     void setupStatusItem();
     void registerHotKeys();
-    void run(HotKeyTable::Command command);
     void startUpdates();
     void subscribe();
     void followSlideTracking();

@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Updates/Appcast.h"
 
+#include <QCoreApplication>
 #include <QVersionNumber>
 #include <QXmlStreamReader>
 
@@ -27,12 +28,13 @@ public:
         while (!m_xml.atEnd()) {
             const QXmlStreamReader::TokenType token = m_xml.readNext();
             if (token == QXmlStreamReader::DTD)
-                m_xml.raiseError(u"It declares a document type."_s);
+                m_xml.raiseError(QCoreApplication::translate(
+                    "Orvello::Appcast", "It declares a document type."));
             else if (token == QXmlStreamReader::StartElement)
                 isFeed = isPlain("rss"_L1) && readChannels();
         }
         if (!m_xml.hasError() && !isFeed)
-            m_xml.raiseError(u"It is no RSS feed."_s);
+            m_xml.raiseError(QCoreApplication::translate("Orvello::Appcast", "It is no RSS feed."));
         if (m_xml.hasError())
             return Failure { m_xml.errorString() };
         return std::move(m_items);

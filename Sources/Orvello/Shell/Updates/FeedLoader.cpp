@@ -59,15 +59,15 @@ void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
     m_reply.reset((new QNetworkAccessManager(this))->get(request));
     connect(m_reply.get(), &QNetworkReply::redirected, this, [this](const QUrl& target) {
         if (!isSecure(target))
-            this->answer(Failure { u"The server redirects to an insecure address."_s });
+            this->answer(Failure { tr("The server redirects to an insecure address.") });
     });
     connect(m_reply.get(), &QNetworkReply::readyRead, this, [this] {
         if (m_reply->bytesAvailable() > maximumBytes)
-            this->answer(Failure { u"The document is too large."_s });
+            this->answer(Failure { tr("The document is too large.") });
     });
     connect(m_reply.get(), &QNetworkReply::finished, this, [this] { this->answer(document()); });
     m_timeout = m_time.callAfter(timeoutSeconds,
-        [this] { this->answer(Failure { u"The server did not answer in time."_s }); });
+        [this] { this->answer(Failure { tr("The server did not answer in time.") }); });
 }
 
 Result<QByteArray, QString> FeedLoader::document() const
@@ -77,7 +77,7 @@ Result<QByteArray, QString> FeedLoader::document() const
     if (m_reply->error() != QNetworkReply::NoError)
         return Failure { m_reply->errorString() };
     if (status != ok)
-        return Failure { u"The server answers with status %1."_s.arg(status) };
+        return Failure { tr("The server answers with status %1.").arg(status) };
     return m_reply->readAll();
 }
 
