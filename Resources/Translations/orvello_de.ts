@@ -898,9 +898,9 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
 <context>
     <name>ScriptRow</name>
     <message>
-        <source>%1, %2</source>
-        <extracomment>Read aloud. %1: a script&apos;s title; %2: how many slides it has, as in &quot;4 slides&quot;.</extracomment>
-        <translation>%1, %2</translation>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: a script&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: how many slides, as in &quot;4 slides&quot;.</extracomment>
+        <translation>%2, %1</translation>
     </message>
 </context>
 <context>
@@ -980,9 +980,9 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Folie %1</translation>
     </message>
     <message>
-        <source>%1, %2</source>
-        <extracomment>Read aloud. %1: the slide&apos;s title; %2: who turns the slides, as in &quot;Live&quot;.</extracomment>
-        <translation>%1, %2</translation>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: the slide&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: who turns the slides, as in &quot;Live&quot;.</extracomment>
+        <translation>%2, %1</translation>
     </message>
     <message>
         <source>Previous slide</source>

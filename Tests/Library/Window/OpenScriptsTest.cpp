@@ -383,6 +383,13 @@ TEST_F(OpenScriptsTest, closesEveryScriptOfAnIdThatTheFileHasTwice)
     const QAbstractItemModelTester check(
         &scripts, QAbstractItemModelTester::FailureReportingMode::Fatal);
 
+    QObject::connect(
+        &scripts, &OpenScripts::rowsAboutToBeRemoved, &scripts, [&](const QModelIndex&, int row) {
+            EXPECT_NE(
+                scripts.data(scripts.index(row), OpenScripts::EditorRole).value<ScriptEditor*>(),
+                scripts.active());
+        });
+
     twins.library.remove(twin.id);
 
     EXPECT_EQ(scripts.active()->title(), u"Other"_s);

@@ -1,12 +1,15 @@
 #include "Orvello/Shell/Commands/Command.h"
 
+#include "Orvello/Shell/Launch/CommandLineTable.h"
 #include "Tests/Support/FakeCommandTarget.h"
 #include "Tests/Support/FakeHotKeys.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
+#include <string>
 
 namespace Orvello {
 namespace {
@@ -50,6 +53,16 @@ TEST(CommandTest, saysWhatEachKeyDoes)
         ElementsAre(u"⌥⌘P Start or pause scrolling"_s, u"⌥⌘↑ Scroll faster"_s,
             u"⌥⌘↓ Scroll slower"_s, u"⌥⌘R Go back to the top of the script"_s,
             u"⌥⌘H Show or hide the prompter"_s));
+}
+
+TEST(CommandTest, isCalledTheSameOnTheCommandLine)
+{
+    for (const std::string_view name : { "toggle", "scripts", "settings", "check-updates" }) {
+        const bool isSwitch = std::ranges::any_of(CommandLineTable::entries(),
+            [&](const auto& entry) { return entry.name == "--" + std::string(name); });
+        EXPECT_TRUE(isSwitch) << name;
+        EXPECT_EQ(Commands::named(name).name, name);
+    }
 }
 
 } // namespace

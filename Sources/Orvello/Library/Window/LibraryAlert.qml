@@ -26,7 +26,7 @@ Dialog {
 
     ColumnLayout {
         // A popup does not inherit it.
-        LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
         LayoutMirroring.childrenInherit: true
         anchors.fill: parent
         spacing: 8

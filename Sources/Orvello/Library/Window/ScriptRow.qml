@@ -23,8 +23,8 @@ ItemDelegate {
     rightPadding: 16
 
     Accessible.role: Accessible.ListItem
-    //: Read aloud. %1: a script's title; %2: how many slides it has, as in "4 slides".
-    Accessible.name: isDeck ? qsTr("%1, %2").arg(title).arg(slides) : title
+    //: Read aloud. %2: a script's title, which goes in last, as it may hold a "%1"; %1: how many slides, as in "4 slides".
+    Accessible.name: isDeck ? qsTr("%2, %1").arg(slides).arg(title) : title
     Accessible.selectable: true
     Accessible.selected: isActive
 

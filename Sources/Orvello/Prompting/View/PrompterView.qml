@@ -21,7 +21,7 @@ Item {
     Accessible.name: qsTr("Prompter")
     Accessible.description: status.label
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
 

@@ -14,10 +14,10 @@ Capsule {
     Accessible.role: Accessible.Grouping
     //: Read aloud. %1: which slide of how many, as in "2 / 14".
     Accessible.name: qsTr("Slide %1").arg(status.position)
-    //: Read aloud. %1: the slide's title; %2: who turns the slides, as in "Live".
-    Accessible.description: status.title ? qsTr("%1, %2").arg(status.title).arg(status.stateLabel) : status.stateLabel
+    //: Read aloud. %2: the slide's title, which goes in last, as it may hold a "%1"; %1: who turns the slides, as in "Live".
+    Accessible.description: status.title ? qsTr("%2, %1").arg(status.stateLabel).arg(status.title) : status.stateLabel
 
-    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft
+    readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
 

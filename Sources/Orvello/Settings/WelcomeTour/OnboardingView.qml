@@ -13,7 +13,7 @@ Rectangle {
     required property facts facts
     required property bool hasCloseButton // Where the system draws none above the content.
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     color: TourStyle.background
 

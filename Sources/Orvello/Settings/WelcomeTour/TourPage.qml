@@ -12,7 +12,7 @@ Item {
     property real spacing: 16
     default property alias content: column.data
 
-    readonly property bool isMirrored: Qt.application.layoutDirection === Qt.RightToLeft
+    readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
     readonly property bool isCurrent: number === current
 
     anchors.fill: parent

@@ -19,7 +19,7 @@ Pane {
 
     readonly property Item focusedItem: Window.activeFocusItem
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     padding: 0
     onFocusedItemChanged: reveal(focusedItem)
