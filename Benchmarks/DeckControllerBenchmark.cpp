@@ -35,7 +35,7 @@ struct DeckFixture {
     Testing::FakeUserDefaults defaults;
     Testing::FakeFolders folders;
     SettingsStore settings { defaults };
-    LibraryStore library { defaults, folders, stage.time };
+    LibraryStore library { defaults, folders, stage.time, {} };
     SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
     DeckController controller { library, settings, sync };
 };

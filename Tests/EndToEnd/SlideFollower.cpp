@@ -111,7 +111,7 @@ private:
     LinuxWorkspace m_workspace { m_windows };
     X11WindowServer m_windowServer { m_windows };
     SettingsStore m_settings { m_defaults };
-    LibraryStore m_library { m_defaults, m_folders, m_time };
+    LibraryStore m_library { m_defaults, m_folders, m_time, {} };
     PresentationMonitor m_monitor { { m_presenters, m_workspace, m_windowServer, m_microphone,
         m_time } };
     ImpressPresenter m_impress { m_helper, m_monitor };

@@ -13,20 +13,10 @@ import subprocess
 import tempfile
 import time
 
+from waiting import wait_until
+
 PROGRAM = pathlib.Path(os.environ["ORVELLO_PROGRAM"]).resolve()
 SOURCES = pathlib.Path(__file__).resolve().parents[2]
-
-
-def wait_until(condition, seconds=15.0, what="a condition"):
-    """Polls until condition() is true and returns its value; fails after the given seconds."""
-    deadline = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > deadline:
-            raise AssertionError(f"gave up after {seconds} s waiting for {what}")
-        time.sleep(0.02)
 
 
 class Desktop(contextlib.ExitStack):

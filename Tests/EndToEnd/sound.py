@@ -11,19 +11,9 @@ import tempfile
 import time
 import wave
 
+from waiting import wait_until
+
 RATE = 48000
-
-
-def wait_until(condition, seconds=10.0, what="a condition"):
-    """Polls until condition() is true and returns its value; fails after the given seconds."""
-    deadline = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > deadline:
-            raise AssertionError(f"gave up after {seconds} s waiting for {what}")
-        time.sleep(0.02)
 
 
 class SoundServer(contextlib.ExitStack):

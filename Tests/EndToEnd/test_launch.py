@@ -132,8 +132,7 @@ class SwitchesTest(LaunchTest):
         App(self.desktop, "--scripts", "--settings")
 
         wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts window")
-        window = wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings window")[0]
-        self.assertIn('"app.orvello.Orvello"', self.desktop.run("xprop", "-id", str(window), "_KDE_NET_WM_DESKTOP_FILE"))
+        wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings window")
 
 
 class FilesTest(LaunchTest):
@@ -341,13 +340,15 @@ class SecondStartTest(LaunchTest):
         for first_sees_it in (False, True):
             with self.subTest(first_sees_it=first_sees_it):
                 app = App(self.desktop, environment=None if first_sees_it else NO_BUS)
-                app.shown()
+                try:
+                    app.shown()
 
-                status, text = App.run(self.desktop, "--voice", environment=NO_BUS)
+                    status, text = App.run(self.desktop, "--voice", environment=NO_BUS)
 
-                self.assertEqual(status, 1)
-                self.assertIn("Orvello is running already", text)
-                app.kill()  # Which leaves the lock file behind.
+                    self.assertEqual(status, 1)
+                    self.assertIn("Orvello is running already", text)
+                finally:
+                    app.kill()  # Which leaves the lock file behind.
         App(self.desktop, environment=NO_BUS).shown()
 
     def test_preferences_are_read_when_no_other_writes_them_any_more(self):

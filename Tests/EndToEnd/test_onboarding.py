@@ -145,7 +145,7 @@ class OnboardingTest(unittest.TestCase):
         def card_is_shown():
             x, y, _, _ = self.frame()
             picture = self.desktop.screenshot()
-            yellow = [picture.pixel(px, py) for py in range(y + 300, y + 420, 2) for px in range(x + 75, x + 115, 2)]
+            yellow = [picture.pixel(px, py) for py in range(y + 300, y + 420, 2) for px in range(x + 50, x + 80, 2)]
             return any(r > 200 and g > 160 and b < 140 for r, g, b in yellow)
 
         self.start(page="1")

@@ -12,7 +12,7 @@ from bus import SessionBus, TrayHost
 from desktop import App, Desktop, SOURCES, wait_until
 
 DRAG_SOURCE = pathlib.Path(os.environ["ORVELLO_DRAG_SOURCE"]).resolve()
-DECK = SOURCES / "Tests" / "Presentations" / "Decks" / "talk.pptx"
+DECK = SOURCES / "Tests" / "Presentations" / "Decks" / "Samples" / "talk.pptx"
 FILE_DIALOG = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
 
 

@@ -273,7 +273,7 @@ class SettingsWindowTest(unittest.TestCase):
         self.wait_for("countdownSeconds", 10)
 
         standing = self.card()
-        self.item.choose("Start Scrolling  (⌥⌘P)")
+        self.item.choose("Start Scrolling  (Alt+Super+P)")
         wait_until(lambda: self.card() != standing, what="the countdown")
 
     def test_a_change_survives_a_kill(self):

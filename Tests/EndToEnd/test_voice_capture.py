@@ -9,7 +9,8 @@ import threading
 import time
 import unittest
 
-from sound import RATE, PausingRecorder, Probe, SoundServer, mixed, scaled, silence, speech, wait_until
+from sound import RATE, PausingRecorder, Probe, SoundServer, mixed, scaled, silence, speech
+from waiting import wait_until
 
 FAR_END = ("The quick brown fox jumps over the lazy dog, while the band plays a slow song in the garden behind the "
            "house. Nobody had expected that so many people would come, and yet the chairs were not enough for half "

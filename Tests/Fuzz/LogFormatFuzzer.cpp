@@ -1,6 +1,6 @@
 // Any format with any arguments. The first line of the input is the format, and each further line
-// an argument. Its first letter says what the bytes after it are: d and u integers, i a short one,
-// f a number, w a text in UTF-16; every other line is a text.
+// an argument. Its first letter says what the bytes after it are: d and u integers, f a number, w a
+// text in UTF-16; every other line is a text.
 
 #include "Orvello/Diagnostics/LogFormat.h"
 
@@ -45,8 +45,6 @@ LogArgument argumentFrom(std::string_view line, std::u16string& utf16)
     switch (line.empty() ? '\0' : line.front()) {
     case 'd':
         return LogArgument(numberFrom<std::int64_t>(rest));
-    case 'i':
-        return LogArgument(numberFrom<std::int32_t>(rest));
     case 'u':
         return LogArgument(numberFrom<std::uint64_t>(rest));
     case 'f':
@@ -83,8 +81,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     require(line.starts_with("before "));
     require(QByteArrayView(line).isValidUtf8());
-    // Each conversion prints an argument or a bounded field, each other byte at most one U+FFFD.
-    require(line.size() <= 7 + 3 * (format.size() * 2048 + size * 3));
+    // A number takes some 320 bytes at most, every byte of a text or a format at most one U+FFFD.
+    require(line.size() <= 7 + utf16Texts.size() * 320 + 3 * size);
     if (format.find('%') == std::string_view::npos && QByteArrayView(format).isValidUtf8())
         require(std::string_view(line).substr(7) == format);
     return 0;

@@ -30,6 +30,7 @@ public:
         , m_play(std::move(play))
     {
         m_services.emplace(scripts);
+        m_services->facts = Testing::factsOfALinuxDesktop();
         m_window.emplace(m_services->ofWindow());
         window().setFlags(Qt::FramelessWindowHint);
     }

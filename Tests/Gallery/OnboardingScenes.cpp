@@ -1,8 +1,10 @@
 #include "Tests/Gallery/Scenes.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/OnboardingWindowController.h"
-#include "Tests/Gallery/Editions.h"
+#include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWorkspace.h"
@@ -18,14 +20,15 @@ enum class Zoom { Absent, Installed };
 /// The welcome tour, turned to one of its pages.
 class OnboardingStage final : public Stage {
 public:
-    OnboardingStage(int page, Zoom zoom, Edition edition)
-        : m_words(edition)
+    OnboardingStage(int page, Zoom zoom, const Facts& facts)
     {
+        if (!facts.isMac)
+            keys.modifiersLabel = u"Alt+Super+"_s;
         if (zoom == Zoom::Installed)
             workspace.installed.append(u"us.zoom.xos"_s);
         qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
-        controller.emplace(OnboardingWindowController::Services { settings, workspace, chrome,
-                               assignedKeys, canExcludeFromCapture(edition) },
+        controller.emplace(
+            OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
             [] {});
         qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
@@ -37,24 +40,21 @@ public:
     SettingsStore settings { defaults };
     Testing::FakeWorkspace workspace;
     Testing::FakeWindowChrome chrome;
-    AssignedKeys assignedKeys;
+    Testing::FakeHotKeys keys;
     std::optional<OnboardingWindowController> controller;
-
-private:
-    StageWords m_words;
 };
 
 Scene tour(const QString& name, int page, Zoom zoom = Zoom::Absent, double scale = 1,
-    Edition edition = Edition::Linux)
+    const Facts& facts = Testing::factsOfALinuxDesktop())
 {
     return { u"Welcome tour: "_s + name,
-        [=] { return std::make_unique<OnboardingStage>(page, zoom, edition); }, Wallpaper::None,
+        [=] { return std::make_unique<OnboardingStage>(page, zoom, facts); }, Wallpaper::None,
         scale };
 }
 
 Scene tourOnAMac(const QString& name, int page, Zoom zoom = Zoom::Absent)
 {
-    return tour(name + u", on a Mac"_s, page, zoom, 1, Edition::MacOS);
+    return tour(name + u", on a Mac"_s, page, zoom, 1, Testing::factsOfAMac());
 }
 
 } // namespace

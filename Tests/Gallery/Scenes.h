@@ -4,7 +4,11 @@
 
 namespace Orvello::Gallery {
 
-/// Every scene, in the order of the contact sheet. A window adds its own in a file of its own.
+/// Every scene in the language of the sources.
+Scenes windowScenes();
+
+/// Every scene, in the order of the contact sheet, the fullest ones in other languages too. A
+/// window adds its own in a file of its own.
 Scenes allScenes();
 
 Scenes prompterScenes();

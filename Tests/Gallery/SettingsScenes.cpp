@@ -1,12 +1,14 @@
 #include "Tests/Gallery/Scenes.h"
 
+#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
-#include "Tests/Gallery/Editions.h"
 #include "Tests/Gallery/Palettes.h"
 #include "Tests/Support/EventLoop.h"
+#include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
 #include "Tests/Support/FakeRawMicrophone.h"
@@ -37,17 +39,17 @@ class SettingsStage final : public Stage {
 public:
     using Play = std::function<void(SettingsStage&)>;
 
-    SettingsStage(Look look, Extent extent, Play play, QString section, Edition edition)
+    SettingsStage(Look look, Extent extent, Play play, QString section, const Facts& facts)
         : m_palette(look)
-        , m_words(edition)
         , m_extent(extent)
         , m_section(std::move(section))
         , m_play(std::move(play))
     {
+        if (!facts.isMac)
+            keys.modifiersLabel = u"Alt+Super+"_s;
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(SettingsWindow::Services {
-            settings, voice, updates, assignedKeys, canExcludeFromCapture(edition) });
+        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, keys, facts });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -84,6 +86,7 @@ public:
     Testing::FakeWorkspace workspace;
     Testing::FakeUserDefaults defaults;
     Testing::FakeUpdater updater;
+    Testing::FakeHotKeys keys;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, workspace } };
@@ -109,7 +112,8 @@ private:
     {
         auto* const content = flickable().property("contentItem").value<QQuickItem*>();
         for (QQuickItem* section : content->childItems().first()->childItems()) {
-            if (section->property("title").toString() != m_section)
+            // In whatever language it is.
+            if (!section->property("title").toString().contains(m_section))
                 continue;
             settingsWindow->view().resize(
                 SettingsWindow::contentSize.width(), qRound(section->height()) + 2 * margin);
@@ -120,7 +124,6 @@ private:
     }
 
     StagePalette m_palette;
-    StageWords m_words;
     const Extent m_extent;
     const QString m_section;
     const Play m_play;
@@ -130,16 +133,17 @@ const SettingsStage::Play asItIs = [](SettingsStage&) {};
 
 Scene settings(const QString& name, Look look, Extent extent,
     const SettingsStage::Play& play = asItIs, const QString& section = {}, double scale = 1,
-    Edition edition = Edition::Linux)
+    const Facts& facts = Testing::factsOfALinuxDesktop())
 {
     return { u"Settings: "_s + name,
-        [=] { return std::make_unique<SettingsStage>(look, extent, play, section, edition); },
+        [=] { return std::make_unique<SettingsStage>(look, extent, play, section, facts); },
         Wallpaper::None, scale };
 }
 
 Scene settingsOnAMac(const QString& name, Look look)
 {
-    return settings(name + u", on a Mac"_s, look, Extent::All, asItIs, {}, 1, Edition::MacOS);
+    return settings(
+        name + u", on a Mac"_s, look, Extent::All, asItIs, {}, 1, Testing::factsOfAMac());
 }
 
 Scene voice(const QString& name, Look look, const SettingsStage::Play& play)

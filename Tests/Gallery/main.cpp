@@ -5,7 +5,6 @@
 // Beside the sheet a folder of its name holds the pictures one by one. The sheet is painted here;
 // the windows are shown by one further process for each scale, on the display there is.
 
-#include "Orvello/Shell/App/Translation.h"
 #include "Tests/Gallery/ContactSheet.h"
 #include "Tests/Gallery/Rendering.h"
 #include "Tests/Gallery/Scenes.h"
@@ -37,7 +36,6 @@ Gallery::Scenes scenesNamed(const QString& words)
 int render(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
-    installTranslation(application);
     const QStringList arguments = QGuiApplication::arguments();
     const Gallery::Scenes scenes = scenesNamed(arguments.value(4));
     return Gallery::renderScenes(scenes, arguments.value(2).toDouble(), QDir(arguments.value(3)))

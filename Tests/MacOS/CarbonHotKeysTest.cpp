@@ -105,6 +105,18 @@ TEST_F(CarbonHotKeysTest, consumesAnEventThatItCannotRead)
     EXPECT_THAT(pressedKeys, IsEmpty());
 }
 
+TEST_F(CarbonHotKeysTest, callsAKeyWhatItsMenusCallIt)
+{
+    const CarbonHotKeys hotKeys;
+    constexpr std::uint32_t modifiers = HotKey::optionKey | HotKey::commandKey;
+
+    EXPECT_EQ(hotKeys.label(HotKey::keyP, modifiers), QStringLiteral("⌥⌘P"));
+    EXPECT_EQ(hotKeys.label(HotKey::keyUp, modifiers), QStringLiteral("⌥⌘↑"));
+    EXPECT_EQ(hotKeys.label(HotKey::keyDown, modifiers), QStringLiteral("⌥⌘↓"));
+    EXPECT_EQ(hotKeys.label(HotKey::keyP, 0), QStringLiteral("P"));
+    EXPECT_EQ(hotKeys.label(99, modifiers), QString());
+}
+
 TEST_F(CarbonHotKeysTest, removesItsHandlerInTheEnd)
 {
     {

@@ -341,6 +341,8 @@ class PapersTest(unittest.TestCase):
 
         text = (ROOT / "Resources/macOS/Info.plist.in").read_text().replace("@ORVELLO_UPDATE_KEYS@", "")
         info = plistlib.loads(text.encode())
+        self.assertEqual(len(info["CFBundleLocalizations"]),
+                         1 + len(list((ROOT / "Resources/Translations").glob("orvello_*.ts"))))
         self.assertIs(info["LSUIElement"], True)
         self.assertEqual(info["CFBundleIdentifier"], "app.orvello.mac")
         self.assertEqual(info["NSPrincipalClass"], "OrvelloApplication")

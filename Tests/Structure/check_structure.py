@@ -1,13 +1,14 @@
 """Holds the tree against what its papers and its CMake files say.
 
-    check_structure.py paths      each path that ARCHITECTURE.md names exists
+    check_structure.py paths      each path that the papers name exists
     check_structure.py graph GRAPH          the arrows of CMake's graph run down, and no others are in the sources
     check_structure.py walls COMMANDS ROOTS  the compiler finds no header that a library does not name
     check_structure.py platforms  nothing outside Adapters/ asks for an operating system
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
     check_structure.py format     the sources are laid out as clang-format 14 does it
-    check_structure.py translations LUPDATE   what a translation replaces stands in the sources
+    check_structure.py translations LUPDATE   each translation file has the texts of the sources and no others,
+                                  every one translated
 """
 
 import json
@@ -34,11 +35,12 @@ def sources(*suffixes):
 
 
 def check_paths():
-    text = (ROOT / "ARCHITECTURE.md").read_text()
-    named = re.findall(r"`((?:Sources|Tests|Benchmarks|Resources|docs|tools)/[^`]*)`", text)
-    assert named, "ARCHITECTURE.md names no path"
-    return [f"ARCHITECTURE.md names {name}, which does not exist"
-            for name in named if not (ROOT / name).exists()]
+    problems = []
+    for paper in ("ARCHITECTURE.md", "CONTRIBUTING.md", "docs/decisions.md", "docs/macos.md"):
+        named = re.findall(r"`((?:Sources|Tests|Benchmarks|Resources|docs|tools|cmake)/[^`*… ]*)", (ROOT / paper).read_text())
+        assert named, f"{paper} names no path"
+        problems += [f"{paper} names {name}, which does not exist" for name in named if not (ROOT / name).exists()]
+    return problems
 
 
 def read_graph(path):
@@ -129,21 +131,22 @@ def check_walls():
                 continue # Headers alone, or another platform's.
             words = shlex.split(flags["command"])
             words = words[next(i for i, word in enumerate(words) if "/" in word and "ccache" not in word):words.index("-o")]
-            words = [word for i, word in enumerate(words) if word not in ("-MD", "-MT", "-MF") and words[i - 1] not in ("-MT", "-MF")]
+            options = ("-MT", "-MF", "-include") # With the word after it; a precompiled header is no wall.
+            words = [word for i, word in enumerate(words) if word not in ("-MD", *options) and words[i - 1] not in options]
 
-            def compiles(*lines):
+            def complaint(*lines):
                 probe.write_text("\n".join(lines) + "\n")
-                return subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=flags["directory"], capture_output=True).returncode == 0
+                return subprocess.run([*words, "-fsyntax-only", str(probe)], cwd=flags["directory"], capture_output=True, text=True).stderr
 
-            include = lambda other: f'#include "Orvello/{header[other]}"'
-            seen = [other for other in (name, *depends) if other in header]
-            if not compiles(*(f'#if !__has_include("Orvello/{header[other]}")\n#error\n#endif' for other in seen)):
-                problems.append(f"{folder} does not see what it names")
-            unseen = [other for other in header if other not in (name, *depends)]
-            if not compiles(*(f'#if __has_include("Orvello/{header[other]}")\n#error {other}\n#endif' for other in unseen)):
-                problems.append(f"{folder} sees what it does not name")
-            if name == "Foundation" and (not compiles(include("Foundation")) or compiles(include("LibraryStore"))):
-                problems.append("Foundation compiles an include of Library/Store, or none at all")
+            lines = [f'#if {"!" if other in (name, *depends) else ""}__has_include("Orvello/{path}")\n#error wrong {other}\n#endif'
+                     for other, path in header.items()]
+            problems += [f"{folder} {'does not see' if other in (name, *depends) else 'sees'} {other}"
+                         for other in sorted(set(re.findall(r"#error wrong (\w+)", complaint(*lines))))]
+            if name == "Foundation":
+                for other, is_found in (("Foundation", True), ("LibraryStore", False)):
+                    answer = complaint(f'#include "Orvello/{header[other]}"')
+                    if ("No such file" in answer or "not found" in answer) == is_found or is_found == bool(answer):
+                        problems.append(f"{folder} on an include of {header[other]}: {answer}")
     return problems
 
 
@@ -189,23 +192,64 @@ def check_format():
     return result.stderr.splitlines() if result.returncode else []
 
 
-def messages(translation):
-    """The (context, source text) pairs of a .ts file."""
-    return {(context.findtext("name"), message.findtext("source"))
-            for context in xml.etree.ElementTree.parse(translation).getroot().iter("context")
+TRANSLATIONS = ROOT / "Resources" / "Translations"
+# Forms that a language has for a number of things.
+PLURAL_FORMS = {"de": 2, "es": 2, "fr": 2, "ja": 1, "pt_BR": 2, "zh_CN": 1}
+
+
+def messages(file):
+    """The messages of a .ts file by context and source text."""
+    return {(context.findtext("name"), message.findtext("source")): message
+            for context in xml.etree.ElementTree.parse(file).getroot().iter("context")
             for message in context.iter("message")}
 
 
+def placeholders(text):
+    """What stands for other texts, and what must stay as it is."""
+    return sorted(set(re.findall(r"%n|%L?\d", text))), sorted(re.findall(r"</?\w+>", text)), text.count("\n")
+
+
+def problems_of(language, source, message):
+    """What is wrong with one message of a language."""
+    translation = message.find("translation")
+    if translation.get("type") is not None:
+        return ["is unfinished"]
+    forms = [form.text or "" for form in translation.iter("numerusform")] or [translation.text or ""]
+    problems = []
+    if message.get("numerus") == "yes" and len(forms) != PLURAL_FORMS[language]:
+        problems.append(f"has {len(forms)} forms for numbers, not {PLURAL_FORMS[language]}")
+    for form in forms:
+        if not form.strip():
+            problems.append("is empty")
+        elif placeholders(form) != placeholders(source):
+            problems.append(f"has other placeholders than the source: \"{form}\"")
+        elif form[0].isspace() != source[0].isspace() or form[-1].isspace() != source[-1].isspace():
+            problems.append("begins or ends with another blank than the source")
+    return problems
+
+
 def check_translations():
+    lupdate = sys.argv[2]
     with tempfile.TemporaryDirectory() as folder:
         extracted = pathlib.Path(folder) / "all.ts"
-        subprocess.run([sys.argv[2], "-silent", "-no-obsolete", "-I", str(ROOT / "Sources"), str(SOURCES), "-ts", str(extracted)],
-                       check=True, capture_output=True)
-        in_sources = messages(extracted)
+        subprocess.run([lupdate, "-silent", "-no-obsolete", "-I", str(ROOT / "Sources"), str(SOURCES), "-ts",
+                        str(extracted)], check=True, capture_output=True)
+        in_sources = messages(extracted).keys()
     assert in_sources, "the sources have no text to translate"
-    return [f"{path.name} translates \"{source}\" of {context}, which no source says"
-            for path in sorted((ROOT / "Resources" / "Translations").glob("*.ts"))
-            for context, source in sorted(messages(path) - in_sources)]
+    files = sorted(TRANSLATIONS.glob("orvello_*.ts"))
+    assert [file.stem for file in files] == [f"orvello_{language}" for language in sorted(PLURAL_FORMS)], files
+    found = []
+    for file in files:
+        language = file.stem.removeprefix("orvello_")
+        translated = messages(file)
+        found += [f"{file.name} translates \"{source}\" of {context}, which no source says"
+                  for context, source in sorted(translated.keys() - in_sources)]
+        found += [f"{file.name} lacks \"{source}\" of {context}: run the target update-translations"
+                  for context, source in sorted(in_sources - translated.keys())]
+        found += [f"{file.name}: \"{source}\" of {context} {problem}"
+                  for (context, source), message in translated.items()
+                  for problem in problems_of(language, source, message)]
+    return found
 
 
 CHECKS = {"paths": check_paths, "graph": check_graph, "walls": check_walls, "platforms": check_platforms,

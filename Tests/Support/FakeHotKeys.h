@@ -44,6 +44,16 @@ public:
         return registerHotKey(keyCode, modifiers, id);
     }
 
+    /// As a Mac calls them, unless a test says otherwise.
+    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override
+    {
+        const std::map<std::uint32_t, QString> keys { { HotKey::keyP, QStringLiteral("P") },
+            { HotKey::keyR, QStringLiteral("R") }, { HotKey::keyH, QStringLiteral("H") },
+            { HotKey::keyUp, QStringLiteral("↑") }, { HotKey::keyDown, QStringLiteral("↓") } };
+        return (modifiers != 0 ? modifiersLabel : QString()) + keys.at(keyCode);
+    }
+    QString modifiersLabel = QStringLiteral("⌥⌘");
+
     /// Presses a key; does nothing if it is not registered.
     void press(std::uint32_t keyCode, std::uint32_t modifiers)
     {

@@ -5,6 +5,7 @@
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
+#include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeAudioProcesses.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeDesktopServices.h"
@@ -69,6 +70,7 @@ public:
     ChildProcess& childProcess() override { return childProcessFake; }
     RunningInstance& runningInstance() override { return runningInstanceFake; }
     QString operatingSystemVersion() const override { return QStringLiteral("Version 14.5"); }
+    Facts facts() const override { return factsFake; }
     std::unique_ptr<UserDefaults> userDefaultsOf(const QString&) override
     {
         return std::make_unique<FakeUserDefaults>();
@@ -103,6 +105,7 @@ public:
     }
 
     Journal journal;
+    Facts factsFake = factsOfAMac();
     ManualTimeSource manualTime;
     FakeUserDefaults userDefaultsFake;
     FakeFolders foldersFake;

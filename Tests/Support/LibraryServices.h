@@ -5,6 +5,7 @@
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Library/Window/DeckImports.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
+#include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeOpenPanel.h"
@@ -26,7 +27,7 @@ struct LibraryServices {
     /// On a stored library, of which the first script is active. An empty one becomes that of a
     /// first launch.
     explicit LibraryServices(const QList<Script>& stored)
-        : library(defaultsWith(stored), folders, time)
+        : library(defaultsWith(stored), folders, time, facts)
     {
         presenters.add(AppleScriptPresenters::keynote(scriptRunner));
         presenters.add(AppleScriptPresenters::powerPoint(scriptRunner));
@@ -35,7 +36,10 @@ struct LibraryServices {
             workspace.running.append(FakeWorkspace::application(app.bundleIdentifier));
     }
 
-    DeckImports::Services ofWindow() { return { library, openDecks, presenters, openPanel }; }
+    DeckImports::Services ofWindow()
+    {
+        return { library, openDecks, presenters, openPanel, facts };
+    }
 
     static Script script(const QString& title, const QString& body)
     {
@@ -50,6 +54,7 @@ struct LibraryServices {
         return deck;
     }
 
+    Facts facts = factsOfAMac();
     FakeFolders folders;
     FakeUserDefaults defaults;
     ManualTimeSource time;

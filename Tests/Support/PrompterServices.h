@@ -100,7 +100,7 @@ public:
     FakeUserDefaults defaults;
     FakeFolders folders;
     SettingsStore settings { defaults };
-    LibraryStore library { defaults, folders, stage.time };
+    LibraryStore library { defaults, folders, stage.time, {} };
     SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
     DeckController deck { library, settings, sync };
     ScrollEngine engine { settings, stage.time };

@@ -53,6 +53,16 @@ bool showsText(const QQuickWindow& window, const QString& text)
     return false;
 }
 
+QStringList visibleTexts(const QQuickWindow& window)
+{
+    QStringList texts;
+    for (const QQuickItem* const item : visibleItems(window)) {
+        if (const QString text = item->property("text").toString(); !text.isEmpty())
+            texts.append(text);
+    }
+    return texts;
+}
+
 QRectF placeInWindow(const QQuickItem& item)
 {
     return item.mapRectToScene(QRectF(QPointF(), item.size()));

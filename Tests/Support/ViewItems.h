@@ -21,6 +21,9 @@ QQuickItem* controlNamed(const QQuickWindow& window, const QString& name);
 /// Whether a visible item shows exactly that text.
 bool showsText(const QQuickWindow& window, const QString& text);
 
+/// What every visible item shows as its text.
+QStringList visibleTexts(const QQuickWindow& window);
+
 QRectF placeInWindow(const QQuickItem& item);
 
 void click(QQuickWindow& window, const QQuickItem& item);

@@ -2,9 +2,7 @@
 
 #include <QStringView>
 
-#include <algorithm>
 #include <concepts>
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <variant>
@@ -20,13 +18,11 @@ public:
     template <std::signed_integral Integer>
     explicit LogArgument(Integer value)
         : m_value(static_cast<std::int64_t>(value))
-        , m_integerBytes(promotedBytes<Integer>)
     {
     }
     template <std::unsigned_integral Integer>
     explicit LogArgument(Integer value)
         : m_value(static_cast<std::uint64_t>(value))
-        , m_integerBytes(promotedBytes<Integer>)
     {
     }
     template <std::floating_point Number>
@@ -49,15 +45,8 @@ public:
 
     const Value& value() const { return m_value; }
 
-    /// The size of an integer as a variadic C argument: what a negative one shows in hexadecimal.
-    std::size_t integerBytes() const { return m_integerBytes; }
-
 private:
-    template <typename Integer>
-    static constexpr std::size_t promotedBytes = std::max(sizeof(Integer), sizeof(int));
-
     Value m_value;
-    std::size_t m_integerBytes = 0;
 };
 
 } // namespace Orvello

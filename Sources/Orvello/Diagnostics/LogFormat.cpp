@@ -1,168 +1,71 @@
 #include "Orvello/Diagnostics/LogFormat.h"
 
-#include "Orvello/Diagnostics/LogField.h"
-
-#include <QByteArrayView>
+#include <QByteArray>
 #include <QString>
+#include <QStringEncoder>
 
 #include <algorithm>
-#include <cstdlib>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <limits>
 
 namespace Orvello::LogFormat {
 
 namespace {
 
-using LogField::Conversion;
-
-/// Held so far inside the range of int that no sum or sign of it overflows.
-constexpr std::int64_t largestNumber = 100'000'000;
-
-int held(std::int64_t number)
+/// The conversion that `format` starts with: its percent sign alone if it is none that is known.
+std::string_view conversionAtStartOf(std::string_view format)
 {
-    return static_cast<int>(std::clamp(number, -largestNumber, largestNumber));
+    for (const std::string_view known : { "%@", "%d", "%ld", "%%" }) {
+        if (format.starts_with(known))
+            return known;
+    }
+    const bool isFixed = format.size() >= 4 && format[1] == '.' && format[2] >= '0'
+        && format[2] <= '9' && format[3] == 'f';
+    return format.substr(0, isFixed ? 4 : 1);
 }
 
-/// Walks once through a format and its arguments.
-class Formatter {
-public:
-    Formatter(std::string& line, std::string_view format, std::span<const LogArgument> arguments)
-        : m_line(line)
-        , m_format(format)
-        , m_arguments(arguments)
-    {
+/// As printf(3) rounds, but with a point in every locale: what the user's puts in its place may be
+/// several bytes. (std::to_chars knows no locale, but macOS 13.0 has none for doubles.)
+void appendFixed(std::string& line, double number, std::size_t decimals)
+{
+    constexpr std::size_t mostDecimals = 9;
+    constexpr std::size_t longest = std::numeric_limits<double>::max_exponent10 + mostDecimals + 16;
+    std::array<char, longest> buffer;
+    const int length
+        = std::snprintf(buffer.data(), buffer.size(), "%.*f", static_cast<int>(decimals), number);
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(length));
+    if (decimals == 0 || !std::isfinite(number)) {
+        line.append(text);
+        return;
     }
+    line.append(text.substr(0, text.find_first_not_of("-0123456789")));
+    line += '.';
+    line.append(text.substr(text.size() - decimals));
+}
 
-    void run()
+/// The text of each kind of argument.
+struct ArgumentPrinter {
+    void operator()(std::string_view text) const { line.append(text); }
+    void operator()(QStringView text) const
     {
-        while (!m_format.empty()) {
-            const std::size_t percent = std::min(m_format.find('%'), m_format.size());
-            m_line.append(m_format.substr(0, percent));
-            m_format.remove_prefix(percent);
-            if (!m_format.empty())
-                convertNext();
-        }
+        QStringEncoder encode(QStringEncoder::Utf8); // Lone surrogates become U+FFFD.
+        const QByteArray utf8 = encode(text);
+        line.append(utf8.constData(), static_cast<std::size_t>(utf8.size()));
     }
-
-private:
-    void convertNext()
+    void operator()(std::int64_t integer) const { line.append(std::to_string(integer)); }
+    void operator()(std::uint64_t integer) const { line.append(std::to_string(integer)); }
+    void operator()(double number) const
     {
-        const std::string_view start = m_format;
-        const Conversion conversion = parseConversion();
-        const std::string_view spelling = start.substr(0, start.size() - m_format.size());
-
-        if (conversion.type == '%') {
-            m_line += '%';
-            return;
-        }
-        const LogArgument* const argument
-            = LogField::isKnown(conversion.type) ? nextArgument() : nullptr;
-        if (argument)
-            LogField::append(m_line, conversion, *argument);
+        if (conversion.ends_with('f'))
+            appendFixed(line, number, static_cast<std::size_t>(conversion[2] - '0'));
         else
-            m_line.append(spelling);
+            line.append(QByteArray::number(number, 'g', 16).toStdString());
     }
 
-    const LogArgument* nextArgument()
-    {
-        if (m_arguments.empty())
-            return nullptr;
-        const LogArgument* const argument = m_arguments.data();
-        m_arguments = m_arguments.subspan(1);
-        return argument;
-    }
-
-    Conversion parseConversion()
-    {
-        Conversion conversion;
-        m_format.remove_prefix(1); // The percent sign.
-        if (!m_format.empty() && !LogField::isKnown(m_format.front())) { // Mostly it is a mere %d.
-            parseFlags(conversion);
-            parseWidth(conversion);
-            parsePrecision(conversion);
-            parseLength(conversion);
-        }
-        if (!m_format.empty()) {
-            conversion.type = m_format.front();
-            m_format.remove_prefix(1);
-        }
-        return conversion;
-    }
-
-    bool take(char c)
-    {
-        if (!m_format.starts_with(c))
-            return false;
-        m_format.remove_prefix(1);
-        return true;
-    }
-
-    void parseFlags(Conversion& conversion)
-    {
-        for (;;) {
-            if (take('-'))
-                conversion.isLeftAligned = true;
-            else if (take('+'))
-                conversion.showsPlus = true;
-            else if (take(' '))
-                conversion.showsBlankForPlus = true;
-            else if (take('#'))
-                conversion.isAlternate = true;
-            else if (take('0'))
-                conversion.fillsWithZeros = true;
-            else if (!take('\'')) // Groups thousands as the locale does, and the log has none.
-                return;
-        }
-    }
-
-    void parseWidth(Conversion& conversion)
-    {
-        const int width = take('*') ? integerArgument() : parseNumber();
-        conversion.isLeftAligned |= width < 0;
-        conversion.width = std::abs(width);
-    }
-
-    void parsePrecision(Conversion& conversion)
-    {
-        if (!take('.'))
-            return;
-        const int precision = take('*') ? integerArgument() : parseNumber();
-        if (precision >= 0)
-            conversion.precision = precision;
-    }
-
-    void parseLength(Conversion& conversion)
-    {
-        if (take('h'))
-            conversion.integerBytes = take('h') ? sizeof(char) : sizeof(short);
-        while (take('l') || take('q') || take('j') || take('z') || take('t') || take('L')) { }
-    }
-
-    int parseNumber()
-    {
-        int number = 0;
-        while (!m_format.empty() && m_format.front() >= '0' && m_format.front() <= '9') {
-            number = held(std::int64_t { number } * 10 + (m_format.front() - '0'));
-            m_format.remove_prefix(1);
-        }
-        return number;
-    }
-
-    /// The value of a *, or 0 when there is no integer.
-    int integerArgument()
-    {
-        const LogArgument* const argument = nextArgument();
-        if (!argument)
-            return 0;
-        if (const auto* value = std::get_if<std::int64_t>(&argument->value()))
-            return held(*value);
-        if (const auto* value = std::get_if<std::uint64_t>(&argument->value()))
-            return held(static_cast<std::int64_t>(std::min<std::uint64_t>(*value, largestNumber)));
-        return 0;
-    }
-
-    std::string& m_line;
-    std::string_view m_format; ///< What is left of it.
-    std::span<const LogArgument> m_arguments; ///< Those not used yet.
+    std::string& line;
+    std::string_view conversion;
 };
 
 /// Replaces what is not UTF-8 in `line` from `start` on.
@@ -178,7 +81,24 @@ void repairUtf8(std::string& line, std::size_t start)
 void append(std::string& line, std::string_view format, std::span<const LogArgument> arguments)
 {
     const std::size_t start = line.size();
-    Formatter(line, format, arguments).run();
+    while (true) {
+        const std::size_t percent = std::min(format.find('%'), format.size());
+        line.append(format.substr(0, percent));
+        format.remove_prefix(percent);
+        if (format.empty())
+            break;
+
+        const std::string_view conversion = conversionAtStartOf(format);
+        format.remove_prefix(conversion.size());
+        if (conversion == "%%") {
+            line += '%';
+        } else if (conversion == "%" || arguments.empty()) {
+            line.append(conversion);
+        } else {
+            std::visit(ArgumentPrinter { line, conversion }, arguments.front().value());
+            arguments = arguments.subspan(1);
+        }
+    }
     repairUtf8(line, start);
 }
 

@@ -6,19 +6,13 @@
 #include <string>
 #include <string_view>
 
-/// The printf formats of the log, with the Foundation conversion %@ for texts.
+/// The formats of the log, a few of printf's and Foundation's: %@ for a text, %d and %ld for an
+/// integer, %.0f to %.9f for a number with so many decimals, %% for a percent sign.
 ///
-/// Known are the conversions @ s c d i u o x X p f F e E g G and %%, the flags - + space # 0 ',
-/// width and precision (also as *) and the length modifiers hh h l ll q j z t L. It is safe where
-/// printf is not, because an argument knows its type:
-/// - An integer is never cut to the size that a length modifier names; only hh and h, which ask for
-///   it, cut. Width and precision of a text count characters, so that none is ever split.
-/// - An argument of another kind than its conversion prints as its plain text; an integer also
-///   suits the floating-point conversions. So a number suits %@ and %s.
-/// - A conversion without an argument, or one that is not known, stands in the result as it is
-///   written. Left-over arguments are ignored.
-/// - The decimal point is a point in every locale.
-/// - Widths, and the precisions of numbers, end at 1,024.
+/// An argument knows its type, so none is ever misread: one that does not suit its conversion
+/// prints as it would with the right one, and a number of unnamed precision with up to 16 digits.
+/// A conversion without an argument, and one that is none of the above, stands in the result as it
+/// is written; left-over arguments are ignored. The decimal point is a point in every locale.
 namespace Orvello::LogFormat {
 
 /// Appends the message to `line`. What is appended is always valid UTF-8: a byte or a surrogate

@@ -5,16 +5,15 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
-#include <condition_variable>
-#include <deque>
 #include <fcntl.h>
 #include <filesystem>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
 #include <sys/uio.h>
+#include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <utility>
@@ -79,68 +78,27 @@ std::optional<std::string> followLinks(std::filesystem::path path)
     return std::nullopt;
 }
 
-/// Closes files on a thread of its own. Whoever closes a file without a name last waits until its
-/// bytes are freed, and, if they are still on their way to the disk, for the disk: most of what a
-/// key press would cost that saves ten megabytes for the second time within seconds.
-class BackgroundCloser {
-public:
-    static BackgroundCloser& shared()
-    {
-        static BackgroundCloser closer; // Closes what is left when the process exits.
-        return closer;
-    }
-
-    ~BackgroundCloser()
-    {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_isEnding = true;
-        }
-        m_changed.notify_one();
-        m_thread.join();
-    }
-    BackgroundCloser(const BackgroundCloser&) = delete;
-    BackgroundCloser& operator=(const BackgroundCloser&) = delete;
-
-    void close(int descriptor)
-    {
-        std::unique_lock lock(m_mutex);
-        if (m_waiting.size() >= mostWaiting) { // A disk that cannot keep up slows the writer down.
-            lock.unlock();
-            ::close(descriptor);
+/// Closes the file on a thread of its own. Whoever closes a file without a name last waits until
+/// its bytes are freed, and, if they are still on their way to the disk, for the disk: most of what
+/// a key press would cost that saves ten megabytes for the second time within seconds.
+void closeInBackground(int descriptor)
+{
+    constexpr int mostAtOnce = 4; // A disk that cannot keep up slows the writer down.
+    static std::atomic<int> closing = 0;
+    if (closing.fetch_add(1) < mostAtOnce) {
+        try {
+            std::thread([descriptor] {
+                ::close(descriptor);
+                --closing;
+            }).detach();
             return;
-        }
-        m_waiting.push_back(descriptor);
-        lock.unlock();
-        m_changed.notify_one();
-    }
-
-private:
-    BackgroundCloser() = default;
-
-    void run()
-    {
-        std::unique_lock lock(m_mutex);
-        while (true) {
-            m_changed.wait(lock, [this] { return m_isEnding || !m_waiting.empty(); });
-            if (m_waiting.empty())
-                return;
-            const int descriptor = m_waiting.front();
-            lock.unlock();
-            ::close(descriptor);
-            lock.lock();
-            m_waiting.pop_front(); // Only now, so that the one being closed counts as well.
+        } catch (const std::system_error&) {
+            // No thread is to be had.
         }
     }
-
-    static constexpr std::size_t mostWaiting = 4;
-
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::deque<int> m_waiting;
-    bool m_isEnding = false;
-    std::thread m_thread { [this] { run(); } }; // Last, because it uses all of the others.
-};
+    ::close(descriptor);
+    --closing;
+}
 
 /// Keeps a file that is about to lose its name, so that it is not freed there and then.
 class OldFile {
@@ -152,7 +110,7 @@ public:
     ~OldFile()
     {
         if (m_descriptor >= 0)
-            BackgroundCloser::shared().close(m_descriptor);
+            closeInBackground(m_descriptor);
     }
     OldFile(const OldFile&) = delete;
     OldFile& operator=(const OldFile&) = delete;

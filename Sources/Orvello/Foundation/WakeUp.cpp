@@ -52,7 +52,8 @@ void WakeUp::receive()
     while (::read(m_pipe[0], &byte, 1) < 0 && errno == EINTR) { }
     // First ready for the next signal, then the action: a signal during the action is not lost.
     m_isPending.exchange(false, std::memory_order_acq_rel);
-    m_action();
+    const std::function<void()> action = m_action; // It may destroy this.
+    action();
 }
 
 } // namespace Orvello

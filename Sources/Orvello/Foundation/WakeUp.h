@@ -18,8 +18,8 @@ public:
     WakeUp(const WakeUp&) = delete;
     WakeUp& operator=(const WakeUp&) = delete;
 
-    /// Any thread. The action runs once after this call; what was written to memory before is then
-    /// visible to it.
+    /// Any thread, and signal handlers. The action runs once after this call; what was written to
+    /// memory before is then visible to it.
     void signal() noexcept;
 
 private:

@@ -100,8 +100,8 @@ void VoiceActivityEngine::start()
 {
     if (m_isListening)
         return;
-    if (const std::optional<QString> reason = holdReason()) {
-        AppLog::write("Orvello VAD: AEC held (%@) — raw mic tap", *reason);
+    if (const std::optional<HoldReason> reason = holdReason()) {
+        AppLog::write("Orvello VAD: AEC held (%@) — raw mic tap", reason->logText());
         startFallback(RawPathCause::EnvironmentHoldsAec, reason);
     } else if (m_voiceProcessing.start()) {
         publish(m_isListening, true, &VoiceActivityEngine::isListeningChanged);
@@ -136,13 +136,35 @@ void VoiceActivityEngine::stop()
     QMetaObject::invokeMethod(this, reset, Qt::QueuedConnection);
 }
 
-std::optional<QString> VoiceActivityEngine::holdReason() const
+std::optional<VoiceActivityEngine::HoldReason> VoiceActivityEngine::holdReason() const
 {
     if (m_ports.micActivity.otherProcessCapturingInput())
-        return u"another app is using the microphone"_s;
+        return HoldReason {};
     if (const std::optional<QString> name = runningMeetingAppName())
-        return *name + u" is open"_s;
+        return HoldReason { *name };
     return std::nullopt;
+}
+
+QString VoiceActivityEngine::HoldReason::logText() const
+{
+    return meetingApp.isEmpty() ? u"another app is using the microphone"_s
+                                : meetingApp + u" is open"_s;
+}
+
+std::optional<QString> VoiceActivityEngine::aecHoldReason() const
+{
+    return m_aecHoldReason ? std::optional(m_aecHoldReason->logText()) : std::nullopt;
+}
+
+QString VoiceActivityEngine::aecHoldReasonForPeople() const
+{
+    if (!m_aecHoldReason)
+        return {};
+    //: Stands in brackets in the middle of a sentence.
+    if (m_aecHoldReason->meetingApp.isEmpty())
+        return tr("another app is using the microphone");
+    //: Stands in brackets in the middle of a sentence. %1: a meeting program.
+    return tr("%1 is open").arg(m_aecHoldReason->meetingApp);
 }
 
 std::optional<QString> VoiceActivityEngine::runningMeetingAppName() const
@@ -164,9 +186,10 @@ void VoiceActivityEngine::watchdogTick()
 {
     if (!m_isListening)
         return;
-    const std::optional<QString> reason = holdReason();
+    const std::optional<HoldReason> reason = holdReason();
     if (m_aecActive && reason) {
-        AppLog::write("Orvello VAD: dropping AEC (%@) — switching to raw mic tap", *reason);
+        AppLog::write(
+            "Orvello VAD: dropping AEC (%@) — switching to raw mic tap", reason->logText());
         stopCurrentCapture();
         startFallback(RawPathCause::EnvironmentHoldsAec, reason);
         m_clearPolls = 0;
@@ -175,7 +198,7 @@ void VoiceActivityEngine::watchdogTick()
     }
 }
 
-void VoiceActivityEngine::reconsiderHold(const std::optional<QString>& reason)
+void VoiceActivityEngine::reconsiderHold(const std::optional<HoldReason>& reason)
 {
     if (reason) {
         m_clearPolls = 0;
@@ -207,7 +230,7 @@ void VoiceActivityEngine::stopCurrentCapture()
     }
 }
 
-void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<QString>& reason)
+void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<HoldReason>& reason)
 {
     RawMicrophone& microphone = m_ports.rawMicrophone;
     if (!(microphone.sampleRate() > 0)) {
@@ -228,8 +251,8 @@ void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<
     publish(m_isListening, true, &VoiceActivityEngine::isListeningChanged);
     publish(m_aecActive, false, &VoiceActivityEngine::aecActiveChanged);
     publish(m_aecHoldReason, reason, &VoiceActivityEngine::aecHoldReasonChanged);
-    AppLog::write(
-        "Orvello VAD listening (raw mic, no AEC%@)", reason ? u" — "_s + *reason : QString());
+    AppLog::write("Orvello VAD listening (raw mic, no AEC%@)",
+        reason ? u" — "_s + reason->logText() : QString());
 }
 
 void VoiceActivityEngine::onSamples(std::span<const float> samples) noexcept

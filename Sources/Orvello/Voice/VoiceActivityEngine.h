@@ -37,8 +37,8 @@ class VoiceActivityEngine final : public QObject, private SampleListener {
     Q_PROPERTY(QVariant micAuthorized READ micAuthorizedOrNull NOTIFY micAuthorizedChanged FINAL)
     Q_PROPERTY(bool isListening READ isListening NOTIFY isListeningChanged FINAL)
     Q_PROPERTY(bool aecActive READ aecActive NOTIFY aecActiveChanged FINAL)
-    // Empty while echo cancellation is not held.
-    Q_PROPERTY(QString aecHoldReason READ aecHoldReasonOrEmpty NOTIFY aecHoldReasonChanged FINAL)
+    // In the user's language; empty while echo cancellation is not held.
+    Q_PROPERTY(QString aecHoldReason READ aecHoldReasonForPeople NOTIFY aecHoldReasonChanged FINAL)
 
 public:
     /// What the engine needs of the system. All must outlive it.
@@ -60,8 +60,8 @@ public:
     std::optional<bool> micAuthorized() const { return m_micAuthorized; }
     bool isListening() const { return m_isListening; }
     bool aecActive() const { return m_aecActive; } ///< Echo cancellation is on.
-    /// Why echo cancellation is held, for the user; none when it is not.
-    const std::optional<QString>& aecHoldReason() const { return m_aecHoldReason; }
+    /// Why echo cancellation is held, as the log says it; none when it is not.
+    std::optional<QString> aecHoldReason() const;
 
     void requestPermissionAndStart();
     void stop();
@@ -76,7 +76,15 @@ Q_SIGNALS:
 
 private:
     QVariant micAuthorizedOrNull() const;
-    QString aecHoldReasonOrEmpty() const { return m_aecHoldReason.value_or(QString()); }
+    /// Another program has the microphone, or one for meetings is open: the one of that name.
+    struct HoldReason {
+        QString meetingApp; ///< Empty for the first.
+
+        QString logText() const;
+        friend bool operator==(const HoldReason&, const HoldReason&) = default;
+    };
+
+    QString aecHoldReasonForPeople() const;
 
     template <typename Value>
     void publish(Value& member, const Value& value, void (VoiceActivityEngine::*changed)());
@@ -85,12 +93,12 @@ private:
     void start();
     void startWatchdog();
     void watchdogTick();
-    void reconsiderHold(const std::optional<QString>& reason);
-    std::optional<QString> holdReason() const;
+    void reconsiderHold(const std::optional<HoldReason>& reason);
+    std::optional<HoldReason> holdReason() const;
     std::optional<QString> runningMeetingAppName() const;
 
     enum class RawPathCause { EnvironmentHoldsAec, VoiceProcessingFailed };
-    void startFallback(RawPathCause cause, const std::optional<QString>& reason);
+    void startFallback(RawPathCause cause, const std::optional<HoldReason>& reason);
     void stopCurrentCapture();
 
     void onSamples(std::span<const float> samples) noexcept override;
@@ -107,7 +115,7 @@ private:
     std::optional<bool> m_micAuthorized;
     bool m_isListening = false;
     bool m_aecActive = false;
-    std::optional<QString> m_aecHoldReason;
+    std::optional<HoldReason> m_aecHoldReason;
 
     VoiceProcessingCapture m_voiceProcessing;
     bool m_usingFallback = false;

@@ -83,7 +83,7 @@ protected:
     const AppleScriptRunner runner { process, program };
     const PresenterApp keynote = AppleScriptPresenters::keynote(runner);
     const PresenterApp powerPoint = AppleScriptPresenters::powerPoint(runner);
-    LibraryStore library { defaults, folders, stage.time };
+    LibraryStore library { defaults, folders, stage.time, {} };
     LiveDeckImport importer { library, stage.workspace, runner };
 };
 

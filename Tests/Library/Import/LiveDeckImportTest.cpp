@@ -75,7 +75,7 @@ protected:
     AppleScriptRunner runner { process };
     const PresenterApp keynote = AppleScriptPresenters::keynote(runner);
     const PresenterApp powerPoint = AppleScriptPresenters::powerPoint(runner);
-    LibraryStore library { defaults, folders, time };
+    LibraryStore library { defaults, folders, time, {} };
     std::unique_ptr<LiveDeckImport> importer
         = std::make_unique<LiveDeckImport>(library, workspace, runner);
     std::optional<LiveDeckImport::Imported> imported;

@@ -1,5 +1,6 @@
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
+#include "Tests/Support/FactsOf.h"
 
 #include <QCryptographicHash>
 
@@ -70,14 +71,39 @@ TEST(JoinedBodyTest, keepsTheGivenOrderAndNumbers)
         u"\u2014 Slide 20 \u00B7 B \u2014\none\n\ntwo\n\n\u2014 Slide -1 \u00B7 A \u2014\nx"_s);
 }
 
-TEST(WelcomeScriptTest, hasItsExactTexts)
+TEST(WelcomeScriptTest, hasItsExactTextsOnAMac)
 {
-    const QByteArray body = WelcomeScript::body().toUtf8();
+    const QByteArray body = WelcomeScript::body(Testing::factsOfAMac()).toUtf8();
 
     EXPECT_EQ(WelcomeScript::title(), u"Welcome to Orvello"_s);
     EXPECT_EQ(body.size(), 824);
     EXPECT_EQ(QCryptographicHash::hash(body, QCryptographicHash::Sha256).toHex(),
         "7375112d0f7085fc781d866aef1e23043bd787327132fcc907b961943a1b3d87");
+}
+
+TEST(WelcomeScriptTest, promisesNothingThatALinuxDesktopDoesNotKeep)
+{
+    const QString body = WelcomeScript::body(Testing::factsOfALinuxDesktop());
+
+    EXPECT_TRUE(body.contains(u"Press Alt+Super+P to start or pause scrolling. "
+                              "Use Alt+Super+Up or Down"_s));
+    EXPECT_TRUE(body.contains(u"from the tray, or with a right click on this panel"_s));
+    EXPECT_TRUE(body.contains(u"This desktop cannot hide a window"_s));
+    for (const auto* const untrue :
+        { u"Option", u"Command", u"menu bar", u"invisible", u"Stealth" })
+        EXPECT_FALSE(body.contains(QString::fromUtf16(untrue)))
+            << QString::fromUtf16(untrue).toStdString();
+}
+
+TEST(WelcomeScriptTest, speaksOfStealthModeWhereverADesktopCanHideAWindow)
+{
+    Facts facts = Testing::factsOfALinuxDesktop();
+    facts.canHideWindows = true;
+
+    const QString body = WelcomeScript::body(facts);
+
+    EXPECT_TRUE(body.contains(u"With Stealth Mode on, this window is invisible"_s));
+    EXPECT_FALSE(body.contains(u"cannot hide"_s));
 }
 
 } // namespace

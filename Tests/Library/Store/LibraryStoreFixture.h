@@ -2,6 +2,7 @@
 
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Store/LibraryStore.h"
+#include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/ManualTimeSource.h"
@@ -21,7 +22,7 @@ protected:
     /// Begins a run of the program on what earlier runs left.
     LibraryStore& launch()
     {
-        m_store = std::make_unique<LibraryStore>(defaults, folders, time);
+        m_store = std::make_unique<LibraryStore>(defaults, folders, time, facts);
         return *m_store;
     }
 
@@ -62,6 +63,7 @@ protected:
     /// Whether the library file was written since the last call or the launch.
     bool wasSaved() const { return QFile::remove(path); }
 
+    Facts facts = factsOfAMac();
     FakeFolders folders;
     FakeUserDefaults defaults;
     ManualTimeSource time;

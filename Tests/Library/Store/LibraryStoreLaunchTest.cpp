@@ -18,7 +18,7 @@ TEST_F(LibraryStoreLaunchTest, welcomesANewUserWithOneActiveScript)
     ASSERT_EQ(store.scripts().size(), 1);
     const Script& script = store.scripts().first();
     EXPECT_EQ(script.title, u"Welcome to Orvello"_s);
-    EXPECT_EQ(script.body, WelcomeScript::body());
+    EXPECT_EQ(script.body, WelcomeScript::body(facts));
     EXPECT_EQ(script.createdAt, time.date());
     EXPECT_EQ(script.updatedAt, time.date());
     EXPECT_EQ(script.slides, std::nullopt);
@@ -173,7 +173,7 @@ TEST_F(LibraryStoreLaunchTest, startsInOrder)
     recording.setValue(u"activeScriptID"_s, u"not an id"_s);
     recording.changes.clear();
 
-    const LibraryStore store(recording, folders, time);
+    const LibraryStore store(recording, folders, time, facts);
 
     EXPECT_EQ(recording.changes,
         (QStringList { u"remove activeScriptID"_s, u"set activeScriptID"_s, u"remove script"_s,

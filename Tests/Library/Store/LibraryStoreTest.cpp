@@ -337,14 +337,5 @@ TEST_F(LibraryStoreTest, startsWhereItCannotEverSave)
     EXPECT_EQ(titles(store.scripts()), (QStringList { u"Untitled"_s, u"Welcome to Orvello"_s }));
 }
 
-TEST_F(LibraryStoreTest, isTheSharedOneOnceAdopted)
-{
-    LibraryStore& store = launch();
-
-    LibraryStore::adoptShared(store);
-
-    EXPECT_EQ(&LibraryStore::shared(), &store);
-}
-
 } // namespace
 } // namespace Orvello

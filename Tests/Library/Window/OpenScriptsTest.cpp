@@ -299,6 +299,27 @@ TEST_F(OpenScriptsTest, neverStoresAnEditInAnotherScript)
     EXPECT_EQ(storedBody(), u"Late be or nw"_s);
 }
 
+TEST_F(OpenScriptsTest, neverStoresAnEditInAnotherScriptWhileTheTwoChangePlaces)
+{
+    ScriptEditor& first = active();
+    TextField field(first);
+    // An input method finishes a word when the text field loses the keyboard.
+    const auto finishWord = [&] {
+        field.replace(0, 2, u"Late"_s);
+        first.setTitle(u"Late"_s);
+    };
+    QObject::connect(
+        &open, &OpenScripts::activeChanged, &open, finishWord, Qt::SingleShotConnection);
+
+    activate(2);
+    EXPECT_EQ(library.scripts()[2].body, u"3"_s);
+    EXPECT_EQ(library.scripts()[2].title, u"Three"_s);
+    EXPECT_EQ(library.scripts()[0].body, u"To be or not"_s);
+
+    activate(0);
+    EXPECT_EQ(library.scripts()[0].body, u"Late be or not"_s);
+}
+
 TEST_F(OpenScriptsTest, closesTheScriptThatWasNotSeenForLongest)
 {
     const QUuid one = library.scripts()[0].id;
@@ -361,6 +382,13 @@ TEST_F(OpenScriptsTest, closesEveryScriptOfAnIdThatTheFileHasTwice)
     OpenScripts scripts(twins.library);
     const QAbstractItemModelTester check(
         &scripts, QAbstractItemModelTester::FailureReportingMode::Fatal);
+
+    QObject::connect(
+        &scripts, &OpenScripts::rowsAboutToBeRemoved, &scripts, [&](const QModelIndex&, int row) {
+            EXPECT_NE(
+                scripts.data(scripts.index(row), OpenScripts::EditorRole).value<ScriptEditor*>(),
+                scripts.active());
+        });
 
     twins.library.remove(twin.id);
 

@@ -6,7 +6,6 @@
 #include "Orvello/Adapters/macOS/Early/PropertyList.h"
 #include "Tests/MacOS/GNUstep/GNUstepTest.h"
 
-#include <QDateTime>
 #include <QRect>
 
 #include <gtest/gtest.h>
@@ -46,7 +45,6 @@ TEST_F(PropertyListTest, keepsTheTypeOfEveryNumber)
     for (const qint64 number : { qint64(0), qint64(1), qint64(-7), qint64(1) << 40,
              std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min() })
         expectKept(QVariant::fromValue<qlonglong>(number));
-    expectKept(QVariant::fromValue<qulonglong>(std::numeric_limits<quint64>::max()));
     for (const double number : { 0.0, 1.0, -0.5, 0.1, 1e300, 25.0 })
         expectKept(number);
 }
@@ -54,8 +52,7 @@ TEST_F(PropertyListTest, keepsTheTypeOfEveryNumber)
 TEST_F(PropertyListTest, widensSmallNumbers)
 {
     EXPECT_EQ(PropertyList::value(PropertyList::object(7)), QVariant(qlonglong(7)));
-    EXPECT_EQ(PropertyList::value(PropertyList::object(0.5F)), QVariant(0.5));
-    EXPECT_EQ(PropertyList::value(PropertyList::object(4000000000U)), QVariant(4000000000LL));
+    EXPECT_EQ(PropertyList::value([NSNumber numberWithFloat:0.5F]), QVariant(0.5));
 }
 
 TEST_F(PropertyListTest, keepsTexts)
@@ -66,27 +63,21 @@ TEST_F(PropertyListTest, keepsTexts)
     EXPECT_EQ([nsString(u"𝄞"_s) length], 2u);
 }
 
-TEST_F(PropertyListTest, keepsWhatOtherProgramsStore)
+TEST_F(PropertyListTest, passesOnWhatItDoesNotRead)
 {
-    expectKept(QByteArray("a\0b", 3));
-    expectKept(QByteArray(""));
-    expectKept(QDateTime::fromMSecsSinceEpoch(1763712000123, Qt::UTC));
-    expectKept(QDateTime::fromMSecsSinceEpoch(-5, Qt::UTC));
-    expectKept(QVariantList { true, 1.5, u"x"_s, QVariantList {} });
-    expectKept(QVariantMap { { u"a"_s, false }, { u"ü"_s, QVariantMap { { u"n"_s, 1.0 } } } });
-    EXPECT_EQ(PropertyList::value(PropertyList::object(QStringList { u"a"_s, u"b"_s })),
-        QVariant(QVariantList { u"a"_s, u"b"_s }));
+    NSDate* const date = [NSDate dateWithTimeIntervalSinceReferenceDate:123.456];
+    NSDictionary* const map = @{@"list" : @[ @1, @"x", date ]};
+
+    for (const id object : { (id)date, (id)map, (id)[NSData data] })
+        EXPECT_TRUE([PropertyList::object(PropertyList::value(object)) isEqual:object]);
 }
 
 TEST_F(PropertyListTest, refusesWhatCannotBeStored)
 {
     EXPECT_TRUE(PropertyList::object(QRect(1, 2, 3, 4)) == nil);
     EXPECT_TRUE(PropertyList::object(QVariant()) == nil);
-    EXPECT_TRUE(PropertyList::object(QVariantList { 1, QRect() }) == nil);
-    EXPECT_TRUE(PropertyList::object(QVariantMap { { u"k"_s, QVariantList { QRect() } } }) == nil);
+    EXPECT_TRUE(PropertyList::object(QVariantList { 1 }) == nil);
     EXPECT_FALSE(PropertyList::value(nil).isValid());
-    EXPECT_FALSE(PropertyList::value([NSNull null]).isValid());
-    EXPECT_TRUE(PropertyList::map(nil).isEmpty());
 }
 
 class CocoaUserDefaultsTest : public GNUstepTest {
@@ -105,6 +96,19 @@ TEST_F(CocoaUserDefaultsTest, keepsWhatIsSet)
     EXPECT_EQ(defaults.value(u"speed"_s), QVariant(60.0));
     EXPECT_EQ(CocoaUserDefaults().value(u"speed"_s), QVariant(60.0));
     EXPECT_EQ(defaults.storedValues().value(u"speed"_s), QVariant(60.0));
+}
+
+TEST_F(CocoaUserDefaultsTest, storesWhatItDoesNotRead)
+{
+    NSArray* const list = @[ @"Helvetica", @12 ];
+    NSUserDefaults* const database = [NSUserDefaults standardUserDefaults];
+    [database setPersistentDomain:@ { @"speed" : list } forName:@"app.former.program"];
+
+    defaults.setValue(
+        u"speed"_s, CocoaUserDefaults(u"app.former.program"_s).storedValues().value(u"speed"_s));
+
+    EXPECT_TRUE([[database objectForKey:@"speed"] isEqual:list]);
+    [database removePersistentDomainForName:@"app.former.program"];
 }
 
 TEST_F(CocoaUserDefaultsTest, forgetsWhatIsRemoved)

@@ -4,7 +4,9 @@
 #include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/SlideshowStage.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -165,7 +167,6 @@ TEST_F(ImpressPresenterTest, isLetInAtTheUsersCommand)
 {
     std::optional<ImpressPresenter::Change> change;
     const auto receive = [&](const ImpressPresenter::Change& result) { change = result; };
-    const QSignalSpy changing(impress.get(), &ImpressPresenter::isChangingChanged);
 
     impress->allow(receive);
     EXPECT_EQ(helper.questions.last().text, u"allow"_s);
@@ -180,7 +181,42 @@ TEST_F(ImpressPresenterTest, isLetInAtTheUsersCommand)
     answer({ 1, {}, u"LibreOffice isn't installed."_s });
     EXPECT_FALSE(change->isDone);
     EXPECT_EQ(change->message, u"LibreOffice isn't installed."_s);
-    EXPECT_EQ(changing.count(), 4);
+}
+
+/// A language in which every text stands in brackets.
+class Bracketing final : public QTranslator {
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return u'<' + QString::fromUtf8(source) + u'>';
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST_F(ImpressPresenterTest, saysInTheUsersLanguageWhatTheHelperSays)
+{
+    Bracketing language;
+    QCoreApplication::installTranslator(&language);
+    QStringList messages;
+    for (const ScriptResult& result :
+        { ScriptResult { 0, u"Orvello may no longer follow Impress.\n"_s, {} },
+            ScriptResult { 0,
+                u"Orvello may now follow Impress. Start the slideshow or the import again.\n\nTo take this back later: /opt/helper disallow\n"_s,
+                {} },
+            ScriptResult { 1, {}, u"LibreOffice already listens to another program (socket)."_s },
+            ScriptResult { 1, {}, u"OSError: No space left on device"_s } }) {
+        impress->allow([&messages](const ImpressPresenter::Change& change) {
+            messages.append(change.message);
+        });
+        answer(result);
+    }
+    QCoreApplication::removeTranslator(&language);
+
+    EXPECT_EQ(messages,
+        QStringList({ u"<Orvello may no longer follow Impress.>"_s,
+            u"<Orvello may now follow Impress. Start the slideshow or the import again.\n\nTo take this back later: /opt/helper disallow>"_s,
+            u"<LibreOffice already listens to another program (socket).>"_s,
+            u"OSError: No space left on device"_s }));
 }
 
 TEST_F(ImpressPresenterTest, mayBeGoneWhenLibreOfficeHasAnswered)

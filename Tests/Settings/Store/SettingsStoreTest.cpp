@@ -274,14 +274,5 @@ TEST_F(SettingsStoreTest, keepsAnUnknownColorNameAndShowsWhite)
     EXPECT_EQ(defaults.stored[u"textColorName"_s], QVariant(u""_s));
 }
 
-TEST_F(SettingsStoreTest, isTheSharedOneOnceAdopted)
-{
-    SettingsStore settings(defaults);
-
-    SettingsStore::adoptShared(settings);
-
-    EXPECT_EQ(&SettingsStore::shared(), &settings);
-}
-
 } // namespace
 } // namespace Orvello

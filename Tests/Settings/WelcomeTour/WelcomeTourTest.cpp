@@ -1,5 +1,7 @@
 #include "Orvello/Settings/WelcomeTour/WelcomeTour.h"
 
+#include "Tests/Support/FactsOf.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QSignalSpy>
@@ -38,7 +40,7 @@ TEST(WelcomeTourTest, startsOnTheFirstPageForWhatIsNoDecimalInteger)
 
 TEST(WelcomeTourTest, turnsThePagesBothWays)
 {
-    WelcomeTour tour(0, false);
+    WelcomeTour tour(0, false, Testing::factsOfAMac());
     const QSignalSpy turned(&tour, &WelcomeTour::pageChanged);
     EXPECT_TRUE(tour.isFirstPage());
 
@@ -56,7 +58,7 @@ TEST(WelcomeTourTest, turnsThePagesBothWays)
 
 TEST(WelcomeTourTest, goesNoFurtherBackThanTheFirstPage)
 {
-    WelcomeTour tour(0, false);
+    WelcomeTour tour(0, false, Testing::factsOfAMac());
     const QSignalSpy turned(&tour, &WelcomeTour::pageChanged);
 
     tour.goBack();
@@ -67,7 +69,7 @@ TEST(WelcomeTourTest, goesNoFurtherBackThanTheFirstPage)
 
 TEST(WelcomeTourTest, endsFromTheLastPage)
 {
-    WelcomeTour tour(2, false);
+    WelcomeTour tour(2, false, Testing::factsOfAMac());
     const QSignalSpy left(&tour, &WelcomeTour::left);
 
     tour.goOn();
@@ -79,7 +81,7 @@ TEST(WelcomeTourTest, endsFromTheLastPage)
 TEST(WelcomeTourTest, canBeSkippedFromEveryPage)
 {
     for (int page = 0; page < WelcomeTour::pageCount; ++page) {
-        WelcomeTour tour(page, false);
+        WelcomeTour tour(page, false, Testing::factsOfAMac());
         const QSignalSpy left(&tour, &WelcomeTour::left);
 
         tour.skip();
@@ -90,12 +92,18 @@ TEST(WelcomeTourTest, canBeSkippedFromEveryPage)
 
 TEST(WelcomeTourTest, copiesThePathToZoomsSettingAsPlainText)
 {
-    const WelcomeTour tour(1, true);
+    const WelcomeTour tour(1, true, Testing::factsOfAMac());
 
     tour.copyZoomPath();
 
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
         u"Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture with window filtering\" (or \"Previous operating systems\")"_s);
+}
+
+TEST(WelcomeTourTest, namesNoSettingThatZoomDoesNotHave)
+{
+    EXPECT_EQ(WelcomeTour(1, true, Testing::factsOfALinuxDesktop()).zoomPath(),
+        u"Zoom → Share Screen → \"your slides' window\" (not \"Entire Screen\")"_s);
 }
 
 } // namespace

@@ -32,7 +32,9 @@ protected:
     {
         delegate = std::make_unique<AppDelegate>(
             AppDelegate::Platforms { platform, platform, platform },
-            [this](const ShellWindows::Services&) {
+            [this](const ShellWindows::Services& services) {
+                m_settings = &services.settings;
+                m_library = &services.library;
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
             LaunchOptions::of(LaunchOptions::thisStart(arguments)));
@@ -71,8 +73,9 @@ protected:
         Testing::drainEvents();
     }
 
-    SettingsStore& settings() { return SettingsStore::shared(); }
-    LibraryStore& library() { return LibraryStore::shared(); }
+    /// The delegate's own, once launched.
+    SettingsStore& settings() const { return *m_settings; }
+    LibraryStore& library() const { return *m_library; }
 
     /// The engine that moves the prompter's text: the view is told which.
     ScrollEngine& engine() const
@@ -107,6 +110,10 @@ protected:
     Testing::FakePlatform platform;
     Testing::FakeShellWindows::State windows;
     std::unique_ptr<AppDelegate> delegate;
+
+private:
+    SettingsStore* m_settings = nullptr;
+    LibraryStore* m_library = nullptr;
 };
 
 } // namespace Orvello

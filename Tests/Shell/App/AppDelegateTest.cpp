@@ -477,7 +477,7 @@ TEST_F(StartedAgainTest, keepsTheSwitchesUntilTheLaunchEnds)
     startAgain({ u"--check-updates"_s, u"--autostart"_s });
     EXPECT_EQ(windows.openOnboardings, 0);
     EXPECT_EQ(platform.updaterFake.checks, 0);
-    EXPECT_FALSE(settings().voiceFollow());
+    EXPECT_FALSE(platform.userDefaultsFake.stored.contains(u"voiceFollow"_s));
 
     delegate->applicationDidFinishLaunching();
 

@@ -1,10 +1,7 @@
 #include "Orvello/Shell/Commands/StatusMenu.h"
 
-#include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Settings/Store/SettingsStore.h"
-#include "Tests/Support/FakeNativePanel.h"
-#include "Tests/Support/FakeUserDefaults.h"
-#include "Tests/Support/ManualTimeSource.h"
+#include "Tests/Support/FakeCommandTarget.h"
+#include "Tests/Support/FakeHotKeys.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,25 +11,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
-
-class FakeCommands final : public StatusMenuCommands {
-public:
-    void toggleScroll() override { calls.append(u"toggleScroll"_s); }
-    void backToTop() override { calls.append(u"backToTop"_s); }
-    void toggleVoice() override { calls.append(u"toggleVoice"_s); }
-    void toggleSlideTracking() override { calls.append(u"toggleSlideTracking"_s); }
-    void toggleStealth() override { calls.append(u"toggleStealth"_s); }
-    void togglePanel() override { calls.append(u"togglePanel"_s); }
-    void openLibrary() override { calls.append(u"openLibrary"_s); }
-    void openSettings() override { calls.append(u"openSettings"_s); }
-    void openTour() override { calls.append(u"openTour"_s); }
-    void checkForUpdates() override { calls.append(u"checkForUpdates"_s); }
-    void contactSupport() override { calls.append(u"contactSupport"_s); }
-    void revealLogs() override { calls.append(u"revealLogs"_s); }
-    void terminate() override { calls.append(u"terminate"_s); }
-
-    QStringList calls;
-};
 
 class StatusMenuTest : public ::testing::Test {
 protected:
@@ -46,13 +24,9 @@ protected:
 
     const MenuItem& item(std::size_t number) const { return *menu.items().at(number - 1); }
 
-    Testing::ManualTimeSource time;
-    Testing::FakeUserDefaults defaults;
-    SettingsStore settings { defaults };
-    ScrollEngine engine { settings, time };
-    Testing::FakeNativePanel panel;
-    FakeCommands commands;
-    StatusMenu menu { { engine, settings, panel }, commands, u"2.1 (57)"_s };
+    Testing::FakeCommandTarget target;
+    Testing::FakeHotKeys keys;
+    StatusMenu menu { target, keys, u"2.1 (57)"_s };
 };
 
 TEST_F(StatusMenuTest, hasEveryLineInItsPlace)
@@ -91,7 +65,7 @@ TEST_F(StatusMenuTest, runsTheCommandOfEachLine)
     item(13).submenu->items()[0]->action();
     item(13).submenu->items()[1]->action();
 
-    EXPECT_THAT(commands.calls,
+    EXPECT_THAT(target.calls,
         ElementsAre(u"toggleScroll"_s, u"backToTop"_s, u"toggleVoice"_s, u"toggleSlideTracking"_s,
             u"toggleStealth"_s, u"togglePanel"_s, u"openLibrary"_s, u"openSettings"_s,
             u"openTour"_s, u"checkForUpdates"_s, u"terminate"_s, u"contactSupport"_s,
@@ -100,34 +74,39 @@ TEST_F(StatusMenuTest, runsTheCommandOfEachLine)
 
 TEST_F(StatusMenuTest, offersToPauseWhileTheTextScrolls)
 {
-    settings.setCountdownSeconds(0);
-    engine.setContentHeight(5000);
-    engine.setViewportHeight(500);
-    engine.start();
-    ASSERT_TRUE(engine.isRunning());
+    target.scrolls = true;
 
     menu.needsUpdate();
     EXPECT_EQ(item(1).title, u"Pause Scrolling  (⌥⌘P)");
 
-    engine.toggle();
+    target.scrolls = false;
     menu.needsUpdate();
     EXPECT_EQ(item(1).title, u"Start Scrolling  (⌥⌘P)");
 }
 
 TEST_F(StatusMenuTest, offersToHideAVisiblePrompter)
 {
-    panel.show();
+    target.showsPanel = true;
 
     menu.needsUpdate();
 
     EXPECT_EQ(item(7).title, u"Hide Prompter  (⌥⌘H)");
 }
 
+TEST_F(StatusMenuTest, callsTheKeysWhatTheKeyboardCallsThem)
+{
+    keys.modifiersLabel = u"Alt+Super+"_s;
+
+    menu.needsUpdate();
+
+    EXPECT_EQ(item(1).title, u"Start Scrolling  (Alt+Super+P)");
+    EXPECT_EQ(item(7).title, u"Show Prompter  (Alt+Super+H)");
+}
+
 TEST_F(StatusMenuTest, checksTheModesThatAreOn)
 {
-    settings.setVoiceFollow(true);
-    settings.setSlideSync(false);
-    settings.setStealthMode(true);
+    target.followsVoice = true;
+    target.isHidden = true;
 
     menu.needsUpdate();
 
@@ -141,11 +120,20 @@ TEST_F(StatusMenuTest, checksTheModesThatAreOn)
 
 TEST_F(StatusMenuTest, keepsWhatItSaysUntilItOpensAgain)
 {
-    settings.setVoiceFollow(true);
-    panel.show();
+    target.followsVoice = true;
+    target.showsPanel = true;
 
     EXPECT_FALSE(item(4).isChecked);
     EXPECT_EQ(item(7).title, u"Show Prompter  (⌥⌘H)");
+}
+
+TEST_F(StatusMenuTest, offersNoLetterToNobody)
+{
+    target.isSupported = false;
+
+    menu.needsUpdate();
+
+    EXPECT_FALSE(item(13).submenu->items()[0]->isEnabled());
 }
 
 } // namespace

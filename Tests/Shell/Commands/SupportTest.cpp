@@ -18,8 +18,8 @@ TEST(SupportTest, tellsVersionAndBuild)
 
 TEST(SupportTest, beginsALetterWithVersionAndSystem)
 {
-    const QUrl link
-        = Support::mailLink(u"help@example.com"_s, u"2.1 (57)"_s, u"Version 14.5 (Build 23F79)"_s);
+    const QUrl link = Support::mailLink(
+        u"help@example.com"_s, u"2.1 (57)"_s, u"macOS Version 14.5 (Build 23F79)"_s);
 
     EXPECT_EQ(link.scheme(), u"mailto");
     EXPECT_EQ(link.path(), u"help@example.com");

@@ -44,8 +44,7 @@ protected:
     /// Starts the updater without letting the main loop turn.
     void startWithoutATurn(std::optional<QString> address = std::nullopt)
     {
-        const Appcast::Host host { u"57"_s, u"6.1.0"_s, u"linux"_s };
-        updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, host,
+        updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, u"57"_s,
             address.value_or(server.url(u"/feed"_s).toString()));
         controller.emplace(UpdateController::Services {
             *updater, defaults, [this] { desktop.activateApplication(); } });
@@ -95,8 +94,8 @@ TEST_F(AppcastUpdaterTest, offersANewerRelease)
 
 TEST_F(AppcastUpdaterTest, cannotCheckBeforeItIsStarted)
 {
-    updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop },
-        Appcast::Host { u"57"_s, u"6.1.0"_s, u"linux"_s }, u"https://example.com/feed"_s);
+    updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, u"57"_s,
+        u"https://example.com/feed"_s);
 
     EXPECT_FALSE(updater->canCheck());
 }

@@ -272,7 +272,8 @@ TEST_F(FeedLoaderTest, refusesARedirectFromTlsToPlainOnThisMachineToo)
     load(server.url(u"/old"_s));
     ASSERT_TRUE(waitForAnswer());
 
-    EXPECT_EQ(failure(), "The server redirects to an insecure address.");
+    EXPECT_NE(failure(), "(no failure)");
+    EXPECT_TRUE(plain.requests().isEmpty());
     QSslConfiguration::setDefaultConfiguration(before);
 }
 

@@ -1,8 +1,9 @@
 #include "Orvello/Shell/Windows/OnboardingWindowController.h"
 
-#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Tests/Support/EventLoop.h"
+#include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWorkspace.h"
@@ -29,8 +30,7 @@ protected:
     void open()
     {
         controller = std::make_unique<OnboardingWindowController>(
-            OnboardingWindowController::Services {
-                settings, workspace, chrome, assignedKeys, true },
+            OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
             [this] { ++finishes; });
         controller->makeKeyAndOrderFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
@@ -65,7 +65,8 @@ protected:
     SettingsStore settings { defaults };
     FakeWorkspace workspace;
     FakeWindowChrome chrome;
-    AssignedKeys assignedKeys;
+    FakeHotKeys keys;
+    Facts facts = factsOfAMac();
     int finishes = 0;
     std::unique_ptr<OnboardingWindowController> controller;
 };
@@ -157,7 +158,7 @@ TEST_F(OnboardingWindowTest, saysEverythingOnTheLastPage)
 
 TEST_F(OnboardingWindowTest, showsTheKeysAsTheDesktopNamesThem)
 {
-    assignedKeys.setTriggers({ { u"hide"_s, u"Press <Super><Alt>h"_s } });
+    keys.assignedKeys().setTriggers({ { u"hide"_s, u"Press <Super><Alt>h"_s } });
 
     openOn("2");
 
@@ -178,6 +179,40 @@ TEST_F(OnboardingWindowTest, speaksOfZoomOnlyToThoseWhoHaveIt)
         u"Zoom's default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes."_s));
     EXPECT_TRUE(showsText(view(),
         u"Zoom → Settings → Share Screen → Advanced → Screen capture mode → <b>Advanced capture with window filtering</b> (or Previous operating systems)."_s));
+}
+
+TEST_F(OnboardingWindowTest, saysNothingOfAMacOnALinuxDesktop)
+{
+    facts = factsOfALinuxDesktop();
+    keys.modifiersLabel = u"Alt+Super+"_s;
+    workspace.installed.append(u"us.zoom.xos"_s);
+    for (const char* const number : { "0", "1", "2" }) {
+        openOn(number);
+        for (const QString& text : visibleTexts(view())) {
+            for (const QString& untrue : { u"⌥"_s, u"⌘"_s, u"Mac"_s, u"Keynote"_s, u"PowerPoint"_s,
+                     u"Menu bar"_s, u"Invisible"_s, u"works with Stealth"_s })
+                EXPECT_FALSE(text.contains(untrue)) << text.toStdString();
+        }
+    }
+    for (const auto* text : { u"Alt+Super+P", u"Alt+Super+↑ ↓", u"Tray menu" })
+        EXPECT_TRUE(showsText(view(), QString::fromUtf16(text)))
+            << QString::fromUtf16(text).toStdString();
+    openOn("0");
+    EXPECT_TRUE(showsText(view(),
+        u"Import a .pptx or an open LibreOffice Impress deck and the speaker notes flip with your slideshow."_s));
+}
+
+TEST_F(OnboardingWindowTest, asksForNoSettingOfZoomWhereTheDesktopHidesThePrompter)
+{
+    facts = factsOfALinuxDesktop();
+    facts.canHideWindows = true;
+    workspace.installed.append(u"us.zoom.xos"_s);
+
+    openOn("1");
+
+    EXPECT_TRUE(
+        showsText(view(), u"One rule and one safety net keep your notes off the recording."_s));
+    EXPECT_FALSE(showsText(view(), u"Using Zoom? Share a window"_s));
 }
 
 TEST_F(OnboardingWindowTest, copiesThePathToZoomsSetting)
@@ -302,7 +337,7 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 {
     qint64 seen = -1;
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, assignedKeys, true },
+        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
         [&] { seen = settings.onboardingSeenVersion(); });
     controller->makeKeyAndOrderFront();
 
@@ -315,8 +350,7 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
 {
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, assignedKeys, true },
-        [this] {
+        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts }, [this] {
             ++finishes;
             controller.reset();
         });

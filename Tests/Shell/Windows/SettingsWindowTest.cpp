@@ -1,7 +1,8 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
-#include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/ViewItems.h"
 #include "Tests/Voice/VoiceFixture.h"
@@ -51,11 +52,11 @@ class SettingsWindowTest : public VoiceFixture {
 protected:
     void SetUp() override { open(); }
 
-    void open(bool canExcludeFromCapture = true)
+    void open(const Facts& facts = factsOfAMac())
     {
         window.reset();
-        window = std::make_unique<SettingsWindow>(SettingsWindow::Services {
-            settings, *engine, updates, assignedKeys, canExcludeFromCapture });
+        window = std::make_unique<SettingsWindow>(
+            SettingsWindow::Services { settings, *engine, updates, keys, facts });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -109,7 +110,7 @@ protected:
 
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
-    AssignedKeys assignedKeys;
+    FakeHotKeys keys;
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -469,7 +470,7 @@ TEST_F(SettingsWindowTest, explainsEachSetting)
 
 TEST_F(SettingsWindowTest, showsTheKeysAsTheDesktopNamesThem)
 {
-    assignedKeys.setTriggers({ { u"toggle"_s, u"Press <Ctrl><Alt>space"_s },
+    keys.assignedKeys().setTriggers({ { u"toggle"_s, u"Press <Ctrl><Alt>space"_s },
         { u"faster"_s, u"Meta+Up"_s }, { u"slower"_s, u"Meta+Down"_s } });
 
     EXPECT_TRUE(showsText(view(), u"Press <Ctrl><Alt>space"_s));
@@ -480,10 +481,10 @@ TEST_F(SettingsWindowTest, showsTheKeysAsTheDesktopNamesThem)
 
 TEST_F(SettingsWindowTest, opensTheDesktopsOwnWindowForTheKeysWhereThereIsOne)
 {
-    const QSignalSpy requests(&assignedKeys, &AssignedKeys::configurationRequested);
+    const QSignalSpy requests(&keys.assignedKeys(), &AssignedKeys::configurationRequested);
     EXPECT_EQ(controlNamed(view(), u"Change Shortcuts…"_s), nullptr);
 
-    assignedKeys.setCanConfigure(true);
+    keys.assignedKeys().setCanConfigure(true);
     drainEvents();
     QTest::qWait(50); // The row finds its place.
     click(view(), control(u"Change Shortcuts…"_s));
@@ -497,9 +498,24 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
         = u"This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off."_s;
     EXPECT_FALSE(showsText(view(), warning));
 
-    open(false);
+    open(factsOfALinuxDesktop());
 
     EXPECT_TRUE(showsText(view(), warning));
+}
+
+TEST_F(SettingsWindowTest, saysNothingOfAMacOnALinuxDesktop)
+{
+    keys.modifiersLabel = u"Alt+Super+"_s;
+    open(factsOfALinuxDesktop());
+
+    for (const QString& text : visibleTexts(view())) {
+        for (const QString& untrue : { u"⌥"_s, u"⌘"_s, u"Mac"_s, u"macOS"_s, u"Keynote"_s,
+                 u"PowerPoint"_s, u"QuickTime"_s, u"System Settings"_s, u"are signed"_s })
+            EXPECT_FALSE(text.contains(untrue)) << text.toStdString();
+    }
+    EXPECT_TRUE(showsText(view(), u"Alt+Super+↑  /  Alt+Super+↓"_s));
+    EXPECT_TRUE(showsText(view(),
+        u"While a LibreOffice Impress slideshow is on-screen (where the cursor is hidden, so hover-to-pause can't work), a plain P pauses or resumes. It's active only during the slideshow, so it won't interfere with typing elsewhere. Alt+Super+P always works too."_s));
 }
 
 TEST_F(SettingsWindowTest, greysTheCheckOutWhileTheUpdaterCannotCheck)

@@ -30,15 +30,19 @@ QString DeckImportError::description() const
     const QString name = app->logName;
     switch (reason) {
     case Reason::NotRunning:
-        return u"%1 isn't running. Open your presentation in %1 first."_s.arg(name);
+        //: %1: a presentation program, such as Keynote.
+        return tr("%1 isn't running. Open your presentation in %1 first.").arg(name);
     case Reason::NoDocument:
-        return u"No presentation is open in %1."_s.arg(name);
+        //: %1: a presentation program, such as Keynote.
+        return tr("No presentation is open in %1.").arg(name);
     case Reason::NoNotes:
-        return u"That %1 presentation has no %2 on any slide."_s.arg(name, app->notesName);
+        //: %1: a presentation program; %2: what it calls the notes, such as "speaker notes".
+        return tr("That %1 presentation has no %2 on any slide.").arg(name, app->notesName);
     case Reason::ScriptFailed:
         break;
     }
-    return u"Couldn't read the %1 presentation: "_s.arg(name) + message;
+    //: %1: a presentation program; %2: why, a sentence or a part of one.
+    return tr("Couldn't read the %1 presentation: %2").arg(name, message);
 }
 
 } // namespace Orvello

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace Orvello {
@@ -9,6 +10,9 @@ struct ScriptResult;
 
 /// Why a deck could not be imported from a running presentation application.
 struct DeckImportError {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::DeckImportError)
+
+public:
     enum class Reason {
         NotRunning,
         NoDocument,

@@ -56,7 +56,9 @@ void LiveDeckImport::importFromOpenDeck(const PresenterApp& app, Completion comp
         if (!self)
             return;
         const QString tag = u"IMPORT_"_s + app.logName.toUpper();
-        completion(self->importRecord(app, tag + u" ok"_s, app.logName + u" deck"_s, result));
+        //: The title of a deck without a name. %1: a presentation program, such as Keynote.
+        const QString fallbackName = tr("%1 deck").arg(app.logName);
+        completion(self->importRecord(app, tag + u" ok"_s, fallbackName, result));
     });
 }
 

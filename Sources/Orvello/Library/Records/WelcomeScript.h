@@ -2,10 +2,16 @@
 
 #include <QString>
 
-/// The script that a new user finds in the library.
-namespace Orvello::WelcomeScript {
+namespace Orvello {
+
+struct Facts;
+
+/// The script that a new user finds in the library, in the user's language.
+namespace WelcomeScript {
 
 [[nodiscard]] QString title();
-[[nodiscard]] QString body();
+[[nodiscard]] QString body(const Facts& facts);
 
-} // namespace Orvello::WelcomeScript
+} // namespace WelcomeScript
+
+} // namespace Orvello

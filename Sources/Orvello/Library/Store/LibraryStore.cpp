@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-LibraryStore* sharedStore = nullptr;
-
 const QString activeScriptIDKey = u"activeScriptID"_s;
 const QString singleScriptKey = u"script"_s; // The one script of the first versions.
 
@@ -33,20 +31,8 @@ QString withoutExtension(const QString& fileName)
 
 } // namespace
 
-LibraryStore& LibraryStore::shared()
-{
-    Q_ASSERT(sharedStore);
-    return *sharedStore;
-}
-
-void LibraryStore::adoptShared(LibraryStore& store)
-{
-    Q_ASSERT(!sharedStore);
-    sharedStore = &store;
-}
-
-LibraryStore::LibraryStore(
-    UserDefaults& defaults, const Folders& folders, const TimeSource& time, QObject* parent)
+LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
+    const Facts& facts, QObject* parent)
     : QObject(parent)
     , m_defaults(defaults)
     , m_time(time)
@@ -56,23 +42,18 @@ LibraryStore::LibraryStore(
     if (const auto storedID = DefaultsValue::asString(m_defaults.value(activeScriptIDKey)))
         assignActiveScriptID(UuidText::parse(*storedID));
     if (m_scripts.isEmpty())
-        makeFirstScript();
+        makeFirstScript(facts);
     if (!m_activeScriptID)
         assignActiveScriptID(firstScriptID());
 }
 
-LibraryStore::~LibraryStore()
-{
-    if (sharedStore == this)
-        sharedStore = nullptr;
-}
-
-void LibraryStore::makeFirstScript()
+void LibraryStore::makeFirstScript(const Facts& facts)
 {
     const auto singleScript = DefaultsValue::asString(m_defaults.value(singleScriptKey));
     const Script script = singleScript
-        ? Script::create(u"My Script"_s, *singleScript, m_time.date())
-        : Script::create(WelcomeScript::title(), WelcomeScript::body(), m_time.date());
+        //: The title of the only script of a user of the first versions.
+        ? Script::create(tr("My Script"), *singleScript, m_time.date())
+        : Script::create(WelcomeScript::title(), WelcomeScript::body(facts), m_time.date());
     m_scripts = { script };
     assignActiveScriptID(script.id);
     m_defaults.remove(singleScriptKey);
@@ -117,7 +98,8 @@ std::optional<QUuid> LibraryStore::firstScriptID() const
 
 QUuid LibraryStore::addScript()
 {
-    return addOnTop(Script::create(u"Untitled"_s, {}, m_time.date()));
+    //: The title of a new script.
+    return addOnTop(Script::create(tr("Untitled"), {}, m_time.date()));
 }
 
 QUuid LibraryStore::addOnTop(const Script& script)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/LibraryFile.h"
@@ -20,15 +21,10 @@ class LibraryStore final : public QObject {
     Q_OBJECT
 
 public:
-    /// The process's one store; `adoptShared` names it once, at launch.
-    static LibraryStore& shared();
-    static void adoptShared(LibraryStore& store);
-
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
     LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
-        QObject* parent = nullptr);
-    ~LibraryStore() override;
+        const Facts& facts, QObject* parent = nullptr);
 
     const QList<Script>& scripts() const { return m_scripts; }
 
@@ -66,7 +62,7 @@ Q_SIGNALS:
     void activeScriptIDChanged();
 
 private:
-    void makeFirstScript();
+    void makeFirstScript(const Facts& facts);
     QUuid addOnTop(const Script& script);
     Script* editedScript();
     void edit(Script& script, LibraryChange change);

@@ -55,6 +55,7 @@ QStringList DeckImports::titles() const
 {
     QStringList titles { tr("PowerPoint file (.pptx)…") };
     for (const PresenterApp* app : m_apps)
+        //: An item of a menu. %1: a presentation program, such as Keynote.
         titles.append(tr("Open %1 presentation").arg(app->logName));
     return titles;
 }
@@ -100,8 +101,11 @@ void DeckImports::importFile(const QString& path)
         showAlert(tr("Import failed"), PptxImporter::description(imported.error()));
     else if (!hasNotes(m_services.library, *imported))
         showAlert(tr("No speaker notes"),
-            tr("The deck was imported, but no slide has speaker notes. Add notes in PowerPoint's "
-               "notes pane and re-import."));
+            m_services.facts.hasKeynoteAndPowerPoint
+                ? tr("The deck was imported, but no slide has speaker notes. Add notes in "
+                     "PowerPoint's notes pane and re-import.")
+                : tr("The deck was imported, but no slide has speaker notes. Add notes in your "
+                     "presentation program's notes pane and re-import."));
 }
 
 void DeckImports::importOpenDeck(const PresenterApp& app)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
@@ -31,6 +33,7 @@ public:
         LiveDeckImport& openDecks;
         const PresenterTable& presenters;
         OpenPanel& openPanel;
+        Facts facts {};
     };
 
     explicit DeckImports(const Services& services);

@@ -9,6 +9,7 @@ Pane {
     id: root
 
     required property ScriptEditor editor
+    required property facts facts
     property bool isActive: false
     property bool isLoaded: false
 
@@ -118,8 +119,9 @@ Pane {
             Label {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignRight
-                elide: Text.ElideRight
-                text: qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
+                wrapMode: Text.Wrap
+                text: root.facts.isMac ? qsTr("Shown in the prompter · autosaved locally, nothing leaves your Mac")
+                                       : qsTr("Shown in the prompter · autosaved locally, nothing leaves your computer")
                 font.pixelSize: 11
             }
         }

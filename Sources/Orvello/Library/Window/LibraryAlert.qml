@@ -25,6 +25,9 @@ Dialog {
     onOpened: button.forceActiveFocus(Qt.PopupFocusReason)
 
     ColumnLayout {
+        // A popup does not inherit it.
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+        LayoutMirroring.childrenInherit: true
         anchors.fill: parent
         spacing: 8
 

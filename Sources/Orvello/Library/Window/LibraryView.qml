@@ -23,6 +23,8 @@ Pane {
         return null;
     }
 
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     padding: 0
     focus: true
 
@@ -60,6 +62,7 @@ Pane {
 
                 model: root.library.openScripts
                 delegate: EditorPage {
+                    facts: root.library.facts
                     isActive: editor === root.library.openScripts.active
                     visible: isActive
                     // A long text out of sight is not worth setting anew at each size of the window.

@@ -9,6 +9,7 @@ LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
     , m_scripts(services.library)
     , m_openScripts(services.library)
     , m_imports(services)
+    , m_facts(services.facts)
 {
 }
 

@@ -12,6 +12,7 @@ class LibraryViewModel final : public QObject {
     Q_PROPERTY(Orvello::ScriptListModel* scripts READ scripts CONSTANT FINAL)
     Q_PROPERTY(Orvello::OpenScripts* openScripts READ openScripts CONSTANT FINAL)
     Q_PROPERTY(Orvello::DeckImports* imports READ imports CONSTANT FINAL)
+    Q_PROPERTY(Orvello::Facts facts MEMBER m_facts CONSTANT FINAL)
 
 public:
     explicit LibraryViewModel(const DeckImports::Services& services);
@@ -29,6 +30,7 @@ private:
     ScriptListModel m_scripts;
     OpenScripts m_openScripts;
     DeckImports m_imports;
+    Facts m_facts; ///< What the window may say of this machine.
 };
 
 } // namespace Orvello

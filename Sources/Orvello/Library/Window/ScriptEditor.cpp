@@ -60,14 +60,18 @@ ScriptEditor::~ScriptEditor() = default;
 
 void ScriptEditor::setTitle(const QString& title)
 {
-    if (m_isEditable && title != m_title)
+    if (canStore() && title != m_title)
         m_library.updateActive(title, {}); // Comes back as an update.
 }
 
-QString ScriptEditor::wordCountText() const { return tr("%1 words").arg(m_wordCount); }
+QString ScriptEditor::wordCountText() const
+{
+    return tr("%n words", nullptr, static_cast<int>(m_wordCount));
+}
 
 QString ScriptEditor::deckNotice() const
 {
+    //: %1: where the deck is from: a program or a file.
     return tr("Imported deck (%1) — notes are read-only here; edit them in the presentation and "
               "re-import.")
         .arg(m_deckSource.value_or(QString()));
@@ -150,11 +154,18 @@ void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& in
     cursor.insertText(inserted);
 }
 
-/// An input method may finish a word in a text field that has gone out of sight already. The store
-/// would put it into another script, so that it waits until this one is active again.
+/// An input method may finish a word in a text field that is going out of sight or has gone
+/// already. The library would put it into another script, so that it waits until this one is active
+/// again.
+bool ScriptEditor::canStore() const
+{
+    const Script* const active = m_library.activeScript();
+    return m_isEditable && active && active->id == m_id;
+}
+
 void ScriptEditor::store()
 {
-    if (!m_unstored || m_isUpdating || !m_isEditable)
+    if (!m_unstored || m_isUpdating || !canStore())
         return;
     const TextEdit edit = *std::exchange(m_unstored, std::nullopt);
     {

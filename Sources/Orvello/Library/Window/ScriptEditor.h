@@ -63,6 +63,7 @@ private:
     void takeOver(int position, int removed, int added);
     void replaceInBody(qsizetype position, qsizetype removed, const QString& inserted);
     void show(qsizetype position, qsizetype removed, const QString& inserted);
+    bool canStore() const;
     void store();
 
     LibraryStore& m_library;

@@ -32,11 +32,14 @@ QVariant ScriptListModel::data(const QModelIndex& index, int role) const
     const Row& row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case TitleRole:
+        //: Stands for a script without a title.
         return row.title.isEmpty() ? tr("Untitled") : row.title;
     case IsDeckRole:
         return row.slideCount != noDeck;
     case SlidesRole:
-        return row.slideCount == noDeck ? QString() : tr("%1 slides").arg(row.slideCount);
+        return row.slideCount == noDeck
+            ? QString()
+            : tr("%n slides", nullptr, static_cast<int>(row.slideCount));
     default:
         return {};
     }

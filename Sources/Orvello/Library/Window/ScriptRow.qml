@@ -23,7 +23,8 @@ ItemDelegate {
     rightPadding: 16
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: isDeck ? title + ", " + slides : title
+    //: Read aloud. %2: a script's title, which goes in last, as it may hold a "%1"; %1: how many slides, as in "4 slides".
+    Accessible.name: isDeck ? qsTr("%2, %1").arg(slides).arg(title) : title
     Accessible.selectable: true
     Accessible.selected: isActive
 

@@ -73,8 +73,12 @@ public:
         return registerHotKey(keyCode, modifiers, id);
     }
 
+    /// What people call the key with these modifiers here: "⌥⌘P", or "Alt+Super+P".
+    virtual QString label(std::uint32_t keyCode, std::uint32_t modifiers) const = 0;
+
     /// What the user has assigned; nothing where a key is what the program asks for.
     AssignedKeys& assignedKeys() { return m_assignedKeys; }
+    const AssignedKeys& assignedKeys() const { return m_assignedKeys; }
 
 private:
     AssignedKeys m_assignedKeys;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -36,6 +38,9 @@ public:
 
     /// The operating system's version for people, such as "Debian GNU/Linux 12 (bookworm)".
     virtual QString operatingSystemVersion() const = 0;
+
+    /// What the program's texts may say of this machine.
+    virtual Facts facts() const = 0;
 
     /// Another program's user defaults, by the name of their domain; empty if it has none.
     virtual std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) = 0;

@@ -5,9 +5,9 @@
 
 namespace Orvello {
 
-/// One domain of typed preference values: booleans, integers, doubles, strings, byte arrays, dates,
-/// and lists and maps of these. Main thread. What a setter stored survives the death of the process
-/// right after it returned.
+/// One domain of preference values: booleans, numbers and strings. A value of another kind that the
+/// system keeps there can be passed on as it is, from one domain to another. Main thread. What a
+/// setter stored survives the death of the process right after it returned.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;

@@ -3,6 +3,7 @@
 #include "Orvello/Presentations/Decks/DeckReader.h"
 #include "Orvello/Presentations/Decks/ZipArchive.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -14,9 +15,11 @@ QString description(ImportError error)
 {
     switch (error) {
     case ImportError::Unreadable:
-        return u"The file could not be opened as a PowerPoint package."_s;
+        return QCoreApplication::translate(
+            "Orvello::PptxImporter", "The file could not be opened as a PowerPoint package.");
     case ImportError::NotAPresentation:
-        return u"No slides were found — is this a .pptx presentation?"_s;
+        return QCoreApplication::translate(
+            "Orvello::PptxImporter", "No slides were found — is this a .pptx presentation?");
     }
     return {};
 }

@@ -1,5 +1,7 @@
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace Orvello::AppleScriptPresenters {
@@ -83,8 +85,11 @@ PresenterApp::Query running(const AppleScriptRunner& runner, QStringView source)
 
 QString automationAdvice(const QString& displayName)
 {
-    return u"permission denied — allow Orvello to control %1 in System Settings → "
-           "Privacy & Security → Automation"_s.arg(displayName);
+    //: Follows "Couldn't read the presentation:". %1: a presentation program.
+    return QCoreApplication::translate("Orvello::AppleScriptPresenters",
+        "permission denied — allow Orvello to control %1 in System Settings → Privacy & Security → "
+        "Automation")
+        .arg(displayName);
 }
 
 } // namespace
@@ -95,7 +100,8 @@ PresenterApp keynote(const AppleScriptRunner& runner)
         .displayName = u"Keynote"_s,
         .logName = u"Keynote"_s,
         .bundleIdentifier = u"com.apple.iWork.Keynote"_s,
-        .notesName = u"presenter notes"_s,
+        .notesName
+        = QCoreApplication::translate("Orvello::AppleScriptPresenters", "presenter notes"),
         .permissionAdvice = automationAdvice(u"Keynote"_s),
         .askCurrentSlide = running(runner, keynoteCurrentSlide),
         .askOpenDeck = running(runner, keynoteOpenDeck),
@@ -108,7 +114,7 @@ PresenterApp powerPoint(const AppleScriptRunner& runner)
         .displayName = u"Microsoft PowerPoint"_s,
         .logName = u"PowerPoint"_s,
         .bundleIdentifier = u"com.microsoft.Powerpoint"_s,
-        .notesName = u"speaker notes"_s,
+        .notesName = QCoreApplication::translate("Orvello::AppleScriptPresenters", "speaker notes"),
         .permissionAdvice = automationAdvice(u"Microsoft PowerPoint"_s),
         .askCurrentSlide = running(runner, powerPointCurrentSlide),
         .askOpenDeck = running(runner, powerPointOpenDeck),

@@ -1,6 +1,5 @@
 #include "Orvello/Presentations/Presenters/AppleScriptRunner.h"
 
-#include "Orvello/Foundation/Utf8.h"
 #include "Orvello/Platform/Early/ChildProcess.h"
 
 #include <utility>
@@ -8,6 +7,16 @@
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The text, or an empty one when any byte of it is not UTF-8.
+QString decodedOrEmpty(const QByteArray& bytes)
+{
+    return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString();
+}
+
+} // namespace
 
 QString AppleScriptRunner::systemProgram() { return u"/usr/bin/osascript"_s; }
 
@@ -24,8 +33,8 @@ void AppleScriptRunner::run(const QString& source, ScriptCompletion completion) 
             completion({ ScriptResult::notStarted, {}, outcome.launchError });
             return;
         }
-        completion({ outcome.status, Utf8::decodedOrEmpty(outcome.standardOutput),
-            Utf8::decodedOrEmpty(outcome.standardError) });
+        completion({ outcome.status, decodedOrEmpty(outcome.standardOutput),
+            decodedOrEmpty(outcome.standardError) });
     };
     m_process.run(m_program, { u"-e"_s, source }, complete);
 }

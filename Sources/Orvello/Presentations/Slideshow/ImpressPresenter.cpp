@@ -1,10 +1,10 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
-#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>
 
+#include <array>
 #include <utility>
 
 namespace Orvello {
@@ -20,6 +20,43 @@ bool isRefused(const ScriptResult& result)
 {
     return result.status != 0 && result.status != ScriptResult::notStarted
         && result.standardError.contains(notAuthorised);
+}
+
+/// What the helper, which speaks English, says about a change, with a hole where it varies.
+constexpr std::array answers {
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
+        "To follow Impress, Orvello needs the package python3-uno. Install it and try again."),
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "LibreOffice isn't installed."),
+    QT_TRANSLATE_NOOP(
+        "Orvello::ImpressPresenter", "LibreOffice did not answer. Close it and try again."),
+    //: %1: how the other program is connected.
+    QT_TRANSLATE_NOOP(
+        "Orvello::ImpressPresenter", "LibreOffice already listens to another program (%1)."),
+    //: Two paragraphs. %1: a command for a terminal.
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
+        "Orvello may now follow Impress. Start the slideshow or the import again.\n\nTo take this "
+        "back later: %1"),
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "Orvello may no longer follow Impress."),
+};
+
+/// An answer that is not among them, as from a part of the system, stays what it is.
+QString inUsersLanguage(const QString& answer)
+{
+    for (const char* const source : answers) {
+        const QString text = QString::fromUtf8(source);
+        const qsizetype hole = text.indexOf(u"%1"_s);
+        if (hole < 0) {
+            if (answer == text)
+                return ImpressPresenter::tr(source);
+            continue;
+        }
+        const QString before = text.first(hole);
+        const QString after = text.sliced(hole + 2);
+        if (answer.startsWith(before) && answer.endsWith(after))
+            return ImpressPresenter::tr(source).arg(
+                answer.sliced(before.size()).chopped(after.size()));
+    }
+    return answer;
 }
 
 } // namespace
@@ -40,9 +77,11 @@ PresenterApp ImpressPresenter::row()
         .displayName = u"LibreOffice Impress"_s,
         .logName = u"Impress"_s,
         .bundleIdentifier = u"libreoffice-impress"_s, // Of its desktop file.
-        .notesName = u"notes"_s,
+        //: What Impress calls a speaker's notes.
+        .notesName = tr("notes"),
         .permissionAdvice
-        = u"permission denied — LibreOffice answers other programs only once you allow it"_s,
+        //: Follows "Couldn't read the Impress presentation:".
+        = tr("permission denied — LibreOffice answers other programs only once you allow it"),
         .askCurrentSlide =
             [this](ScriptCompletion completion) {
                 ask(u"slide"_s, std::move(completion), &ImpressPresenter::slideRefused);
@@ -98,23 +137,17 @@ void ImpressPresenter::disallow(Completion completion)
 void ImpressPresenter::change(const QString& question, Completion completion)
 {
     m_isAdviceDue = false; // The user has found the way.
-    setChanging(true);
+    m_isChanging = true;
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {
             if (!self)
                 return;
-            self->setChanging(false);
+            self->m_isChanging = false;
             const bool isDone = result.status == 0;
-            completion(
-                { isDone, (isDone ? result.standardOutput : result.standardError).trimmed() });
+            completion({ isDone,
+                inUsersLanguage(
+                    (isDone ? result.standardOutput : result.standardError).trimmed()) });
         });
-}
-
-void ImpressPresenter::setChanging(bool isChanging)
-{
-    if (!assign(m_isChanging, isChanging))
-        return;
-    Q_EMIT isChangingChanged();
 }
 
 } // namespace Orvello

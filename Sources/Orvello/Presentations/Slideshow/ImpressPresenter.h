@@ -16,7 +16,6 @@ class PresentationMonitor;
 /// other presenters answer their scripts, but only once the user has set LibreOffice up for that.
 class ImpressPresenter final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool isChanging READ isChanging NOTIFY isChangingChanged FINAL)
 
 public:
     /// How LibreOffice's setting was changed.
@@ -48,8 +47,6 @@ Q_SIGNALS:
     /// nothing appears before the audience; at once for each import, which the user asked for.
     void adviceNeeded();
 
-    void isChangingChanged();
-
 private:
     void ask(
         const QString& question, ScriptCompletion completion, void (ImpressPresenter::*refused)());
@@ -57,7 +54,6 @@ private:
     void importRefused();
     void adviseAfterSlideshow();
     void change(const QString& question, Completion completion);
-    void setChanging(bool isChanging);
 
     HelperProcess& m_helper;
     const PresentationMonitor& m_presentation;

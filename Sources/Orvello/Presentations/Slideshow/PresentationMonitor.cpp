@@ -61,15 +61,13 @@ void PresentationMonitor::poll()
 void PresentationMonitor::pollPresentingApp()
 {
     const std::optional<QString> app = detectPresentingApp();
-    const bool isOther = assign(m_presentingApp, app);
+    m_presentingApp = app;
     const bool isTransition = assign(m_isPresenting, app.has_value());
     if (isTransition) {
         AppLog::write(
             "Orvello PRESENTING=%d app=%@", app ? 1 : 0, app ? *app : QStringLiteral("-"));
         Q_EMIT isPresentingChanged();
     }
-    if (isOther)
-        Q_EMIT presentingAppChanged();
 }
 
 void PresentationMonitor::pollMeetingApps()

@@ -20,9 +20,6 @@ class Workspace;
 /// presentation applications.
 class PresentationMonitor final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool isPresenting READ isPresenting NOTIFY isPresentingChanged FINAL)
-    Q_PROPERTY(bool meetingAppRunning READ meetingAppRunning NOTIFY meetingAppRunningChanged FINAL)
-    Q_PROPERTY(bool inCall READ inCall NOTIFY inCallChanged FINAL)
 
 public:
     /// What the monitor looks at. Everything must outlive it.
@@ -49,7 +46,6 @@ public:
 
 Q_SIGNALS:
     void isPresentingChanged();
-    void presentingAppChanged();
     void meetingAppRunningChanged();
     void inCallChanged();
 

@@ -7,8 +7,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
-
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -20,19 +18,12 @@ constexpr double pollSeconds = 0.5;
 /// The system's error number for an Apple event that the user has not authorised.
 constexpr QStringView notAuthorised = u"-1743";
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
-
 /// The number of a slide: a decimal integer of at least 1 between white space, and nothing else.
 std::optional<qint64> slideNumber(const QString& output)
 {
-    const QString trimmed = output.trimmed();
-    const bool hasSign = trimmed.startsWith(u'+') || trimmed.startsWith(u'-');
-    const QStringView digits = QStringView(trimmed).sliced(hasSign ? 1 : 0);
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit))
-        return std::nullopt;
-    bool fits = false;
-    const qint64 number = trimmed.toLongLong(&fits);
-    return fits && number >= 1 ? std::optional(number) : std::nullopt;
+    bool isNumber = false;
+    const qint64 number = output.toLongLong(&isNumber);
+    return isNumber && number >= 1 ? std::optional(number) : std::nullopt;
 }
 
 } // namespace
@@ -60,7 +51,7 @@ void SlideSyncService::setActive(bool on)
         m_isInFlight = false;
         setState(State::Idle);
         setLiveSlide(std::nullopt);
-        setApp(nullptr);
+        m_app = nullptr;
     }
     AppLog::write("Orvello SYNC active=%d", on ? 1 : 0);
 }
@@ -79,7 +70,7 @@ void SlideSyncService::tick()
 void SlideSyncService::follow(const PresenterApp& app)
 {
     if (m_app != &app) {
-        setApp(&app);
+        m_app = &app;
         if (m_state == State::Denied)
             setState(State::Manual); // Another application gets a fresh chance.
         AppLog::write("Orvello SYNC following %@", app.logName);
@@ -93,7 +84,7 @@ void SlideSyncService::follow(const PresenterApp& app)
 void SlideSyncService::standBy()
 {
     setLiveSlide(std::nullopt);
-    setApp(nullptr);
+    m_app = nullptr;
     if (m_state == State::Live)
         setState(State::Manual);
 }
@@ -138,13 +129,6 @@ void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
     if (!assign(m_liveSlide, slide))
         return;
     Q_EMIT liveSlideChanged();
-}
-
-void SlideSyncService::setApp(const PresenterApp* app)
-{
-    if (!assign(m_app, app))
-        return;
-    Q_EMIT appChanged();
 }
 
 } // namespace Orvello

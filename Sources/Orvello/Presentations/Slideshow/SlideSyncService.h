@@ -18,7 +18,6 @@ struct PresenterApp;
 /// a second. At most one question is open at a time.
 class SlideSyncService final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(State state READ state NOTIFY stateChanged FINAL)
 
 public:
     enum class State {
@@ -45,7 +44,6 @@ public:
 Q_SIGNALS:
     void stateChanged();
     void liveSlideChanged();
-    void appChanged();
 
 private:
     void tick();
@@ -55,7 +53,6 @@ private:
     void complete(const PresenterApp& app, const ScriptResult& result);
     void setState(State state);
     void setLiveSlide(std::optional<qint64> slide);
-    void setApp(const PresenterApp* app);
 
     const PresentationMonitor& m_presentation;
     const PresenterTable& m_presenters;

@@ -1,7 +1,6 @@
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
-#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/Screens.h"
@@ -74,7 +73,7 @@ void PrompterPanelController::applyStealthMode(bool on)
 {
     const bool wasVisibleInRecordings = isVisibleInRecordings();
     const bool effective = on && !m_forceCapturable;
-    const bool isChange = assign(m_stealthOn, effective);
+    m_stealthOn = effective;
     m_wantsStealth = on;
     const QString mode = stealthMechanisms();
     const bool isHidden = effective && mode != u"shape";
@@ -92,8 +91,6 @@ void PrompterPanelController::applyStealthMode(bool on)
         + (applied ? u"1"_s : u"0"_s));
     AppLog::write("Orvello STEALTH %@ wid=%ld fresh=%d mode=%@ sckExcludeApplied=%d",
         onOrOff(effective), wid, static_cast<int>(fresh), mode, static_cast<int>(applied));
-    if (isChange)
-        Q_EMIT stealthOnChanged();
     if (isVisibleInRecordings() != wasVisibleInRecordings)
         Q_EMIT visibleInRecordingsChanged();
 }

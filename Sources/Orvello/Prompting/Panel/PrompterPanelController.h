@@ -27,9 +27,6 @@ class SettingsStore;
 /// from a watchdog. The panel is built but not shown: showing it is the shell's business.
 class PrompterPanelController final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool stealthOn READ stealthOn NOTIFY stealthOnChanged FINAL)
-    Q_PROPERTY(
-        bool visibleInRecordings READ isVisibleInRecordings NOTIFY visibleInRecordingsChanged FINAL)
 
 public:
     /// All of them must outlive the controller.
@@ -67,7 +64,6 @@ public:
     void reapplyShapeOrPostpone();
 
 Q_SIGNALS:
-    void stealthOnChanged();
     void visibleInRecordingsChanged();
 
 private:

@@ -10,7 +10,7 @@ Rectangle {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: number
-    Accessible.description: "Countdown"
+    Accessible.description: qsTr("Countdown")
 
     radius: CardStyle.cornerRadius
     color: CardStyle.veil

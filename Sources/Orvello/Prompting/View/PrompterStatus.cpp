@@ -4,11 +4,7 @@
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/View/CardStyle.h"
 
-#include <array>
-
 namespace Orvello {
-
-using namespace Qt::StringLiterals;
 
 PrompterStatus::PrompterStatus(const ScrollEngine& engine, QObject* parent)
     : QObject(parent)
@@ -40,16 +36,26 @@ void PrompterStatus::setVisibleInRecordings(bool isVisible)
         Q_EMIT visibleInRecordingsChanged();
 }
 
-const PrompterStatus::Appearance& PrompterStatus::appearance(State state)
+PrompterStatus::Appearance PrompterStatus::appearance(State state)
 {
-    static const std::array<Appearance, 5> appearances { {
-        { u"get ready"_s, CardStyle::yellow },
-        { u"hover pause"_s, CardStyle::orange },
-        { u"paused"_s, CardStyle::orange },
-        { u"listening…"_s, CardStyle::yellow },
-        { u"scrolling"_s, CardStyle::green },
-    } };
-    return appearances[static_cast<std::size_t>(state)];
+    switch (state) {
+    case State::GetReady:
+        //: On the card, at most about 20 characters: the countdown runs.
+        return { tr("get ready"), CardStyle::yellow };
+    case State::HoverPause:
+        //: On the card, at most about 20 characters: the pointer over the card holds the text.
+        return { tr("hover pause"), CardStyle::orange };
+    case State::Paused:
+        //: On the card, at most about 20 characters: the text stands still.
+        return { tr("paused"), CardStyle::orange };
+    case State::Listening:
+        //: On the card, at most about 20 characters: the text waits for the user to speak.
+        return { tr("listening…"), CardStyle::yellow };
+    case State::Scrolling:
+        break;
+    }
+    //: On the card, at most about 20 characters: the text moves.
+    return { tr("scrolling"), CardStyle::green };
 }
 
 PrompterStatus::State PrompterStatus::stateOfEngine() const

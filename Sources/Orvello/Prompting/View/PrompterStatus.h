@@ -43,7 +43,7 @@ private:
         QColor color;
     };
 
-    static const Appearance& appearance(State state);
+    static Appearance appearance(State state);
     State stateOfEngine() const;
     void update();
 

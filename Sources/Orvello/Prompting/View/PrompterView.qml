@@ -18,9 +18,11 @@ Item {
     required property bool forceCapturable
 
     Accessible.role: Accessible.Pane
-    Accessible.name: "Prompter"
+    Accessible.name: qsTr("Prompter")
     Accessible.description: status.label
 
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     Binding { target: root.engine; property: "hoverPaused"; value: hover.hovered }
 
     HoverHandler {
@@ -80,6 +82,7 @@ Item {
         anchors.top: parent.top
         anchors.margins: CardStyle.edge
         visible: root.forceCapturable || root.status.isVisibleInRecordings
-        message: root.forceCapturable ? "DEBUG — VISIBLE IN RECORDINGS" : "VISIBLE IN RECORDINGS"
+        //: On the card, at most about 40 characters: others can see the prompter.
+        message: root.forceCapturable ? qsTr("DEBUG — VISIBLE IN RECORDINGS") : qsTr("VISIBLE IN RECORDINGS")
     }
 }

@@ -17,7 +17,8 @@ Rectangle {
 
     Symbol {
         id: eye
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
         width: 13
         height: 13
@@ -32,7 +33,7 @@ Rectangle {
         anchors.leftMargin: 6
         anchors.right: dismissal.left
         anchors.verticalCenter: parent.verticalCenter
-        text: "Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it."
+        text: qsTr("Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.")
         color: CardStyle.notice
         wrapMode: Text.Wrap
     }
@@ -43,7 +44,7 @@ Rectangle {
         anchors.rightMargin: 2
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
-        description: "Dismiss"
+        description: qsTr("Dismiss")
         onActivated: root.warning.dismiss()
     }
 }

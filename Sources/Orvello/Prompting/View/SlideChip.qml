@@ -12,9 +12,12 @@ Capsule {
     required property double maximumWidth
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: "Slide " + status.position
-    Accessible.description: status.title ? status.title + ", " + status.stateLabel : status.stateLabel
+    //: Read aloud. %1: which slide of how many, as in "2 / 14".
+    Accessible.name: qsTr("Slide %1").arg(status.position)
+    //: Read aloud. %2: the slide's title, which goes in last, as it may hold a "%1"; %1: who turns the slides, as in "Live".
+    Accessible.description: status.title ? qsTr("%2, %1").arg(status.stateLabel).arg(status.title) : status.stateLabel
 
+    readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
     readonly property double widthWithoutTitle:
         dot.width + state.width + buttons.width + 3 * spacing + 2 * padding
 
@@ -51,8 +54,8 @@ Capsule {
         height: parent.height
 
         CardButton {
-            symbol: "chevron.left"
-            description: "Previous slide"
+            symbol: root.isMirrored ? "chevron.right" : "chevron.left"
+            description: qsTr("Previous slide")
             isInert: !root.status.canGoBack
             onActivated: root.status.goBack()
         }
@@ -74,8 +77,8 @@ Capsule {
         }
 
         CardButton {
-            symbol: "chevron.right"
-            description: "Next slide"
+            symbol: root.isMirrored ? "chevron.left" : "chevron.right"
+            description: qsTr("Next slide")
             isInert: !root.status.canGoOn
             onActivated: root.status.goOn()
         }

@@ -5,8 +5,6 @@
 
 namespace Orvello {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct Appearance {
@@ -14,25 +12,25 @@ struct Appearance {
     QColor color;
 };
 
-const Appearance& live()
+Appearance live()
 {
-    static const Appearance appearance { u"Live"_s, CardStyle::green };
-    return appearance;
+    //: On the card, at most about 12 characters: the notes follow the running slideshow.
+    return { SlideStatus::tr("Live"), CardStyle::green };
 }
 
-const Appearance& noAccess()
+Appearance noAccess()
 {
-    static const Appearance appearance { u"No access"_s, CardStyle::red };
-    return appearance;
+    //: On the card, at most about 12 characters: the presentation program may not be asked.
+    return { SlideStatus::tr("No access"), CardStyle::red };
 }
 
-const Appearance& manual()
+Appearance manual()
 {
-    static const Appearance appearance { u"Manual"_s, QColor::fromRgbF(1, 1, 1, 0.5F) };
-    return appearance;
+    //: On the card, at most about 12 characters: the user turns the notes by hand.
+    return { SlideStatus::tr("Manual"), QColor::fromRgbF(1, 1, 1, 0.5F) };
 }
 
-const Appearance& appearanceOf(SlideSyncService::State state)
+Appearance appearanceOf(SlideSyncService::State state)
 {
     switch (state) {
     case SlideSyncService::State::Live:
@@ -46,7 +44,11 @@ const Appearance& appearanceOf(SlideSyncService::State state)
     return manual();
 }
 
-QString positionOf(qint64 number, qint64 count) { return u"%1 / %2"_s.arg(number).arg(count); }
+QString positionOf(qint64 number, qint64 count)
+{
+    //: On the card: which slide of how many.
+    return SlideStatus::tr("%1 / %2").arg(number).arg(count);
+}
 
 } // namespace
 

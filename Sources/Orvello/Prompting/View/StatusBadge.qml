@@ -10,7 +10,7 @@ Capsule {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: status.label
-    Accessible.description: "Status"
+    Accessible.description: qsTr("Status")
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter

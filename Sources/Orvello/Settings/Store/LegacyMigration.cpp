@@ -6,6 +6,7 @@
 #include "Orvello/Platform/Early/Folders.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -69,7 +70,8 @@ std::optional<QJsonArray> withWelcomeScriptRefreshed(
         QJsonObject script = element.toObject();
         if (script.value("title"_L1) != "Welcome to Drumlin"_L1)
             continue;
-        script.insert("title"_L1, "Welcome to Orvello"_L1);
+        script.insert("title"_L1,
+            QCoreApplication::translate("Orvello::WelcomeScript", "Welcome to Orvello"));
         script.insert("body"_L1, sampleText);
         element = script;
         isChanged = true;

@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-SettingsStore* sharedStore = nullptr;
-
 double numberOr(double fallback, const UserDefaults& defaults, const QString& key)
 {
     return DefaultsValue::asNumber(defaults.value(key)).value_or(fallback);
@@ -24,18 +22,6 @@ bool booleanOr(bool fallback, const UserDefaults& defaults, const QString& key)
 }
 
 } // namespace
-
-SettingsStore& SettingsStore::shared()
-{
-    Q_ASSERT(sharedStore);
-    return *sharedStore;
-}
-
-void SettingsStore::adoptShared(SettingsStore& store)
-{
-    Q_ASSERT(!sharedStore);
-    sharedStore = &store;
-}
 
 SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     : QObject(parent)
@@ -53,12 +39,6 @@ SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     , m_slideSync(booleanOr(true, defaults, u"slideSync"_s))
     , m_onboardingSeenVersion(DefaultsValue::asInteger(defaults.value(u"onboardingSeenVersion"_s)))
 {
-}
-
-SettingsStore::~SettingsStore()
-{
-    if (sharedStore == this)
-        sharedStore = nullptr;
 }
 
 template <typename Value, typename Signal>
@@ -92,12 +72,17 @@ const std::array<SettingsStore::ColorPreset, 6>& SettingsStore::colorPresets()
 {
     // The system colours of the macOS dark appearance, which suits the dark card on every desktop.
     static const std::array<ColorPreset, 6> presets { {
-        { u"White"_s, QColor(255, 255, 255) },
-        { u"Yellow"_s, QColor(255, 214, 10) },
-        { u"Green"_s, QColor(48, 209, 88) },
-        { u"Cyan"_s, QColor(64, 200, 224) },
-        { u"Orange"_s, QColor(255, 159, 10) },
-        { u"Pink"_s, QColor(255, 55, 95) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "White")),
+            QColor(255, 255, 255) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Yellow")),
+            QColor(255, 214, 10) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Green")),
+            QColor(48, 209, 88) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Cyan")),
+            QColor(64, 200, 224) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Orange")),
+            QColor(255, 159, 10) },
+        { QStringLiteral(QT_TRANSLATE_NOOP("Orvello::SettingsForm", "Pink")), QColor(255, 55, 95) },
     } };
     return presets;
 }

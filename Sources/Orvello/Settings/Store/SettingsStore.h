@@ -42,14 +42,8 @@ public:
         QColor color;
     };
 
-    /// The process's one store over the standard user defaults; `adoptShared` names it once, at
-    /// launch.
-    static SettingsStore& shared();
-    static void adoptShared(SettingsStore& store);
-
     /// `defaults` must outlive the store.
     explicit SettingsStore(UserDefaults& defaults, QObject* parent = nullptr);
-    ~SettingsStore() override;
 
     double fontSize() const { return m_fontSize; } ///< Of the prompter's text, in points.
     void setFontSize(double points);

@@ -8,11 +8,13 @@ Rectangle {
     id: root
 
     required property WelcomeTour tour
-    required property AssignedKeys assignedKeys
     required property string headingFamily
-    required property bool canExcludeFromCapture // Whether Stealth Mode has an effect here.
+    required property ShortcutList shortcuts
+    required property facts facts
     required property bool hasCloseButton // Where the system draws none above the content.
 
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     color: TourStyle.background
 
     Rectangle {
@@ -60,17 +62,19 @@ Rectangle {
         TourWelcomePage {
             current: root.tour.page
             headingFamily: root.headingFamily
+            facts: root.facts
         }
         TourPrivacyPage {
             current: root.tour.page
             headingFamily: root.headingFamily
             tour: root.tour
-            canExcludeFromCapture: root.canExcludeFromCapture
+            facts: root.facts
         }
         TourSetupPage {
             current: root.tour.page
-            assignedKeys: root.assignedKeys
             headingFamily: root.headingFamily
+            shortcuts: root.shortcuts
+            facts: root.facts
         }
     }
 

@@ -12,6 +12,7 @@ Row {
 
     spacing: 8
     Accessible.role: Accessible.StaticText
+    //: Read aloud. %1: a page of the tour; %2: how many there are.
     Accessible.name: qsTr("Page %1 of %2").arg(current + 1).arg(count)
 
     Repeater {

@@ -13,7 +13,8 @@ RowLayout {
     Layout.fillWidth: true
     spacing: 16
     Accessible.role: Accessible.StaticText
-    Accessible.name: title + ". " + text
+    //: Read aloud, two sentences. %1: a title; %2: a text.
+    Accessible.name: qsTr("%1. %2").arg(title).arg(text)
 
     Rectangle {
         Layout.alignment: Qt.AlignTop

@@ -5,13 +5,14 @@ import QtQuick.Layouts
 RowLayout {
     id: root
 
-    required property string key
+    required property string keys
     required property string label
 
     Layout.fillWidth: true
     spacing: 12
     Accessible.role: Accessible.StaticText
-    Accessible.name: key + ": " + label
+    //: Read aloud. %1: keys; %2: what they do.
+    Accessible.name: qsTr("%1: %2").arg(keys).arg(label)
 
     Rectangle {
         Layout.preferredWidth: Math.max(120, words.implicitWidth + 16)
@@ -26,7 +27,7 @@ RowLayout {
 
             anchors.centerIn: parent
             width: Math.min(implicitWidth, parent.width - 12)
-            text: root.key
+            text: root.keys
             horizontalAlignment: Text.AlignHCenter
             color: TourStyle.text
             font.pixelSize: 12

@@ -12,6 +12,7 @@ Item {
     property real spacing: 16
     default property alias content: column.data
 
+    readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
     readonly property bool isCurrent: number === current
 
     anchors.fill: parent
@@ -22,7 +23,7 @@ Item {
     Accessible.ignored: !isCurrent
 
     transform: Translate {
-        x: Math.max(-1, Math.min(1, root.number - root.current)) * 48
+        x: Math.max(-1, Math.min(1, root.number - root.current)) * (root.isMirrored ? -48 : 48)
 
         Behavior on x {
             NumberAnimation {

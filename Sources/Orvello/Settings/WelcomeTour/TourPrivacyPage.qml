@@ -7,9 +7,10 @@ TourPage {
 
     required property WelcomeTour tour
     required property string headingFamily
-    required property bool canExcludeFromCapture
+    required property facts facts
 
     number: 1
+    columnWidth: 600 // With the card it is the fullest page, whatever the language.
     spacing: 20
 
     TourHeading {
@@ -17,20 +18,29 @@ TourPage {
         Layout.bottomMargin: 10
         family: root.headingFamily
         font.pixelSize: 22
-        text: qsTr("One rule, one safety net, and one Zoom setting keep your notes off the recording.")
+        text: !root.facts.canHideWindows ? qsTr("One rule keeps your notes off the recording: share a window, never the whole screen.")
+            : !root.facts.zoomChoosesCapture ? qsTr("One rule and one safety net keep your notes off the recording.")
+            : qsTr("One rule, one safety net, and one Zoom setting keep your notes off the recording.")
     }
     TourFeature {
-        symbol: root.canExcludeFromCapture ? "checkmark.shield.fill" : "eye.trianglebadge.exclamationmark"
-        title: qsTr("Stealth Mode is on by default")
-        text: qsTr("Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.")
+        symbol: root.facts.canHideWindows ? "checkmark.shield.fill" : "eye.trianglebadge.exclamationmark"
+        title: root.facts.canHideWindows ? qsTr("Stealth Mode is on by default") : qsTr("This desktop cannot hide a window")
+        text: !root.facts.canHideWindows
+              ? qsTr("No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.")
+              : qsTr("Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.")
     }
     TourFeature {
         symbol: "macwindow.on.rectangle"
-        title: qsTr("Want zero risk? Share just the window")
-        text: qsTr("Full-screen sharing works with Stealth Mode on. Sharing only the Keynote or PowerPoint window takes the risk to zero — a window share can never include the prompter.")
+        title: root.facts.canHideWindows ? qsTr("Want zero risk? Share just the window") : qsTr("Zero risk: share just the window")
+        //: %1: presentation programs, as in "Keynote or PowerPoint".
+        text: root.facts.canHideWindows
+              ? qsTr("Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.").arg(root.facts.presenters)
+              : qsTr("In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.")
     }
     TourZoomCard {
-        visible: root.tour.zoomInstalled
+        // Where the desktop hides the prompter, and Zoom has no say, there is nothing to set.
+        visible: root.tour.zoomInstalled && (root.facts.zoomChoosesCapture || !root.facts.canHideWindows)
+        facts: root.facts
         onCopyRequested: root.tour.copyZoomPath()
     }
 }

@@ -7,9 +7,8 @@ TourPage {
     id: root
 
     required property string headingFamily
-    required property AssignedKeys assignedKeys
-
-    readonly property var triggers: assignedKeys.triggers // By what the key does.
+    required property ShortcutList shortcuts
+    required property facts facts
 
     number: 2
     columnWidth: 600
@@ -42,38 +41,27 @@ TourPage {
             symbol: "keyboard"
             title: qsTr("Shortcuts")
 
-            TourKeyRow {
-                key: root.triggers.toggle ?? qsTr("⌥⌘P")
-                label: qsTr("Start / pause")
+            Repeater {
+                model: root.shortcuts
+                delegate: TourKeyRow {}
             }
             TourKeyRow {
-                key: root.triggers.faster && root.triggers.slower ? root.triggers.faster + "  /  " + root.triggers.slower : qsTr("⌥⌘↑ ↓")
-                label: qsTr("Speed")
-            }
-            TourKeyRow {
-                key: root.triggers.restart ?? qsTr("⌥⌘R")
-                label: qsTr("Back to top")
-            }
-            TourKeyRow {
-                key: root.triggers.hide ?? qsTr("⌥⌘H")
-                label: qsTr("Show / hide")
-            }
-            TourKeyRow {
-                key: qsTr("P")
+                keys: "P"
                 label: qsTr("Pause during a slideshow")
             }
             TourKeyRow {
-                key: qsTr("Hover")
+                //: Instead of a key: the pointer rests on the prompter.
+                keys: qsTr("Hover")
                 label: qsTr("Pause instantly")
             }
         }
         TourSection {
             Layout.preferredWidth: 244
             symbol: "menubar.rectangle"
-            title: qsTr("Menu bar")
+            title: root.facts.hasMenuBar ? qsTr("Menu bar") : qsTr("Tray menu")
 
             Repeater {
-                model: [qsTr("Start / pause scrolling"), qsTr("Voice-Follow Scrolling"), qsTr("Slide Tracking"), qsTr("Stealth Mode")]
+                model: root.shortcuts.menuLines
                 delegate: TourText {
                     required property string modelData
 
@@ -98,7 +86,8 @@ TourPage {
             TourText {
                 Layout.fillWidth: true
                 Layout.topMargin: 4
-                text: qsTr("… and Scripts, where you write or import what you say, Settings, and this tour.")
+                text: root.facts.hasMenuBar ? qsTr("… and Scripts, where you write or import what you say, Settings, and this tour.")
+                                            : qsTr("… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.")
             }
         }
     }

@@ -1,10 +1,12 @@
 import QtQuick
 import QtQuick.Layouts
+import Orvello
 
 TourPage {
     id: root
 
     required property string headingFamily
+    required property facts facts
 
     number: 0
     spacing: 20
@@ -35,22 +37,26 @@ TourPage {
             Layout.preferredWidth: 400
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: 15
-            text: qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")
+            text: root.facts.canHideWindows ? qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")
+                                            : qsTr("Your private teleprompter. Share your slides' window, and your audience never sees your notes.")
         }
     }
     TourFeature {
         symbol: "eye.slash"
-        title: qsTr("Invisible on screen shares")
-        text: qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
+        title: root.facts.canHideWindows ? qsTr("Invisible on screen shares") : qsTr("Not part of a window share")
+        text: root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
+                                        : qsTr("Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.")
     }
     TourFeature {
         symbol: "waveform"
         title: qsTr("Follows your voice")
-        text: qsTr("Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.")
+        text: root.facts.isMac ? qsTr("Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.")
+                               : qsTr("Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.")
     }
     TourFeature {
         symbol: "rectangle.on.rectangle"
         title: qsTr("Follows your slides")
-        text: qsTr("Import a .pptx or an open Keynote or PowerPoint deck and the speaker notes flip with your slideshow.")
+        //: %1: presentation programs, as in "Keynote or PowerPoint".
+        text: qsTr("Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.").arg(root.facts.presenters)
     }
 }

@@ -6,6 +6,8 @@ import Orvello
 Rectangle {
     id: root
 
+    required property facts facts
+
     signal copyRequested
 
     Layout.fillWidth: true
@@ -40,7 +42,7 @@ Rectangle {
                 id: title
 
                 Layout.fillWidth: true
-                text: qsTr("Using Zoom? Set this once")
+                text: root.facts.zoomChoosesCapture ? qsTr("Using Zoom? Set this once") : qsTr("Using Zoom? Share a window")
                 color: TourStyle.text
                 font.pixelSize: 15
                 font.bold: true
@@ -52,13 +54,18 @@ Rectangle {
         }
         TourText {
             Layout.fillWidth: true
-            text: qsTr("Zoom's default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.")
+            text: !root.facts.zoomChoosesCapture
+                  ? qsTr("No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.")
+                  : qsTr("Zoom's default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.")
         }
         TourText {
             Layout.fillWidth: true
             textFormat: Text.StyledText
             color: TourStyle.text
-            text: qsTr("Zoom → Settings → Share Screen → Advanced → Screen capture mode → <b>Advanced capture with window filtering</b> (or Previous operating systems).")
+            //: The words between <b> and </b> are shown in bold.
+            text: !root.facts.zoomChoosesCapture
+                  ? qsTr("Zoom → Share Screen → <b>your slides' window</b> (not Entire Screen).")
+                  : qsTr("Zoom → Settings → Share Screen → Advanced → Screen capture mode → <b>Advanced capture with window filtering</b> (or Previous operating systems).")
             Accessible.name: text.replace(/<[^>]*>/g, "")
         }
     }

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace Orvello {
@@ -11,21 +13,17 @@ using namespace Qt::StringLiterals;
 
 int WelcomeTour::pageNamed(const QString& text)
 {
-    const bool isSigned = text.startsWith(u'+') || text.startsWith(u'-');
-    const QStringView digits = QStringView(text).sliced(isSigned ? 1 : 0);
-    const bool isNumber = !digits.isEmpty() && std::ranges::all_of(digits, [](QChar character) {
-        return character >= u'0' && character <= u'9';
-    });
-    if (!isNumber || text.startsWith(u'-'))
+    static const QRegularExpression decimalInteger(u"\\A[+-]?[0-9]+\\z"_s);
+    if (!decimalInteger.match(text).hasMatch())
         return 0;
-    bool isInRange = false;
-    const int page = digits.toInt(&isInRange);
-    return isInRange ? std::min(page, pageCount - 1) : pageCount - 1;
+    constexpr double lastPage = pageCount - 1;
+    return static_cast<int>(std::clamp(text.toDouble(), 0.0, lastPage));
 }
 
-WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, QObject* parent)
+WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, const Facts& facts, QObject* parent)
     : QObject(parent)
     , zoomInstalled(zoomIsInstalled)
+    , m_facts(facts)
     , m_page(std::clamp(initialPage, 0, pageCount - 1))
 {
 }
@@ -52,11 +50,15 @@ void WelcomeTour::turnTo(int page)
     Q_EMIT pageChanged();
 }
 
-void WelcomeTour::copyZoomPath() const
+void WelcomeTour::copyZoomPath() const { QGuiApplication::clipboard()->setText(zoomPath()); }
+
+QString WelcomeTour::zoomPath() const
 {
-    QGuiApplication::clipboard()->setText(
-        tr("Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
-           "with window filtering\" (or \"Previous operating systems\")"));
+    if (!m_facts.zoomChoosesCapture)
+        return tr("Zoom → Share Screen → \"your slides' window\" (not \"Entire Screen\")");
+    return tr(
+        "Zoom → Settings → Share Screen → Advanced → Screen capture mode → \"Advanced capture "
+        "with window filtering\" (or \"Previous operating systems\")");
 }
 
 } // namespace Orvello

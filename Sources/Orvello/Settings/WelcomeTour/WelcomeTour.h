@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
+
 #include <QObject>
 #include <QString>
 
@@ -21,7 +23,7 @@ public:
     /// for any other text.
     [[nodiscard]] static int pageNamed(const QString& text);
 
-    WelcomeTour(int initialPage, bool zoomInstalled, QObject* parent = nullptr);
+    WelcomeTour(int initialPage, bool zoomInstalled, const Facts& facts, QObject* parent = nullptr);
 
     const bool zoomInstalled; ///< Whether the tour speaks of Zoom.
 
@@ -35,6 +37,7 @@ public:
 
     /// Puts the way to Zoom's setting on the clipboard, as plain text.
     Q_INVOKABLE void copyZoomPath() const;
+    QString zoomPath() const;
 
 Q_SIGNALS:
     void pageChanged();
@@ -43,6 +46,7 @@ Q_SIGNALS:
 private:
     void turnTo(int page);
 
+    const Facts m_facts;
     int m_page;
 };
 

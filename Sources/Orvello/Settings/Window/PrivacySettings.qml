@@ -5,7 +5,7 @@ SettingsSection {
     id: root
 
     required property SettingsStore settings
-    required property bool canExcludeFromCapture // Whether Stealth Mode has an effect here.
+    required property facts facts
 
     title: qsTr("Privacy")
 
@@ -15,14 +15,20 @@ SettingsSection {
         onToggled: isOn => root.settings.stealthMode = isOn
     }
     SettingsNote {
-        visible: !root.canExcludeFromCapture
+        visible: !root.facts.canHideWindows
         isWarning: true
         text: qsTr("This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off.")
     }
     SettingsNote {
-        text: qsTr("With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.")
+        text: root.facts.canHideWindows && root.facts.isMac
+              ? qsTr("With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.")
+              : root.facts.canHideWindows
+              ? qsTr("With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots — while staying fully visible to you.")
+              : qsTr("Stealth Mode takes effect on desktops that can keep a window out of screen sharing, recordings, and screenshots. With it on, the prompter's card says when this one cannot.")
     }
     SettingsNote {
-        text: qsTr("Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.")
+        text: !root.facts.canHideWindows
+              ? qsTr("For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.")
+              : qsTr("Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.")
     }
 }

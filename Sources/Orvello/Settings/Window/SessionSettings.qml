@@ -6,6 +6,8 @@ SettingsSection {
 
     required property SettingsStore settings
     required property SettingsForm form
+    required property facts facts
+    required property string toggleKey // What people call it.
 
     title: qsTr("Session")
 
@@ -21,6 +23,7 @@ SettingsSection {
         onToggled: isOn => root.settings.slideshowPauseKey = isOn
     }
     SettingsNote {
-        text: qsTr("While a Keynote or PowerPoint slideshow is on-screen (where the cursor is hidden, so hover-to-pause can't work), a plain P pauses or resumes. It's active only during the slideshow, so it won't interfere with typing elsewhere. ⌥⌘P always works too.")
+        //: %1: presentation programs, as in "Keynote or PowerPoint"; %2: keys, as in "⌥⌘P".
+        text: qsTr("While a %1 slideshow is on-screen (where the cursor is hidden, so hover-to-pause can't work), a plain P pauses or resumes. It's active only during the slideshow, so it won't interfere with typing elsewhere. %2 always works too.").arg(root.facts.presenters).arg(root.toggleKey)
     }
 }

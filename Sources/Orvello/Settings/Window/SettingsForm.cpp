@@ -2,11 +2,15 @@
 
 #include "Orvello/Settings/Store/SettingsStore.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <utility>
+#include <vector>
 
 namespace Orvello {
 
@@ -16,24 +20,37 @@ namespace {
 
 constexpr std::array countdownChoices { 0.0, 3.0, 5.0, 10.0 }; // Seconds.
 
-QStringList sortedColorNames()
+/// Each colour's name in the user's language, and the name that it has in the preferences.
+std::vector<std::pair<QString, QString>> sortedColors()
 {
-    QStringList names;
+    std::vector<std::pair<QString, QString>> colors;
     for (const SettingsStore::ColorPreset& preset : SettingsStore::colorPresets())
-        names.append(preset.name);
-    names.sort();
-    return names;
+        colors.emplace_back(
+            QCoreApplication::translate("Orvello::SettingsForm", preset.name.toUtf8().constData()),
+            preset.name);
+    std::ranges::sort(colors, [](const auto& one, const auto& other) {
+        return QString::localeAwareCompare(one.first, other.first) < 0;
+    });
+    return colors;
 }
 
-QString percent(double fraction) { return SettingsForm::wholeNumber(fraction * 100) + u'%'; }
+//: %1: a number. The sign stands where the language has it.
+QString percent(double fraction)
+{
+    return QCoreApplication::translate("Orvello::SettingsForm", "%1%")
+        .arg(SettingsForm::wholeNumber(fraction * 100));
+}
 
 } // namespace
 
 SettingsForm::SettingsForm(SettingsStore& settings, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
-    , m_colorNames(sortedColorNames())
 {
+    for (const auto& [name, stored] : sortedColors()) {
+        m_colorNames.append(name);
+        m_storedColorNames.append(stored);
+    }
     connect(&settings, &SettingsStore::fontSizeChanged, this, &SettingsForm::fontSizeLabelChanged);
     connect(&settings, &SettingsStore::speedChanged, this, &SettingsForm::speedLabelChanged);
     connect(&settings, &SettingsStore::backgroundOpacityChanged, this,
@@ -62,33 +79,37 @@ QString SettingsForm::wholeNumber(double value)
 
 QString SettingsForm::fontSizeLabel() const
 {
+    //: %1: the size in points.
     return tr("Font size — %1").arg(wholeNumber(m_settings.fontSize()));
 }
 
 QString SettingsForm::speedLabel() const
 {
+    //: %1: points per second.
     return tr("Scroll speed — %1 pt/s").arg(wholeNumber(m_settings.speed()));
 }
 
 QString SettingsForm::opacityLabel() const
 {
+    //: %1: a percentage.
     return tr("Background opacity — %1").arg(percent(m_settings.backgroundOpacity()));
 }
 
 QString SettingsForm::sensitivityLabel() const
 {
+    //: Of the microphone's detector of speech. %1: a percentage.
     return tr("Sensitivity — %1").arg(percent(m_settings.voiceSensitivity()));
 }
 
 int SettingsForm::colorIndex() const
 {
-    return static_cast<int>(m_colorNames.indexOf(m_settings.textColorName()));
+    return static_cast<int>(m_storedColorNames.indexOf(m_settings.textColorName()));
 }
 
 void SettingsForm::setColorIndex(int index)
 {
-    if (index >= 0 && index < m_colorNames.size())
-        m_settings.setTextColorName(m_colorNames[index]);
+    if (index >= 0 && index < m_storedColorNames.size())
+        m_settings.setTextColorName(m_storedColorNames[index]);
 }
 
 QStringList SettingsForm::countdownNames()

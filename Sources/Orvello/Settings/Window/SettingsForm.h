@@ -52,7 +52,8 @@ Q_SIGNALS:
 
 private:
     SettingsStore& m_settings;
-    const QStringList m_colorNames;
+    QStringList m_colorNames;
+    QStringList m_storedColorNames; ///< The same colours as the preferences name them.
 };
 
 } // namespace Orvello

@@ -11,7 +11,8 @@ SettingsRow {
     implicitHeight: Math.max(34, words.implicitHeight + 16)
     labelShare: 0.4
     Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + keys
+    //: Read aloud. %1: what the keys do; %2: the keys.
+    Accessible.name: qsTr("%1: %2").arg(label).arg(keys)
 
     Label {
         id: words

@@ -47,9 +47,9 @@ SettingsRow {
 
         Keys.onPressed: event => {
             const steps = {
-                [Qt.Key_Left]: -1,
+                [Qt.Key_Left]: slider.mirrored ? 1 : -1,
                 [Qt.Key_Down]: -1,
-                [Qt.Key_Right]: 1,
+                [Qt.Key_Right]: slider.mirrored ? -1 : 1,
                 [Qt.Key_Up]: 1,
                 [Qt.Key_PageDown]: -5,
                 [Qt.Key_PageUp]: 5,

@@ -13,12 +13,14 @@ Pane {
     required property SettingsForm form
     required property VoiceActivityEngine voice
     required property UpdateController updates
-    required property AssignedKeys assignedKeys
     required property string version
-    required property bool canExcludeFromCapture
+    required property ShortcutList shortcuts
+    required property facts facts
 
     readonly property Item focusedItem: Window.activeFocusItem
 
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     padding: 0
     onFocusedItemChanged: reveal(focusedItem)
 
@@ -68,23 +70,28 @@ Pane {
                 settings: root.settings
                 form: root.form
                 voice: root.voice
+                facts: root.facts
             }
             SessionSettings {
                 settings: root.settings
                 form: root.form
+                facts: root.facts
+                toggleKey: root.shortcuts.toggleKey
             }
             SlidesSettings {
                 settings: root.settings
+                facts: root.facts
             }
             PrivacySettings {
                 settings: root.settings
-                canExcludeFromCapture: root.canExcludeFromCapture
+                facts: root.facts
             }
             ShortcutSettings {
-                assignedKeys: root.assignedKeys
+                shortcuts: root.shortcuts
             }
             UpdateSettings {
                 updates: root.updates
+                facts: root.facts
                 version: root.version
             }
         }

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
 import Orvello
@@ -6,36 +7,22 @@ import Orvello
 SettingsSection {
     id: root
 
-    required property AssignedKeys assignedKeys
-
-    readonly property var triggers: assignedKeys.triggers // By what the key does.
+    required property ShortcutList shortcuts
 
     title: qsTr("Keyboard shortcuts (global)")
 
-    SettingsShortcut {
-        label: qsTr("Start / pause scrolling")
-        keys: root.triggers.toggle ?? qsTr("⌥⌘P")
-    }
-    SettingsShortcut {
-        label: qsTr("Speed up / down")
-        keys: root.triggers.faster && root.triggers.slower ? root.triggers.faster + "  /  " + root.triggers.slower : qsTr("⌥⌘↑  /  ⌥⌘↓")
-    }
-    SettingsShortcut {
-        label: qsTr("Back to top")
-        keys: root.triggers.restart ?? qsTr("⌥⌘R")
-    }
-    SettingsShortcut {
-        label: qsTr("Show / hide prompter")
-        keys: root.triggers.hide ?? qsTr("⌥⌘H")
+    Repeater {
+        model: root.shortcuts
+        delegate: SettingsShortcut {}
     }
     SettingsRow {
-        visible: root.assignedKeys.canConfigure
+        visible: root.shortcuts.assignedKeys.canConfigure
         label: qsTr("Other keys")
 
         Button {
             text: qsTr("Change Shortcuts…")
             Accessible.name: text
-            onClicked: root.assignedKeys.configure()
+            onClicked: root.shortcuts.assignedKeys.configure()
         }
     }
 }

@@ -9,6 +9,7 @@ SettingsSection {
     required property SettingsStore settings
     required property SettingsForm form
     required property VoiceActivityEngine voice
+    required property facts facts
 
     title: qsTr("Voice-follow")
 
@@ -41,15 +42,19 @@ SettingsSection {
     SettingsNote {
         visible: root.voice.micAuthorized === false
         isWarning: true
-        text: qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
+        text: !root.facts.hasPrivacySettings
+              ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
+              : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
     }
     // Neither holds once nothing is captured any more.
     SettingsNote {
         visible: root.voice.isListening && root.voice.aecActive
-        text: qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")
+        text: root.facts.isMac ? qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")
+                               : qsTr("Echo cancellation: on — audio playing from this computer won't move the prompter.")
     }
     SettingsNote {
         visible: root.voice.isListening && root.voice.aecHoldReason !== ""
+        //: %1: why, such as "another app is using the microphone" or "Zoom is open".
         text: qsTr("Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.").arg(root.voice.aecHoldReason)
     }
     SettingsNote {

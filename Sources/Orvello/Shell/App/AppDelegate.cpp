@@ -31,48 +31,29 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// What the speed keys do, in points per second.
-constexpr double speedStep = 10;
-constexpr double slowestSpeed = 15;
-constexpr double fastestSpeed = 240;
-
-} // namespace
-
 AppDelegate::AppDelegate(
     const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
     : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
     , m_settings(platforms.early.userDefaults())
-    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time())
+    , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
+          platforms.early.facts())
     , m_scriptRunner(platforms.early.childProcess())
     , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
-    , m_engine(
-          [this] { return std::make_unique<ScrollEngine>(m_settings, m_platforms.early.time()); })
-    , m_voice([this] {
-        return std::make_unique<VoiceActivityEngine>(m_settings,
-            VoiceActivityEngine::Ports { m_platforms.early.time(),
-                m_platforms.sound.microphonePermission(), m_platforms.sound.voiceProcessing(),
-                m_platforms.sound.rawMicrophone(), m_micActivity,
-                m_platforms.desktop.workspace() });
-    })
+    , m_engine(m_settings, platforms.early.time())
+    , m_voice(m_settings,
+          VoiceActivityEngine::Ports { platforms.early.time(),
+              platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
+              platforms.sound.rawMicrophone(), m_micActivity, platforms.desktop.workspace() })
     , m_presentation({ m_presenters, platforms.desktop.workspace(),
           platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
-    , m_slideSync([this] {
-        return std::make_unique<SlideSyncService>(
-            m_presentation, m_presenters, m_platforms.early.time());
-    })
-    , m_deck(
-          [this] { return std::make_unique<DeckController>(m_library, m_settings, m_slideSync()); })
+    , m_slideSync(m_presentation, m_presenters, platforms.early.time())
+    , m_deck(m_library, m_settings, m_slideSync)
     , m_updates({ platforms.desktop.updater(), platforms.early.userDefaults(),
           [this] { m_platforms.desktop.desktopServices().activateApplication(); } })
     , m_hotKeys(platforms.desktop.hotKeys())
 {
-    SettingsStore::adoptShared(m_settings);
-    LibraryStore::adoptShared(m_library);
-    HotKeyCenter::adoptShared(m_hotKeys);
     addPresenters();
     quitAtSignals();
 }
@@ -105,9 +86,9 @@ void AppDelegate::applicationDidFinishLaunching()
     m_presentation.start();
     followSlideTracking();
     importDecks();
-    m_plainPKey = std::make_unique<PlainPKey>(
-        PlainPKey::Services { HotKeyCenter::shared(), m_settings, m_presentation },
-        [this] { m_engine().toggle(); });
+    m_plainPKey
+        = std::make_unique<PlainPKey>(PlainPKey::Services { m_hotKeys, m_settings, m_presentation },
+            [this] { m_engine.toggle(); });
     scroll(m_options);
     handle(std::exchange(m_pendingURLs, {}));
     installSignalHandlers();
@@ -195,9 +176,9 @@ QStringList AppDelegate::comesTooLate(const LaunchOptions& options) const
 void AppDelegate::scroll(const LaunchOptions& options)
 {
     if (options.autostart)
-        m_engine().start();
+        m_engine.start();
     if (options.toggle)
-        m_engine().toggle();
+        m_engine.toggle();
 }
 
 void AppDelegate::openWindows(const LaunchOptions& options)
@@ -210,20 +191,18 @@ void AppDelegate::openWindows(const LaunchOptions& options)
 
 void AppDelegate::makePanel()
 {
-    ScrollEngine& engine = m_engine();
-    VoiceActivityEngine& voice = m_voice();
-    DeckController& deck = m_deck();
-    m_prompterWindow = std::make_unique<PrompterWindow>(PrompterWindow::Services { .engine = engine,
-        .settings = m_settings,
-        .voice = voice,
-        .presentation = m_presentation,
-        .deck = deck,
-        .time = m_platforms.early.time(),
-        .forceCapturable = m_options.noStealth });
+    m_prompterWindow
+        = std::make_unique<PrompterWindow>(PrompterWindow::Services { .engine = m_engine,
+            .settings = m_settings,
+            .voice = m_voice,
+            .presentation = m_presentation,
+            .deck = m_deck,
+            .time = m_platforms.early.time(),
+            .forceCapturable = m_options.noStealth });
     m_panel = m_platforms.desktop.makePanel(m_prompterWindow->window());
     m_panelController = std::make_unique<PrompterPanelController>(
         PrompterPanelController::Services { .panel = *m_panel,
-            .engine = engine,
+            .engine = m_engine,
             .settings = m_settings,
             .presentation = m_presentation,
             .time = m_platforms.early.time(),
@@ -234,15 +213,18 @@ void AppDelegate::makePanel()
 
 void AppDelegate::makeWindows()
 {
-    m_windows = m_makeWindows({ m_settings, m_library, m_voice(), m_updates, m_presenters,
+    m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys().assignedKeys(), m_panel->captureHiding().isPossible() });
-    m_commands
-        = std::make_unique<AppCommands>(AppCommands::Services { m_engine(), m_settings, m_updates,
-                                            m_platforms.desktop.desktopServices(), *m_windows,
-                                            m_platforms.early.operatingSystemVersion() },
-            AppCommands::Delegate { [this] { togglePanel(); }, [this] { showOnboarding(); } });
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts() });
+    m_commands = std::make_unique<AppCommands>(
+        AppCommands::Services { m_engine, m_settings, m_updates,
+            m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
+        AppCommands::Delegate {
+            .togglePanel = [this] { togglePanel(); },
+            .isPanelVisible = [this] { return m_panel->isVisible(); },
+            .showOnboarding = [this] { showOnboarding(); },
+        });
 }
 
 void AppDelegate::showFirstWindow()
@@ -285,9 +267,8 @@ void AppDelegate::onboardingFinished()
 
 void AppDelegate::setupStatusItem()
 {
-    m_statusMenu
-        = std::make_unique<StatusMenu>(StatusMenu::State { m_engine(), m_settings, *m_panel },
-            *m_commands, AppCommands::versionText());
+    m_statusMenu = std::make_unique<StatusMenu>(
+        *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
@@ -296,29 +277,10 @@ void AppDelegate::setupStatusItem()
 
 void AppDelegate::registerHotKeys()
 {
-    for (const HotKeyTable::Entry& key : HotKeyTable::entries())
-        HotKeyCenter::shared().registerHotKeyFor(key.purpose, key.keyCode, HotKeyTable::modifiers,
-            [this, command = key.command] { run(command); });
-}
-
-void AppDelegate::run(HotKeyTable::Command command)
-{
-    switch (command) {
-    case HotKeyTable::Command::Toggle:
-        m_engine().toggle();
-        break;
-    case HotKeyTable::Command::Faster:
-        m_settings.setSpeed(std::min(m_settings.speed() + speedStep, fastestSpeed));
-        break;
-    case HotKeyTable::Command::Slower:
-        m_settings.setSpeed(std::max(m_settings.speed() - speedStep, slowestSpeed));
-        break;
-    case HotKeyTable::Command::Restart:
-        m_engine().setOffset(0);
-        break;
-    case HotKeyTable::Command::Hide:
-        togglePanel();
-        break;
+    for (const Command& command : Commands::all()) {
+        if (command.key)
+            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
+                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
     }
 }
 
@@ -338,14 +300,14 @@ void AppDelegate::subscribe()
         [this](bool on) { m_panelController->applyStealthMode(on); });
     observe(m_settings, &SettingsStore::voiceFollow, &SettingsStore::voiceFollowChanged, *this,
         [this](bool on) {
-            m_engine().setVoiceFollowActive(on);
+            m_engine.setVoiceFollowActive(on);
             if (on)
-                m_voice().requestPermissionAndStart();
+                m_voice.requestPermissionAndStart();
             else
-                m_voice().stop();
+                m_voice.stop();
         });
-    observe(m_voice(), &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
-        *this, [this](bool isSpeaking) { m_engine().setVoiceGate(isSpeaking); });
+    observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
+        *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
 }
 
 /// Slide tracking is on exactly while the setting is and the active script has slides.
@@ -356,7 +318,7 @@ void AppDelegate::followSlideTracking()
         return m_settings.slideSync() && script && script->slides && !script->slides->isEmpty();
     };
     observeCombined(
-        *this, isTracking, [this](bool isOn) { m_slideSync().setActive(isOn); },
+        *this, isTracking, [this](bool isOn) { m_slideSync.setActive(isOn); },
         changeOf(m_settings, &SettingsStore::slideSyncChanged),
         changeOf(m_library, &LibraryStore::activeScriptIDChanged),
         changeOf(m_library, &LibraryStore::scriptsChanged));

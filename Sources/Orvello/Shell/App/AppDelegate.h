@@ -11,10 +11,8 @@
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
-#include "Orvello/Shell/App/Lazy.h"
 #include "Orvello/Shell/Commands/AppCommands.h"
 #include "Orvello/Shell/Commands/HotKeyCenter.h"
-#include "Orvello/Shell/Commands/HotKeyTable.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
 #include "Orvello/Shell/Commands/StatusMenu.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
@@ -88,7 +86,6 @@ private:
     void onboardingFinished();
     void setupStatusItem();
     void registerHotKeys();
-    void run(HotKeyTable::Command command);
     void startUpdates();
     void subscribe();
     void followSlideTracking();
@@ -111,13 +108,13 @@ private:
     AppleScriptRunner m_scriptRunner;
     PresenterTable m_presenters;
     ProcessMicActivity m_micActivity;
-    Lazy<ScrollEngine> m_engine;
-    Lazy<VoiceActivityEngine> m_voice;
+    ScrollEngine m_engine;
+    VoiceActivityEngine m_voice;
     PresentationMonitor m_presentation;
     std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
     std::unique_ptr<ImpressAdviceDialog> m_impressAdvice;
-    Lazy<SlideSyncService> m_slideSync;
-    Lazy<DeckController> m_deck;
+    SlideSyncService m_slideSync;
+    DeckController m_deck;
     UpdateController m_updates;
     HotKeyCenter m_hotKeys;
     std::unique_ptr<PrompterWindow> m_prompterWindow;

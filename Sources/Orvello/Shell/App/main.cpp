@@ -62,8 +62,8 @@ AppLog::Session sessionOn(EarlyPlatform& platform)
 void migrate(EarlyPlatform& platform)
 {
     const auto former = platform.userDefaultsOf(LegacyMigration::formerDomain.toString());
-    LegacyMigration::runIfNeeded(
-        { platform.userDefaults(), *former, platform.folders(), WelcomeScript::body() });
+    LegacyMigration::runIfNeeded({ platform.userDefaults(), *former, platform.folders(),
+        WelcomeScript::body(platform.facts()) });
 }
 
 /// What keeps a file from being imported, for each of the files that are no decks.

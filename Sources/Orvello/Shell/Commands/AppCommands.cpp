@@ -12,9 +12,19 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace Orvello {
+
+namespace {
+
+// What the speed keys do, in points per second.
+constexpr double speedStep = 10;
+constexpr double slowestSpeed = 15;
+constexpr double fastestSpeed = 240;
+
+} // namespace
 
 AppCommands::AppCommands(Services services, Delegate delegate)
     : m_services(std::move(services))
@@ -30,6 +40,16 @@ QString AppCommands::versionText()
 }
 
 void AppCommands::toggleScroll() { m_services.engine.toggle(); }
+
+void AppCommands::speedUp()
+{
+    m_services.settings.setSpeed(std::min(m_services.settings.speed() + speedStep, fastestSpeed));
+}
+
+void AppCommands::slowDown()
+{
+    m_services.settings.setSpeed(std::max(m_services.settings.speed() - speedStep, slowestSpeed));
+}
 
 void AppCommands::backToTop() { m_services.engine.setOffset(0); }
 
@@ -74,13 +94,19 @@ void AppCommands::openTour() { m_delegate.showOnboarding(); }
 
 void AppCommands::checkForUpdates() { m_services.updates.checkForUpdates(); }
 
+QUrl AppCommands::supportLetter() const
+{
+    return Support::mailLink(
+        QString::fromLatin1(supportAddress), versionText(), m_services.facts.operatingSystem);
+}
+
 void AppCommands::contactSupport()
 {
-    const QUrl letter = Support::mailLink(
-        QString::fromLatin1(supportAddress), versionText(), m_services.operatingSystemVersion);
-    if (!letter.isEmpty())
+    if (const QUrl letter = supportLetter(); !letter.isEmpty())
         m_services.desktop.open(letter);
 }
+
+bool AppCommands::hasSupportAddress() const { return !supportLetter().isEmpty(); }
 
 void AppCommands::revealLogs()
 {
@@ -89,5 +115,15 @@ void AppCommands::revealLogs()
 
 /// Windows that are open are not asked: closing the tour would count as having seen it.
 void AppCommands::terminate() { QCoreApplication::exit(); }
+
+bool AppCommands::isScrolling() const { return m_services.engine.isRunning(); }
+
+bool AppCommands::isPanelVisible() const { return m_delegate.isPanelVisible(); }
+
+bool AppCommands::isVoiceOn() const { return m_services.settings.voiceFollow(); }
+
+bool AppCommands::isSlideTrackingOn() const { return m_services.settings.slideSync(); }
+
+bool AppCommands::isStealthOn() const { return m_services.settings.stealthMode(); }
 
 } // namespace Orvello

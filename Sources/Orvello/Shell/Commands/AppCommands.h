@@ -1,6 +1,9 @@
 #pragma once
 
-#include "Orvello/Shell/Commands/StatusMenu.h"
+#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Shell/Commands/Command.h"
+
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -14,8 +17,8 @@ class ShellWindow;
 class ShellWindows;
 class UpdateController;
 
-/// What the lines of the status menu do.
-class AppCommands final : public StatusMenuCommands {
+/// What the commands do in the program.
+class AppCommands final : public CommandTarget {
 public:
     /// All of them must outlive the commands.
     struct Services {
@@ -24,12 +27,13 @@ public:
         UpdateController& updates;
         DesktopServices& desktop;
         ShellWindows& windows;
-        QString operatingSystemVersion;
+        Facts facts;
     };
 
     /// What is the application delegate's own business.
     struct Delegate {
         std::function<void()> togglePanel;
+        std::function<bool()> isPanelVisible;
         std::function<void()> showOnboarding;
     };
 
@@ -40,6 +44,8 @@ public:
     static QString versionText();
 
     void toggleScroll() override;
+    void speedUp() override;
+    void slowDown() override;
     void backToTop() override;
     void toggleVoice() override;
     void toggleSlideTracking() override;
@@ -53,7 +59,15 @@ public:
     void revealLogs() override;
     void terminate() override;
 
+    bool isScrolling() const override;
+    bool isPanelVisible() const override;
+    bool isVoiceOn() const override;
+    bool isSlideTrackingOn() const override;
+    bool isStealthOn() const override;
+    bool hasSupportAddress() const override;
+
 private:
+    QUrl supportLetter() const;
     void show(ShellWindow& window);
 
     const Services m_services;

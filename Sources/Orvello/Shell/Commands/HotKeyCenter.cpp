@@ -7,34 +7,10 @@
 
 namespace Orvello {
 
-namespace {
-
-HotKeyCenter* sharedCenter = nullptr;
-
-} // namespace
-
-HotKeyCenter& HotKeyCenter::shared()
-{
-    Q_ASSERT(sharedCenter);
-    return *sharedCenter;
-}
-
-void HotKeyCenter::adoptShared(HotKeyCenter& center)
-{
-    Q_ASSERT(!sharedCenter);
-    sharedCenter = &center;
-}
-
 HotKeyCenter::HotKeyCenter(HotKeys& system, std::uint32_t firstID)
     : m_system(system)
     , m_nextID(firstID)
 {
-}
-
-HotKeyCenter::~HotKeyCenter()
-{
-    if (sharedCenter == this)
-        sharedCenter = nullptr;
 }
 
 std::uint32_t HotKeyCenter::registerHotKey(

@@ -18,13 +18,8 @@ public:
     /// The four-character code 'OVHK' that marks this program's keys.
     static constexpr std::uint32_t signature = 0x4F56484B;
 
-    /// The process's one center; `adoptShared` names it once, at launch.
-    static HotKeyCenter& shared();
-    static void adoptShared(HotKeyCenter& center);
-
     /// `system` must outlive the center. Ids count up from `firstID`.
     explicit HotKeyCenter(HotKeys& system, std::uint32_t firstID = 1);
-    ~HotKeyCenter();
     HotKeyCenter(const HotKeyCenter&) = delete;
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 

@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Commands/MainMenu.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMetaMethod>
 
@@ -7,23 +8,32 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Orvello::MainMenu", text);
+}
+
+} // namespace
+
 std::unique_ptr<Menu> makeMainMenu(const EditingTarget& sendToFirstResponder)
 {
     auto mainMenu = std::make_unique<Menu>();
-    Menu& edit = mainMenu->addSubmenu(u"Edit"_s);
-    const auto add = [&](const QString& title, const char* command, const QString& key) {
+    Menu& edit = mainMenu->addSubmenu(translated(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Edit")));
+    const auto add = [&](const char* title, const char* command, const QString& key) {
         MenuItem& item = edit.addItem(
-            title, [sendToFirstResponder, command] { sendToFirstResponder(command); });
+            translated(title), [sendToFirstResponder, command] { sendToFirstResponder(command); });
         item.command = command;
         item.keyEquivalent = key;
     };
-    add(u"Undo"_s, "undo", u"z"_s);
-    add(u"Redo"_s, "redo", u"Z"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Undo"), "undo", u"z"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Redo"), "redo", u"Z"_s);
     edit.addSeparator();
-    add(u"Cut"_s, "cut", u"x"_s);
-    add(u"Copy"_s, "copy", u"c"_s);
-    add(u"Paste"_s, "paste", u"v"_s);
-    add(u"Select All"_s, "selectAll", u"a"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Cut"), "cut", u"x"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Copy"), "copy", u"c"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Paste"), "paste", u"v"_s);
+    add(QT_TRANSLATE_NOOP("Orvello::MainMenu", "Select All"), "selectAll", u"a"_s);
     return mainMenu;
 }
 

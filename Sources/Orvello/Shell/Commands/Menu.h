@@ -20,10 +20,14 @@ struct MenuItem {
         keyEquivalent; ///< The letter that is pressed with the command key; upper case: and shift.
     bool isCheckable = false;
     bool isChecked = false;
+    bool isPossible = true; ///< As things stand.
     std::unique_ptr<Menu> submenu;
 
     bool isSeparator() const { return title.isEmpty() && !action && !submenu; }
-    bool isEnabled() const { return action || submenu; } ///< Whether it can be chosen.
+    bool isEnabled() const
+    {
+        return (action && isPossible) || submenu;
+    } ///< Whether it can be chosen.
 };
 
 /// A menu as a list of lines, apart from the toolkit that draws it. Lines stay where they are, so

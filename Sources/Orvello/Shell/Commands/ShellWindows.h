@@ -1,12 +1,14 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
+
 #include <functional>
 #include <memory>
 
 namespace Orvello {
 
 class AppleScriptRunner;
-class AssignedKeys;
+class HotKeys;
 class LibraryStore;
 class Menu;
 class OpenPanel;
@@ -44,8 +46,8 @@ public:
         OpenPanel& openPanel;
         WindowChrome& windowChrome;
         StatusBar& statusBar;
-        AssignedKeys& assignedKeys;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode can hide the prompter here.
+        HotKeys& hotKeys;
+        Facts facts; ///< What the windows may say of this machine.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

@@ -1,62 +1,62 @@
 #include "Orvello/Shell/Commands/StatusMenu.h"
 
-#include "Orvello/Platform/Desktop/NativePanel.h"
-#include "Orvello/Prompting/Engine/ScrollEngine.h"
-#include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Shell/Commands/Command.h"
+
+#include <array>
 
 namespace Orvello {
 
-using namespace Qt::StringLiterals;
+namespace {
 
-StatusMenu::StatusMenu(const State& state, StatusMenuCommands& commands, const QString& versionText)
-    : m_state(state)
-    , m_scrollItem(&addItem({}, [&commands] { commands.toggleScroll(); }))
+constexpr std::string_view separator;
+constexpr auto lines = std::to_array<std::string_view>({ "toggle", "restart", separator, "voice",
+    "tracking", "stealth", "hide", separator, "scripts", "settings", "tour", "check-updates" });
+
+} // namespace
+
+StatusMenu::StatusMenu(CommandTarget& target, const HotKeys& keys, const QString& versionText)
+    : m_target(target)
+    , m_keys(keys)
 {
-    addItem(u"Back to Top"_s, [&commands] { commands.backToTop(); });
+    for (const std::string_view name : lines) {
+        if (name == separator)
+            addSeparator();
+        else
+            add(*this, name);
+    }
+    addHelp(versionText);
     addSeparator();
-    addModes(commands);
-    addSeparator();
-    addWindows(commands);
-    addHelp(commands, versionText);
-    addSeparator();
-    addItem(u"Quit Orvello"_s, [&commands] { commands.terminate(); }).keyEquivalent = u"q"_s;
+    add(*this, "quit");
     needsUpdate();
 }
 
-void StatusMenu::addModes(StatusMenuCommands& commands)
+void StatusMenu::add(Menu& menu, std::string_view name)
 {
-    m_voiceItem = &addSwitch(u"Voice-Follow Scrolling"_s, [&commands] { commands.toggleVoice(); });
-    m_trackItem = &addSwitch(u"Slide Tracking"_s, [&commands] { commands.toggleSlideTracking(); });
-    m_stealthItem = &addSwitch(u"Stealth Mode"_s, [&commands] { commands.toggleStealth(); });
-    m_visibilityItem = &addItem({}, [&commands] { commands.togglePanel(); });
+    const Command& command = Commands::named(name);
+    MenuItem& item = menu.addItem({}, [this, run = command.run] { (m_target.*run)(); });
+    item.isCheckable = command.isSwitch();
+    if (command.menuKey != 0)
+        item.keyEquivalent = QChar(command.menuKey);
+    m_lines.emplace_back(&command, &item);
 }
 
-void StatusMenu::addWindows(StatusMenuCommands& commands)
+void StatusMenu::addHelp(const QString& versionText)
 {
-    addItem(u"Scripts…"_s, [&commands] { commands.openLibrary(); });
-    addItem(u"Settings…"_s, [&commands] { commands.openSettings(); });
-    addItem(u"Welcome Tour…"_s, [&commands] { commands.openTour(); });
-    addItem(u"Check for Updates…"_s, [&commands] { commands.checkForUpdates(); });
-}
-
-void StatusMenu::addHelp(StatusMenuCommands& commands, const QString& versionText)
-{
-    Menu& help = addSubmenu(u"Help"_s);
-    help.addItem(u"Contact Support…"_s, [&commands] { commands.contactSupport(); });
-    help.addItem(u"Reveal Log Files"_s, [&commands] { commands.revealLogs(); });
+    Menu& help = addSubmenu(tr("Help"));
+    add(help, "support");
+    add(help, "logs");
     help.addSeparator();
-    help.addItem(u"Orvello "_s + versionText, {});
+    //: A line of the help menu. %1: the program's version, such as "2.1 (57)".
+    help.addItem(tr("Orvello %1").arg(versionText), {});
 }
 
 void StatusMenu::needsUpdate()
 {
-    m_scrollItem->title
-        = m_state.engine.isRunning() ? u"Pause Scrolling  (⌥⌘P)"_s : u"Start Scrolling  (⌥⌘P)"_s;
-    m_voiceItem->isChecked = m_state.settings.voiceFollow();
-    m_trackItem->isChecked = m_state.settings.slideSync();
-    m_stealthItem->isChecked = m_state.settings.stealthMode();
-    m_visibilityItem->title
-        = m_state.panel.isVisible() ? u"Hide Prompter  (⌥⌘H)"_s : u"Show Prompter  (⌥⌘H)"_s;
+    for (const auto& [command, item] : m_lines) {
+        item->title = Commands::title(*command, m_target, m_keys);
+        item->isChecked = command->isSwitch() && (m_target.*command->isOn)();
+        item->isPossible = !command->isPossible || (m_target.*command->isPossible)();
+    }
 }
 
 } // namespace Orvello

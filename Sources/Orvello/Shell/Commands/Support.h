@@ -8,8 +8,9 @@ namespace Orvello::Support {
 /// The version and the build for people, as in "2.1 (57)"; an unknown one is a question mark.
 [[nodiscard]] QString versionText(const QString& version, const QString& build);
 
-/// A letter to the support address, begun. An empty address gives an empty link.
+/// A letter to the support address, begun; the system with its name and version. An empty address
+/// gives an empty link.
 [[nodiscard]] QUrl mailLink(
-    const QString& address, const QString& versionText, const QString& osVersion);
+    const QString& address, const QString& versionText, const QString& operatingSystem);
 
 } // namespace Orvello::Support

@@ -22,15 +22,13 @@ UpdateItem updateItem(const AppcastItem& item) { return { item.version, item.dis
 
 } // namespace
 
-AppcastUpdater::AppcastUpdater(const Services& services, Appcast::Host host, QString feed)
+AppcastUpdater::AppcastUpdater(const Services& services, QString version, QString feed)
     : m_services(services)
-    , m_host(std::move(host))
+    , m_version(std::move(version))
     , m_builtInFeed(std::move(feed))
     , m_loader(services.time)
 {
 }
-
-AppcastUpdater::~AppcastUpdater() = default;
 
 void AppcastUpdater::start(UpdaterDelegate& delegate)
 {
@@ -148,10 +146,10 @@ void AppcastUpdater::check(Origin origin)
     enter(Phase::Loading);
     const QUrl url(feed(), QUrl::StrictMode);
     if (feed().isEmpty() || !url.isValid())
-        return abort({ u"There is no valid update feed."_s, UpdateError::invalidFeed });
+        return abort({ tr("There is no valid update feed."), UpdateError::invalidFeed });
     if (!FeedLoader::isSecure(url))
-        return abort({ u"The update feed is not secure."_s, UpdateError::insecureFeed });
-    m_loader.load(url, u"Orvello/"_s + m_host.version,
+        return abort({ tr("The update feed is not secure."), UpdateError::insecureFeed });
+    m_loader.load(url, u"Orvello/"_s + m_version,
         [this](const Result<QByteArray, QString>& document) { loaded(document); });
 }
 
@@ -159,12 +157,16 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
 {
     if (!document)
         return abort(
-            { u"The update feed cannot be read: "_s + document.error(), UpdateError::download });
-    const auto items = Appcast::parse(*document, m_host.operatingSystem);
+            //: %1: why, as a sentence.
+            { tr("The update feed cannot be read: %1").arg(document.error()),
+                UpdateError::download });
+    const auto items = Appcast::parse(*document, u"linux"_s);
     if (!items)
         return abort(
-            { u"The update feed makes no sense: "_s + items.error(), UpdateError::appcastParse });
-    const AppcastItem* const item = Appcast::newest(*items, m_host);
+            //: %1: why, as a sentence.
+            { tr("The update feed makes no sense: %1").arg(items.error()),
+                UpdateError::appcastParse });
+    const AppcastItem* const item = Appcast::newest(*items, m_version);
     const bool isSkipped = item && m_origin == Origin::Schedule
         && DefaultsValue::asString(m_services.defaults.value(skippedKey)) == item->version;
     if (item && !isSkipped)
@@ -201,15 +203,15 @@ void AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem&
     // The feed decides what is opened, so it must not be able to start just any program.
     if (!FeedLoader::isSecure(item.page))
         m_delegate->failedToDownloadUpdate(
-            update, { u"The update feed names no secure page."_s, UpdateError::download });
+            update, { tr("The update feed names no secure page."), UpdateError::download });
     else if (!m_services.desktop.open(item.page))
         m_delegate->failedToDownloadUpdate(
-            update, { u"The download page cannot be opened."_s, UpdateError::download });
+            update, { tr("The download page cannot be opened."), UpdateError::download });
 }
 
 void AppcastUpdater::upToDate()
 {
-    const UpdateError error { u"Orvello is up to date."_s, UpdateError::noUpdate };
+    const UpdateError error { tr("Orvello is up to date."), UpdateError::noUpdate };
     m_delegate->didNotFindUpdate(error);
     abort(error);
 }

@@ -33,9 +33,8 @@ public:
         DesktopServices& desktop;
     };
 
-    /// Looks for updates of `host` in `feed`; an empty feed is none.
-    AppcastUpdater(const Services& services, Appcast::Host host, QString feed);
-    ~AppcastUpdater() override;
+    /// Looks in `feed` for updates of a program of that version; an empty feed is none.
+    AppcastUpdater(const Services& services, QString version, QString feed);
 
     void start(UpdaterDelegate& delegate) override;
     void check() override;
@@ -69,7 +68,7 @@ private:
     void finish(const QString& outcome);
 
     const Services m_services;
-    const Appcast::Host m_host;
+    const QString m_version;
     const QString m_builtInFeed;
     FeedLoader m_loader;
     UpdaterDelegate* m_delegate = nullptr; ///< Null until started.

@@ -1,6 +1,7 @@
 #include "Orvello/Shell/Updates/FeedLoader.h"
 
 #include <QHostAddress>
+#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
@@ -19,7 +20,7 @@ void dispose(QNetworkReply* reply)
 {
     reply->disconnect();
     reply->abort();
-    reply->deleteLater();
+    reply->manager()->deleteLater();
 }
 
 bool isThisMachine(const QString& host)
@@ -33,7 +34,6 @@ FeedLoader::FeedLoader(TimeSource& time)
     : m_time(time)
     , m_reply(nullptr, &dispose)
 {
-    m_network.setRedirectPolicy(QNetworkRequest::UserVerifiedRedirectPolicy);
 }
 
 FeedLoader::~FeedLoader() = default;
@@ -48,59 +48,38 @@ bool FeedLoader::isSecure(const QUrl& url)
 void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
 {
     m_answer = std::move(answer);
-    m_document.clear();
-    m_isOverTls = url.scheme() == u"https";
     QNetworkRequest request(url);
     request.setMaximumRedirectsAllowed(maximumRedirects);
     request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
     // Compression would only let a small answer become a huge document.
     request.setRawHeader("Accept-Encoding", "identity");
-    request.setAttribute(
-        QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
 
-    // A connection kept since the last document, a day ago as a rule, is dead.
-    m_network.clearConnectionCache();
-    m_reply.reset(m_network.get(request));
-    connect(m_reply.get(), &QNetworkReply::redirected, this, &FeedLoader::redirected);
-    connect(m_reply.get(), &QNetworkReply::readyRead, this, &FeedLoader::received);
-    connect(m_reply.get(), &QNetworkReply::finished, this, &FeedLoader::finished);
-    m_timeout = m_time.callAfter(
-        timeoutSeconds, [this] { fail(u"The server did not answer in time."_s); });
+    // A network of its own, so that no cookie and no dead connection outlives the document. Its
+    // redirects never lead from TLS to anything else.
+    m_reply.reset((new QNetworkAccessManager(this))->get(request));
+    connect(m_reply.get(), &QNetworkReply::redirected, this, [this](const QUrl& target) {
+        if (!isSecure(target))
+            this->answer(Failure { tr("The server redirects to an insecure address.") });
+    });
+    connect(m_reply.get(), &QNetworkReply::readyRead, this, [this] {
+        if (m_reply->bytesAvailable() > maximumBytes)
+            this->answer(Failure { tr("The document is too large.") });
+    });
+    connect(m_reply.get(), &QNetworkReply::finished, this, [this] { this->answer(document()); });
+    m_timeout = m_time.callAfter(timeoutSeconds,
+        [this] { this->answer(Failure { tr("The server did not answer in time.") }); });
 }
 
-void FeedLoader::redirected(const QUrl& target)
+Result<QByteArray, QString> FeedLoader::document() const
 {
-    const bool isDowngrade = m_isOverTls && target.scheme() != u"https";
-    m_isOverTls = target.scheme() == u"https";
-    if (isSecure(target) && !isDowngrade)
-        Q_EMIT m_reply->redirectAllowed();
-    else
-        fail(u"The server redirects to an insecure address."_s);
-}
-
-void FeedLoader::received()
-{
-    m_document += m_reply->read(maximumBytes + 1 - m_document.size());
-    if (m_document.size() > maximumBytes)
-        fail(u"The document is too large."_s);
-}
-
-void FeedLoader::finished()
-{
-    const QVariant status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (m_reply->error() != QNetworkReply::NoError)
-        return fail(m_reply->errorString());
     constexpr int ok = 200;
-    if (status.toInt() != ok)
-        return fail(u"The server answers with status %1."_s.arg(status.toInt()));
-    received(); // What is left; a document that is too large is answered there.
-    if (m_answer)
-        answer(std::exchange(m_document, {}));
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (m_reply->error() != QNetworkReply::NoError)
+        return Failure { m_reply->errorString() };
+    if (status != ok)
+        return Failure { tr("The server answers with status %1.").arg(status) };
+    return m_reply->readAll();
 }
-
-void FeedLoader::fail(const QString& reason) { answer(Failure { reason }); }
 
 void FeedLoader::answer(const Result<QByteArray, QString>& result)
 {

@@ -4,7 +4,6 @@
 #include "Orvello/Platform/Early/TimeSource.h"
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -38,18 +37,12 @@ public:
     void load(const QUrl& url, const QString& userAgent, Answer answer);
 
 private:
-    void redirected(const QUrl& target);
-    void received();
-    void finished();
-    void fail(const QString& reason);
+    Result<QByteArray, QString> document() const;
     void answer(const Result<QByteArray, QString>& result);
 
     TimeSource& m_time;
-    QNetworkAccessManager m_network;
     std::unique_ptr<QNetworkReply, void (*)(QNetworkReply*)> m_reply;
     std::unique_ptr<TimeSource::Ticket> m_timeout;
-    QByteArray m_document;
-    bool m_isOverTls = false; ///< Where the redirects have led so far.
     Answer m_answer;
 };
 

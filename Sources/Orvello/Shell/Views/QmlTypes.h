@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
@@ -14,6 +15,7 @@
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Settings/WelcomeTour/WelcomeTour.h"
 #include "Orvello/Settings/Window/SettingsForm.h"
+#include "Orvello/Shell/Commands/ShortcutList.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
@@ -21,6 +23,19 @@
 
 /// What the views know the services as. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
+
+struct FactsType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Facts)
+    QML_VALUE_TYPE(facts)
+};
+
+struct ShortcutListType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ShortcutList)
+    QML_NAMED_ELEMENT(ShortcutList)
+    QML_UNCREATABLE("The program makes it.")
+};
 
 struct AssignedKeysType {
     Q_GADGET

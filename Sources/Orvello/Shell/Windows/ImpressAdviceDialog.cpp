@@ -10,13 +10,6 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Shown meanwhile.
-const QString changing = u"Orvello is talking to LibreOffice…\n\nThis may take some seconds."_s;
-
-} // namespace
-
 ImpressAdviceDialog::ImpressAdviceDialog(ImpressPresenter& impress, QObject* parent)
     : QObject(parent)
     , m_impress(impress)
@@ -30,13 +23,13 @@ void ImpressAdviceDialog::advise()
 {
     if (m_impress.isChanging())
         return;
-    QMessageBox& box = open(u"Let Orvello follow your Impress presentations?"_s,
-        u"LibreOffice tells other programs nothing about a presentation until you allow it. "
-        u"Orvello "
-        "can do that for you: it changes one setting of LibreOffice, and you can take it back at "
-        "any time."_s);
-    const QPushButton* allow = box.addButton(u"Allow"_s, QMessageBox::AcceptRole);
-    box.addButton(u"Not Now"_s, QMessageBox::RejectRole);
+    QMessageBox& box = open(tr("Let Orvello follow your Impress presentations?"),
+        tr("LibreOffice tells other programs nothing about a presentation until you allow it. "
+           "Orvello can do that for you: it changes one setting of LibreOffice, and you can take "
+           "it "
+           "back at any time."));
+    const QPushButton* allow = box.addButton(tr("Allow"), QMessageBox::AcceptRole);
+    box.addButton(tr("Not Now"), QMessageBox::RejectRole);
     connect(allow, &QPushButton::clicked, this, &ImpressAdviceDialog::allow);
     box.show();
 }
@@ -47,7 +40,7 @@ void ImpressAdviceDialog::allow()
         if (self)
             self->tell(change.message, change.isDone ? Undo::Offered : Undo::NotOffered);
     });
-    tell(changing, Undo::NotOffered);
+    tellChanging();
 }
 
 void ImpressAdviceDialog::disallow()
@@ -56,19 +49,25 @@ void ImpressAdviceDialog::disallow()
         if (self)
             self->tell(change.message, Undo::NotOffered);
     });
-    tell(changing, Undo::NotOffered);
+    tellChanging();
+}
+
+/// Shown meanwhile.
+void ImpressAdviceDialog::tellChanging()
+{
+    tell(tr("Orvello is talking to LibreOffice…\n\nThis may take some seconds."), Undo::NotOffered);
 }
 
 /// The first paragraph is what matters.
 void ImpressAdviceDialog::tell(const QString& message, Undo undo)
 {
     QMessageBox& box = open(message.section(u"\n\n"_s, 0, 0), message.section(u"\n\n"_s, 1));
-    QPushButton* done = box.addButton(u"OK"_s, QMessageBox::AcceptRole);
+    QPushButton* done = box.addButton(tr("OK"), QMessageBox::AcceptRole);
     box.setDefaultButton(done);
     // A box that cannot be closed would keep the program from quitting.
     box.setEscapeButton(done);
     if (undo == Undo::Offered) {
-        const QPushButton* button = box.addButton(u"Undo"_s, QMessageBox::ResetRole);
+        const QPushButton* button = box.addButton(tr("Undo"), QMessageBox::ResetRole);
         connect(button, &QPushButton::clicked, this, &ImpressAdviceDialog::disallow);
     }
     box.show();

@@ -27,6 +27,7 @@ private:
     void advise();
     void allow();
     void disallow();
+    void tellChanging();
     void tell(const QString& message, Undo undo);
     QMessageBox& open(const QString& text, const QString& explanation);
 

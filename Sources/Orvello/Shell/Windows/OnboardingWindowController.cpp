@@ -29,7 +29,8 @@ OnboardingWindowController::OnboardingWindowController(
     const Services& services, std::function<void()> onFinish)
     : m_settings(services.settings)
     , m_onFinish(std::move(onFinish))
-    , m_tour(initialPage(), services.workspace.isInstalled(u"us.zoom.xos"_s))
+    , m_tour(initialPage(), services.workspace.isInstalled(u"us.zoom.xos"_s), services.facts)
+    , m_shortcuts(services.hotKeys, ShortcutList::Width::Narrow)
 {
     m_view.setTitle(tr("Welcome to Orvello"));
     m_view.setFlags(ViewWindow::titledAndClosable);
@@ -40,8 +41,8 @@ OnboardingWindowController::OnboardingWindowController(
         {
             { u"tour"_s, QVariant::fromValue(&m_tour) },
             { u"headingFamily"_s, PromptFont::family() },
-            { u"assignedKeys"_s, QVariant::fromValue(&services.assignedKeys) },
-            { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
+            { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
+            { u"facts"_s, QVariant::fromValue(services.facts) },
             { u"hasCloseButton"_s, !hasSystemCloseButton },
         });
 

@@ -2,6 +2,7 @@
 
 #include "Orvello/Settings/WelcomeTour/WelcomeTour.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/ShortcutList.h"
 
 #include <QObject>
 #include <QQuickView>
@@ -28,8 +29,8 @@ public:
         SettingsStore& settings;
         const Workspace& workspace;
         WindowChrome& chrome;
-        AssignedKeys& assignedKeys;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
+        HotKeys& hotKeys;
+        Facts facts; ///< What the tour may say of this machine.
     };
 
     /// `onFinish` is called once, through the main event loop, by whichever way the user leaves. It
@@ -51,6 +52,7 @@ private:
     std::function<void()> m_onFinish;
     bool m_finished = false;
     WelcomeTour m_tour;
+    ShortcutList m_shortcuts;
     QQuickView m_view;
 };
 

@@ -60,6 +60,7 @@ void QtMenu::follow()
         QAction& line = *lines[static_cast<qsizetype>(i)];
         line.setText(item.title);
         line.setChecked(item.isChecked);
+        line.setEnabled(item.isSeparator() || item.isEnabled());
     }
 }
 

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 
 SettingsWindow::SettingsWindow(const Services& services)
     : m_form(services.settings)
+    , m_shortcuts(services.hotKeys, ShortcutList::Width::Full)
 {
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
@@ -28,8 +29,8 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"updates"_s, QVariant::fromValue(&services.updates) },
             { u"version"_s, QString::fromLatin1(version) },
-            { u"assignedKeys"_s, QVariant::fromValue(&services.assignedKeys) },
-            { u"canExcludeFromCapture"_s, services.canExcludeFromCapture },
+            { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
+            { u"facts"_s, QVariant::fromValue(services.facts) },
         });
 }
 

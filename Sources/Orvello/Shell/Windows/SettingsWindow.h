@@ -2,6 +2,7 @@
 
 #include "Orvello/Settings/Window/SettingsForm.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Commands/ShortcutList.h"
 
 #include <QCoreApplication>
 #include <QQuickView>
@@ -25,8 +26,8 @@ public:
         SettingsStore& settings;
         VoiceActivityEngine& voice;
         UpdateController& updates;
-        AssignedKeys& assignedKeys;
-        bool canExcludeFromCapture; ///< Whether Stealth Mode has an effect here.
+        HotKeys& hotKeys;
+        Facts facts; ///< What the window may say of this machine.
     };
 
     explicit SettingsWindow(const Services& services);
@@ -37,6 +38,7 @@ public:
 
 private:
     SettingsForm m_form;
+    ShortcutList m_shortcuts;
     QQuickView m_view;
 };
 

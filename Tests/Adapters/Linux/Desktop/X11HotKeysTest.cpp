@@ -271,6 +271,15 @@ TEST_F(X11HotKeysTest, followsAModifierThatMovesToAnotherBit)
     EXPECT_TRUE(waitForPresses(1));
 }
 
+TEST_F(X11HotKeysTest, callsTheKeysWhatIsOnThem)
+{
+    EXPECT_EQ(keys->label(HotKey::keyP, optionCommand), QStringLiteral("Alt+Super+P"));
+    EXPECT_EQ(keys->label(HotKey::keyUp, optionCommand), QStringLiteral("Alt+Super+↑"));
+    EXPECT_EQ(keys->label(HotKey::keyDown, HotKey::commandKey), QStringLiteral("Super+↓"));
+    EXPECT_EQ(keys->label(HotKey::keyP, 0), QStringLiteral("P"));
+    EXPECT_EQ(keys->label(99, optionCommand), QString());
+}
+
 TEST_F(X11HotKeysTest, waitsForAModifierThatTheKeyboardLacks)
 {
     run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });

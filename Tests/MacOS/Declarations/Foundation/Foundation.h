@@ -88,7 +88,6 @@ typedef NSUInteger NSKeyValueObservingOptions;
 @property (nullable, nonatomic, readonly) ObjectType firstObject;
 + (instancetype)arrayWithObjects:(const ObjectType _Nonnull __unsafe_unretained[_Nonnull])objects
                            count:(NSUInteger)cnt;
-+ (instancetype)array;
 - (NSString*)componentsJoinedByString:(NSString*)separator;
 @end
 
@@ -100,11 +99,6 @@ typedef NSUInteger NSKeyValueObservingOptions;
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType>
     : NSObject <NSCopying, NSFastEnumeration>
 - (nullable ObjectType)objectForKey:(KeyType)aKey;
-+ (instancetype)dictionary;
-@end
-
-@interface NSMutableDictionary<KeyType, ObjectType> : NSDictionary <KeyType, ObjectType>
-- (void)setObject:(ObjectType)anObject forKey:(KeyType<NSCopying>)aKey;
 @end
 
 @interface NSString : NSObject <NSCopying>
@@ -117,11 +111,9 @@ typedef NSUInteger NSKeyValueObservingOptions;
 @property (readonly) BOOL boolValue;
 @property (readonly) double doubleValue;
 @property (readonly) long long longLongValue;
-@property (readonly) unsigned long long unsignedLongLongValue;
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithDouble:(double)value;
 + (NSNumber*)numberWithLongLong:(long long)value;
-+ (NSNumber*)numberWithUnsignedLongLong:(unsigned long long)value;
 @end
 
 @interface NSData : NSObject <NSCopying>
@@ -132,7 +124,6 @@ typedef NSUInteger NSKeyValueObservingOptions;
 
 @interface NSDate : NSObject <NSCopying>
 @property (readonly) NSTimeInterval timeIntervalSinceReferenceDate;
-+ (instancetype)dateWithTimeIntervalSinceReferenceDate:(NSTimeInterval)ti;
 @end
 
 typedef NSString* NSExceptionName;

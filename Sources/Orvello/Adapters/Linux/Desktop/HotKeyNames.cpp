@@ -1,5 +1,7 @@
 #include "Orvello/Adapters/Linux/Desktop/HotKeyNames.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <array>
 
@@ -8,11 +10,11 @@ namespace Orvello {
 namespace {
 
 constexpr std::array<HotKeyName, 5> names { {
-    { HotKey::keyP, "AD10", "p", "P" },
-    { HotKey::keyUp, "UP", "Up", "Up" },
-    { HotKey::keyDown, "DOWN", "Down", "Down" },
-    { HotKey::keyR, "AD04", "r", "R" },
-    { HotKey::keyH, "AC06", "h", "H" },
+    { HotKey::keyP, "AD10", "p", "P", "P" },
+    { HotKey::keyUp, "UP", "Up", "Up", "↑" },
+    { HotKey::keyDown, "DOWN", "Down", "Down", "↓" },
+    { HotKey::keyR, "AD04", "r", "R", "R" },
+    { HotKey::keyH, "AC06", "h", "H", "H" },
 } };
 
 std::string joined(std::uint32_t modifiers, const char* option, const char* command)
@@ -37,6 +39,13 @@ std::string hotKeyLabel(const HotKeyName& name, std::uint32_t modifiers)
 std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers)
 {
     return joined(modifiers, "ALT+", "LOGO+") + name.symbol;
+}
+
+QString hotKeyText(std::uint32_t keyCode, std::uint32_t modifiers)
+{
+    const HotKeyName* const name = hotKeyName(keyCode);
+    return name ? QString::fromStdString(joined(modifiers, "Alt+", "Super+") + name->sign)
+                : QString();
 }
 
 } // namespace Orvello

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+class QString;
+
 namespace Orvello {
 
 /// What Linux calls the keys that the product asks for.
@@ -12,16 +14,20 @@ struct HotKeyName {
     std::uint32_t keyCode;
     const char* place; ///< The X server's name for the key's place on the keyboard.
     const char* symbol; ///< The name of what an American layout has there.
-    const char* label; ///< For people.
+    const char* label; ///< In the log.
+    const char* sign; ///< For people.
 };
 
 /// Null for a key that the product never asks for.
 const HotKeyName* hotKeyName(std::uint32_t keyCode);
 
-/// The key with its modifiers for people, such as "Alt+Super+P".
+/// The key with its modifiers in the log, such as "Alt+Super+Up".
 std::string hotKeyLabel(const HotKeyName& name, std::uint32_t modifiers);
 
 /// The same as freedesktop.org writes shortcuts, such as "ALT+LOGO+p".
 std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers);
+
+/// The same for people, such as "Alt+Super+↑"; empty for a key that the product never asks for.
+QString hotKeyText(std::uint32_t keyCode, std::uint32_t modifiers);
 
 } // namespace Orvello

@@ -19,7 +19,6 @@
 
 #include <QDBusConnection>
 #include <QGuiApplication>
-#include <QSysInfo>
 
 #include <memory>
 #include <optional>
@@ -77,8 +76,7 @@ struct Session {
 /// The updater and the windows in which it asks.
 struct Updates {
     Updates(TimeSource& time, UserDefaults& defaults, DesktopServices& desktop)
-        : updater({ time, defaults, dialogs, desktop },
-            { QString::fromLatin1(buildNumber), QSysInfo::kernelVersion(), u"linux"_s },
+        : updater({ time, defaults, dialogs, desktop }, QString::fromLatin1(buildNumber),
             QString::fromLatin1(feedAddress))
     {
     }

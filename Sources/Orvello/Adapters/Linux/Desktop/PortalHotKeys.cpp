@@ -160,6 +160,11 @@ std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKeyFor(
     return shortcut;
 }
 
+QString PortalHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
+{
+    return m_fallback.label(keyCode, modifiers);
+}
+
 void PortalHotKeys::askSoon()
 {
     m_state = State::Asking;

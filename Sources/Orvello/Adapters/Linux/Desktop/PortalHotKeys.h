@@ -44,6 +44,7 @@ public:
     /// Never null for a key that the portal may take: its answer comes later.
     std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
+    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
 
 private Q_SLOTS:
     void responded(uint response, const QVariantMap& results, const QDBusMessage& message);

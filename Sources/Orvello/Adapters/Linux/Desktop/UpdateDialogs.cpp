@@ -39,13 +39,13 @@ UpdateDialogs::~UpdateDialogs()
 
 void UpdateDialogs::askPermission(std::function<void(bool)> answer)
 {
-    m_permission = makeDialog(u"Check for updates automatically?"_s,
-        u"Once a day, Orvello would look at the vendor's web site for a newer version. Nothing "
-        u"about you is sent. You can change this in the settings at any time."_s);
+    m_permission = makeDialog(tr("Check for updates automatically?"),
+        tr("Once a day, Orvello would look at the vendor's web site for a newer version. Nothing "
+           "about you is sent. You can change this in the settings at any time."));
     const auto* const yes
-        = m_permission->addButton(u"Check Automatically"_s, QMessageBox::AcceptRole);
+        = m_permission->addButton(tr("Check Automatically"), QMessageBox::AcceptRole);
     m_permission->setEscapeButton(
-        m_permission->addButton(u"Don’t Check"_s, QMessageBox::RejectRole));
+        m_permission->addButton(tr("Don’t Check"), QMessageBox::RejectRole));
     QObject::connect(m_permission, &QMessageBox::finished, m_permission,
         [dialog = m_permission.get(), yes, answer = std::move(answer)] {
             answer(dialog->clickedButton() == yes);
@@ -56,13 +56,16 @@ void UpdateDialogs::askPermission(std::function<void(bool)> answer)
 void UpdateDialogs::showUpdate(const UpdateItem& item, std::function<void(UpdateChoice)> answer)
 {
     delete m_dialog;
-    m_dialog = makeDialog(u"Orvello %1 is available."_s.arg(item.displayVersion),
-        u"You have %1. The new version is on its download page, which Install opens in your "
-        u"browser."_s.arg(m_currentVersion));
-    const auto* const install = m_dialog->addButton(u"Install…"_s, QMessageBox::AcceptRole);
+    //: %1: the version, such as 2.1.
+    m_dialog = makeDialog(tr("Orvello %1 is available.").arg(item.displayVersion),
+        //: %1: the version. Install is the button's name.
+        tr("You have %1. The new version is on its download page, which Install opens in your "
+           "browser.")
+            .arg(m_currentVersion));
+    const auto* const install = m_dialog->addButton(tr("Install…"), QMessageBox::AcceptRole);
     const auto* const skip
-        = m_dialog->addButton(u"Skip This Version"_s, QMessageBox::DestructiveRole);
-    m_dialog->setEscapeButton(m_dialog->addButton(u"Later"_s, QMessageBox::RejectRole));
+        = m_dialog->addButton(tr("Skip This Version"), QMessageBox::DestructiveRole);
+    m_dialog->setEscapeButton(m_dialog->addButton(tr("Later"), QMessageBox::RejectRole));
     QObject::connect(m_dialog, &QMessageBox::finished, m_dialog,
         [dialog = m_dialog.get(), install, skip, answer = std::move(answer)] {
             const auto* const clicked = dialog->clickedButton();
@@ -84,7 +87,7 @@ void UpdateDialogs::bringToFront()
 void UpdateDialogs::showOutcome(const QString& text)
 {
     delete m_dialog;
-    m_dialog = makeDialog(text, u"You have %1."_s.arg(m_currentVersion));
+    m_dialog = makeDialog(text, tr("You have %1.").arg(m_currentVersion));
     m_dialog->addButton(QMessageBox::Ok);
     m_dialog->show();
     bringToFront();

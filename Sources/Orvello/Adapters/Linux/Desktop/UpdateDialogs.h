@@ -2,6 +2,7 @@
 
 #include "Orvello/Platform/Desktop/UpdateUserDriver.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -10,6 +11,8 @@ namespace Orvello {
 /// The updater's questions as small windows. They open without taking the keyboard, because the
 /// user may be presenting; whoever asked for a check gets them to the front.
 class UpdateDialogs final : public UpdateUserDriver {
+    Q_DECLARE_TR_FUNCTIONS(Orvello::UpdateDialogs)
+
 public:
     explicit UpdateDialogs(QString currentVersion); ///< For people.
     ~UpdateDialogs() override;

@@ -82,6 +82,11 @@ std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(
     return grabbed;
 }
 
+QString X11HotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
+{
+    return hotKeyText(keyCode, modifiers);
+}
+
 /// Tries to get the key, and says in the log when that it is not ours is news.
 void X11HotKeys::acquire(Grab& grab)
 {

@@ -32,6 +32,7 @@ public:
     void installHandler(Handler handler) override;
     std::unique_ptr<Reference> registerHotKey(
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
+    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
 
 private:
     enum class Holding;

@@ -1,12 +1,14 @@
 #include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
 
-#include "Orvello/Adapters/Linux/Early/PreferencesCoding.h"
 #include "Orvello/Foundation/AtomicFile.h"
 #include "Orvello/Shell/Launch/LaunchArguments.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+
+#include <optional>
 
 namespace Orvello {
 
@@ -17,13 +19,14 @@ namespace {
 /// Preferences take a few kilobytes; no file of this size holds them.
 constexpr qint64 maximumSize = 64LL * 1024 * 1024;
 
-std::optional<QVariantMap> readPreferences(const QString& path)
+std::optional<QJsonObject> readPreferences(const QString& path)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > maximumSize
         || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return std::nullopt;
-    return PreferencesCoding::decode(file.readAll());
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 
 QString unusedName(const QString& wanted)
@@ -47,7 +50,7 @@ JsonUserDefaults::JsonUserDefaults(
 QVariant JsonUserDefaults::value(const QString& key) const
 {
     const auto argument = m_launchArguments.find(key);
-    return argument != m_launchArguments.end() ? *argument : m_stored.value(key);
+    return argument != m_launchArguments.end() ? *argument : m_stored.value(key).toVariant();
 }
 
 void JsonUserDefaults::setValue(const QString& key, const QVariant& value)
@@ -56,23 +59,24 @@ void JsonUserDefaults::setValue(const QString& key, const QVariant& value)
         remove(key);
         return;
     }
-    Q_ASSERT(PreferencesCoding::isStorable(value));
-    m_stored.insert(key, value);
+    m_stored.insert(key, QJsonValue::fromVariant(value));
     save();
 }
 
 void JsonUserDefaults::remove(const QString& key)
 {
-    if (m_stored.remove(key) > 0)
+    if (m_stored.contains(key)) {
+        m_stored.remove(key);
         save();
+    }
 }
 
 void JsonUserDefaults::load()
 {
     if (!QFileInfo::exists(m_path))
         return;
-    const std::optional<QVariantMap> stored = readPreferences(m_path);
-    m_stored = stored.value_or(QVariantMap {});
+    const std::optional<QJsonObject> stored = readPreferences(m_path);
+    m_stored = stored.value_or(QJsonObject {});
     m_isFileDamaged = !stored;
 }
 
@@ -81,8 +85,7 @@ void JsonUserDefaults::save()
     QDir().mkpath(QFileInfo(m_path).path());
     if (m_isFileDamaged && !moveDamagedFileAside())
         return;
-    static_cast<void>(
-        AtomicFile::replace(m_path, PreferencesCoding::encode(m_stored).toStdString()));
+    static_cast<void>(AtomicFile::replace(m_path, QJsonDocument(m_stored).toJson().toStdString()));
 }
 
 bool JsonUserDefaults::moveDamagedFileAside()

@@ -2,13 +2,15 @@
 
 #include "Orvello/Platform/Early/UserDefaults.h"
 
+#include <QJsonObject>
 #include <QStringList>
 
 namespace Orvello {
 
-/// User defaults as one JSON file per domain, read once and written whole, atomically, at each
-/// change. A file that cannot be read or makes no sense counts as empty, but is not lost: the first
-/// change moves it aside, to its name with ".damaged" at the end.
+/// User defaults as one JSON object in a file per domain, read once and written whole, atomically,
+/// at each change. A number without a fraction counts as an integer. A file that cannot be read or
+/// makes no sense counts as empty, but is not lost: the first change moves it aside, to its name
+/// with ".damaged" at the end.
 class JsonUserDefaults final : public UserDefaults {
 public:
     /// The file is Orvello/<domain>.json in the configuration folder, which need not exist. The
@@ -19,7 +21,7 @@ public:
     QVariant value(const QString& key) const override;
     void setValue(const QString& key, const QVariant& value) override;
     void remove(const QString& key) override;
-    QVariantMap storedValues() const override { return m_stored; }
+    QVariantMap storedValues() const override { return m_stored.toVariantMap(); }
 
 private:
     void load();
@@ -28,7 +30,7 @@ private:
 
     QString m_path;
     QVariantMap m_launchArguments;
-    QVariantMap m_stored;
+    QJsonObject m_stored;
     bool m_isFileDamaged = false;
 };
 

@@ -41,6 +41,14 @@ public:
 
     QString operatingSystemVersion() const override { return QSysInfo::prettyProductName(); }
 
+    Facts facts() const override
+    {
+        return {
+            .operatingSystem = operatingSystemVersion(),
+            .keyPrefix = u"Alt+Super+"_s,
+        };
+    }
+
     std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) override
     {
         return std::make_unique<JsonUserDefaults>(m_folders.configuration(), domain);

@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
 
+#include <map>
 #include <utility>
 
 #include <Carbon/Carbon.h>
@@ -58,6 +59,24 @@ std::unique_ptr<HotKeys::Reference> CarbonHotKeys::registerHotKey(
     if (!key)
         return nullptr;
     return std::make_unique<CarbonReference>(key);
+}
+
+/// The symbols in the order in which menus have them.
+QString CarbonHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
+{
+    static const std::map<std::uint32_t, QString> keys {
+        { HotKey::keyH, QStringLiteral("H") },
+        { HotKey::keyR, QStringLiteral("R") },
+        { HotKey::keyP, QStringLiteral("P") },
+        { HotKey::keyDown, QStringLiteral("↓") },
+        { HotKey::keyUp, QStringLiteral("↑") },
+    };
+    const auto key = keys.find(keyCode);
+    if (key == keys.end())
+        return {};
+    return QStringLiteral(u"%1%2%3").arg(
+        (modifiers & HotKey::optionKey) != 0 ? QStringLiteral("⌥") : QString(),
+        (modifiers & HotKey::commandKey) != 0 ? QStringLiteral("⌘") : QString(), key->second);
 }
 
 } // namespace Orvello

@@ -16,6 +16,7 @@ public:
     void installHandler(Handler handler) override;
     std::unique_ptr<Reference> registerHotKey(
         std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
+    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
 
     void pressed(HotKeyID id) const { m_handler(id); } ///< For the event handler.
 

@@ -59,7 +59,11 @@ void CocoaUserDefaults::remove(const QString& key)
 
 QVariantMap CocoaUserDefaults::storedValues() const
 {
-    return PropertyList::map([m_defaults persistentDomainForName:m_domain]);
+    NSDictionary<NSString*, id>* const domain = [m_defaults persistentDomainForName:m_domain];
+    QVariantMap values;
+    for (NSString* key in domain)
+        values.insert(qString(key), PropertyList::value([domain objectForKey:key]));
+    return values;
 }
 
 } // namespace Orvello

@@ -27,6 +27,22 @@ public:
         return qString(NSProcessInfo.processInfo.operatingSystemVersionString);
     }
 
+    Facts facts() const override
+    {
+        return {
+            .canHideWindows = true,
+            .hasMenuBar = true,
+            .isMac = true,
+            .asksBeforeControl = true,
+            .hasPrivacySettings = true,
+            .installsUpdates = true,
+            .zoomChoosesCapture = true,
+            .hasKeynoteAndPowerPoint = true,
+            .operatingSystem = QStringLiteral("macOS ") + operatingSystemVersion(),
+            .keyPrefix = QStringLiteral("Option-Command-"),
+        };
+    }
+
     std::unique_ptr<UserDefaults> userDefaultsOf(const QString& domain) override
     {
         return std::make_unique<CocoaUserDefaults>(domain);

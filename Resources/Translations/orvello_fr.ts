@@ -1,0 +1,1340 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Countdown</name>
+    <message>
+        <source>Countdown</source>
+        <translation>Compte à rebours</translation>
+    </message>
+</context>
+<context>
+    <name>EditorPage</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Speaker notes</source>
+        <translation>Notes de l’orateur</translation>
+    </message>
+    <message>
+        <source>Script text</source>
+        <translation>Texte du script</translation>
+    </message>
+    <message>
+        <source>Shown in the prompter · autosaved locally, nothing leaves your Mac</source>
+        <translation>Affiché dans le prompteur · enregistré automatiquement en local, rien ne quitte votre Mac</translation>
+    </message>
+    <message>
+        <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
+        <translation>Affiché dans le prompteur · enregistré automatiquement en local, rien ne quitte votre ordinateur</translation>
+    </message>
+</context>
+<context>
+    <name>ImportMenu</name>
+    <message>
+        <source>Import speaker notes from a deck</source>
+        <translation>Importer les notes d’une présentation</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryAlert</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppDelegate</name>
+    <message>
+        <source>%1 counts only at the launch: quit the Orvello that runs first</source>
+        <translation>%1 ne compte qu’au lancement : quittez d’abord l’instance d’Orvello ouverte</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Appcast</name>
+    <message>
+        <source>It declares a document type.</source>
+        <translation>Il déclare un type de document.</translation>
+    </message>
+    <message>
+        <source>It is no RSS feed.</source>
+        <translation>Ce n’est pas un flux RSS.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppcastUpdater</name>
+    <message>
+        <source>There is no valid update feed.</source>
+        <translation>Il n’y a pas de flux de mises à jour valide.</translation>
+    </message>
+    <message>
+        <source>The update feed is not secure.</source>
+        <translation>Le flux de mises à jour n’est pas sûr.</translation>
+    </message>
+    <message>
+        <source>The update feed cannot be read: %1</source>
+        <extracomment>%1: why, as a sentence.</extracomment>
+        <translation>Le flux de mises à jour ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>The update feed makes no sense: %1</source>
+        <extracomment>%1: why, as a sentence.</extracomment>
+        <translation>Le flux de mises à jour est incompréhensible : %1</translation>
+    </message>
+    <message>
+        <source>The update feed names no secure page.</source>
+        <translation>Le flux de mises à jour n’indique aucune page sûre.</translation>
+    </message>
+    <message>
+        <source>The download page cannot be opened.</source>
+        <translation>La page de téléchargement ne peut pas être ouverte.</translation>
+    </message>
+    <message>
+        <source>Orvello is up to date.</source>
+        <translation>Orvello est à jour.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppleScriptPresenters</name>
+    <message>
+        <source>permission denied — allow Orvello to control %1 in System Settings → Privacy &amp; Security → Automation</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the presentation:&quot;. %1: a presentation program.</extracomment>
+        <translation>accès refusé : autorisez Orvello à contrôler %1 dans Réglages Système → Confidentialité et sécurité → Automatisation</translation>
+    </message>
+    <message>
+        <source>presenter notes</source>
+        <translation>notes de présentateur</translation>
+    </message>
+    <message>
+        <source>speaker notes</source>
+        <translation>notes de l’orateur</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::BusInstance</name>
+    <message>
+        <source>Orvello is running already, but does not answer.</source>
+        <translation>Orvello est déjà ouvert, mais ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Orvello is running already, but cannot be asked for anything: the two do not share a session bus.</source>
+        <translation>Orvello est déjà ouvert, mais ne peut rien recevoir : les deux ne partagent pas de bus de session.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Commands</name>
+    <message>
+        <source>Start Scrolling</source>
+        <translation>Lancer le défilement</translation>
+    </message>
+    <message>
+        <source>Pause Scrolling</source>
+        <translation>Suspendre le défilement</translation>
+    </message>
+    <message>
+        <source>Start / pause scrolling</source>
+        <extracomment>What a key does, in a list of keys.</extracomment>
+        <translation>Lancer / suspendre le défilement</translation>
+    </message>
+    <message>
+        <source>Start / pause</source>
+        <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
+        <translation>Lancer / suspendre</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Plus vite</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Moins vite</translation>
+    </message>
+    <message>
+        <source>Back to Top</source>
+        <extracomment>In a menu: scrolls back to the beginning of the script.</extracomment>
+        <translation>Revenir au début</translation>
+    </message>
+    <message>
+        <source>Back to top</source>
+        <extracomment>What a key does: it scrolls back to the beginning of the script.</extracomment>
+        <translation>Revenir au début</translation>
+    </message>
+    <message>
+        <source>Show Prompter</source>
+        <translation>Afficher le prompteur</translation>
+    </message>
+    <message>
+        <source>Hide Prompter</source>
+        <translation>Masquer le prompteur</translation>
+    </message>
+    <message>
+        <source>Show / hide prompter</source>
+        <extracomment>What a key does, in a list of keys.</extracomment>
+        <translation>Afficher / masquer le prompteur</translation>
+    </message>
+    <message>
+        <source>Show / hide</source>
+        <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
+        <translation>Afficher / masquer</translation>
+    </message>
+    <message>
+        <source>Voice-Follow Scrolling</source>
+        <extracomment>A mode: the text scrolls while the user speaks.</extracomment>
+        <translation>Suivi de la voix</translation>
+    </message>
+    <message>
+        <source>Slide Tracking</source>
+        <extracomment>A mode: the notes follow the slides of a running slideshow.</extracomment>
+        <translation>Suivi des diapositives</translation>
+    </message>
+    <message>
+        <source>Stealth Mode</source>
+        <extracomment>A mode: the prompter is hidden from screen sharing and recordings.</extracomment>
+        <translation>Mode furtif</translation>
+    </message>
+    <message>
+        <source>Scripts…</source>
+        <translation>Scripts…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Welcome Tour…</source>
+        <translation>Visite de bienvenue…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher les mises à jour…</translation>
+    </message>
+    <message>
+        <source>Contact Support…</source>
+        <translation>Contacter l’assistance…</translation>
+    </message>
+    <message>
+        <source>Reveal Log Files</source>
+        <translation>Afficher les journaux</translation>
+    </message>
+    <message>
+        <source>Quit Orvello</source>
+        <translation>Quitter Orvello</translation>
+    </message>
+    <message>
+        <source>%1  (%2)</source>
+        <extracomment>A line of a menu with two blanks in it. %1: its text; %2: its key, such as &quot;⌥⌘P&quot;.</extracomment>
+        <translation>%1  (%2)</translation>
+    </message>
+    <message>
+        <source>Start or pause scrolling</source>
+        <translation>Lancer ou suspendre le défilement</translation>
+    </message>
+    <message>
+        <source>Scroll faster</source>
+        <translation>Défiler plus vite</translation>
+    </message>
+    <message>
+        <source>Scroll slower</source>
+        <translation>Défiler moins vite</translation>
+    </message>
+    <message>
+        <source>Go back to the top of the script</source>
+        <translation>Revenir au début du script</translation>
+    </message>
+    <message>
+        <source>Show or hide the prompter</source>
+        <translation>Afficher ou masquer le prompteur</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckImportError</name>
+    <message>
+        <source>%1 isn&apos;t running. Open your presentation in %1 first.</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>%1 n’est pas ouvert. Ouvrez d’abord votre présentation dans %1.</translation>
+    </message>
+    <message>
+        <source>No presentation is open in %1.</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Aucune présentation n’est ouverte dans %1.</translation>
+    </message>
+    <message>
+        <source>That %1 presentation has no %2 on any slide.</source>
+        <extracomment>%1: a presentation program; %2: what it calls the notes, such as &quot;speaker notes&quot;.</extracomment>
+        <translation>Cette présentation %1 n’a de %2 sur aucune diapositive.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read the %1 presentation: %2</source>
+        <extracomment>%1: a presentation program; %2: why, a sentence or a part of one.</extracomment>
+        <translation>La présentation %1 n’a pas pu être lue : %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckImports</name>
+    <message>
+        <source>PowerPoint file (.pptx)…</source>
+        <translation>Fichier PowerPoint (.pptx)…</translation>
+    </message>
+    <message>
+        <source>Open %1 presentation</source>
+        <extracomment>An item of a menu. %1: a presentation program, such as Keynote.</extracomment>
+        <translation>Présentation ouverte dans %1</translation>
+    </message>
+    <message>
+        <source>Choose a PowerPoint presentation — Orvello imports its speaker notes.</source>
+        <translation>Choisissez une présentation PowerPoint : Orvello importe ses notes de l’orateur.</translation>
+    </message>
+    <message>
+        <source>Import failed</source>
+        <translation>Échec de l’importation</translation>
+    </message>
+    <message>
+        <source>No speaker notes</source>
+        <translation>Aucune note de l’orateur</translation>
+    </message>
+    <message>
+        <source>The deck was imported, but no slide has speaker notes. Add notes in PowerPoint&apos;s notes pane and re-import.</source>
+        <translation>La présentation a été importée, mais aucune diapositive n’a de notes. Ajoutez-en dans le volet des notes de PowerPoint et importez de nouveau.</translation>
+    </message>
+    <message>
+        <source>The deck was imported, but no slide has speaker notes. Add notes in your presentation program&apos;s notes pane and re-import.</source>
+        <translation>La présentation a été importée, mais aucune diapositive n’a de notes. Ajoutez-en dans le volet des notes de votre logiciel de présentation et importez de nouveau.</translation>
+    </message>
+    <message>
+        <source>Imported the saved copy</source>
+        <translation>Copie enregistrée importée</translation>
+    </message>
+    <message>
+        <source>PowerPoint has unsaved changes, so the notes came from the last saved copy. Save the presentation and import again to include them.</source>
+        <translation>PowerPoint contient des modifications non enregistrées ; les notes viennent donc de la dernière copie enregistrée. Enregistrez la présentation et importez de nouveau pour les inclure.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Erreur inconnue</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Facts</name>
+    <message>
+        <source>Keynote or PowerPoint</source>
+        <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
+        <translation>Keynote ou PowerPoint</translation>
+    </message>
+    <message>
+        <source>Keynote or Microsoft PowerPoint</source>
+        <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
+        <translation>Keynote ou Microsoft PowerPoint</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::FeedLoader</name>
+    <message>
+        <source>The server did not answer in time.</source>
+        <translation>Le serveur n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>The server redirects to an insecure address.</source>
+        <translation>Le serveur redirige vers une adresse non sûre.</translation>
+    </message>
+    <message>
+        <source>The document is too large.</source>
+        <translation>Le document est trop grand.</translation>
+    </message>
+    <message>
+        <source>The server answers with status %1.</source>
+        <translation>Le serveur répond avec l’état %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ImpressAdviceDialog</name>
+    <message>
+        <source>Let Orvello follow your Impress presentations?</source>
+        <translation>Autoriser Orvello à suivre vos présentations Impress ?</translation>
+    </message>
+    <message>
+        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
+        <translation>LibreOffice ne dit rien d’une présentation aux autres programmes tant que vous ne l’autorisez pas. Orvello peut le faire pour vous : il change un réglage de LibreOffice, et vous pouvez l’annuler à tout moment.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>Orvello is talking to LibreOffice…
+
+This may take some seconds.</source>
+        <translation>Orvello dialogue avec LibreOffice…
+
+Cela peut prendre quelques secondes.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ImpressPresenter</name>
+    <message>
+        <source>notes</source>
+        <extracomment>What Impress calls a speaker&apos;s notes.</extracomment>
+        <translation>notes</translation>
+    </message>
+    <message>
+        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>accès refusé : LibreOffice ne répond aux autres programmes que si vous l’autorisez</translation>
+    </message>
+    <message>
+        <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
+        <translation>Pour suivre Impress, Orvello a besoin du paquet python3-uno. Installez-le et réessayez.</translation>
+    </message>
+    <message>
+        <source>LibreOffice isn&apos;t installed.</source>
+        <translation>LibreOffice n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>LibreOffice did not answer. Close it and try again.</source>
+        <translation>LibreOffice n’a pas répondu. Fermez-le et réessayez.</translation>
+    </message>
+    <message>
+        <source>LibreOffice already listens to another program (%1).</source>
+        <extracomment>%1: how the other program is connected.</extracomment>
+        <translation>LibreOffice écoute déjà un autre programme (%1).</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+To take this back later: %1</source>
+        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
+        <translation>Orvello peut maintenant suivre Impress. Relancez le diaporama ou l’importation.
+
+Pour revenir en arrière plus tard : %1</translation>
+    </message>
+    <message>
+        <source>Orvello may no longer follow Impress.</source>
+        <translation>Orvello ne peut plus suivre Impress.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LaunchOptions</name>
+    <message>
+        <source>unknown option %1; did you mean %2?</source>
+        <translation>option inconnue %1 ; vouliez-vous dire %2 ?</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>option inconnue %1</translation>
+    </message>
+    <message>
+        <source>the preference %1 lacks its value</source>
+        <translation>il manque une valeur au réglage %1</translation>
+    </message>
+    <message>
+        <source>%1 is no address that Orvello opens</source>
+        <translation>%1 n’est pas une adresse qu’Orvello ouvre</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>il n’y a pas de fichier « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 is not a PowerPoint deck (.pptx)</source>
+        <translation>%1 n’est pas une présentation PowerPoint (.pptx)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LibraryStore</name>
+    <message>
+        <source>My Script</source>
+        <extracomment>The title of the only script of a user of the first versions.</extracomment>
+        <translation>Mon script</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <extracomment>The title of a new script.</extracomment>
+        <translation>Sans titre</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LibraryWindow</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Scripts</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LiveDeckImport</name>
+    <message>
+        <source>%1 deck</source>
+        <extracomment>The title of a deck without a name. %1: a presentation program, such as Keynote.</extracomment>
+        <translation>Présentation %1</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::MainMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OnboardingWindowController</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Bienvenue dans Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::PptxImporter</name>
+    <message>
+        <source>The file could not be opened as a PowerPoint package.</source>
+        <translation>Le fichier n’a pas pu être ouvert en tant que présentation PowerPoint.</translation>
+    </message>
+    <message>
+        <source>No slides were found — is this a .pptx presentation?</source>
+        <translation>Aucune diapositive trouvée. Est-ce une présentation .pptx ?</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::PrompterStatus</name>
+    <message>
+        <source>get ready</source>
+        <extracomment>On the card, at most about 20 characters: the countdown runs.</extracomment>
+        <translation>tenez-vous prêt</translation>
+    </message>
+    <message>
+        <source>hover pause</source>
+        <extracomment>On the card, at most about 20 characters: the pointer over the card holds the text.</extracomment>
+        <translation>pause par survol</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <extracomment>On the card, at most about 20 characters: the text stands still.</extracomment>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>listening…</source>
+        <extracomment>On the card, at most about 20 characters: the text waits for the user to speak.</extracomment>
+        <translation>à l’écoute…</translation>
+    </message>
+    <message>
+        <source>scrolling</source>
+        <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
+        <translation>défilement</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ScriptEditor</name>
+    <message numerus="yes">
+        <source>%n words</source>
+        <translation>
+            <numerusform>%n mot</numerusform>
+            <numerusform>%n mots</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported deck (%1) — notes are read-only here; edit them in the presentation and re-import.</source>
+        <extracomment>%1: where the deck is from: a program or a file.</extracomment>
+        <translation>Présentation importée (%1) : les notes sont en lecture seule ici ; modifiez-les dans la présentation et importez de nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ScriptListModel</name>
+    <message>
+        <source>Untitled</source>
+        <extracomment>Stands for a script without a title.</extracomment>
+        <translation>Sans titre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides</source>
+        <translation>
+            <numerusform>%n diapositive</numerusform>
+            <numerusform>%n diapositives</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SettingsForm</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>%1: a number. The sign stands where the language has it.</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Font size — %1</source>
+        <extracomment>%1: the size in points.</extracomment>
+        <translation>Taille du texte — %1</translation>
+    </message>
+    <message>
+        <source>Scroll speed — %1 pt/s</source>
+        <extracomment>%1: points per second.</extracomment>
+        <translation>Vitesse de défilement — %1 pt/s</translation>
+    </message>
+    <message>
+        <source>Background opacity — %1</source>
+        <extracomment>%1: a percentage.</extracomment>
+        <translation>Opacité du fond — %1</translation>
+    </message>
+    <message>
+        <source>Sensitivity — %1</source>
+        <extracomment>Of the microphone&apos;s detector of speech. %1: a percentage.</extracomment>
+        <translation>Sensibilité — %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>3 seconds</source>
+        <translation>3 secondes</translation>
+    </message>
+    <message>
+        <source>5 seconds</source>
+        <translation>5 secondes</translation>
+    </message>
+    <message>
+        <source>10 seconds</source>
+        <translation>10 secondes</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rose</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SettingsWindow</name>
+    <message>
+        <source>Orvello Settings</source>
+        <translation>Réglages d’Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ShortcutList</name>
+    <message>
+        <source>Speed up / down</source>
+        <extracomment>What two keys do, one each. The second text is for a narrow list: at most about 20 characters.</extracomment>
+        <translation>Accélérer / ralentir</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SlideStatus</name>
+    <message>
+        <source>Live</source>
+        <extracomment>On the card, at most about 12 characters: the notes follow the running slideshow.</extracomment>
+        <translation>En direct</translation>
+    </message>
+    <message>
+        <source>No access</source>
+        <extracomment>On the card, at most about 12 characters: the presentation program may not be asked.</extracomment>
+        <translation>Sans accès</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <extracomment>On the card, at most about 12 characters: the user turns the notes by hand.</extracomment>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>On the card: which slide of how many.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::StatusMenu</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>A line of the help menu. %1: the program&apos;s version, such as &quot;2.1 (57)&quot;.</extracomment>
+        <translation>Orvello %1</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Support</name>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>The subject of a mail to the support. %1: the program&apos;s version.</extracomment>
+        <translation>Orvello %1</translation>
+    </message>
+    <message>
+        <source>Orvello %1, %2
+If something went wrong, attach the log: Orvello menu → Help → Reveal Log Files.</source>
+        <extracomment>The last lines of a mail to the support, below what the user writes. %1: the program&apos;s version, %2: the operating system with its version. The path names the menu&apos;s lines.</extracomment>
+        <translation>Orvello %1, %2
+En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les journaux.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::UpdateDialogs</name>
+    <message>
+        <source>Check for updates automatically?</source>
+        <translation>Rechercher les mises à jour automatiquement ?</translation>
+    </message>
+    <message>
+        <source>Once a day, Orvello would look at the vendor&apos;s web site for a newer version. Nothing about you is sent. You can change this in the settings at any time.</source>
+        <translation>Une fois par jour, Orvello consulterait le site web de l’éditeur pour savoir s’il existe une version plus récente. Rien n’est envoyé à votre sujet. Vous pouvez changer cela à tout moment dans les réglages.</translation>
+    </message>
+    <message>
+        <source>Check Automatically</source>
+        <translation>Rechercher automatiquement</translation>
+    </message>
+    <message>
+        <source>Don’t Check</source>
+        <translation>Ne pas rechercher</translation>
+    </message>
+    <message>
+        <source>Orvello %1 is available.</source>
+        <extracomment>%1: the version, such as 2.1.</extracomment>
+        <translation>Orvello %1 est disponible.</translation>
+    </message>
+    <message>
+        <source>You have %1. The new version is on its download page, which Install opens in your browser.</source>
+        <extracomment>%1: the version. Install is the button&apos;s name.</extracomment>
+        <translation>Vous avez la version %1. La nouvelle se trouve sur sa page de téléchargement, que le bouton Installer ouvre dans votre navigateur.</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Installer…</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>You have %1.</source>
+        <translation>Vous avez la version %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::VoiceActivityEngine</name>
+    <message>
+        <source>another app is using the microphone</source>
+        <extracomment>Stands in brackets in the middle of a sentence.</extracomment>
+        <translation>une autre application utilise le microphone</translation>
+    </message>
+    <message>
+        <source>%1 is open</source>
+        <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
+        <translation>%1 est ouvert</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::WelcomeScript</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Bienvenue dans Orvello</translation>
+    </message>
+    <message>
+        <source>Welcome to Orvello. This is your private teleprompter.</source>
+        <translation>Bienvenue dans Orvello, votre téléprompteur privé.</translation>
+    </message>
+    <message>
+        <source>Drag this panel anywhere — put it right under your camera for natural eye contact. Resize it from any edge.</source>
+        <translation>Faites glisser ce panneau où vous voulez, de préférence juste sous votre caméra pour un regard naturel. Redimensionnez-le par n’importe quel bord.</translation>
+    </message>
+    <message>
+        <source>Press %1P to start or pause scrolling. Use %1Up or Down to change the speed on the fly. Hover the mouse over this panel any time to pause instantly; move away and it resumes.</source>
+        <extracomment>%1: the keys to hold, as in &quot;Option-Command-P&quot; or &quot;Alt+Super+P&quot;. Up and Down are the arrow keys.</extracomment>
+        <translation>Appuyez sur %1P pour lancer ou suspendre le défilement. Avec %1Haut ou Bas, changez la vitesse en cours de route. Passez la souris sur ce panneau pour suspendre aussitôt ; éloignez-la, et il reprend.</translation>
+    </message>
+    <message>
+        <source>Turn on voice-follow in the menu bar and the script scrolls while you speak, then waits when you pause.</source>
+        <translation>Activez le suivi de la voix dans la barre des menus : le script défile quand vous parlez et attend quand vous vous taisez.</translation>
+    </message>
+    <message>
+        <source>Turn on voice-follow in the menu and the script scrolls while you speak, then waits when you pause. The menu opens from the tray, or with a right click on this panel.</source>
+        <translation>Activez le suivi de la voix dans le menu : le script défile quand vous parlez et attend quand vous vous taisez. Le menu s’ouvre depuis la zone de notification, ou par un clic droit sur ce panneau.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window is invisible to screen sharing, recordings, and screenshots. Your audience only sees your slides — never your notes.</source>
+        <translation>En mode furtif, cette fenêtre est invisible pour les partages d’écran, les enregistrements et les captures. Votre public ne voit que vos diapositives, jamais vos notes.</translation>
+    </message>
+    <message>
+        <source>Sharing your screen? Leave Stealth Mode alone while you share — toggling it mid-share can make your meeting app show a gray box where the prompter sits. Close and open Orvello again to clear it.</source>
+        <translation>Vous partagez votre écran ? Ne touchez pas au mode furtif pendant ce temps : le basculer en plein partage peut faire apparaître un cadre gris à la place du prompteur. Fermez puis rouvrez Orvello pour l’effacer.</translation>
+    </message>
+    <message>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
+        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives : votre public voit vos diapositives, jamais vos notes.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::WelcomeTour</name>
+    <message>
+        <source>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</source>
+        <translation>Zoom → Partager l’écran → « la fenêtre de vos diapositives » (pas « l’écran entier »)</translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
+        <translation>Zoom → Paramètres → Partage d’écran → Avancé → Mode de capture d’écran → « Capture avancée avec filtrage des fenêtres » (ou « Systèmes d’exploitation précédents »)</translation>
+    </message>
+</context>
+<context>
+    <name>PrivacySettings</name>
+    <message>
+        <source>Privacy</source>
+        <translation>Confidentialité</translation>
+    </message>
+    <message>
+        <source>Stealth Mode — hide from screen sharing, recordings &amp; screenshots</source>
+        <translation>Mode furtif : cacher aux partages d’écran, enregistrements et captures</translation>
+    </message>
+    <message>
+        <source>This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off.</source>
+        <translation>Ce bureau ne peut pas cacher une fenêtre aux partages d’écran, aux enregistrements ni aux captures. Le prompteur y est visible, que le mode furtif soit activé ou non.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.</source>
+        <translation>Si le mode furtif est activé avant le début d’un partage, le prompteur est invisible pour les partages d’écran, les enregistrements et les captures (Zoom, Meet, QuickTime et d’autres), tout en restant bien visible pour vous.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots — while staying fully visible to you.</source>
+        <translation>Si le mode furtif est activé avant le début d’un partage, le prompteur est invisible pour les partages d’écran, les enregistrements et les captures, tout en restant bien visible pour vous.</translation>
+    </message>
+    <message>
+        <source>Stealth Mode takes effect on desktops that can keep a window out of screen sharing, recordings, and screenshots. With it on, the prompter&apos;s card says when this one cannot.</source>
+        <translation>Le mode furtif agit sur les bureaux qui savent soustraire une fenêtre aux partages d’écran, aux enregistrements et aux captures. Quand il est activé, la carte du prompteur dit si celui-ci ne le peut pas.</translation>
+    </message>
+    <message>
+        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
+        <translation>Pour un risque nul, partagez la fenêtre de la présentation au lieu de l’écran entier : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
+    </message>
+    <message>
+        <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
+        <translation>Ne touchez pas au mode furtif pendant un partage : le basculer peut faire apparaître un cadre gris à sa place (fermez puis rouvrez Orvello pour l’effacer). Pour un risque nul, partagez la fenêtre de la présentation au lieu de l’écran entier.</translation>
+    </message>
+</context>
+<context>
+    <name>PrompterSettings</name>
+    <message>
+        <source>Prompter</source>
+        <translation>Prompteur</translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation>Couleur du texte</translation>
+    </message>
+</context>
+<context>
+    <name>PrompterView</name>
+    <message>
+        <source>Prompter</source>
+        <translation>Prompteur</translation>
+    </message>
+    <message>
+        <source>DEBUG — VISIBLE IN RECORDINGS</source>
+        <extracomment>On the card, at most about 40 characters: others can see the prompter.</extracomment>
+        <translation>DÉBOGAGE — VISIBLE ENREGISTREMENTS</translation>
+    </message>
+    <message>
+        <source>VISIBLE IN RECORDINGS</source>
+        <translation>VISIBLE DANS LES ENREGISTREMENTS</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptRow</name>
+    <message>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: a script&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: how many slides, as in &quot;4 slides&quot;.</extracomment>
+        <translation>%2, %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptSidebar</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Scripts</translation>
+    </message>
+    <message>
+        <source>New script</source>
+        <translation>Nouveau script</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSettings</name>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Countdown before start</source>
+        <translation>Compte à rebours avant le départ</translation>
+    </message>
+    <message>
+        <source>Press P to pause during a slideshow</source>
+        <translation>Appuyer sur P pour suspendre pendant un diaporama</translation>
+    </message>
+    <message>
+        <source>While a %1 slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. %2 always works too.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;; %2: keys, as in &quot;⌥⌘P&quot;.</extracomment>
+        <translation>Pendant un diaporama de %1 (le pointeur y est caché, le survol ne peut donc pas suspendre), la simple touche P suspend ou reprend. Elle n’agit que pendant le diaporama et ne gêne donc pas la saisie ailleurs. %2 fonctionne toujours.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsShortcut</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read aloud. %1: what the keys do; %2: the keys.</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>ShareNotice</name>
+    <message>
+        <source>Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.</source>
+        <translation>Basculer le mode furtif pendant un partage d’écran peut griser ce prompteur : fermez puis rouvrez Orvello pour l’effacer.</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSettings</name>
+    <message>
+        <source>Keyboard shortcuts (global)</source>
+        <translation>Raccourcis clavier (globaux)</translation>
+    </message>
+    <message>
+        <source>Other keys</source>
+        <translation>Autres touches</translation>
+    </message>
+    <message>
+        <source>Change Shortcuts…</source>
+        <translation>Modifier les raccourcis…</translation>
+    </message>
+</context>
+<context>
+    <name>SlideChip</name>
+    <message>
+        <source>Slide %1</source>
+        <extracomment>Read aloud. %1: which slide of how many, as in &quot;2 / 14&quot;.</extracomment>
+        <translation>Diapositive %1</translation>
+    </message>
+    <message>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: the slide&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: who turns the slides, as in &quot;Live&quot;.</extracomment>
+        <translation>%2, %1</translation>
+    </message>
+    <message>
+        <source>Previous slide</source>
+        <translation>Diapositive précédente</translation>
+    </message>
+    <message>
+        <source>Next slide</source>
+        <translation>Diapositive suivante</translation>
+    </message>
+</context>
+<context>
+    <name>SlidesSettings</name>
+    <message>
+        <source>Slides</source>
+        <translation>Diapositives</translation>
+    </message>
+    <message>
+        <source>Slide Tracking — notes follow the live slideshow</source>
+        <translation>Suivi des diapositives : les notes suivent le diaporama</translation>
+    </message>
+    <message>
+        <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. The first time, macOS asks to let Orvello control that app — that&apos;s the sync. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Avec une présentation importée (Scripts → bouton d’importation) et le suivi des diapositives activé, le prompteur montre les notes de la diapositive en cours et change de lui-même quand vous avancez dans %1. La première fois, macOS demande si Orvello peut contrôler cette application : c’est la synchronisation. Désactivez le suivi pour faire défiler toute la présentation comme un script ordinaire.</translation>
+    </message>
+    <message>
+        <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
+        <extracomment>%1: a presentation program.</extracomment>
+        <translation>Avec une présentation importée (Scripts → bouton d’importation) et le suivi des diapositives activé, le prompteur montre les notes de la diapositive en cours et change de lui-même quand vous avancez dans %1. Désactivez le suivi pour faire défiler toute la présentation comme un script ordinaire.</translation>
+    </message>
+    <message>
+        <source>If sync shows &quot;No access&quot;: System Settings → Privacy &amp; Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.</source>
+        <extracomment>The words in quotation marks are those of the card. %1: presentation programs.</extracomment>
+        <translation>Si « Sans accès » s’affiche : Réglages Système → Confidentialité et sécurité → Automatisation → Orvello → autorisez %1, puis désactivez et réactivez le suivi des diapositives.</translation>
+    </message>
+    <message>
+        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
+        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
+        <translation>Si « Sans accès » s’affiche : LibreOffice ne répond aux autres programmes que si vous l’autorisez. Importez la présentation ouverte (Scripts → bouton d’importation), choisissez Autoriser quand Orvello le propose, puis relancez le diaporama.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBadge</name>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+</context>
+<context>
+    <name>TourCloseButton</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>TourCopyButton</name>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Copier le chemin</translation>
+    </message>
+</context>
+<context>
+    <name>TourDots</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <extracomment>Read aloud. %1: a page of the tour; %2: how many there are.</extracomment>
+        <translation>Page %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourFeature</name>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Read aloud, two sentences. %1: a title; %2: a text.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourFooter</name>
+    <message>
+        <source>Skip tour</source>
+        <translation>Passer la visite</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Open my prompter</source>
+        <translation>Ouvrir mon prompteur</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>TourKeyRow</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read aloud. %1: keys; %2: what they do.</extracomment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourPrivacyPage</name>
+    <message>
+        <source>One rule keeps your notes off the recording: share a window, never the whole screen.</source>
+        <translation>Une règle garde vos notes hors de l’enregistrement : partagez une fenêtre, jamais l’écran entier.</translation>
+    </message>
+    <message>
+        <source>One rule and one safety net keep your notes off the recording.</source>
+        <translation>Une règle et un filet de sécurité gardent vos notes hors de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
+        <translation>Une règle, un filet de sécurité et un réglage de Zoom gardent vos notes hors de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>Stealth Mode is on by default</source>
+        <translation>Le mode furtif est activé d’origine</translation>
+    </message>
+    <message>
+        <source>This desktop cannot hide a window</source>
+        <translation>Ce bureau ne peut pas cacher une fenêtre</translation>
+    </message>
+    <message>
+        <source>No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.</source>
+        <translation>Ici, aucune application ne peut soustraire sa fenêtre aux captures d’écran ; le mode furtif n’a donc pas d’effet. Le prompteur le dit sur sa carte : qui voit votre écran entier le voit aussi.</translation>
+    </message>
+    <message>
+        <source>Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.</source>
+        <translation>Activez-le avant de partager et n’y touchez plus. Le basculer en plein partage peut faire apparaître un cadre gris à la place du prompteur : fermez puis rouvrez Orvello pour l’effacer.</translation>
+    </message>
+    <message>
+        <source>Want zero risk? Share just the window</source>
+        <translation>Zéro risque ? Ne partagez que la fenêtre</translation>
+    </message>
+    <message>
+        <source>Zero risk: share just the window</source>
+        <translation>Zéro risque : ne partager que la fenêtre</translation>
+    </message>
+    <message>
+        <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Le partage de l’écran entier convient avec le mode furtif. Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
+        <translation>Dans votre application de réunion, choisissez la fenêtre de vos diapositives au lieu de l’écran entier. Une fenêtre partagée ne peut jamais contenir le prompteur. Les logiciels d’enregistrement savent aussi capturer une seule fenêtre.</translation>
+    </message>
+</context>
+<context>
+    <name>TourSetupPage</name>
+    <message>
+        <source>You&apos;re set. Here&apos;s where things are.</source>
+        <translation>Tout est prêt. Voici où se trouve chaque chose.</translation>
+    </message>
+    <message>
+        <source>Drag the prompter right under your camera for natural eye contact. Resize it from any edge.</source>
+        <translation>Faites glisser le prompteur juste sous votre caméra pour un regard naturel. Redimensionnez-le par n’importe quel bord.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>Pause during a slideshow</source>
+        <translation>Pause pendant un diaporama</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <extracomment>Instead of a key: the pointer rests on the prompter.</extracomment>
+        <translation>Survol</translation>
+    </message>
+    <message>
+        <source>Pause instantly</source>
+        <translation>Pause immédiate</translation>
+    </message>
+    <message>
+        <source>Menu bar</source>
+        <translation>Barre des menus</translation>
+    </message>
+    <message>
+        <source>Tray menu</source>
+        <translation>Menu de la zone de notification</translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour.</source>
+        <translation>… ainsi que Scripts, où vous écrivez ou importez ce que vous dites, les réglages et cette visite.</translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.</source>
+        <translation>… ainsi que Scripts, où vous écrivez ou importez ce que vous dites, les réglages et cette visite. Sans zone de notification, faites un clic droit sur le prompteur.</translation>
+    </message>
+</context>
+<context>
+    <name>TourWelcomePage</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Bienvenue dans Orvello</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
+        <translation>Votre téléprompteur privé. Votre public voit vos diapositives, jamais vos notes.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
+        <translation>Votre téléprompteur privé. Partagez la fenêtre de vos diapositives, et votre public ne voit jamais vos notes.</translation>
+    </message>
+    <message>
+        <source>Invisible on screen shares</source>
+        <translation>Invisible dans les partages d’écran</translation>
+    </message>
+    <message>
+        <source>Not part of a window share</source>
+        <translation>Absent d’un partage de fenêtre</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
+        <translation>Le mode furtif cache le prompteur à Zoom, Meet, Teams, aux enregistrements et aux captures, alors que vous le voyez parfaitement.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, et vous seul voyez le prompteur. Dans un partage de l’écran entier, ce bureau le montre à tous.</translation>
+    </message>
+    <message>
+        <source>Follows your voice</source>
+        <translation>Suit votre voix</translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.</source>
+        <translation>Défile quand vous parlez, attend quand vous vous taisez. Le son n’est analysé que sur ce Mac : rien n’est enregistré ni envoyé.</translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.</source>
+        <translation>Défile quand vous parlez, attend quand vous vous taisez. Le son n’est analysé que sur cet ordinateur : rien n’est enregistré ni envoyé.</translation>
+    </message>
+    <message>
+        <source>Follows your slides</source>
+        <translation>Suit vos diapositives</translation>
+    </message>
+    <message>
+        <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Importez un fichier .pptx ou une présentation ouverte dans %1, et les notes changent avec vos diapositives.</translation>
+    </message>
+</context>
+<context>
+    <name>TourZoomCard</name>
+    <message>
+        <source>Using Zoom? Set this once</source>
+        <translation>Vous utilisez Zoom ? À régler une fois</translation>
+    </message>
+    <message>
+        <source>Using Zoom? Share a window</source>
+        <translation>Vous utilisez Zoom ? Partagez une fenêtre</translation>
+    </message>
+    <message>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
+        <translation>Ici, aucun réglage de Zoom ne cache le prompteur : le partage de l’écran entier montre vos notes. Celui d’une fenêtre, jamais.</translation>
+    </message>
+    <message>
+        <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>
+        <translation>Le réglage d’origine de Zoom, Auto, convient en général, mais il choisit une méthode de capture à chaque session, et l’une d’elles peut montrer vos notes.</translation>
+    </message>
+    <message>
+        <source>Zoom → Share Screen → &lt;b&gt;your slides&apos; window&lt;/b&gt; (not Entire Screen).</source>
+        <extracomment>The words between &lt;b&gt; and &lt;/b&gt; are shown in bold.</extracomment>
+        <translation>Zoom → Partager l’écran → &lt;b&gt;la fenêtre de vos diapositives&lt;/b&gt; (pas l’écran entier).</translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
+        <translation>Zoom → Paramètres → Partage d’écran → Avancé → Mode de capture d’écran → &lt;b&gt;Capture avancée avec filtrage des fenêtres&lt;/b&gt; (ou Systèmes d’exploitation précédents).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateSettings</name>
+    <message>
+        <source>Updates</source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message>
+        <source>Check for updates automatically (once a day)</source>
+        <translation>Rechercher les mises à jour automatiquement (une fois par jour)</translation>
+    </message>
+    <message>
+        <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your computer beyond the app version. Orvello installs nothing by itself: if you want the new version, it opens the download page.</source>
+        <translation>La recherche demande au site web de l’éditeur quelle est la dernière version et n’envoie rien sur vous ni sur votre ordinateur, hormis la version de l’application. Orvello n’installe rien de lui-même : si vous voulez la nouvelle version, il ouvre la page de téléchargement.</translation>
+    </message>
+    <message>
+        <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your Mac beyond the app version. Updates are signed, and you always confirm before one installs.</source>
+        <translation>La recherche demande au site web de l’éditeur quelle est la dernière version et n’envoie rien sur vous ni sur votre Mac, hormis la version de l’application. Les mises à jour sont signées, et vous confirmez toujours avant l’installation.</translation>
+    </message>
+    <message>
+        <source>Orvello %1 — not checked yet</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1 — pas encore recherché</translation>
+    </message>
+    <message>
+        <source>Orvello %1 — last checked %2</source>
+        <extracomment>%1: the version; %2: a date and a time.</extracomment>
+        <translation>Orvello %1 — dernière recherche %2</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Rechercher</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceSettings</name>
+    <message>
+        <source>Voice-follow</source>
+        <translation>Suivi de la voix</translation>
+    </message>
+    <message>
+        <source>Scroll while I speak, pause when I pause</source>
+        <translation>Défiler quand je parle, attendre quand je me tais</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Niveau du micro</translation>
+    </message>
+    <message>
+        <source>Microphone access is denied. Allow it in your desktop&apos;s privacy settings, then toggle voice-follow again.</source>
+        <translation>L’accès au microphone est refusé. Autorisez-le dans les réglages de confidentialité de votre bureau, puis désactivez et réactivez le suivi de la voix.</translation>
+    </message>
+    <message>
+        <source>Microphone access is denied. Enable it in System Settings → Privacy &amp; Security → Microphone, then toggle voice-follow again.</source>
+        <translation>L’accès au microphone est refusé. Autorisez-le dans Réglages Système → Confidentialité et sécurité → Microphone, puis désactivez et réactivez le suivi de la voix.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: on — audio playing from this Mac won&apos;t move the prompter.</source>
+        <translation>Annulation de l’écho : active. Le son que joue ce Mac ne fait pas avancer le prompteur.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: on — audio playing from this computer won&apos;t move the prompter.</source>
+        <translation>Annulation de l’écho : active. Le son que joue cet ordinateur ne fait pas avancer le prompteur.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <extracomment>%1: why, such as &quot;another app is using the microphone&quot; or &quot;Zoom is open&quot;.</extracomment>
+        <translation>Annulation de l’écho : suspendue (%1), pour que votre voix reste entendue pendant les appels. Sur haut-parleurs, un interlocuteur bruyant peut faire avancer le prompteur ; un casque l’évite.</translation>
+    </message>
+    <message>
+        <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
+        <translation>Le son est analysé sur l’appareil, pour son volume seulement. Rien n’est enregistré, reconnu ni envoyé.</translation>
+    </message>
+</context>
+</TS>

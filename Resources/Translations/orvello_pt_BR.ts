@@ -1,0 +1,1340 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>Countdown</name>
+    <message>
+        <source>Countdown</source>
+        <translation>Contagem regressiva</translation>
+    </message>
+</context>
+<context>
+    <name>EditorPage</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Speaker notes</source>
+        <translation>Anotações do orador</translation>
+    </message>
+    <message>
+        <source>Script text</source>
+        <translation>Texto do roteiro</translation>
+    </message>
+    <message>
+        <source>Shown in the prompter · autosaved locally, nothing leaves your Mac</source>
+        <translation>Mostrado no prompter · salvo automaticamente aqui, nada sai do seu Mac</translation>
+    </message>
+    <message>
+        <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
+        <translation>Mostrado no prompter · salvo automaticamente aqui, nada sai do seu computador</translation>
+    </message>
+</context>
+<context>
+    <name>ImportMenu</name>
+    <message>
+        <source>Import speaker notes from a deck</source>
+        <translation>Importar as anotações de uma apresentação</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryAlert</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppDelegate</name>
+    <message>
+        <source>%1 counts only at the launch: quit the Orvello that runs first</source>
+        <translation>%1 só vale ao iniciar: encerre primeiro o Orvello que está aberto</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Appcast</name>
+    <message>
+        <source>It declares a document type.</source>
+        <translation>Ele declara um tipo de documento.</translation>
+    </message>
+    <message>
+        <source>It is no RSS feed.</source>
+        <translation>Não é um feed RSS.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppcastUpdater</name>
+    <message>
+        <source>There is no valid update feed.</source>
+        <translation>Não há um feed de atualizações válido.</translation>
+    </message>
+    <message>
+        <source>The update feed is not secure.</source>
+        <translation>O feed de atualizações não é seguro.</translation>
+    </message>
+    <message>
+        <source>The update feed cannot be read: %1</source>
+        <extracomment>%1: why, as a sentence.</extracomment>
+        <translation>O feed de atualizações não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>The update feed makes no sense: %1</source>
+        <extracomment>%1: why, as a sentence.</extracomment>
+        <translation>O feed de atualizações não faz sentido: %1</translation>
+    </message>
+    <message>
+        <source>The update feed names no secure page.</source>
+        <translation>O feed de atualizações não indica nenhuma página segura.</translation>
+    </message>
+    <message>
+        <source>The download page cannot be opened.</source>
+        <translation>A página de download não pode ser aberta.</translation>
+    </message>
+    <message>
+        <source>Orvello is up to date.</source>
+        <translation>O Orvello está atualizado.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::AppleScriptPresenters</name>
+    <message>
+        <source>permission denied — allow Orvello to control %1 in System Settings → Privacy &amp; Security → Automation</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the presentation:&quot;. %1: a presentation program.</extracomment>
+        <translation>permissão negada: permita que o Orvello controle o %1 em Ajustes do Sistema → Privacidade e Segurança → Automação</translation>
+    </message>
+    <message>
+        <source>presenter notes</source>
+        <translation>anotações do apresentador</translation>
+    </message>
+    <message>
+        <source>speaker notes</source>
+        <translation>anotações do orador</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::BusInstance</name>
+    <message>
+        <source>Orvello is running already, but does not answer.</source>
+        <translation>O Orvello já está aberto, mas não responde.</translation>
+    </message>
+    <message>
+        <source>Orvello is running already, but cannot be asked for anything: the two do not share a session bus.</source>
+        <translation>O Orvello já está aberto, mas nada pode ser pedido a ele: os dois não compartilham um barramento de sessão.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Commands</name>
+    <message>
+        <source>Start Scrolling</source>
+        <translation>Iniciar rolagem</translation>
+    </message>
+    <message>
+        <source>Pause Scrolling</source>
+        <translation>Pausar rolagem</translation>
+    </message>
+    <message>
+        <source>Start / pause scrolling</source>
+        <extracomment>What a key does, in a list of keys.</extracomment>
+        <translation>Iniciar / pausar rolagem</translation>
+    </message>
+    <message>
+        <source>Start / pause</source>
+        <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
+        <translation>Iniciar / pausar</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Mais rápido</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Mais devagar</translation>
+    </message>
+    <message>
+        <source>Back to Top</source>
+        <extracomment>In a menu: scrolls back to the beginning of the script.</extracomment>
+        <translation>Voltar ao início</translation>
+    </message>
+    <message>
+        <source>Back to top</source>
+        <extracomment>What a key does: it scrolls back to the beginning of the script.</extracomment>
+        <translation>Voltar ao início</translation>
+    </message>
+    <message>
+        <source>Show Prompter</source>
+        <translation>Mostrar prompter</translation>
+    </message>
+    <message>
+        <source>Hide Prompter</source>
+        <translation>Ocultar prompter</translation>
+    </message>
+    <message>
+        <source>Show / hide prompter</source>
+        <extracomment>What a key does, in a list of keys.</extracomment>
+        <translation>Mostrar / ocultar prompter</translation>
+    </message>
+    <message>
+        <source>Show / hide</source>
+        <extracomment>What a key does, in a narrow list of keys: at most about 20 characters.</extracomment>
+        <translation>Mostrar / ocultar</translation>
+    </message>
+    <message>
+        <source>Voice-Follow Scrolling</source>
+        <extracomment>A mode: the text scrolls while the user speaks.</extracomment>
+        <translation>Seguir a voz</translation>
+    </message>
+    <message>
+        <source>Slide Tracking</source>
+        <extracomment>A mode: the notes follow the slides of a running slideshow.</extracomment>
+        <translation>Acompanhar os slides</translation>
+    </message>
+    <message>
+        <source>Stealth Mode</source>
+        <extracomment>A mode: the prompter is hidden from screen sharing and recordings.</extracomment>
+        <translation>Modo furtivo</translation>
+    </message>
+    <message>
+        <source>Scripts…</source>
+        <translation>Roteiros…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ajustes…</translation>
+    </message>
+    <message>
+        <source>Welcome Tour…</source>
+        <translation>Tour de boas-vindas…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Buscar atualizações…</translation>
+    </message>
+    <message>
+        <source>Contact Support…</source>
+        <translation>Falar com o suporte…</translation>
+    </message>
+    <message>
+        <source>Reveal Log Files</source>
+        <translation>Mostrar os registros</translation>
+    </message>
+    <message>
+        <source>Quit Orvello</source>
+        <translation>Encerrar o Orvello</translation>
+    </message>
+    <message>
+        <source>%1  (%2)</source>
+        <extracomment>A line of a menu with two blanks in it. %1: its text; %2: its key, such as &quot;⌥⌘P&quot;.</extracomment>
+        <translation>%1  (%2)</translation>
+    </message>
+    <message>
+        <source>Start or pause scrolling</source>
+        <translation>Iniciar ou pausar a rolagem</translation>
+    </message>
+    <message>
+        <source>Scroll faster</source>
+        <translation>Rolar mais rápido</translation>
+    </message>
+    <message>
+        <source>Scroll slower</source>
+        <translation>Rolar mais devagar</translation>
+    </message>
+    <message>
+        <source>Go back to the top of the script</source>
+        <translation>Voltar ao início do roteiro</translation>
+    </message>
+    <message>
+        <source>Show or hide the prompter</source>
+        <translation>Mostrar ou ocultar o prompter</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckImportError</name>
+    <message>
+        <source>%1 isn&apos;t running. Open your presentation in %1 first.</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>O %1 não está aberto. Abra primeiro sua apresentação no %1.</translation>
+    </message>
+    <message>
+        <source>No presentation is open in %1.</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Nenhuma apresentação está aberta no %1.</translation>
+    </message>
+    <message>
+        <source>That %1 presentation has no %2 on any slide.</source>
+        <extracomment>%1: a presentation program; %2: what it calls the notes, such as &quot;speaker notes&quot;.</extracomment>
+        <translation>Essa apresentação do %1 não tem %2 em nenhum slide.</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read the %1 presentation: %2</source>
+        <extracomment>%1: a presentation program; %2: why, a sentence or a part of one.</extracomment>
+        <translation>Não foi possível ler a apresentação do %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckImports</name>
+    <message>
+        <source>PowerPoint file (.pptx)…</source>
+        <translation>Arquivo do PowerPoint (.pptx)…</translation>
+    </message>
+    <message>
+        <source>Open %1 presentation</source>
+        <extracomment>An item of a menu. %1: a presentation program, such as Keynote.</extracomment>
+        <translation>Apresentação aberta no %1</translation>
+    </message>
+    <message>
+        <source>Choose a PowerPoint presentation — Orvello imports its speaker notes.</source>
+        <translation>Escolha uma apresentação do PowerPoint: o Orvello importa as anotações do orador.</translation>
+    </message>
+    <message>
+        <source>Import failed</source>
+        <translation>Falha na importação</translation>
+    </message>
+    <message>
+        <source>No speaker notes</source>
+        <translation>Sem anotações do orador</translation>
+    </message>
+    <message>
+        <source>The deck was imported, but no slide has speaker notes. Add notes in PowerPoint&apos;s notes pane and re-import.</source>
+        <translation>A apresentação foi importada, mas nenhum slide tem anotações. Adicione-as no painel de anotações do PowerPoint e importe de novo.</translation>
+    </message>
+    <message>
+        <source>The deck was imported, but no slide has speaker notes. Add notes in your presentation program&apos;s notes pane and re-import.</source>
+        <translation>A apresentação foi importada, mas nenhum slide tem anotações. Adicione-as no painel de anotações do seu programa de apresentações e importe de novo.</translation>
+    </message>
+    <message>
+        <source>Imported the saved copy</source>
+        <translation>Cópia salva importada</translation>
+    </message>
+    <message>
+        <source>PowerPoint has unsaved changes, so the notes came from the last saved copy. Save the presentation and import again to include them.</source>
+        <translation>O PowerPoint tem alterações não salvas, por isso as anotações vieram da última cópia salva. Salve a apresentação e importe de novo para incluí-las.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Erro desconhecido</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Facts</name>
+    <message>
+        <source>Keynote or PowerPoint</source>
+        <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
+        <translation>Keynote ou PowerPoint</translation>
+    </message>
+    <message>
+        <source>Keynote or Microsoft PowerPoint</source>
+        <extracomment>Stands where other texts say which presentation programs they mean.</extracomment>
+        <translation>Keynote ou Microsoft PowerPoint</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::FeedLoader</name>
+    <message>
+        <source>The server did not answer in time.</source>
+        <translation>O servidor não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>The server redirects to an insecure address.</source>
+        <translation>O servidor redireciona para um endereço inseguro.</translation>
+    </message>
+    <message>
+        <source>The document is too large.</source>
+        <translation>O documento é grande demais.</translation>
+    </message>
+    <message>
+        <source>The server answers with status %1.</source>
+        <translation>O servidor responde com o estado %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ImpressAdviceDialog</name>
+    <message>
+        <source>Let Orvello follow your Impress presentations?</source>
+        <translation>Permitir que o Orvello acompanhe suas apresentações do Impress?</translation>
+    </message>
+    <message>
+        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
+        <translation>O LibreOffice não diz nada sobre uma apresentação a outros programas até você permitir. O Orvello pode fazer isso por você: ele muda um ajuste do LibreOffice, e você pode desfazer quando quiser.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Agora não</translation>
+    </message>
+    <message>
+        <source>Orvello is talking to LibreOffice…
+
+This may take some seconds.</source>
+        <translation>O Orvello está falando com o LibreOffice…
+
+Isso pode levar alguns segundos.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ImpressPresenter</name>
+    <message>
+        <source>notes</source>
+        <extracomment>What Impress calls a speaker&apos;s notes.</extracomment>
+        <translation>anotações</translation>
+    </message>
+    <message>
+        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>permissão negada: o LibreOffice só responde a outros programas quando você permite</translation>
+    </message>
+    <message>
+        <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
+        <translation>Para acompanhar o Impress, o Orvello precisa do pacote python3-uno. Instale-o e tente de novo.</translation>
+    </message>
+    <message>
+        <source>LibreOffice isn&apos;t installed.</source>
+        <translation>O LibreOffice não está instalado.</translation>
+    </message>
+    <message>
+        <source>LibreOffice did not answer. Close it and try again.</source>
+        <translation>O LibreOffice não respondeu. Feche-o e tente de novo.</translation>
+    </message>
+    <message>
+        <source>LibreOffice already listens to another program (%1).</source>
+        <extracomment>%1: how the other program is connected.</extracomment>
+        <translation>O LibreOffice já escuta outro programa (%1).</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+To take this back later: %1</source>
+        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
+        <translation>O Orvello já pode acompanhar o Impress. Inicie de novo a apresentação ou a importação.
+
+Para desfazer mais tarde: %1</translation>
+    </message>
+    <message>
+        <source>Orvello may no longer follow Impress.</source>
+        <translation>O Orvello não pode mais acompanhar o Impress.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LaunchOptions</name>
+    <message>
+        <source>unknown option %1; did you mean %2?</source>
+        <translation>opção desconhecida %1; você quis dizer %2?</translation>
+    </message>
+    <message>
+        <source>unknown option %1</source>
+        <translation>opção desconhecida %1</translation>
+    </message>
+    <message>
+        <source>the preference %1 lacks its value</source>
+        <translation>falta o valor do ajuste %1</translation>
+    </message>
+    <message>
+        <source>%1 is no address that Orvello opens</source>
+        <translation>%1 não é um endereço que o Orvello abre</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;</source>
+        <translation>não existe o arquivo “%1”</translation>
+    </message>
+    <message>
+        <source>%1 is not a PowerPoint deck (.pptx)</source>
+        <translation>%1 não é uma apresentação do PowerPoint (.pptx)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LibraryStore</name>
+    <message>
+        <source>My Script</source>
+        <extracomment>The title of the only script of a user of the first versions.</extracomment>
+        <translation>Meu roteiro</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <extracomment>The title of a new script.</extracomment>
+        <translation>Sem título</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LibraryWindow</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Roteiros</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LiveDeckImport</name>
+    <message>
+        <source>%1 deck</source>
+        <extracomment>The title of a deck without a name. %1: a presentation program, such as Keynote.</extracomment>
+        <translation>Apresentação do %1</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::MainMenu</name>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OnboardingWindowController</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Boas-vindas ao Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::PptxImporter</name>
+    <message>
+        <source>The file could not be opened as a PowerPoint package.</source>
+        <translation>O arquivo não pôde ser aberto como um pacote do PowerPoint.</translation>
+    </message>
+    <message>
+        <source>No slides were found — is this a .pptx presentation?</source>
+        <translation>Nenhum slide encontrado. É uma apresentação .pptx?</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::PrompterStatus</name>
+    <message>
+        <source>get ready</source>
+        <extracomment>On the card, at most about 20 characters: the countdown runs.</extracomment>
+        <translation>prepare-se</translation>
+    </message>
+    <message>
+        <source>hover pause</source>
+        <extracomment>On the card, at most about 20 characters: the pointer over the card holds the text.</extracomment>
+        <translation>pausa do ponteiro</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <extracomment>On the card, at most about 20 characters: the text stands still.</extracomment>
+        <translation>em pausa</translation>
+    </message>
+    <message>
+        <source>listening…</source>
+        <extracomment>On the card, at most about 20 characters: the text waits for the user to speak.</extracomment>
+        <translation>ouvindo…</translation>
+    </message>
+    <message>
+        <source>scrolling</source>
+        <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
+        <translation>rolando</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ScriptEditor</name>
+    <message numerus="yes">
+        <source>%n words</source>
+        <translation>
+            <numerusform>%n palavra</numerusform>
+            <numerusform>%n palavras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported deck (%1) — notes are read-only here; edit them in the presentation and re-import.</source>
+        <extracomment>%1: where the deck is from: a program or a file.</extracomment>
+        <translation>Apresentação importada (%1): aqui as anotações são só para leitura; edite-as na apresentação e importe de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ScriptListModel</name>
+    <message>
+        <source>Untitled</source>
+        <extracomment>Stands for a script without a title.</extracomment>
+        <translation>Sem título</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slides</source>
+        <translation>
+            <numerusform>%n slide</numerusform>
+            <numerusform>%n slides</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SettingsForm</name>
+    <message>
+        <source>%1%</source>
+        <extracomment>%1: a number. The sign stands where the language has it.</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Font size — %1</source>
+        <extracomment>%1: the size in points.</extracomment>
+        <translation>Tamanho do texto — %1</translation>
+    </message>
+    <message>
+        <source>Scroll speed — %1 pt/s</source>
+        <extracomment>%1: points per second.</extracomment>
+        <translation>Velocidade da rolagem — %1 pt/s</translation>
+    </message>
+    <message>
+        <source>Background opacity — %1</source>
+        <extracomment>%1: a percentage.</extracomment>
+        <translation>Opacidade do fundo — %1</translation>
+    </message>
+    <message>
+        <source>Sensitivity — %1</source>
+        <extracomment>Of the microphone&apos;s detector of speech. %1: a percentage.</extracomment>
+        <translation>Sensibilidade — %1</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativada</translation>
+    </message>
+    <message>
+        <source>3 seconds</source>
+        <translation>3 segundos</translation>
+    </message>
+    <message>
+        <source>5 seconds</source>
+        <translation>5 segundos</translation>
+    </message>
+    <message>
+        <source>10 seconds</source>
+        <translation>10 segundos</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Branco</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Ciano</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Laranja</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SettingsWindow</name>
+    <message>
+        <source>Orvello Settings</source>
+        <translation>Ajustes do Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ShortcutList</name>
+    <message>
+        <source>Speed up / down</source>
+        <extracomment>What two keys do, one each. The second text is for a narrow list: at most about 20 characters.</extracomment>
+        <translation>Acelerar / desacelerar</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidade</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SlideStatus</name>
+    <message>
+        <source>Live</source>
+        <extracomment>On the card, at most about 12 characters: the notes follow the running slideshow.</extracomment>
+        <translation>Ao vivo</translation>
+    </message>
+    <message>
+        <source>No access</source>
+        <extracomment>On the card, at most about 12 characters: the presentation program may not be asked.</extracomment>
+        <translation>Sem acesso</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <extracomment>On the card, at most about 12 characters: the user turns the notes by hand.</extracomment>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>On the card: which slide of how many.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::StatusMenu</name>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>A line of the help menu. %1: the program&apos;s version, such as &quot;2.1 (57)&quot;.</extracomment>
+        <translation>Orvello %1</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::Support</name>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>The subject of a mail to the support. %1: the program&apos;s version.</extracomment>
+        <translation>Orvello %1</translation>
+    </message>
+    <message>
+        <source>Orvello %1, %2
+If something went wrong, attach the log: Orvello menu → Help → Reveal Log Files.</source>
+        <extracomment>The last lines of a mail to the support, below what the user writes. %1: the program&apos;s version, %2: the operating system with its version. The path names the menu&apos;s lines.</extracomment>
+        <translation>Orvello %1, %2
+Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os registros.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::UpdateDialogs</name>
+    <message>
+        <source>Check for updates automatically?</source>
+        <translation>Buscar atualizações automaticamente?</translation>
+    </message>
+    <message>
+        <source>Once a day, Orvello would look at the vendor&apos;s web site for a newer version. Nothing about you is sent. You can change this in the settings at any time.</source>
+        <translation>Uma vez por dia, o Orvello procuraria no site do fornecedor uma versão mais nova. Nada sobre você é enviado. Você pode mudar isso nos ajustes a qualquer momento.</translation>
+    </message>
+    <message>
+        <source>Check Automatically</source>
+        <translation>Buscar automaticamente</translation>
+    </message>
+    <message>
+        <source>Don’t Check</source>
+        <translation>Não buscar</translation>
+    </message>
+    <message>
+        <source>Orvello %1 is available.</source>
+        <extracomment>%1: the version, such as 2.1.</extracomment>
+        <translation>O Orvello %1 está disponível.</translation>
+    </message>
+    <message>
+        <source>You have %1. The new version is on its download page, which Install opens in your browser.</source>
+        <extracomment>%1: the version. Install is the button&apos;s name.</extracomment>
+        <translation>Você tem a versão %1. A nova está na página de download, que o botão Instalar abre no seu navegador.</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Instalar…</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <translation>Ignorar esta versão</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>You have %1.</source>
+        <translation>Você tem a versão %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::VoiceActivityEngine</name>
+    <message>
+        <source>another app is using the microphone</source>
+        <extracomment>Stands in brackets in the middle of a sentence.</extracomment>
+        <translation>outro aplicativo está usando o microfone</translation>
+    </message>
+    <message>
+        <source>%1 is open</source>
+        <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
+        <translation>%1 está aberto</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::WelcomeScript</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Boas-vindas ao Orvello</translation>
+    </message>
+    <message>
+        <source>Welcome to Orvello. This is your private teleprompter.</source>
+        <translation>Boas-vindas ao Orvello. Este é seu teleprompter particular.</translation>
+    </message>
+    <message>
+        <source>Drag this panel anywhere — put it right under your camera for natural eye contact. Resize it from any edge.</source>
+        <translation>Arraste este painel para onde quiser: logo abaixo da câmera, seu olhar fica natural. Mude o tamanho por qualquer borda.</translation>
+    </message>
+    <message>
+        <source>Press %1P to start or pause scrolling. Use %1Up or Down to change the speed on the fly. Hover the mouse over this panel any time to pause instantly; move away and it resumes.</source>
+        <extracomment>%1: the keys to hold, as in &quot;Option-Command-P&quot; or &quot;Alt+Super+P&quot;. Up and Down are the arrow keys.</extracomment>
+        <translation>Pressione %1P para iniciar ou pausar a rolagem. Use %1Para cima ou Para baixo para mudar a velocidade na hora. Deixe o ponteiro sobre este painel para pausar imediatamente; afaste-o e ela continua.</translation>
+    </message>
+    <message>
+        <source>Turn on voice-follow in the menu bar and the script scrolls while you speak, then waits when you pause.</source>
+        <translation>Ative “Seguir a voz” na barra de menus: o roteiro rola enquanto você fala e espera quando você para.</translation>
+    </message>
+    <message>
+        <source>Turn on voice-follow in the menu and the script scrolls while you speak, then waits when you pause. The menu opens from the tray, or with a right click on this panel.</source>
+        <translation>Ative “Seguir a voz” no menu: o roteiro rola enquanto você fala e espera quando você para. O menu abre pela bandeja ou com um clique direito neste painel.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window is invisible to screen sharing, recordings, and screenshots. Your audience only sees your slides — never your notes.</source>
+        <translation>Com o modo furtivo ativado, esta janela fica invisível em compartilhamentos de tela, gravações e capturas. Seu público só vê seus slides, nunca suas anotações.</translation>
+    </message>
+    <message>
+        <source>Sharing your screen? Leave Stealth Mode alone while you share — toggling it mid-share can make your meeting app show a gray box where the prompter sits. Close and open Orvello again to clear it.</source>
+        <translation>Vai compartilhar a tela? Não mexa no modo furtivo enquanto isso: alterná-lo pode fazer o aplicativo de reuniões mostrar uma caixa cinza no lugar do prompter. Feche e abra o Orvello de novo para removê-la.</translation>
+    </message>
+    <message>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
+        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides: seu público vê seus slides, nunca suas anotações.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::WelcomeTour</name>
+    <message>
+        <source>Zoom → Share Screen → &quot;your slides&apos; window&quot; (not &quot;Entire Screen&quot;)</source>
+        <translation>Zoom → Compartilhar tela → “a janela dos seus slides” (não “a tela inteira”)</translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
+        <translation>Zoom → Configurações → Compartilhar tela → Avançado → Modo de captura de tela → “Captura avançada com filtragem de janelas” (ou “Sistemas operacionais anteriores”)</translation>
+    </message>
+</context>
+<context>
+    <name>PrivacySettings</name>
+    <message>
+        <source>Privacy</source>
+        <translation>Privacidade</translation>
+    </message>
+    <message>
+        <source>Stealth Mode — hide from screen sharing, recordings &amp; screenshots</source>
+        <translation>Modo furtivo: ocultar de compartilhamentos de tela, gravações e capturas</translation>
+    </message>
+    <message>
+        <source>This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off.</source>
+        <translation>Este ambiente não consegue ocultar uma janela de compartilhamentos de tela, gravações ou capturas. Neles o prompter fica visível, com o modo furtivo ativado ou não.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.</source>
+        <translation>Com o modo furtivo ativado antes do compartilhamento, o prompter fica invisível em compartilhamentos de tela, gravações e capturas (Zoom, Meet, QuickTime e outros), e continua totalmente visível para você.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots — while staying fully visible to you.</source>
+        <translation>Com o modo furtivo ativado antes do compartilhamento, o prompter fica invisível em compartilhamentos de tela, gravações e capturas, e continua totalmente visível para você.</translation>
+    </message>
+    <message>
+        <source>Stealth Mode takes effect on desktops that can keep a window out of screen sharing, recordings, and screenshots. With it on, the prompter&apos;s card says when this one cannot.</source>
+        <translation>O modo furtivo funciona em ambientes que conseguem manter uma janela fora de compartilhamentos de tela, gravações e capturas. Quando ativado, o cartão do prompter diz se este não consegue.</translation>
+    </message>
+    <message>
+        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
+        <translation>Para risco zero, compartilhe a janela da apresentação em vez da tela inteira: uma janela compartilhada nunca pode incluir o prompter.</translation>
+    </message>
+    <message>
+        <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
+        <translation>Não mexa no modo furtivo durante um compartilhamento: alterná-lo pode fazer o aplicativo de reuniões desenhar uma caixa cinza em seu lugar (feche e abra o Orvello de novo para removê-la). Para risco zero, compartilhe a janela da apresentação em vez da tela inteira.</translation>
+    </message>
+</context>
+<context>
+    <name>PrompterSettings</name>
+    <message>
+        <source>Prompter</source>
+        <translation>Prompter</translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation>Cor do texto</translation>
+    </message>
+</context>
+<context>
+    <name>PrompterView</name>
+    <message>
+        <source>Prompter</source>
+        <translation>Prompter</translation>
+    </message>
+    <message>
+        <source>DEBUG — VISIBLE IN RECORDINGS</source>
+        <extracomment>On the card, at most about 40 characters: others can see the prompter.</extracomment>
+        <translation>DEPURAÇÃO — VISÍVEL EM GRAVAÇÕES</translation>
+    </message>
+    <message>
+        <source>VISIBLE IN RECORDINGS</source>
+        <translation>VISÍVEL EM GRAVAÇÕES</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptRow</name>
+    <message>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: a script&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: how many slides, as in &quot;4 slides&quot;.</extracomment>
+        <translation>%2, %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptSidebar</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Roteiros</translation>
+    </message>
+    <message>
+        <source>New script</source>
+        <translation>Novo roteiro</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Apagar</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSettings</name>
+    <message>
+        <source>Session</source>
+        <translation>Sessão</translation>
+    </message>
+    <message>
+        <source>Countdown before start</source>
+        <translation>Contagem regressiva antes do início</translation>
+    </message>
+    <message>
+        <source>Press P to pause during a slideshow</source>
+        <translation>Pressionar P para pausar durante uma apresentação</translation>
+    </message>
+    <message>
+        <source>While a %1 slideshow is on-screen (where the cursor is hidden, so hover-to-pause can&apos;t work), a plain P pauses or resumes. It&apos;s active only during the slideshow, so it won&apos;t interfere with typing elsewhere. %2 always works too.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;; %2: keys, as in &quot;⌥⌘P&quot;.</extracomment>
+        <translation>Enquanto uma apresentação do %1 está na tela (o ponteiro fica oculto e não pode pausar), a tecla P sozinha pausa ou retoma. Ela só age durante a apresentação e não atrapalha a digitação em outro lugar. %2 funciona sempre.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsShortcut</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read aloud. %1: what the keys do; %2: the keys.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ShareNotice</name>
+    <message>
+        <source>Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.</source>
+        <translation>Alternar o modo furtivo durante um compartilhamento de tela pode cobrir este prompter de cinza: feche e abra o Orvello de novo para remover.</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Dispensar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutSettings</name>
+    <message>
+        <source>Keyboard shortcuts (global)</source>
+        <translation>Atalhos de teclado (globais)</translation>
+    </message>
+    <message>
+        <source>Other keys</source>
+        <translation>Outras teclas</translation>
+    </message>
+    <message>
+        <source>Change Shortcuts…</source>
+        <translation>Mudar os atalhos…</translation>
+    </message>
+</context>
+<context>
+    <name>SlideChip</name>
+    <message>
+        <source>Slide %1</source>
+        <extracomment>Read aloud. %1: which slide of how many, as in &quot;2 / 14&quot;.</extracomment>
+        <translation>Slide %1</translation>
+    </message>
+    <message>
+        <source>%2, %1</source>
+        <extracomment>Read aloud. %2: the slide&apos;s title, which goes in last, as it may hold a &quot;%1&quot;; %1: who turns the slides, as in &quot;Live&quot;.</extracomment>
+        <translation>%2, %1</translation>
+    </message>
+    <message>
+        <source>Previous slide</source>
+        <translation>Slide anterior</translation>
+    </message>
+    <message>
+        <source>Next slide</source>
+        <translation>Próximo slide</translation>
+    </message>
+</context>
+<context>
+    <name>SlidesSettings</name>
+    <message>
+        <source>Slides</source>
+        <translation>Slides</translation>
+    </message>
+    <message>
+        <source>Slide Tracking — notes follow the live slideshow</source>
+        <translation>Acompanhar os slides: as anotações seguem a apresentação</translation>
+    </message>
+    <message>
+        <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. The first time, macOS asks to let Orvello control that app — that&apos;s the sync. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Com uma apresentação importada (Roteiros → botão de importar) e “Acompanhar os slides” ativado, o prompter mostra as anotações do slide atual e muda sozinho quando você avança no %1. Na primeira vez, o macOS pergunta se o Orvello pode controlar esse aplicativo: essa é a sincronização. Desative para rolar a apresentação inteira como um roteiro comum.</translation>
+    </message>
+    <message>
+        <source>With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide&apos;s speaker notes and flips automatically as you advance in %1. Turn Slide Tracking off to scroll the whole deck as one normal script instead.</source>
+        <extracomment>%1: a presentation program.</extracomment>
+        <translation>Com uma apresentação importada (Roteiros → botão de importar) e “Acompanhar os slides” ativado, o prompter mostra as anotações do slide atual e muda sozinho quando você avança no %1. Desative para rolar a apresentação inteira como um roteiro comum.</translation>
+    </message>
+    <message>
+        <source>If sync shows &quot;No access&quot;: System Settings → Privacy &amp; Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.</source>
+        <extracomment>The words in quotation marks are those of the card. %1: presentation programs.</extracomment>
+        <translation>Se aparecer “Sem acesso”: Ajustes do Sistema → Privacidade e Segurança → Automação → Orvello → permita o %1, depois desative e ative “Acompanhar os slides”.</translation>
+    </message>
+    <message>
+        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
+        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
+        <translation>Se aparecer “Sem acesso”: o LibreOffice só responde a outros programas quando você permite. Importe a apresentação aberta (Roteiros → botão de importar), escolha Permitir quando o Orvello oferecer e inicie a apresentação de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBadge</name>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>TourCloseButton</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>TourCopyButton</name>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Copy the path</source>
+        <translation>Copiar o caminho</translation>
+    </message>
+</context>
+<context>
+    <name>TourDots</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <extracomment>Read aloud. %1: a page of the tour; %2: how many there are.</extracomment>
+        <translation>Página %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourFeature</name>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Read aloud, two sentences. %1: a title; %2: a text.</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourFooter</name>
+    <message>
+        <source>Skip tour</source>
+        <translation>Pular o tour</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Open my prompter</source>
+        <translation>Abrir meu prompter</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>TourKeyRow</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read aloud. %1: keys; %2: what they do.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TourPrivacyPage</name>
+    <message>
+        <source>One rule keeps your notes off the recording: share a window, never the whole screen.</source>
+        <translation>Uma regra mantém suas anotações fora da gravação: compartilhe uma janela, nunca a tela inteira.</translation>
+    </message>
+    <message>
+        <source>One rule and one safety net keep your notes off the recording.</source>
+        <translation>Uma regra e uma rede de segurança mantêm suas anotações fora da gravação.</translation>
+    </message>
+    <message>
+        <source>One rule, one safety net, and one Zoom setting keep your notes off the recording.</source>
+        <translation>Uma regra, uma rede de segurança e um ajuste do Zoom mantêm suas anotações fora da gravação.</translation>
+    </message>
+    <message>
+        <source>Stealth Mode is on by default</source>
+        <translation>O modo furtivo já vem ativado</translation>
+    </message>
+    <message>
+        <source>This desktop cannot hide a window</source>
+        <translation>Este ambiente não consegue ocultar uma janela</translation>
+    </message>
+    <message>
+        <source>No app can keep its window out of screen captures here, so Stealth Mode has no effect. The prompter says so on its card: whoever sees your whole screen sees it too.</source>
+        <translation>Aqui nenhum aplicativo consegue manter sua janela fora das capturas de tela, portanto o modo furtivo não tem efeito. O prompter diz isso em seu cartão: quem vê sua tela inteira também o vê.</translation>
+    </message>
+    <message>
+        <source>Turn it on before you share and leave it alone. Toggling it mid-share can make your meeting app draw a gray box where the prompter sits — close and reopen Orvello to clear it.</source>
+        <translation>Ative-o antes de compartilhar e não mexa mais. Alterná-lo durante o compartilhamento pode fazer o aplicativo de reuniões desenhar uma caixa cinza no lugar do prompter: feche e abra o Orvello de novo para removê-la.</translation>
+    </message>
+    <message>
+        <source>Want zero risk? Share just the window</source>
+        <translation>Quer risco zero? Compartilhe só a janela</translation>
+    </message>
+    <message>
+        <source>Zero risk: share just the window</source>
+        <translation>Risco zero: compartilhe só a janela</translation>
+    </message>
+    <message>
+        <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Compartilhar a tela inteira funciona com o modo furtivo. Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
+        <translation>No aplicativo de reuniões, escolha a janela dos seus slides em vez da tela inteira. Uma janela compartilhada nunca pode incluir o prompter. Gravadores também conseguem capturar uma só janela.</translation>
+    </message>
+</context>
+<context>
+    <name>TourSetupPage</name>
+    <message>
+        <source>You&apos;re set. Here&apos;s where things are.</source>
+        <translation>Tudo pronto. Veja onde fica cada coisa.</translation>
+    </message>
+    <message>
+        <source>Drag the prompter right under your camera for natural eye contact. Resize it from any edge.</source>
+        <translation>Arraste o prompter para logo abaixo da câmera e seu olhar ficará natural. Mude o tamanho por qualquer borda.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>Pause during a slideshow</source>
+        <translation>Pausar durante uma apresentação</translation>
+    </message>
+    <message>
+        <source>Hover</source>
+        <extracomment>Instead of a key: the pointer rests on the prompter.</extracomment>
+        <translation>Ponteiro em cima</translation>
+    </message>
+    <message>
+        <source>Pause instantly</source>
+        <translation>Pausa imediata</translation>
+    </message>
+    <message>
+        <source>Menu bar</source>
+        <translation>Barra de menus</translation>
+    </message>
+    <message>
+        <source>Tray menu</source>
+        <translation>Menu da bandeja</translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour.</source>
+        <translation>… e Roteiros, onde você escreve ou importa o que diz, os ajustes e este tour.</translation>
+    </message>
+    <message>
+        <source>… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.</source>
+        <translation>… e Roteiros, onde você escreve ou importa o que diz, os ajustes e este tour. Sem bandeja, clique com o botão direito no prompter.</translation>
+    </message>
+</context>
+<context>
+    <name>TourWelcomePage</name>
+    <message>
+        <source>Welcome to Orvello</source>
+        <translation>Boas-vindas ao Orvello</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Your audience sees your slides — never your notes.</source>
+        <translation>Seu teleprompter particular. Seu público vê seus slides, nunca suas anotações.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
+        <translation>Seu teleprompter particular. Compartilhe a janela dos seus slides e seu público nunca verá suas anotações.</translation>
+    </message>
+    <message>
+        <source>Invisible on screen shares</source>
+        <translation>Invisível ao compartilhar a tela</translation>
+    </message>
+    <message>
+        <source>Not part of a window share</source>
+        <translation>Fora de uma janela compartilhada</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
+        <translation>O modo furtivo oculta o prompter do Zoom, Meet, Teams, de gravações e capturas, enquanto você o vê perfeitamente.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Compartilhe uma janela no Zoom, Meet ou Teams e só você verá o prompter. Ao compartilhar a tela inteira, este ambiente o mostra a todos.</translation>
+    </message>
+    <message>
+        <source>Follows your voice</source>
+        <translation>Segue sua voz</translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this Mac only — nothing is recorded or uploaded.</source>
+        <translation>Rola enquanto você fala e espera quando você para. O áudio é analisado só neste Mac: nada é gravado nem enviado.</translation>
+    </message>
+    <message>
+        <source>Scrolls while you speak, waits when you pause. Audio is analyzed on this computer only — nothing is recorded or uploaded.</source>
+        <translation>Rola enquanto você fala e espera quando você para. O áudio é analisado só neste computador: nada é gravado nem enviado.</translation>
+    </message>
+    <message>
+        <source>Follows your slides</source>
+        <translation>Segue seus slides</translation>
+    </message>
+    <message>
+        <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Importe um arquivo .pptx ou uma apresentação aberta no %1, e as anotações mudam com seus slides.</translation>
+    </message>
+</context>
+<context>
+    <name>TourZoomCard</name>
+    <message>
+        <source>Using Zoom? Set this once</source>
+        <translation>Usa o Zoom? Ajuste uma vez</translation>
+    </message>
+    <message>
+        <source>Using Zoom? Share a window</source>
+        <translation>Usa o Zoom? Compartilhe uma janela</translation>
+    </message>
+    <message>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
+        <translation>Aqui nenhum ajuste do Zoom oculta o prompter: compartilhar a tela inteira mostra suas anotações. Compartilhar uma janela, nunca.</translation>
+    </message>
+    <message>
+        <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>
+        <translation>O padrão do Zoom, Automático, costuma funcionar, mas escolhe um método de captura a cada sessão, e um deles pode mostrar suas anotações.</translation>
+    </message>
+    <message>
+        <source>Zoom → Share Screen → &lt;b&gt;your slides&apos; window&lt;/b&gt; (not Entire Screen).</source>
+        <extracomment>The words between &lt;b&gt; and &lt;/b&gt; are shown in bold.</extracomment>
+        <translation>Zoom → Compartilhar tela → &lt;b&gt;a janela dos seus slides&lt;/b&gt; (não a tela inteira).</translation>
+    </message>
+    <message>
+        <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
+        <translation>Zoom → Configurações → Compartilhar tela → Avançado → Modo de captura de tela → &lt;b&gt;Captura avançada com filtragem de janelas&lt;/b&gt; (ou Sistemas operacionais anteriores).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateSettings</name>
+    <message>
+        <source>Updates</source>
+        <translation>Atualizações</translation>
+    </message>
+    <message>
+        <source>Check for updates automatically (once a day)</source>
+        <translation>Buscar atualizações automaticamente (uma vez por dia)</translation>
+    </message>
+    <message>
+        <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your computer beyond the app version. Orvello installs nothing by itself: if you want the new version, it opens the download page.</source>
+        <translation>A busca pergunta ao site do fornecedor qual é a versão mais recente e não envia nada sobre você ou seu computador além da versão do aplicativo. O Orvello não instala nada por conta própria: se você quiser a nova versão, ele abre a página de download.</translation>
+    </message>
+    <message>
+        <source>The check asks the vendor&apos;s web site for the latest version and sends nothing about you or your Mac beyond the app version. Updates are signed, and you always confirm before one installs.</source>
+        <translation>A busca pergunta ao site do fornecedor qual é a versão mais recente e não envia nada sobre você ou seu Mac além da versão do aplicativo. As atualizações são assinadas, e você sempre confirma antes de instalar.</translation>
+    </message>
+    <message>
+        <source>Orvello %1 — not checked yet</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1 — ainda sem busca</translation>
+    </message>
+    <message>
+        <source>Orvello %1 — last checked %2</source>
+        <extracomment>%1: the version; %2: a date and a time.</extracomment>
+        <translation>Orvello %1 — última busca %2</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Buscar agora</translation>
+    </message>
+</context>
+<context>
+    <name>VoiceSettings</name>
+    <message>
+        <source>Voice-follow</source>
+        <translation>Seguir a voz</translation>
+    </message>
+    <message>
+        <source>Scroll while I speak, pause when I pause</source>
+        <translation>Rolar enquanto falo, pausar quando paro</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Nível do microfone</translation>
+    </message>
+    <message>
+        <source>Microphone access is denied. Allow it in your desktop&apos;s privacy settings, then toggle voice-follow again.</source>
+        <translation>O acesso ao microfone foi negado. Permita-o nos ajustes de privacidade do seu ambiente, depois desative e ative “Seguir a voz”.</translation>
+    </message>
+    <message>
+        <source>Microphone access is denied. Enable it in System Settings → Privacy &amp; Security → Microphone, then toggle voice-follow again.</source>
+        <translation>O acesso ao microfone foi negado. Permita-o em Ajustes do Sistema → Privacidade e Segurança → Microfone, depois desative e ative “Seguir a voz”.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: on — audio playing from this Mac won&apos;t move the prompter.</source>
+        <translation>Cancelamento de eco: ativado; o som deste Mac não move o prompter.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: on — audio playing from this computer won&apos;t move the prompter.</source>
+        <translation>Cancelamento de eco: ativado; o som deste computador não move o prompter.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <extracomment>%1: why, such as &quot;another app is using the microphone&quot; or &quot;Zoom is open&quot;.</extracomment>
+        <translation>Cancelamento de eco: pausado (%1) para sua voz continuar funcionando em chamadas. Com alto-falantes, uma voz alta do outro lado pode mover o prompter; com fones, não.</translation>
+    </message>
+    <message>
+        <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
+        <translation>O áudio é analisado no aparelho, só pelo volume. Nada é gravado, reconhecido nem enviado.</translation>
+    </message>
+</context>
+</TS>

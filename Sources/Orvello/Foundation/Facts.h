@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+namespace Orvello {
+
+/// What is true of the machine that the program runs on, as far as its texts speak of it. A text
+/// asks for the fact that it states, and never for an operating system.
+struct Facts {
+    Q_GADGET
+    Q_PROPERTY(bool canHideWindows MEMBER canHideWindows CONSTANT FINAL)
+    Q_PROPERTY(bool hasMenuBar MEMBER hasMenuBar CONSTANT FINAL)
+    Q_PROPERTY(bool isMac MEMBER isMac CONSTANT FINAL)
+    Q_PROPERTY(bool asksBeforeControl MEMBER asksBeforeControl CONSTANT FINAL)
+    Q_PROPERTY(bool hasPrivacySettings MEMBER hasPrivacySettings CONSTANT FINAL)
+    Q_PROPERTY(bool installsUpdates MEMBER installsUpdates CONSTANT FINAL)
+    Q_PROPERTY(bool zoomChoosesCapture MEMBER zoomChoosesCapture CONSTANT FINAL)
+    Q_PROPERTY(QString presenters READ presenters CONSTANT FINAL)
+    Q_PROPERTY(QString presentersInFull READ presentersInFull CONSTANT FINAL)
+
+public:
+    bool canHideWindows = false; ///< The desktop can keep a window out of captures.
+    bool hasMenuBar = false; ///< The menu is always in the screen's bar, not in a tray, if at all.
+    bool isMac = false; ///< People call the computer a Mac.
+    bool asksBeforeControl = false; ///< The system asks before it lets one program control another.
+    bool hasPrivacySettings = false; ///< System Settings → Privacy & Security grants permissions.
+    bool installsUpdates = false; ///< The updater installs what it finds, signed.
+    bool zoomChoosesCapture = false; ///< Zoom has a setting for how it captures the screen.
+    bool hasKeynoteAndPowerPoint
+        = false; ///< These two present here; LibreOffice Impress otherwise.
+
+    QString operatingSystem; ///< With its version: "macOS Version 14.5".
+    QString keyPrefix; ///< The hot keys' modifiers, spelled: "Option-Command-".
+
+    /// The presentation programs by the short and the full names of their makers, as "one or
+    /// other".
+    QString presenters() const;
+    QString presentersInFull() const;
+};
+
+} // namespace Orvello
+
+Q_DECLARE_METATYPE(Orvello::Facts)
