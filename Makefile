@@ -45,7 +45,7 @@ sanitize:
 	done
 
 format:
-	@git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format -i
+	@git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format-14 -i
 
 tidy:
 	@tools/setup test

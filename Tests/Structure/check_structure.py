@@ -6,7 +6,7 @@
     check_structure.py platforms  nothing outside Adapters/ asks for an operating system
     check_structure.py library    nothing uses what the C++ library of macOS 13.0 lacks, and Linux has
     check_structure.py threads    ThreadSanitizer gets to see each unit test that starts a thread
-    check_structure.py format     the sources are laid out as clang-format does it
+    check_structure.py format     the sources are laid out as clang-format 14 does it
     check_structure.py translations LUPDATE   each translation file has the texts of the sources and no others,
                                   every one translated
 """
@@ -187,7 +187,7 @@ def check_threads():
 
 def check_format():
     files = [str(path) for path in sources(".h", ".cpp", ".mm")]
-    result = subprocess.run(["clang-format", "--dry-run", "--Werror", *files],
+    result = subprocess.run(["clang-format-14", "--dry-run", "--Werror", *files],
                             capture_output=True, text=True)
     return result.stderr.splitlines() if result.returncode else []
 
