@@ -19,12 +19,18 @@ Item {
     }
 
     TourDots {
+        // Where words are long they make room: on the left there is no button on the last page.
+        readonly property double overlap: Math.max(0, (root.width + width) / 2 + 16 - (root.width - buttons.width - 28))
+
         anchors.centerIn: parent
+        anchors.horizontalCenterOffset: -overlap
         count: root.tour.pageCount
         current: root.tour.page
     }
 
     Row {
+        id: buttons
+
         anchors.right: parent.right
         anchors.rightMargin: 28
         anchors.verticalCenter: parent.verticalCenter
