@@ -39,10 +39,10 @@ public:
     explicit DeckImports(const Services& services);
     ~DeckImports() override;
 
-    /// Of the menu's items: a file first, then what is open in each presentation application.
+    /// The titles of the menu's items: a file first, then what is open in each presenter.
     QStringList titles() const;
 
-    /// Runs the item of that place in the menu.
+    /// Runs the item at that place in the menu.
     Q_INVOKABLE void run(int item);
 
     Q_INVOKABLE void chooseFile();

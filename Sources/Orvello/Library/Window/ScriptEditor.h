@@ -25,7 +25,7 @@ class ScriptEditor final : public QObject {
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)
 
 public:
-    explicit ScriptEditor(LibraryStore& library); ///< Of no script.
+    explicit ScriptEditor(LibraryStore& library); ///< An editor without a script.
     ScriptEditor(LibraryStore& library, const Script& script); ///< `library` must outlive both.
     ~ScriptEditor() override;
 
@@ -44,7 +44,7 @@ public:
     bool isDeck() const { return m_deckSource.has_value(); }
     QString deckNotice() const;
 
-    /// Whether an edit would reach the script: it is the one that the store edits.
+    /// Whether an edit would reach the script, because it is the one that the store edits.
     bool isEditable() const { return m_isEditable; }
     void setEditable(bool isEditable);
 
@@ -69,12 +69,12 @@ private:
     LibraryStore& m_library;
     QUuid m_id;
     QString m_title;
-    QString m_body; ///< As a document has it: with plain line feeds.
-    std::optional<QString> m_deckSource; ///< Of a deck, an absent one as empty.
+    QString m_body; ///< In a document's form: with plain line feeds.
+    std::optional<QString> m_deckSource; ///< Set only for a deck; empty when its source is unknown.
     qsizetype m_wordCount = 0;
     bool m_isEditable = false;
-    bool m_isAsInLibrary = true; ///< The body, but for the unstored edit.
-    std::optional<TextEdit> m_unstored; ///< Where the library does not have the user's edits yet.
+    bool m_isAsInLibrary = true; ///< The body matches the library's, except for the unstored edit.
+    std::optional<TextEdit> m_unstored; ///< The user's edits that the library does not have yet.
     bool m_isStoring = false; ///< The library is taking over the user's edit.
     bool m_isUpdating = false; ///< The document is following the library: no edit of the user's.
     QPointer<QTextDocument> m_document;
