@@ -53,8 +53,8 @@ public:
     /// Imports every deck among these files, in order.
     Q_INVOKABLE void importFiles(const QList<QUrl>& files);
 
-    /// Without a message, says that the error is not known. An alert that comes while another one
-    /// is showing waits for its turn.
+    /// Without a message, says that the error is unknown. An alert that arrives while another one
+    /// is showing waits its turn.
     void showAlert(const QString& title, const std::optional<QString>& message);
     Q_INVOKABLE void dismissAlert();
 

@@ -58,7 +58,7 @@ void OpenScripts::followActiveScript()
     if (before == active)
         return;
     Q_EMIT activeChanged();
-    before->setEditable(false); // Now that it is out of sight: a text field shows the difference.
+    before->setEditable(false); // Only now that it is out of sight, because a text field shows the difference.
     closeBeyondBounds();
 }
 

@@ -14,7 +14,7 @@ namespace Orvello {
 class LibraryStore;
 
 /// One script while it is open in the scripts window, or no script at all, which shows as empty
-/// fields. Every edit goes to the store at once, as that of the active script.
+/// fields. Every edit goes to the store at once, as an edit of the active script.
 class ScriptEditor final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
@@ -34,13 +34,13 @@ public:
     const QString& title() const { return m_title; }
     void setTitle(const QString& title);
 
-    /// What the document of the text field starts with.
+    /// What the text field's document starts with.
     const QString& body() const { return m_body; }
 
     /// "12 words".
     QString wordCountText() const;
 
-    /// A deck's body can only be read: the presentation is where it is edited.
+    /// A deck's body is read-only: it is edited in the presentation.
     bool isDeck() const { return m_deckSource.has_value(); }
     QString deckNotice() const;
 
@@ -48,10 +48,10 @@ public:
     bool isEditable() const { return m_isEditable; }
     void setEditable(bool isEditable);
 
-    /// Follows the edits that the user makes in a document that shows the body.
+    /// Follows the user's edits in a document that shows the body.
     Q_INVOKABLE void follow(QQuickTextDocument* document);
 
-    /// Shows what the library has after a change of this script.
+    /// Shows this script as the library has it after a change.
     void update(const Script& script, const LibraryChange& change);
 
 Q_SIGNALS:
@@ -76,7 +76,7 @@ private:
     bool m_isAsInLibrary = true; ///< The body matches the library's, except for the unstored edit.
     std::optional<TextEdit> m_unstored; ///< The user's edits that the library does not have yet.
     bool m_isStoring = false; ///< The library is taking over the user's edit.
-    bool m_isUpdating = false; ///< The document is following the library: no edit of the user's.
+    bool m_isUpdating = false; ///< The document is following the library, which is no edit by the user.
     QPointer<QTextDocument> m_document;
 };
 

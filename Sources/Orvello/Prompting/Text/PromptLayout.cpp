@@ -9,11 +9,11 @@ namespace Orvello {
 
 namespace {
 
-/// How many bits hold the start of a line.
+/// The bits that hold the start of a line.
 constexpr quint32 startMask = (1U << 30) - 1;
 constexpr qsizetype longestText = startMask;
 
-/// How many characters, from the first end of a paragraph on, are that end.
+/// How many characters the paragraph's end takes that `fromEnd` begins with.
 qsizetype paragraphEndLength(QStringView fromEnd) { return fromEnd.startsWith(u"\r\n") ? 2 : 1; }
 
 /// Where the paragraph begins that contains `position`, if that is less than a piece away.

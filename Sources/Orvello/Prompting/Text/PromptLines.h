@@ -35,7 +35,7 @@ public:
     void setFontSize(double points);
 
     double textWidth() const { return m_textWidth; }
-    void setTextWidth(double points); ///< Sets the width at which lines wrap.
+    void setTextWidth(double points); ///< The width at which lines wrap.
 
     /// The scale of the lines that are shown, which for a moment may still be the one before a
     /// change.

@@ -30,7 +30,7 @@ public:
         const Workspace& workspace;
         WindowChrome& chrome;
         HotKeys& hotKeys;
-        Facts facts; ///< What the tour may say of this machine.
+        Facts facts; ///< What the tour may say about this machine.
     };
 
     /// `onFinish` is called once, through the main event loop, whichever way the user leaves. It
