@@ -10,7 +10,7 @@ namespace Orvello {
 
 /// One window as the window server sees it.
 struct WindowOnScreen {
-    QString ownerName; ///< Of the application; empty when unknown.
+    QString ownerName; ///< The application's name; empty when unknown.
     std::optional<QRectF> bounds; ///< In the coordinates of Screens.
 };
 

@@ -14,7 +14,7 @@ class RawMicrophone {
 public:
     virtual ~RawMicrophone() = default;
 
-    /// Of the input device, in hertz; 0 when there is no usable one.
+    /// The input device's rate in hertz; 0 when there is no usable device.
     virtual double sampleRate() = 0;
 
     /// Lets `listener` hear about `blockFrames` samples at a time once the microphone runs. It must

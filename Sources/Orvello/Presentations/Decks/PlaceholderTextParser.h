@@ -33,7 +33,7 @@ private:
     bool m_insideShape = false;
     bool m_shapeAccepted = false;
     bool m_insideTextRun = false;
-    QString m_shapeText; ///< Of the shape being read.
+    QString m_shapeText; ///< The text so far of the shape being read.
 
     const qsizetype m_maximumLength;
     qsizetype m_collectedLength = 0;

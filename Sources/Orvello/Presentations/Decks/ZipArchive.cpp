@@ -16,7 +16,8 @@ namespace {
 
 constexpr qint64 chunkSize = 16'384;
 
-/// Of the buffer, from one entry to the next. The part that lists the slides may need far more.
+/// How much of the buffer is kept from one entry to the next. The part that lists the slides may
+/// need far more.
 constexpr qsizetype keptCapacity = 1'048'576;
 
 /// libzip takes two reads for each entry of the directory, which makes this a limit on their number
@@ -32,7 +33,7 @@ struct CloseFile {
     void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
 
-/// Packages know these two methods only. Others that libzip may support need memory as the
+/// Packages use only these two methods. Others that libzip may support need as much memory as the
 /// archive demands.
 bool isSupported(const zip_stat_t& entry)
 {

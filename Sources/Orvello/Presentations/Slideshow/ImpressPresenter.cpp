@@ -39,7 +39,7 @@ constexpr std::array answers {
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "Orvello may no longer follow Impress."),
 };
 
-/// An answer that is not among them, as from a part of the system, stays what it is.
+/// An answer that is not among them, such as one from the system, stays as it is.
 QString inUsersLanguage(const QString& answer)
 {
     for (const char* const source : answers) {
@@ -76,7 +76,7 @@ PresenterApp ImpressPresenter::row()
     return {
         .displayName = u"LibreOffice Impress"_s,
         .logName = u"Impress"_s,
-        .bundleIdentifier = u"libreoffice-impress"_s, // Of its desktop file.
+        .bundleIdentifier = u"libreoffice-impress"_s, // The name of its desktop file.
         //: What Impress calls a speaker's notes.
         .notesName = tr("notes"),
         .permissionAdvice

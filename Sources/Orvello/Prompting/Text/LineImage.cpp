@@ -10,11 +10,11 @@ namespace Orvello {
 
 namespace {
 
-/// Of a picture; every renderer takes one a little larger as a texture.
+/// The longest side of a picture; every renderer takes a slightly larger one as a texture.
 constexpr double largestSide = 4000;
 
-/// In which all glyphs lie, in points from the frame's left edge and the baseline. Accents may be
-/// stacked, and letters may lean out of their boxes, by half the font's size.
+/// The box that holds all glyphs, in points from the frame's left edge and the baseline. Stacked
+/// accents and leaning letters may leave their own boxes by half the font's size.
 QRectF roomFor(const QTextLine& line)
 {
     const double reach = 0.5 * line.height();
@@ -34,7 +34,7 @@ bool isClear(const QImage& image, const QRect& area)
     return true;
 }
 
-/// The pixels that have marks.
+/// The part of the picture that is not blank.
 QRect inkOf(const QImage& image)
 {
     QRect ink = image.rect();

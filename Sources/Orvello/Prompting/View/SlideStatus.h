@@ -29,14 +29,14 @@ public:
     bool isShown() const; ///< While one slide's notes are shown.
     QString position() const; ///< "2 / 14": counted from 1, as people count slides.
     QString widestPosition() const; ///< The widest of this deck: the chip has room for it.
-    QString title() const; ///< Of the slide; empty if it has none.
+    QString title() const; ///< The slide's title; empty if it has none.
     bool canGoBack() const;
     bool canGoOn() const;
     QString stateLabel() const; ///< Who turns the slides.
     QColor stateColor() const;
     static QStringList stateLabels(); ///< Every label there is.
 
-    /// One slide back or on; nothing where there is none.
+    /// One slide back or forward; does nothing at either end.
     Q_INVOKABLE void goBack();
     Q_INVOKABLE void goOn();
 

@@ -54,8 +54,8 @@ const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 
 constexpr uint declinedByUser
-    = 1; // Of the answers to a request; 0 is success, others are failures.
-constexpr uint configurableVersion = 2; // Of the interface: the first that can configure.
+    = 1; // In the answer to a request; 0 is success, others are failures.
+constexpr uint configurableVersion = 2; // The first interface version that can configure.
 
 /// Enough for every restart of a long session; a portal that fails each time is left alone.
 constexpr int mostRevivals = 5;

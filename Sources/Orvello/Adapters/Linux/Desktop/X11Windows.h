@@ -34,7 +34,7 @@ public:
     X11Windows(const X11Windows&) = delete;
     X11Windows& operator=(const X11Windows&) = delete;
 
-    /// Of the window that has the user's attention.
+    /// The class of the window that has the user's attention.
     std::optional<X11WindowClass> activeWindowClass() const;
 
     /// The mapped client windows without the desktop's own, from top to bottom; nothing without a

@@ -31,7 +31,7 @@ private:
 
     EchoRemoval m_removal { sampleRate };
     SampleBlocks m_farEnd { frameSamples };
-    int m_framesSinceFarEnd; ///< Of the microphone, since something audible was played.
+    int m_framesSinceFarEnd; ///< Microphone frames since something audible was played.
 };
 
 } // namespace Orvello

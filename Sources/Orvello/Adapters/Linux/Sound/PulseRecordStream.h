@@ -61,7 +61,7 @@ private:
     pa_usec_t m_lastSamples = 0;
 
     static constexpr int pending = -1;
-    AwaitableState<int> m_outcome; ///< Of the latest opening: pending, 0 or a pa_error_code.
+    AwaitableState<int> m_outcome; ///< How the latest opening went: pending, 0 or a pa_error_code.
 };
 
 } // namespace Orvello

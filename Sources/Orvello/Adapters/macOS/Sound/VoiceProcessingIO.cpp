@@ -85,7 +85,7 @@ private:
 
     AudioUnit m_unit;
     Listener& m_listener;
-    AudioUnitRenderActionFlags* m_flags = nullptr; ///< Of the callback that is running.
+    AudioUnitRenderActionFlags* m_flags = nullptr; ///< What the running callback was given.
     const AudioTimeStamp* m_time = nullptr; ///< The same.
 };
 
