@@ -117,7 +117,7 @@ DeckController::Unit DeckController::unitOf(const Script* script) const
     if (slideCountOf(script) == 0 || !m_settings.slideSync())
         return { script->body, std::nullopt, std::nullopt };
     const SlideNote& slide = script->slides->at(m_manualIndex);
-    return { slide.notes.isEmpty() ? u"(No speaker notes on this slide)"_s : slide.notes,
+    return { slide.notes.isEmpty() ? tr("(No speaker notes on this slide)") : slide.notes,
         slide.title, m_manualIndex };
 }
 

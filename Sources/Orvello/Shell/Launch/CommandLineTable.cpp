@@ -17,7 +17,7 @@ using enum Section;
 constexpr std::array table {
     Entry { Files, "FILE", "", "a PowerPoint deck (.pptx): its notes become the active script" },
 
-    Entry { Options, "--autostart", "", "start scrolling at once" },
+    Entry { Options, "--autostart", "", "start scrolling after the countdown" },
     Entry { Options, "--check-updates", "", "look for a newer version" },
     Entry { Options, "--no-stealth", "", "never hide the prompter from screen sharing" },
     Entry { Options, "--onboarding", "", "show the welcome tour" },

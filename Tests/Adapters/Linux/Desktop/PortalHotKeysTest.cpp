@@ -279,7 +279,7 @@ protected:
     std::unique_ptr<HotKeys::Reference> slower()
     {
         return keys->registerHotKeyFor(
-            { u"slower"_s, u"Scroll slower"_s }, HotKey::keyDown, optionCommand, { 0, 3 });
+            { u"slower"_s, u"Scroll more slowly"_s }, HotKey::keyDown, optionCommand, { 0, 3 });
     }
 
     template <typename Condition>
