@@ -48,7 +48,7 @@ TEST_F(LaunchOptionsTest, knowsEachSwitch)
 
 TEST_F(LaunchOptionsTest, findsFaultWithAnOptionThatLacksADashBeforeAFile)
 {
-    write(u"talk.pptx"_s);
+    makeFile(u"talk.pptx"_s);
 
     const LaunchOptions options = of({ u"-voice"_s, u"talk.pptx"_s, u"-speed"_s, u"40"_s });
 
