@@ -32,8 +32,8 @@ private:
     std::optional<double> m_aboveSince; ///< Start of the current run of loud blocks.
     double m_silenceDeadline = 0; ///< Until when speaking is held through quiet blocks.
 
-    // The threshold of the latest sensitivity: the exponential is the dearest step of a short
-    // block.
+    // The threshold of the latest sensitivity: the exponential is the most expensive step of a
+    // short block.
     double m_sensitivity = std::numeric_limits<double>::quiet_NaN();
     float m_threshold = 0;
 };

@@ -149,7 +149,7 @@ void LibraryStore::updateActive(
 
     LibraryChange change;
     if (title) {
-        change.isOtherTitle = *title != script->title;
+        change.hasNewTitle = *title != script->title;
         script->title = *title;
     }
     if (body && *body != script->body) {

@@ -87,7 +87,7 @@ bool OpenScripts::isBeyondBounds() const
     qsizetype characters = 0;
     for (const Open& open : m_open)
         characters += open.editor->body().size();
-    return m_open.size() - 1 > mostScripts || (m_open.size() > 2 && characters > mostCharacters);
+    return m_open.size() - 1 > maximumScripts || (m_open.size() > 2 && characters > maximumCharacters);
 }
 
 void OpenScripts::closeBeyondBounds()

@@ -87,11 +87,11 @@ void CocoaPanel::observePanel()
     ];
 }
 
-QRectF CocoaPanel::frame() const { return turnedOver(qRect(m_panel.frame)); }
+QRectF CocoaPanel::frame() const { return flippedVertically(qRect(m_panel.frame)); }
 
 void CocoaPanel::setFrame(const QRectF& frame)
 {
-    shielded([&] { [m_panel setFrame:cgRect(turnedOver(frame)) display:YES]; });
+    shielded([&] { [m_panel setFrame:cgRect(flippedVertically(frame)) display:YES]; });
 }
 
 void CocoaPanel::saveFrameAs(const QString& name)
