@@ -49,7 +49,8 @@ struct Command {
 
     std::string_view name; ///< For machines, and never changed: a switch, a shortcut's id.
     const char* title; ///< In a menu.
-    const char* titleWhileOn = nullptr; ///< In a menu while it is on, for a command with two titles.
+    const char* titleWhileOn
+        = nullptr; ///< In a menu while it is on, for a command with two titles.
     const char* description = nullptr; ///< What its key does.
     const char* shortDescription = nullptr; ///< The same where there is less room.
     const char* purpose = nullptr; ///< The same in the desktop's list of keys.

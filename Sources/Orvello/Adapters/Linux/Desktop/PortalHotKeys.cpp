@@ -53,8 +53,7 @@ const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 
-constexpr uint declinedByUser
-    = 1; // In the answer to a request; 0 is success, others are failures.
+constexpr uint declinedByUser = 1; // In the answer to a request; 0 is success, others are failures.
 constexpr uint configurableVersion = 2; // The first interface version that can configure.
 
 /// Enough for every restart of a long session; a portal that fails each time is left alone.
