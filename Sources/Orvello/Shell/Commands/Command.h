@@ -74,7 +74,7 @@ namespace Commands {
 /// The command of that name, which must exist.
 [[nodiscard]] const Command& named(std::string_view name);
 
-/// What it is called in a menu, as things stand.
+/// What it is called in a menu at present.
 [[nodiscard]] QString title(
     const Command& command, const CommandTarget& target, const HotKeys& keys);
 
