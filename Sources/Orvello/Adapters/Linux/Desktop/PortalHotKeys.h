@@ -98,7 +98,8 @@ private:
     State m_state = State::Idle;
     bool m_isRegistered = false; ///< The portal that runs has been told the ID.
     int m_attempt = 0; ///< Replies to an earlier one come too late.
-    int m_revivalsLeft; ///< How often a lost session may still be asked for again without a new portal.
+    int m_revivalsLeft; ///< How often a lost session may still be asked for again without a new
+                        ///< portal.
     int m_nextToken = 1;
 };
 
