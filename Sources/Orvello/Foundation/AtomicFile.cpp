@@ -67,8 +67,8 @@ bool writePieces(int descriptor, std::span<const std::string_view> pieces)
 /// loop.
 std::optional<std::string> followLinks(std::filesystem::path path)
 {
-    constexpr int mostLinks = 40; // As many as the kernel follows.
-    for (int i = 0; i < mostLinks; ++i) {
+    constexpr int maximumLinks = 40; // As many as the kernel follows.
+    for (int i = 0; i < maximumLinks; ++i) {
         std::error_code notALink;
         const std::filesystem::path next = std::filesystem::read_symlink(path, notALink);
         if (notALink)
@@ -84,9 +84,9 @@ std::optional<std::string> followLinks(std::filesystem::path path)
 /// second time within seconds.
 void closeInBackground(int descriptor)
 {
-    constexpr int mostAtOnce = 4; // A disk that cannot keep up slows the writer down.
+    constexpr int maximumPending = 4; // A disk that cannot keep up slows the writer down.
     static std::atomic<int> closing = 0;
-    if (closing.fetch_add(1) < mostAtOnce) {
+    if (closing.fetch_add(1) < maximumPending) {
         try {
             std::thread([descriptor] {
                 ::close(descriptor);

@@ -21,7 +21,8 @@ struct Facts {
 
 public:
     bool canHideWindows = false; ///< The desktop can keep a window out of captures.
-    bool hasMenuBar = false; ///< The menu is always in the screen's bar, not in a tray that may be missing.
+    bool hasMenuBar
+        = false; ///< The menu is always in the screen's bar, not in a tray that may be missing.
     bool isMac = false; ///< People call the computer a Mac.
     bool asksBeforeControl = false; ///< The system asks before it lets one program control another.
     bool hasPrivacySettings = false; ///< System Settings → Privacy & Security grants permissions.

@@ -15,7 +15,7 @@ struct LibraryChange {
     Kind kind = Kind::Edited;
     qsizetype row = 0; ///< Where the script is, or was before it was removed.
     QUuid id = {};
-    bool isOtherTitle = false; ///< For an edit: the title changed.
+    bool hasNewTitle = false; ///< For an edit: the title changed.
     std::optional<TextEdit> body = {}; ///< For an edit that changed the body: where it differs.
 
     friend bool operator==(const LibraryChange&, const LibraryChange&) = default;

@@ -58,7 +58,8 @@ void OpenScripts::followActiveScript()
     if (before == active)
         return;
     Q_EMIT activeChanged();
-    before->setEditable(false); // Only now that it is out of sight, because a text field shows the difference.
+    before->setEditable(
+        false); // Only now that it is out of sight, because a text field shows the difference.
     closeBeyondBounds();
 }
 
@@ -87,7 +88,8 @@ bool OpenScripts::isBeyondBounds() const
     qsizetype characters = 0;
     for (const Open& open : m_open)
         characters += open.editor->body().size();
-    return m_open.size() - 1 > mostScripts || (m_open.size() > 2 && characters > mostCharacters);
+    return m_open.size() - 1 > maximumScripts
+        || (m_open.size() > 2 && characters > maximumCharacters);
 }
 
 void OpenScripts::closeBeyondBounds()

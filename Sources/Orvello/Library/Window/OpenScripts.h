@@ -22,8 +22,8 @@ public:
 
     /// The active one counts, too. Beyond either bound the one out of sight for longest is closed;
     /// the active one may be of any length.
-    static constexpr std::size_t mostScripts = 8;
-    static constexpr qsizetype mostCharacters = 4'000'000; ///< Each takes a dozen bytes.
+    static constexpr std::size_t maximumScripts = 8;
+    static constexpr qsizetype maximumCharacters = 4'000'000; ///< Each takes a dozen bytes.
 
     explicit OpenScripts(LibraryStore& library); ///< `library` must outlive the model.
     ~OpenScripts() override;

@@ -98,7 +98,7 @@ void ScriptEditor::follow(QQuickTextDocument* document)
 
 void ScriptEditor::update(const Script& script, const LibraryChange& change)
 {
-    if (change.isOtherTitle) {
+    if (change.hasNewTitle) {
         m_title = script.title;
         Q_EMIT titleChanged();
     }

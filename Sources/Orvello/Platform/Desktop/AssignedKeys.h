@@ -5,7 +5,7 @@
 
 namespace Orvello {
 
-/// The hot keys as the user has assigned them, on desktops where that is done. Main thread.
+/// The hot keys as the user has assigned them, on desktops that manage them. Main thread.
 class AssignedKeys : public QObject { // Not final: QML derives from the types that it can create.
     Q_OBJECT
     /// What to press, in the desktop's own words, by the name of the key's purpose. Keys that the

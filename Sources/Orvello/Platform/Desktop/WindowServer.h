@@ -20,7 +20,7 @@ public:
     virtual ~WindowServer() = default;
 
     /// The visible windows from front to back, without the desktop's own; nothing when the window
-    /// server does not tell.
+    /// server does not say.
     virtual std::optional<QList<WindowOnScreen>> windowsOnScreen() const = 0;
 
     /// The size of every screen in points, in the system's order.

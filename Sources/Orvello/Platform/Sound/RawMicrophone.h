@@ -9,7 +9,7 @@
 
 namespace Orvello {
 
-/// The default input device as it sounds, mono. Main thread.
+/// The default input device, unprocessed and mono. Main thread.
 class RawMicrophone {
 public:
     virtual ~RawMicrophone() = default;

@@ -21,7 +21,7 @@ constexpr qint64 chunkSize = 16'384;
 constexpr qsizetype keptCapacity = 1'048'576;
 
 /// libzip takes two reads for each entry of the directory, which makes this a limit on their number
-/// before it has taken them in. It matters because the hash table for their names, as of libzip
+/// even before it has read them. It matters because the hash table for their names, as of libzip
 /// 1.7, can be made to degenerate, so that many entries take hours.
 constexpr DeviceZipSource::Allowance forOpening { .bytes = Limits::directorySize,
     .reads = 2 * Limits::entries + 1'000 };
@@ -132,7 +132,7 @@ bool ZipArchive::extract(quint32 index)
             return false;
         size += count;
         m_totalSize += count;
-    } while (count > 0); // libzip compares the checksum when it has found the end.
+    } while (count > 0); // libzip compares the checksum once it has reached the end.
     m_content.truncate(size);
     return static_cast<zip_uint64_t>(size) == entry.size;
 }

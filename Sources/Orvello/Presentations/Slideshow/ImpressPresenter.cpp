@@ -22,7 +22,7 @@ bool isRefused(const ScriptResult& result)
         && result.standardError.contains(notAuthorised);
 }
 
-/// What the helper, which speaks English, says about a change, with a hole where it varies.
+/// What the helper says, in English, about a change, with a placeholder where it varies.
 constexpr std::array answers {
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
         "To follow Impress, Orvello needs the package python3-uno. Install it and try again."),
@@ -136,7 +136,7 @@ void ImpressPresenter::disallow(Completion completion)
 
 void ImpressPresenter::change(const QString& question, Completion completion)
 {
-    m_isAdviceDue = false; // The user has found the way.
+    m_isAdviceDue = false; // The user knows how to allow it by now.
     m_isChanging = true;
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {

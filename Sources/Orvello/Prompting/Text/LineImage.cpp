@@ -49,7 +49,7 @@ QRect inkOf(const QImage& image)
     return ink;
 }
 
-/// Grown to whole device pixels, with an empty one around it to filter into.
+/// Grown to whole device pixels, with an empty border of one to filter into.
 QRect devicePixelsAround(const QRect& ink)
 {
     constexpr int rows = LineImage::rowsPerPixel;
@@ -68,7 +68,7 @@ LineImage LineImage::of(
     // A line that no texture could hold is drawn coarser.
     const double resolution = std::min({ scale, largestSide / (room.width() * typography.scale),
         largestSide / (room.height() * typography.scale * rowsPerPixel) });
-    const double pixels = typography.scale * resolution; // For each point before it is scaled.
+    const double pixels = typography.scale * resolution; // Pixels for each unscaled point.
     const QRect area = QRectF(room.topLeft() * pixels, room.size() * pixels).toAlignedRect();
     QImage canvas(area.width(), area.height() * rowsPerPixel, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);

@@ -1,7 +1,8 @@
 import QtQuick
 import Orvello
 
-// The way through the tour: out of it on the left, where one is in the middle, on on the right.
+// The way through the tour: the way out on the left, the current page in the middle, the next page
+// on the right.
 Item {
     id: root
 
@@ -39,13 +40,13 @@ Item {
         TourButton {
             visible: !root.tour.isFirstPage
             text: qsTr("Back")
-            onClicked: root.tour.goBack()
+            onClicked: root.tour.previous()
         }
         TourButton {
             focus: true
             leadsOn: true
             text: root.tour.isLastPage ? qsTr("Open my prompter") : qsTr("Continue")
-            onClicked: root.tour.goOn()
+            onClicked: root.tour.next()
         }
     }
 }

@@ -49,7 +49,8 @@ struct Command {
 
     std::string_view name; ///< For machines, and never changed: a switch, a shortcut's id.
     const char* title; ///< In a menu.
-    const char* titleWhileOn = nullptr; ///< In a menu while it is on, for a command with two titles.
+    const char* titleWhileOn
+        = nullptr; ///< In a menu while it is on, for a command with two titles.
     const char* description = nullptr; ///< What its key does.
     const char* shortDescription = nullptr; ///< The same where there is less room.
     const char* purpose = nullptr; ///< The same in the desktop's list of keys.
@@ -73,7 +74,7 @@ namespace Commands {
 /// The command of that name, which must exist.
 [[nodiscard]] const Command& named(std::string_view name);
 
-/// What it is called in a menu, as things stand.
+/// What it is called in a menu at present.
 [[nodiscard]] QString title(
     const Command& command, const CommandTarget& target, const HotKeys& keys);
 

@@ -71,7 +71,7 @@ QString sectionText(Section section)
     return lines;
 }
 
-/// How many letters must be put in, left out or replaced to make one text of the other.
+/// How many letters must be inserted, removed or replaced to turn one text into the other.
 qsizetype distance(QStringView from, QStringView to)
 {
     std::vector<qsizetype> row(static_cast<std::size_t>(to.size()) + 1);

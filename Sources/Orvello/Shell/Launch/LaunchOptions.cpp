@@ -93,7 +93,7 @@ void LaunchOptions::takeOption(const QString& option)
         mistakes.append(tr("the preference %1 lacks its value").arg(option));
 }
 
-/// A file that is there is a file, whatever address its name looks like.
+/// A file that exists is a file, even if its name looks like an address.
 void LaunchOptions::takeOperand(const QString& operand, const QDir& directory)
 {
     if (isAddress(operand) && !QFileInfo::exists(directory.absoluteFilePath(operand)))

@@ -22,7 +22,8 @@ class OnboardingWindowController final : public QObject, public ShellWindow {
 
 public:
     static constexpr QSize contentSize { 680, 580 }; ///< In points.
-    static constexpr qint64 version = 1; ///< The tour's version, which is remembered once the user has seen it.
+    static constexpr qint64 version
+        = 1; ///< The tour's version, which is remembered once the user has seen it.
 
     /// All of them must outlive the window.
     struct Services {

@@ -19,7 +19,8 @@ class SettingsWindow final : public ShellWindow {
     Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
 
 public:
-    static constexpr QSize contentSize { 500, 780 }; ///< In points, where the screen has room for it.
+    static constexpr QSize contentSize { 500,
+        780 }; ///< In points, where the screen has room for it.
 
     /// All of them must outlive the window.
     struct Services {

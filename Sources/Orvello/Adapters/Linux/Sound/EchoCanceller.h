@@ -8,7 +8,7 @@
 
 namespace Orvello {
 
-/// Takes what the computer plays out of what its microphone hears, by WebRTC audio processing,
+/// Removes what the computer plays from what its microphone hears, by WebRTC audio processing,
 /// which finds the delay between the two by itself. One thread.
 class EchoCanceller {
 public:

@@ -93,7 +93,7 @@ OSStatus orvelloVPInputProc(void* unit, AudioUnitRenderActionFlags* flags,
     const AudioTimeStamp* time, UInt32, UInt32 frames, AudioBufferList*)
 {
     static_cast<Unit*>(unit)->onInput(flags, time, frames);
-    return noErr; // Whatever happened: a skipped block is no reason to fail the unit.
+    return noErr; // Whatever happened: a skipped block must not fail the unit.
 }
 
 VoiceProcessingUnit::Status Unit::configure(Setting setting)
