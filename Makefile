@@ -45,6 +45,8 @@ sanitize:
 	done
 
 format:
+	@command -v clang-format-14 >/dev/null || { echo "make format: clang-format 14 is needed, as on Debian 12; other \
+	versions lay out differently" >&2; exit 1; }
 	@git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format-14 -i
 
 tidy:

@@ -236,7 +236,7 @@
         <translation>Schneller laufen</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>Langsamer laufen</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>Prompter zeigen oder verbergen</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>(Keine Sprechernotizen auf dieser Folie)</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ So nehmen Sie das später zurück: %1</translation>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1 ist keine PowerPoint-Präsentation (.pptx)</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>Siehe „orvello --help“.</translation>
     </message>
 </context>
 <context>

@@ -236,7 +236,7 @@
         <translation>Avanzar más rápido</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>Avanzar más despacio</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>Mostrar u ocultar el prompter</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>(Sin notas del orador en esta diapositiva)</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ Para deshacerlo más tarde: %1</translation>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1 no es una presentación de PowerPoint (.pptx)</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>Prueba «orvello --help».</translation>
     </message>
 </context>
 <context>

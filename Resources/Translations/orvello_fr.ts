@@ -236,7 +236,7 @@
         <translation>Défiler plus vite</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>Défiler moins vite</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>Afficher ou masquer le prompteur</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>(Aucune note de l’orateur sur cette diapositive)</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ Pour revenir en arrière plus tard : %1</translation>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1 n’est pas une présentation PowerPoint (.pptx)</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>Essayez « orvello --help ».</translation>
     </message>
 </context>
 <context>

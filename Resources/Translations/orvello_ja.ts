@@ -236,7 +236,7 @@
         <translation>スクロールを速くする</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>スクロールを遅くする</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>プロンプターを表示または隠す</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>（このスライドには発表者ノートがありません）</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ To take this back later: %1</source>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1はPowerPointのプレゼンテーション（.pptx）ではありません</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>「orvello --help」をお試しください。</translation>
     </message>
 </context>
 <context>

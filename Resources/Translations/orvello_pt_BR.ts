@@ -236,7 +236,7 @@
         <translation>Rolar mais rápido</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>Rolar mais devagar</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>Mostrar ou ocultar o prompter</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>(Sem anotações do orador neste slide)</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ Para desfazer mais tarde: %1</translation>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1 não é uma apresentação do PowerPoint (.pptx)</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>Experimente “orvello --help”.</translation>
     </message>
 </context>
 <context>

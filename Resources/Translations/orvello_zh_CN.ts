@@ -236,7 +236,7 @@
         <translation>加快滚动</translation>
     </message>
     <message>
-        <source>Scroll slower</source>
+        <source>Scroll more slowly</source>
         <translation>减慢滚动</translation>
     </message>
     <message>
@@ -246,6 +246,13 @@
     <message>
         <source>Show or hide the prompter</source>
         <translation>显示或隐藏提词器</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckController</name>
+    <message>
+        <source>(No speaker notes on this slide)</source>
+        <translation>（这张幻灯片没有演讲者备注）</translation>
     </message>
 </context>
 <context>
@@ -450,6 +457,10 @@ To take this back later: %1</source>
     <message>
         <source>%1 is not a PowerPoint deck (.pptx)</source>
         <translation>%1 不是 PowerPoint 演示文稿 (.pptx)</translation>
+    </message>
+    <message>
+        <source>Try &quot;orvello --help&quot;.</source>
+        <translation>请试试“orvello --help”。</translation>
     </message>
 </context>
 <context>

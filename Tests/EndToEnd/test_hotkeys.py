@@ -181,7 +181,7 @@ class PortalTest(HotKeyCase):
         self.start()
         self.wait_until_bound(portal)
         self.assertEqual(portal.shortcuts, {
-            "toggle": "Start or pause scrolling", "faster": "Scroll faster", "slower": "Scroll slower",
+            "toggle": "Start or pause scrolling", "faster": "Scroll faster", "slower": "Scroll more slowly",
             "restart": "Go back to the top of the script", "hide": "Show or hide the prompter"})
 
         portal.activate("toggle")

@@ -64,7 +64,7 @@ class ScriptsWindow:
         self.click(width // 2 + 120, bottom - 32)
 
     def row(self, number):
-        self.click(60, 18 + 25 * number) # Of rows without slides.
+        self.click(60, 18 + 25 * number) # The height of rows without slides.
 
     def text(self):
         self.click(-200, 200)

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int sheetWidth = 2400;
 constexpr int gap = 24; ///< Between two pictures, and at the sheet's edges.
-constexpr int margin = 16; ///< Of wallpaper around a window.
+constexpr int margin = 16; ///< How much wallpaper surrounds a window.
 constexpr int nameHeight = 24;
 
 struct Cell {

@@ -135,15 +135,28 @@ QString cutOf(const QQuickItem& text, const QQuickWindow& window)
     return {};
 }
 
+/// The tour's dots, which a button with a long text could lie on.
+QRectF placeOfDots(const QQuickWindow& window)
+{
+    for (const QQuickItem* const item : visibleItems(window)) {
+        if (QByteArray(item->metaObject()->className()).startsWith("TourDots"))
+            return placeInWindow(*item);
+    }
+    return {};
+}
+
 QStringList cutTexts(const QQuickWindow& window)
 {
     QStringList cut;
+    const QRectF dots = placeOfDots(window);
     for (const QQuickItem* const item : visibleItems(window)) {
         const QString text = item->property("text").toString();
         if (!item->inherits("QQuickText") || text.isEmpty() || isNobodysToTranslate(text))
             continue;
         if (const QString reason = cutOf(*item, window); !reason.isEmpty())
             cut.append(u"\"%1\" %2"_s.arg(text, reason));
+        if (placeInWindow(*item).intersects(dots))
+            cut.append(u"\"%1\" lies on the dots"_s.arg(text));
     }
     return cut;
 }

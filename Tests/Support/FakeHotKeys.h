@@ -73,7 +73,7 @@ public:
         Key key;
     };
     std::vector<Registration> registrations; ///< Every attempt, in order.
-    std::vector<HotKeyPurpose> purposes; ///< Of those attempts that named one.
+    std::vector<HotKeyPurpose> purposes; ///< The purposes of the attempts that named one.
     std::map<std::uint32_t, Key> registered; ///< What holds now, by id.
     int installations = 0;
     bool isOwnedByAnother = false;

@@ -63,7 +63,7 @@ private:
     private:
         State& m_state;
         const std::string m_name;
-        int* const m_count; ///< Of the windows like this one, if anybody counts.
+        int* const m_count; ///< Counts the windows like this one; may be null.
     };
 
     class Item final : public StatusItem {

@@ -20,7 +20,7 @@ struct ShapeCall {
     std::uint32_t connection;
     std::uint32_t window;
     bool hasRegion;
-    Rect rect; ///< Of the region, if there is one.
+    Rect rect; ///< The region's rectangle, if there is a region.
     friend bool operator==(const ShapeCall&, const ShapeCall&) = default;
 };
 

@@ -108,7 +108,7 @@ void writeArguments(std::string_view format, std::span<const LogArgument> argume
     try {
         writeLine(format, arguments);
     } catch (const std::exception&) {
-        // No memory for the line: it is lost, the program goes on.
+        // No memory for the line: it is lost, and the program goes on.
     }
 }
 

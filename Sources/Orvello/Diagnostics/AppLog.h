@@ -21,7 +21,7 @@ struct Session {
     std::string applicationSupport; ///< The folder above "Orvello/logs", absolute.
     std::string version = "?";
     std::string build = "?";
-    std::string architecture; ///< Of the build, such as "arm64".
+    std::string architecture; ///< The one it was built for, such as "arm64".
     std::string osVersion;
     SystemLog* systemLog = nullptr; ///< Lives as long as the process. None is standard error.
 };

@@ -67,8 +67,8 @@ void writeCrashBlock(int descriptor, int signal)
     writeRaw(descriptor, blockEnd);
 }
 
-/// Calls nothing that could lock or allocate. The lock of the log is left alone as well: its holder
-/// may be the one that crashed, and a torn line is better than no trace.
+/// Calls nothing that could lock or allocate. The log's lock is left alone as well: its holder may
+/// be the one that crashed, and a torn line is better than no trace.
 extern "C" void crashSignalHandler(int signal)
 {
     if (entered.exchange(1) != 0)

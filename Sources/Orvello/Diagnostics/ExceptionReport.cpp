@@ -16,7 +16,7 @@ struct Free {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-/// Nothing for a name that is none of C++: the Objective-C runtime throws its exceptions under the
+/// Nothing for a name that is not C++'s: the Objective-C runtime throws its exceptions under the
 /// plain names of their classes, and reports them itself.
 std::optional<std::string> nameInSource(const std::type_info& type)
 {

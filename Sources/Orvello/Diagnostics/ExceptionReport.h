@@ -12,8 +12,8 @@ struct ExceptionReport {
     std::string stack; ///< The frames of the calling thread, joined by line feeds.
 
     /// Describes the C++ exception that is being handled: inside a catch block, or in a terminate
-    /// handler, where the stack is still that of the throw. Nothing when none is, or when it comes
-    /// from another language.
+    /// handler, where the stack is still that of the throw. Nothing when there is none, or when it
+    /// comes from another language.
     [[nodiscard]] static std::optional<ExceptionReport> ofCurrentException();
 };
 

@@ -10,7 +10,7 @@
 namespace Orvello {
 
 /// One argument of a log line: a text, an integer (a boolean is 0 or 1) or a floating-point number.
-/// Texts are not copied, so an argument lives no longer than the call that it is made for.
+/// Texts are not copied, so an argument must not outlive the call that it is made for.
 class LogArgument {
 public:
     using Value = std::variant<std::string_view, QStringView, std::int64_t, std::uint64_t, double>;

@@ -19,7 +19,7 @@ std::optional<std::int64_t> sizeOfFile(const std::string& path)
     return status.st_size;
 }
 
-/// The old generation goes in any case, also when there is nothing to take its place.
+/// The old generation goes in any case, even when there is nothing to take its place.
 void moveReplacing(const std::string& from, const std::string& to)
 {
     static_cast<void>(::unlink(to.c_str()));

@@ -14,7 +14,7 @@ namespace Orvello::LogFormat {
 
 namespace {
 
-/// The conversion that `format` starts with: its percent sign alone if it is none that is known.
+/// The conversion that `format` starts with: its percent sign alone if the conversion is unknown.
 std::string_view conversionAtStartOf(std::string_view format)
 {
     for (const std::string_view known : { "%@", "%d", "%ld", "%%" }) {
@@ -26,8 +26,8 @@ std::string_view conversionAtStartOf(std::string_view format)
     return format.substr(0, isFixed ? 4 : 1);
 }
 
-/// As printf(3) rounds, but with a point in every locale: what the user's puts in its place may be
-/// several bytes. (std::to_chars knows no locale, but macOS 13.0 has none for doubles.)
+/// Rounds like printf(3), but with a point in every locale: the user's may have several bytes in
+/// its place. (std::to_chars knows no locale, but macOS 13.0 has none for doubles.)
 void appendFixed(std::string& line, double number, std::size_t decimals)
 {
     constexpr std::size_t mostDecimals = 9;

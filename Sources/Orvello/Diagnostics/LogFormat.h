@@ -7,12 +7,12 @@
 #include <string_view>
 
 /// The formats of the log, a few of printf's and Foundation's: %@ for a text, %d and %ld for an
-/// integer, %.0f to %.9f for a number with so many decimals, %% for a percent sign.
+/// integer, %.0f to %.9f for a number with that many decimals, %% for a percent sign.
 ///
 /// An argument knows its type, so none is ever misread: one that does not suit its conversion
-/// prints as it would with the right one, and a number of unnamed precision with up to 16 digits.
-/// A conversion without an argument, and one that is none of the above, stands in the result as it
-/// is written; left-over arguments are ignored. The decimal point is a point in every locale.
+/// prints as it would with the right one, a number without a precision with up to 16 digits. A
+/// conversion without an argument, or one not listed here, appears in the result as it is written;
+/// left-over arguments are ignored. The decimal point is a point in every locale.
 namespace Orvello::LogFormat {
 
 /// Appends the message to `line`. What is appended is always valid UTF-8: a byte or a surrogate

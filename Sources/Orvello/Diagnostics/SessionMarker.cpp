@@ -13,7 +13,7 @@ namespace Orvello {
 
 namespace {
 
-/// No marker of ours comes near; more is not read, so that no foreign file can exhaust the memory.
+/// Far above any marker of ours. No more is read, so that no foreign file can exhaust the memory.
 constexpr qint64 largestMarker = 1'000'000;
 
 } // namespace

@@ -8,7 +8,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// The first and the last moment that four digits of a year can tell.
+// The first and the last moment that a four-digit year can express.
 constexpr milliseconds earliest = std::chrono::days(-719'528);
 constexpr milliseconds latest = std::chrono::days(2'932'897) - milliseconds(1);
 

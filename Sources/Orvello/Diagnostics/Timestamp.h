@@ -11,7 +11,7 @@ namespace Orvello {
 /// Independent of locale and time zone data, and safe on any thread.
 class Timestamp {
 public:
-    /// Time since 1970-01-01 00:00:00 UTC, held inside the years 0 to 9999.
+    /// Time since 1970-01-01 00:00:00 UTC, clamped to the years 0 to 9999.
     explicit Timestamp(std::chrono::milliseconds sinceUnixEpoch);
 
     /// The system clock's time.

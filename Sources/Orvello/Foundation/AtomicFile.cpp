@@ -63,12 +63,12 @@ bool writePieces(int descriptor, std::span<const std::string_view> pieces)
     return true;
 }
 
-/// The file that `path` names in the end, which need not exist; nothing if its symbolic links go
-/// round in a circle.
+/// The file that `path` finally names, which need not exist; nothing if its symbolic links form a
+/// loop.
 std::optional<std::string> followLinks(std::filesystem::path path)
 {
-    constexpr int mostLinks = 40; // As many as the kernel follows.
-    for (int i = 0; i < mostLinks; ++i) {
+    constexpr int maximumLinks = 40; // As many as the kernel follows.
+    for (int i = 0; i < maximumLinks; ++i) {
         std::error_code notALink;
         const std::filesystem::path next = std::filesystem::read_symlink(path, notALink);
         if (notALink)
@@ -78,14 +78,15 @@ std::optional<std::string> followLinks(std::filesystem::path path)
     return std::nullopt;
 }
 
-/// Closes the file on a thread of its own. Whoever closes a file without a name last waits until
-/// its bytes are freed, and, if they are still on their way to the disk, for the disk: most of what
-/// a key press would cost that saves ten megabytes for the second time within seconds.
+/// Closes the file on a thread of its own. Whoever is last to close a file without a name waits
+/// until its bytes are freed and, if they are still on their way to the disk, for the disk. Without
+/// this thread, that wait would be most of the cost of a key press that saves ten megabytes for the
+/// second time within seconds.
 void closeInBackground(int descriptor)
 {
-    constexpr int mostAtOnce = 4; // A disk that cannot keep up slows the writer down.
+    constexpr int maximumPending = 4; // A disk that cannot keep up slows the writer down.
     static std::atomic<int> closing = 0;
-    if (closing.fetch_add(1) < mostAtOnce) {
+    if (closing.fetch_add(1) < maximumPending) {
         try {
             std::thread([descriptor] {
                 ::close(descriptor);
@@ -93,14 +94,14 @@ void closeInBackground(int descriptor)
             }).detach();
             return;
         } catch (const std::system_error&) {
-            // No thread is to be had.
+            // No thread is available.
         }
     }
     ::close(descriptor);
     --closing;
 }
 
-/// Keeps a file that is about to lose its name, so that it is not freed there and then.
+/// Keeps open a file that is about to lose its name, so that it is not freed there and then.
 class OldFile {
 public:
     explicit OldFile(const std::string& path)
@@ -119,7 +120,8 @@ private:
     int m_descriptor; ///< Negative if there is none, or none that may be read.
 };
 
-/// A new file beside the one that it is going to replace. Removed again unless it took its place.
+/// A new file beside the one that it is going to replace. Removed again unless it takes that one's
+/// place.
 class TemporaryFile {
 public:
     /// The kernel applies the user's mask to `mode`.

@@ -15,9 +15,9 @@ namespace Orvello::AtomicFile {
 ///
 /// Returns false, with the old file untouched and no temporary file left, when any step fails (no
 /// folder, no permission, no space, something other than a file in its place). Only a process that
-/// is killed meanwhile leaves its temporary file behind. The folder must exist. Any thread.
+/// is killed halfway leaves its temporary file behind. The folder must exist. Any thread.
 ///
-/// The new file is in its place when this returns; the old one's room may be freed a little later.
+/// The new file is in its place when this returns; the old one's space may be freed a little later.
 [[nodiscard]] bool replace(const QString& path, std::span<const std::string_view> pieces);
 
 /// The same for bytes in one piece.

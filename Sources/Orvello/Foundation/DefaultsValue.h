@@ -17,8 +17,8 @@ namespace Orvello::DefaultsValue {
 /// A string; nothing for any other value.
 [[nodiscard]] std::optional<QString> asString(const QVariant& value);
 
-/// The integer reading: a number truncated toward zero and held inside 64 bits, a boolean as 0 or
-/// 1, a string by the decimal integer it starts with; 0 for everything else.
+/// The integer reading: a number truncated toward zero and clamped to 64 bits, a boolean as 0 or 1,
+/// a string by the decimal integer it starts with; 0 for everything else.
 [[nodiscard]] qint64 asInteger(const QVariant& value);
 
 } // namespace Orvello::DefaultsValue

@@ -5,8 +5,8 @@
 
 namespace Orvello {
 
-/// What is true of the machine that the program runs on, as far as its texts speak of it. A text
-/// asks for the fact that it states, and never for an operating system.
+/// What is true of the machine that the program runs on, as far as its texts mention it. A text
+/// asks for the fact that it states, never for an operating system.
 struct Facts {
     Q_GADGET
     Q_PROPERTY(bool canHideWindows MEMBER canHideWindows CONSTANT FINAL)
@@ -21,14 +21,15 @@ struct Facts {
 
 public:
     bool canHideWindows = false; ///< The desktop can keep a window out of captures.
-    bool hasMenuBar = false; ///< The menu is always in the screen's bar, not in a tray, if at all.
+    bool hasMenuBar
+        = false; ///< The menu is always in the screen's bar, not in a tray that may be missing.
     bool isMac = false; ///< People call the computer a Mac.
     bool asksBeforeControl = false; ///< The system asks before it lets one program control another.
     bool hasPrivacySettings = false; ///< System Settings → Privacy & Security grants permissions.
     bool installsUpdates = false; ///< The updater installs what it finds, signed.
     bool zoomChoosesCapture = false; ///< Zoom has a setting for how it captures the screen.
     bool hasKeynoteAndPowerPoint
-        = false; ///< These two present here; LibreOffice Impress otherwise.
+        = false; ///< These two are the presenters here; elsewhere it is LibreOffice Impress.
 
     QString operatingSystem; ///< With its version: "macOS Version 14.5".
     QString keyPrefix; ///< The hot keys' modifiers, spelled: "Option-Command-".

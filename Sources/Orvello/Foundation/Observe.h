@@ -42,7 +42,8 @@ Change<Source, Signal> changeOf(Source& source, Signal signal)
 }
 
 /// Subscribes `handler` to a value that is computed from several published ones: it receives the
-/// value as it is now, and then each time one of the changes makes it another. Otherwise as above.
+/// present value, and then a new one each time one of the changes makes it differ. Otherwise as
+/// above.
 template <typename Compute, typename Handler, typename... Sources, typename... Signals>
 void observeCombined(
     QObject& context, Compute compute, Handler handler, Change<Sources, Signals>... changes)

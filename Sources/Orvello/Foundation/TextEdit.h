@@ -12,7 +12,7 @@ struct TextEdit {
     qsizetype removed = 0; ///< How many characters stood there.
     qsizetype inserted = 0; ///< How many characters stand there now.
 
-    /// The place in which the text differs after both edits: this one, then another.
+    /// The one place where the text differs after both edits: this one, then another.
     constexpr TextEdit followedBy(const TextEdit& next) const
     {
         const qsizetype begin = std::min(position, next.position);

@@ -22,7 +22,7 @@ WakeUp::WakeUp(std::function<void()> action)
     : m_action(std::move(action))
 {
     if (::pipe(m_pipe.data()) != 0)
-        return; // Out of descriptors: nothing in this process works any more.
+        return; // Out of descriptors: nothing in this process works any longer.
     for (const int end : m_pipe)
         neverBlockNorInherit(end);
     m_notifier = std::make_unique<QSocketNotifier>(m_pipe[0], QSocketNotifier::Read);
@@ -50,7 +50,8 @@ void WakeUp::receive()
 {
     char byte = 0;
     while (::read(m_pipe[0], &byte, 1) < 0 && errno == EINTR) { }
-    // First ready for the next signal, then the action: a signal during the action is not lost.
+    // Ready for the next signal before the action runs, so that a signal during the action is not
+    // lost.
     m_isPending.exchange(false, std::memory_order_acq_rel);
     const std::function<void()> action = m_action; // It may destroy this.
     action();

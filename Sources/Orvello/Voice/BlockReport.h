@@ -10,7 +10,7 @@ struct BlockReport {
 
     bool isSpeaking = false;
 
-    /// Of the first block with this `isSpeaking`, for the log.
+    /// Loudness of the first block with this `isSpeaking`, for the log.
     float rootMeanSquare = 0;
     float threshold = 0;
 

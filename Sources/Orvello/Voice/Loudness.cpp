@@ -19,7 +19,7 @@ Lanes lanesAt(const float* samples)
     return lanes;
 }
 
-// Four independent sums: one sum would wait for its own previous addition at every step.
+// Four independent sums: a single sum would wait for its previous addition at every step.
 float sumOfSquares(std::span<const float> samples)
 {
     constexpr std::size_t stride = 4 * laneCount;

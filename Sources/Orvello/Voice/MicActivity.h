@@ -7,8 +7,8 @@ class MicActivity {
 public:
     virtual ~MicActivity() = default;
 
-    /// True when a process other than this one is capturing audio input right now; false also when
-    /// the system does not tell.
+    /// True when a process other than this one is capturing audio input right now; also false when
+    /// the system does not say.
     virtual bool otherProcessCapturingInput() = 0;
 };
 

@@ -11,9 +11,9 @@ namespace Orvello {
 
 /// Carries block reports, in order, from the audio thread to the main thread. While the main thread
 /// stalls, reports that say the same are folded into one, which follows with the next block after
-/// the stall: the memory stays what it is, the level loses nothing, and every start and end of
-/// speaking arrives as long as there are fewer than `capacity / 2` of them, a quarter of an hour of
-/// the shortest sentences.
+/// the stall: memory does not grow, the level loses nothing, and every start and end of speaking
+/// arrives as long as there are fewer than `capacity / 2` of them, a quarter of an hour of the
+/// shortest sentences.
 class ReportQueue {
 public:
     static constexpr std::size_t capacity = 1024;

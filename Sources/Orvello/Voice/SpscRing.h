@@ -12,7 +12,7 @@ namespace Orvello {
 /// A bounded queue from one producer thread to one consumer thread. Wait-free, and all its memory
 /// is inside the object. Invariants: `m_read <= m_written <= m_read + capacity`, both only grow; a
 /// slot belongs to the producer until `m_written` passes it and to the consumer until `m_read`
-/// does. The producer may be another thread later, if the first one has ended before.
+/// does. Another thread may take over as producer once the first one has ended.
 template <typename Value, std::size_t ringCapacity>
 class SpscRing {
     static_assert(std::has_single_bit(ringCapacity));
@@ -44,7 +44,7 @@ public:
         return value;
     }
 
-    /// Producer thread. Never less than what the consumer still finds.
+    /// Producer thread. Never less than what the consumer still has to read.
     [[nodiscard]] std::size_t size() const noexcept
     {
         return m_written.load(std::memory_order_relaxed) - m_read.load(std::memory_order_acquire);

@@ -4,7 +4,7 @@
 
 namespace Orvello {
 
-// The steps of a block, inline because the calls would be dearer than a short block's samples.
+// The steps of a block, inline because the calls would cost more than a short block's samples.
 
 inline float VoiceActivityDetector::thresholdAt(double sensitivity) noexcept
 {

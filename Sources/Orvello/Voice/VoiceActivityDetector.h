@@ -19,7 +19,7 @@ public:
     /// Takes one block of at least one sample. `now` is the monotonic time in seconds.
     BlockReport process(std::span<const float> samples, double sensitivity, double now) noexcept;
 
-    /// Forgets that somebody speaks, but not since when it has been loud. Any thread, while no
+    /// Forgets that somebody is speaking, but not how long it has been loud. Any thread, while no
     /// process() runs.
     void stopSpeaking() noexcept { m_speakingInternal = false; }
 
@@ -30,10 +30,10 @@ private:
 
     bool m_speakingInternal = false;
     std::optional<double> m_aboveSince; ///< Start of the current run of loud blocks.
-    double m_silenceDeadline = 0; ///< Until when speaking is held through quiet blocks.
+    double m_silenceDeadline = 0; ///< Until this moment, quiet blocks do not end speaking.
 
-    // The threshold of the latest sensitivity: the exponential is the dearest step of a short
-    // block.
+    // The threshold of the latest sensitivity: the exponential is the most expensive step of a
+    // short block.
     double m_sensitivity = std::numeric_limits<double>::quiet_NaN();
     float m_threshold = 0;
 };

@@ -76,9 +76,10 @@ Q_SIGNALS:
 
 private:
     QVariant micAuthorizedOrNull() const;
-    /// Another program has the microphone, or one for meetings is open: the one of that name.
+    /// Why echo cancellation is held: another program has the microphone, or a meeting application
+    /// is open.
     struct HoldReason {
-        QString meetingApp; ///< Empty for the first.
+        QString meetingApp; ///< Empty when another program has the microphone.
 
         QString logText() const;
         friend bool operator==(const HoldReason&, const HoldReason&) = default;

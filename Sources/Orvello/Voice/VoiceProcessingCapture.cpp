@@ -73,7 +73,7 @@ bool VoiceProcessingCapture::configureUnit()
         });
     if (!configured)
         return false;
-    // Without it other programs sound quieter, which is no reason to do without echo cancellation.
+    // Without it other programs sound quieter, which is no reason to give up echo cancellation.
     (void)succeeded(m_vpUnit->configure(Setting::OtherAudioDucking),
         "Orvello VPIO: ducking config failed (%d) — continuing");
     return true;

@@ -57,7 +57,7 @@ QByteArray withMember(const QByteArray& key, const QByteArray& value)
     return '{' + members.join(',') + '}';
 }
 
-/// Of which neither the order of keys nor the white space matters.
+/// Makes JSON comparable: neither the order of keys nor white space matters.
 QJsonDocument parsed(const QByteArray& json) { return QJsonDocument::fromJson(json); }
 
 QByteArray withSlide(const QByteArray& slide) { return required + ",\"slides\":[" + slide + "]}"; }

@@ -286,7 +286,7 @@ TEST_F(LibraryStoreTest, saysWhatWasEditedAndWhere)
     EXPECT_EQ(store.scripts()[1].body, u"Other"_s);
     EXPECT_EQ(changes,
         (QList<LibraryChange> { { .row = 1, .id = id, .body = TextEdit { 5, 2, 3 } },
-            { .row = 1, .id = id, .isOtherTitle = true },
+            { .row = 1, .id = id, .hasNewTitle = true },
             { .row = 1, .id = id, .body = TextEdit { 0, 10, 5 } }, { .row = 1, .id = id } }));
 }
 

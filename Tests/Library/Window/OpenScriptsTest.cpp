@@ -329,12 +329,12 @@ TEST_F(OpenScriptsTest, closesTheScriptThatWasNotSeenForLongest)
         return open.active();
     }();
     library.setActiveScriptID(one);
-    for (std::size_t i = 2; i < OpenScripts::mostScripts; ++i)
+    for (std::size_t i = 2; i < OpenScripts::maximumScripts; ++i)
         library.addScript();
     library.setActiveScriptID(one);
     Testing::drainEvents();
 
-    EXPECT_EQ(open.rowCount(), 1 + OpenScripts::mostScripts);
+    EXPECT_EQ(open.rowCount(), 1 + OpenScripts::maximumScripts);
     EXPECT_NE(first, nullptr);
     EXPECT_EQ(open.active(), first);
     EXPECT_NE(second, nullptr);
@@ -342,7 +342,7 @@ TEST_F(OpenScriptsTest, closesTheScriptThatWasNotSeenForLongest)
     library.addScript();
     Testing::drainEvents();
 
-    EXPECT_EQ(open.rowCount(), 1 + OpenScripts::mostScripts);
+    EXPECT_EQ(open.rowCount(), 1 + OpenScripts::maximumScripts);
     EXPECT_NE(first, nullptr);
     EXPECT_EQ(second, nullptr);
 }
@@ -351,7 +351,7 @@ TEST_F(OpenScriptsTest, closesOthersForTheSakeOfALongOne)
 {
     const QPointer first = open.active();
     library.addScript();
-    library.updateActive({}, QString(OpenScripts::mostCharacters + 1, u'x'));
+    library.updateActive({}, QString(OpenScripts::maximumCharacters + 1, u'x'));
     EXPECT_EQ(open.rowCount(), 3);
 
     activate(2);

@@ -41,7 +41,7 @@ TEST_F(SlideStatusTest, countsSlidesFromOne)
     EXPECT_EQ(status.position(), u"1 / 3"_s);
     EXPECT_EQ(status.widestPosition(), u"3 / 3"_s);
 
-    status.goOn();
+    status.next();
     EXPECT_EQ(status.position(), u"2 / 3"_s);
 }
 
@@ -50,26 +50,26 @@ TEST_F(SlideStatusTest, tellsTheSlidesTitle)
     openDeck();
     EXPECT_EQ(status.title(), u"Intro"_s);
 
-    status.goOn();
+    status.next();
     EXPECT_EQ(status.title(), QString());
 }
 
 TEST_F(SlideStatusTest, goesNoFartherThanTheDeck)
 {
     openDeck();
-    EXPECT_FALSE(status.canGoBack());
-    EXPECT_TRUE(status.canGoOn());
+    EXPECT_FALSE(status.hasPrevious());
+    EXPECT_TRUE(status.hasNext());
 
-    status.goBack();
+    status.previous();
     EXPECT_EQ(status.position(), u"1 / 3"_s);
-    status.goOn();
-    EXPECT_TRUE(status.canGoBack());
-    EXPECT_TRUE(status.canGoOn());
-    status.goOn();
-    EXPECT_FALSE(status.canGoOn());
-    status.goOn();
+    status.next();
+    EXPECT_TRUE(status.hasPrevious());
+    EXPECT_TRUE(status.hasNext());
+    status.next();
+    EXPECT_FALSE(status.hasNext());
+    status.next();
     EXPECT_EQ(status.position(), u"3 / 3"_s);
-    status.goBack();
+    status.previous();
     EXPECT_EQ(status.position(), u"2 / 3"_s);
 }
 
@@ -111,7 +111,7 @@ TEST_F(SlideStatusTest, announcesEachChange)
     openDeck();
     const QSignalSpy changes(&status, &SlideStatus::changed);
 
-    status.goOn();
+    status.next();
 
     EXPECT_GT(changes.count(), 0);
 }

@@ -44,14 +44,14 @@ TEST(WelcomeTourTest, turnsThePagesBothWays)
     const QSignalSpy turned(&tour, &WelcomeTour::pageChanged);
     EXPECT_TRUE(tour.isFirstPage());
 
-    tour.goOn();
+    tour.next();
     EXPECT_EQ(tour.page(), 1);
     EXPECT_FALSE(tour.isFirstPage());
     EXPECT_FALSE(tour.isLastPage());
-    tour.goOn();
+    tour.next();
     EXPECT_EQ(tour.page(), 2);
     EXPECT_TRUE(tour.isLastPage());
-    tour.goBack();
+    tour.previous();
     EXPECT_EQ(tour.page(), 1);
     EXPECT_EQ(turned.count(), 3);
 }
@@ -61,7 +61,7 @@ TEST(WelcomeTourTest, goesNoFurtherBackThanTheFirstPage)
     WelcomeTour tour(0, false, Testing::factsOfAMac());
     const QSignalSpy turned(&tour, &WelcomeTour::pageChanged);
 
-    tour.goBack();
+    tour.previous();
 
     EXPECT_EQ(tour.page(), 0);
     EXPECT_EQ(turned.count(), 0);
@@ -70,11 +70,11 @@ TEST(WelcomeTourTest, goesNoFurtherBackThanTheFirstPage)
 TEST(WelcomeTourTest, endsFromTheLastPage)
 {
     WelcomeTour tour(2, false, Testing::factsOfAMac());
-    const QSignalSpy left(&tour, &WelcomeTour::left);
+    const QSignalSpy exitRequested(&tour, &WelcomeTour::exitRequested);
 
-    tour.goOn();
+    tour.next();
 
-    EXPECT_EQ(left.count(), 1);
+    EXPECT_EQ(exitRequested.count(), 1);
     EXPECT_EQ(tour.page(), 2);
 }
 
@@ -82,11 +82,11 @@ TEST(WelcomeTourTest, canBeSkippedFromEveryPage)
 {
     for (int page = 0; page < WelcomeTour::pageCount; ++page) {
         WelcomeTour tour(page, false, Testing::factsOfAMac());
-        const QSignalSpy left(&tour, &WelcomeTour::left);
+        const QSignalSpy exitRequested(&tour, &WelcomeTour::exitRequested);
 
         tour.skip();
 
-        EXPECT_EQ(left.count(), 1);
+        EXPECT_EQ(exitRequested.count(), 1);
     }
 }
 

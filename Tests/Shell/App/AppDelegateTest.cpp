@@ -698,7 +698,7 @@ TEST_F(AppDelegateTest, tellsTheDesktopWhatEachKeyDoes)
 
     EXPECT_THAT(told,
         ElementsAre(u"toggle: Start or pause scrolling"_s, u"faster: Scroll faster"_s,
-            u"slower: Scroll slower"_s, u"restart: Go back to the top of the script"_s,
+            u"slower: Scroll more slowly"_s, u"restart: Go back to the top of the script"_s,
             u"hide: Show or hide the prompter"_s));
 }
 

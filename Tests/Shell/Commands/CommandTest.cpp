@@ -51,7 +51,7 @@ TEST(CommandTest, saysWhatEachKeyDoes)
 
     EXPECT_THAT(lines,
         ElementsAre(u"⌥⌘P Start or pause scrolling"_s, u"⌥⌘↑ Scroll faster"_s,
-            u"⌥⌘↓ Scroll slower"_s, u"⌥⌘R Go back to the top of the script"_s,
+            u"⌥⌘↓ Scroll more slowly"_s, u"⌥⌘R Go back to the top of the script"_s,
             u"⌥⌘H Show or hide the prompter"_s));
 }
 

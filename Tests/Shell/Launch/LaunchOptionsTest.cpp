@@ -46,6 +46,15 @@ TEST_F(LaunchOptionsTest, knowsEachSwitch)
     EXPECT_TRUE(with(u"--toggle"_s).toggle);
 }
 
+TEST_F(LaunchOptionsTest, findsFaultWithAnOptionThatLacksADashBeforeAFile)
+{
+    makeFile(u"talk.pptx"_s);
+
+    const LaunchOptions options = of({ u"-voice"_s, u"talk.pptx"_s, u"-speed"_s, u"40"_s });
+
+    EXPECT_THAT(options.mistakes, ElementsAre(u"unknown option -voice; did you mean --voice?"_s));
+}
+
 TEST_F(LaunchOptionsTest, asksForNothingByItself) { EXPECT_EQ(of({}), LaunchOptions()); }
 
 TEST_F(LaunchOptionsTest, findsFaultWithAnUnknownOptionAndSuggestsTheNearest)

@@ -83,7 +83,7 @@ TEST_F(OnboardingWindowTest, isADarkWindowOfItsOwnSize)
 TEST_F(OnboardingWindowTest, beginsOnTheFirstPageEachTime)
 {
     EXPECT_EQ(page(), 0);
-    controller->tour().goOn();
+    controller->tour().next();
 
     open();
     EXPECT_EQ(page(), 0);
@@ -326,7 +326,7 @@ TEST_F(OnboardingWindowTest, goesThroughByTheReturnKeyAlone)
 TEST_F(OnboardingWindowTest, isFinishedOnceHoweverOftenTheUserAsks)
 {
     openOn("2");
-    controller->tour().goOn();
+    controller->tour().next();
     controller->tour().skip();
     view().close();
 

@@ -14,7 +14,7 @@ namespace {
 
 /// What the handler of a signal may touch: atomics, and write(2) on a wake-up's pipe.
 struct Arrivals {
-    std::atomic<int> count = 0; ///< Since the main loop looked.
+    std::atomic<int> count = 0; ///< How many came since the main loop last looked.
     std::atomic<WakeUp*> wakeUp = nullptr; ///< Null while nobody handles the signal.
 };
 static_assert(std::atomic<WakeUp*>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
@@ -58,7 +58,7 @@ public:
     }
 
 private:
-    /// Signals that the kernel merged are one.
+    /// Signals that the kernel merged count as one.
     void handleArrivals()
     {
         const std::function<void()> handler = m_handler; // It may drop this subscription.

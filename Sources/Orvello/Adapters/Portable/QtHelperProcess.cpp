@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int goodbyeMilliseconds = 200; ///< For a helper to end by itself.
+constexpr int goodbyeMilliseconds = 200; ///< How long a helper has to end by itself.
 constexpr int killMilliseconds = 1000;
 
 ScriptResult parsedAnswer(const QByteArray& line)

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Raised by the scripts themselves.
+/// The error that the scripts themselves raise.
 constexpr QStringView noDocument = u"NO_DOCUMENT";
 
 /// The system's error number for an Apple event that the user has not authorised.

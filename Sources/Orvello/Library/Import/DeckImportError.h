@@ -21,7 +21,7 @@ public:
     };
 
     Reason reason;
-    const PresenterApp* app; ///< Of the presenter table; never null.
+    const PresenterApp* app; ///< A row of the presenter table; never null.
     QString message;
 
     /// What the failed script says about its reason.

@@ -13,10 +13,10 @@ struct LibraryChange {
     enum class Kind { Inserted, Removed, Edited };
 
     Kind kind = Kind::Edited;
-    qsizetype row = 0; ///< Of an inserted or edited script; where a removed one was.
+    qsizetype row = 0; ///< Where the script is, or was before it was removed.
     QUuid id = {};
-    bool isOtherTitle = false; ///< For an edit.
-    std::optional<TextEdit> body = {}; ///< For an edit, where the body differs if it does.
+    bool hasNewTitle = false; ///< For an edit: the title changed.
+    std::optional<TextEdit> body = {}; ///< For an edit that changed the body: where it differs.
 
     friend bool operator==(const LibraryChange&, const LibraryChange&) = default;
 };

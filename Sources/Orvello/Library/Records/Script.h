@@ -32,7 +32,7 @@ struct Script {
         slides; ///< Present only for a deck script; never changes after the import.
     std::optional<QString> deckSource; ///< The deck's file name or the open document's name.
 
-    /// A script with a fresh id that was made and last edited at `now`.
+    /// A script with a fresh id, made and last edited at `now`.
     [[nodiscard]] static Script create(const QString& title, const QString& body, Date now);
 
     friend bool operator==(const Script&, const Script&) = default;

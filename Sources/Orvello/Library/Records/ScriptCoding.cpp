@@ -50,7 +50,7 @@ QJsonObject object(const Script& script)
     return object;
 }
 
-/// Assigns a value that has the target's type; says whether it has.
+/// Assigns a value that has the target's type, and returns whether it does.
 bool assign(QString& target, const QJsonValue& value)
 {
     target = value.toString();
@@ -73,7 +73,7 @@ bool assign(Date& target, const QJsonValue& value)
 bool assign(qint64& target, const QJsonValue& value)
 {
     target = value.toInteger(0);
-    return value.toInteger(1) == target; // Else it answers with the default.
+    return value.toInteger(1) == target; // For a mismatch it returns the default.
 }
 
 bool assign(SlideNote& target, const QJsonValue& value);
@@ -117,7 +117,7 @@ QByteArray encode(const Script& script)
 {
     QByteArray json = QJsonDocument(object(script)).toJson(QJsonDocument::Compact);
     // Qt drops a byte order mark at the beginning of a text that it reads, unless it is escaped.
-    if (json.contains('\xEF')) // Rare, and quickly seen.
+    if (json.contains('\xEF')) // Rare, and cheap to check.
         json.replace("\"\uFEFF", "\"\\uFEFF");
     return json;
 }

@@ -12,7 +12,7 @@ namespace Orvello::ScriptCoding {
 
 /// Reads a JSON array of scripts, all or nothing: a required key that is missing or mistyped, in
 /// any script, or text that is not JSON, gives nothing. Keys of other names are ignored with
-/// whatever they hold. Of a key that an object holds twice the last counts.
+/// whatever they hold. If an object holds a key twice, the last one counts.
 [[nodiscard]] std::optional<QList<Script>> decode(const QByteArray& json);
 
 } // namespace Orvello::ScriptCoding

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A thousand times what somebody has who writes a lot.
+/// A thousand times what a prolific writer has.
 constexpr qint64 largestFile = 1'000'000'000;
 
 QByteArray contents(const QString& path)
@@ -47,7 +47,7 @@ QList<Script> LibraryFile::load()
 {
     QList<Script> scripts
         = ScriptCoding::decode(contents(preparedPath())).value_or(QList<Script> {});
-    // Now rather than at the first save, so that the first key press is as quick as any other.
+    // Now rather than at the first save, so that the first key press is as fast as any other.
     encode(scripts);
     return scripts;
 }

@@ -9,9 +9,9 @@ namespace Orvello {
 
 class Folders;
 
-/// The library on disk: "scripts.json" in the product's own application-support folder, which is
-/// created with whatever is missing above it at each use. It is written at every key press, so the
-/// encoded form of each script is kept, and a save encodes only the script that changed.
+/// The library on disk: "scripts.json" in the product's own application-support folder, which each
+/// use creates, with whatever is missing above it. It is written at every key press, so the encoded
+/// form of each script is kept, and a save encodes only the script that changed.
 class LibraryFile {
 public:
     explicit LibraryFile(const Folders& folders); ///< `folders` must outlive the file.
@@ -22,7 +22,7 @@ public:
     /// Replaces the file's content. A failure leaves the old file as it is and is not reported.
     void save(const QList<Script>& scripts);
 
-    /// The same for scripts that differ by one change from those that were loaded or saved last.
+    /// The same for scripts that differ by one change from those last loaded or saved.
     void save(const QList<Script>& scripts, const LibraryChange& change);
 
 private:

@@ -133,7 +133,8 @@ void LibraryStore::remove(QUuid id)
         const qsizetype row = script - m_scripts.cbegin();
         m_scripts.removeAt(row);
         publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
-        script = std::ranges::find_if(std::as_const(m_scripts), hasID); // A file may have it twice.
+        script = std::ranges::find_if(
+            std::as_const(m_scripts), hasID); // A file may hold the id twice.
     }
 
     if (isAnotherActive)
@@ -149,7 +150,7 @@ void LibraryStore::updateActive(
 
     LibraryChange change;
     if (title) {
-        change.isOtherTitle = *title != script->title;
+        change.hasNewTitle = *title != script->title;
         script->title = *title;
     }
     if (body && *body != script->body) {

@@ -28,12 +28,12 @@ public:
 
     const QList<Script>& scripts() const { return m_scripts; }
 
-    /// Persisted in the user defaults at each assignment. May name a script that does not exist.
+    /// Persisted in the user defaults on each assignment. May name a script that does not exist.
     std::optional<QUuid> activeScriptID() const { return m_activeScriptID; }
     void setActiveScriptID(std::optional<QUuid> id);
 
-    /// The script that `activeScriptID` names, else the first; null for an empty library. Follows
-    /// from both properties. The pointer holds until `scripts` changes.
+    /// The script that `activeScriptID` names, else the first; null for an empty library. Changes
+    /// with either property. The pointer is valid until `scripts` changes.
     const Script* activeScript() const;
 
     /// Adds an empty script on top and makes it active.
@@ -50,7 +50,7 @@ public:
     void editActive(qsizetype position, qsizetype removed, const QString& inserted);
 
     /// Adds a deck's speaker notes on top and makes them active. `source` names the deck; without
-    /// one its file name does. On failure the library stays as it was.
+    /// it, the file name does. On failure the library stays as it was.
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
@@ -69,7 +69,7 @@ private:
     void publish(const LibraryChange& change);
     std::optional<QUuid> firstScriptID() const;
 
-    /// Assigns and persists; says whether the id is another one than before.
+    /// Assigns and persists; returns whether the id changed.
     bool assignActiveScriptID(std::optional<QUuid> id);
     void persistActiveScriptID();
 

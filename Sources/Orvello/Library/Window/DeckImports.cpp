@@ -44,7 +44,7 @@ DeckImports::DeckImports(const Services& services)
 {
     for (const PresenterApp& app : services.presenters.apps())
         m_apps.push_back(&app);
-    // Beside the item for its files.
+    // Shown beside the item for its files.
     std::stable_partition(
         m_apps.begin(), m_apps.end(), [](const PresenterApp* app) { return app->hasDeckFiles; });
 }

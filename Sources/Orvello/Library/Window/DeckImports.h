@@ -39,10 +39,10 @@ public:
     explicit DeckImports(const Services& services);
     ~DeckImports() override;
 
-    /// Of the menu's items: a file first, then what is open in each presentation application.
+    /// The titles of the menu's items: a file first, then what is open in each presenter.
     QStringList titles() const;
 
-    /// Runs the item of that place in the menu.
+    /// Runs the item at that place in the menu.
     Q_INVOKABLE void run(int item);
 
     Q_INVOKABLE void chooseFile();
@@ -53,8 +53,8 @@ public:
     /// Imports every deck among these files, in order.
     Q_INVOKABLE void importFiles(const QList<QUrl>& files);
 
-    /// Without a message, says that the error is not known. An alert that comes while another one
-    /// is showing waits for its turn.
+    /// Without a message, says that the error is unknown. An alert that arrives while another one
+    /// is showing waits its turn.
     void showAlert(const QString& title, const std::optional<QString>& message);
     Q_INVOKABLE void dismissAlert();
 

@@ -3,8 +3,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Orvello
 
-// One open script: title, body, what is to be said about them. Each has its own, so that undoing,
-// the cursor and the scrolled place belong to the script.
+// One open script: title, body, what is to be said about them. Each script has its own, so that
+// undo history, cursor and scroll position belong to the script.
 Pane {
     id: root
 
@@ -13,7 +13,7 @@ Pane {
     property bool isActive: false
     property bool isLoaded: false
 
-    // Only when the page has its width: laying out a megabyte twice takes twice as long.
+    // Only once the page has its width: laying out a megabyte twice takes twice as long.
     function load(): void {
         if (isLoaded || !isActive || body.width <= 0)
             return;
@@ -54,8 +54,8 @@ Pane {
             text: root.editor.title
             readOnly: root.isActive && !root.editor.isEditable
             selectByMouse: true
-            maximumLength: 0x7fffffff // Whatever a title is, an edit cuts nothing off.
-            autoScroll: activeFocus // A title that is not being edited is seen from its beginning.
+            maximumLength: 0x7fffffff // However long a title is, an edit cuts nothing off.
+            autoScroll: activeFocus // A title that is not being edited shows its beginning.
             onTextEdited: root.editor.title = text
             onAccepted: body.forceActiveFocus(Qt.TabFocusReason)
 
@@ -73,7 +73,7 @@ Pane {
         }
 
         ScrollView {
-            implicitWidth: 1 // Whatever the text asks for, it gets the rest of the page.
+            implicitWidth: 1 // Whatever width the text asks for, it gets the rest of the page.
             implicitHeight: 1
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -89,7 +89,7 @@ Pane {
                 font.pixelSize: 14
                 textFormat: TextEdit.PlainText
                 wrapMode: TextEdit.Wrap
-                // Out of sight it stays what it was, because a change takes the cursor to the end.
+                // Out of sight it stays as it was, because a change takes the cursor to the end.
                 readOnly: root.editor.isDeck || root.isActive && !root.editor.isEditable
                 selectByMouse: true
                 selectByKeyboard: true

@@ -4,7 +4,7 @@ import QtQuick.Controls
 import QtQml.Models
 import Orvello
 
-// The button that drops the menu of the ways to import a deck.
+// The button that drops down the menu of ways to import a deck.
 ToolbarButton {
     id: root
 
@@ -20,7 +20,7 @@ ToolbarButton {
         id: menu
 
         palette: root.palette // Popups do not inherit the window's.
-        // On a dark editor the style's own edge cannot be seen.
+        // On a dark editor the style's own edge is invisible.
         background: Rectangle {
             implicitWidth: 250
             color: root.palette.base

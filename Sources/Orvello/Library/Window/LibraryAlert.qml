@@ -3,7 +3,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Orvello
 
-// What became of an import, when that is not what the user hoped for.
+// How an import ended, when that is not what the user hoped for.
 Dialog {
     id: root
 
@@ -16,7 +16,7 @@ Dialog {
     visible: imports.isShowingAlert
     closePolicy: Popup.CloseOnEscape
     padding: 20
-    // On a dark window the style's own edge cannot be seen.
+    // On a dark window the style's own edge is invisible.
     background: Rectangle {
         color: root.palette.window
         border.color: Qt.alpha(root.palette.windowText, 0.3)

@@ -65,7 +65,8 @@ Pane {
                     facts: root.library.facts
                     isActive: editor === root.library.openScripts.active
                     visible: isActive
-                    // A long text out of sight is not worth setting anew at each size of the window.
+                    // A long text out of sight is not worth laying out again at each size of the
+                    // window.
                     anchors.fill: isActive ? parent : undefined
                 }
             }

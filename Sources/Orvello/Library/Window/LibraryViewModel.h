@@ -30,7 +30,7 @@ private:
     ScriptListModel m_scripts;
     OpenScripts m_openScripts;
     DeckImports m_imports;
-    Facts m_facts; ///< What the window may say of this machine.
+    Facts m_facts; ///< What the window may say about this machine.
 };
 
 } // namespace Orvello

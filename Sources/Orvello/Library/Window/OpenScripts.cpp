@@ -40,10 +40,10 @@ void OpenScripts::followScripts(const LibraryChange& change)
             open->editor->update(m_library.scripts()[change.row], change);
         return;
     }
-    followActiveScript(); // Before one is closed: it may be the one that is seen.
+    followActiveScript(); // Before one is closed, because it may be the one in sight.
     const auto open = find(change.id);
     const bool isGone = change.kind == LibraryChange::Kind::Removed && open != m_open.end()
-        && open->editor.get() != m_active; // Of which the file may have another with that id.
+        && open->editor.get() != m_active; // The file may hold a second script with that id.
     if (isGone)
         close(static_cast<std::size_t>(open - m_open.begin()));
 }
@@ -58,7 +58,8 @@ void OpenScripts::followActiveScript()
     if (before == active)
         return;
     Q_EMIT activeChanged();
-    before->setEditable(false); // Now that it is out of sight: a text field shows the difference.
+    before->setEditable(
+        false); // Only now that it is out of sight, because a text field shows the difference.
     closeBeyondBounds();
 }
 
@@ -68,7 +69,7 @@ std::vector<OpenScripts::Open>::iterator OpenScripts::find(const QUuid& id)
         [&](const Open& open) { return open.editor->scriptID() == id; });
 }
 
-/// The script is seen from now on.
+/// Puts the script in sight.
 ScriptEditor* OpenScripts::editorFor(const Script& script)
 {
     ++m_now;
@@ -87,7 +88,8 @@ bool OpenScripts::isBeyondBounds() const
     qsizetype characters = 0;
     for (const Open& open : m_open)
         characters += open.editor->body().size();
-    return m_open.size() - 1 > mostScripts || (m_open.size() > 2 && characters > mostCharacters);
+    return m_open.size() - 1 > maximumScripts
+        || (m_open.size() > 2 && characters > maximumCharacters);
 }
 
 void OpenScripts::closeBeyondBounds()
@@ -106,7 +108,7 @@ void OpenScripts::close(std::size_t place)
     std::unique_ptr<ScriptEditor> editor = std::move(m_open[place].editor);
     m_open.erase(m_open.begin() + row);
     endRemoveRows();
-    editor.release()->deleteLater(); // After its page, which is deleted later, too.
+    editor.release()->deleteLater(); // Outlives its page, which is deleted later, too.
 }
 
 } // namespace Orvello

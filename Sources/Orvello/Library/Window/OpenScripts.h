@@ -10,9 +10,9 @@
 
 namespace Orvello {
 
-/// The scripts that are open in the scripts window: the active one, which is seen, and some that
-/// were seen before and keep what they can undo, where their cursor was and how far they were
-/// scrolled. One without a script is always among them, for an empty library.
+/// The scripts that are open in the scripts window: the active one, which is in sight, and some
+/// that were in sight before and keep their undo history, cursor and scroll position. An editor
+/// without a script is always among them, for an empty library.
 class OpenScripts final : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(Orvello::ScriptEditor* active READ active NOTIFY activeChanged FINAL)
@@ -20,10 +20,10 @@ class OpenScripts final : public QAbstractListModel {
 public:
     enum Role { EditorRole = Qt::UserRole }; ///< "editor"
 
-    /// Together with the active one. Beyond either bound the one that was not seen for longest is
-    /// closed; the active one may be of any length.
-    static constexpr std::size_t mostScripts = 8;
-    static constexpr qsizetype mostCharacters = 4'000'000; ///< Each takes a dozen bytes.
+    /// The active one counts, too. Beyond either bound the one out of sight for longest is closed;
+    /// the active one may be of any length.
+    static constexpr std::size_t maximumScripts = 8;
+    static constexpr qsizetype maximumCharacters = 4'000'000; ///< Each takes a dozen bytes.
 
     explicit OpenScripts(LibraryStore& library); ///< `library` must outlive the model.
     ~OpenScripts() override;

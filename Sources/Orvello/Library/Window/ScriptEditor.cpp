@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a document makes of a text, position for position. The other line breaks it counts as one
-/// character each, so that they survive until they are edited.
+/// What a document makes of a text, position by position. It counts each other line break as one
+/// character, so that they survive until they are edited.
 QString asInDocument(const QString& text)
 {
     QString result = text;
@@ -61,7 +61,7 @@ ScriptEditor::~ScriptEditor() = default;
 void ScriptEditor::setTitle(const QString& title)
 {
     if (canStore() && title != m_title)
-        m_library.updateActive(title, {}); // Comes back as an update.
+        m_library.updateActive(title, {}); // Comes back through update().
 }
 
 QString ScriptEditor::wordCountText() const
@@ -88,8 +88,8 @@ void ScriptEditor::setEditable(bool isEditable)
 void ScriptEditor::follow(QQuickTextDocument* document)
 {
     m_document = document->textDocument();
-    // A text field draws only what is in sight if it was given a long text, but everything if the
-    // text has become long since: twice the time for a megabyte that is pasted.
+    // A text field that was given a long text draws only what is in sight, but one whose text has
+    // grown long since draws everything: a pasted megabyte takes twice the time.
     if (auto* const field = qobject_cast<QQuickItem*>(document->parent()))
         field->setFlag(QQuickItem::ItemObservesViewport);
     connect(m_document, &QTextDocument::contentsChange, this, &ScriptEditor::takeOver);
@@ -98,7 +98,7 @@ void ScriptEditor::follow(QQuickTextDocument* document)
 
 void ScriptEditor::update(const Script& script, const LibraryChange& change)
 {
-    if (change.isOtherTitle) {
+    if (change.hasNewTitle) {
         m_title = script.title;
         Q_EMIT titleChanged();
     }
@@ -116,8 +116,8 @@ void ScriptEditor::update(const Script& script, const LibraryChange& change)
     Q_EMIT bodyChanged();
 }
 
-/// Applies an edit of the document to the body. That and not the document's whole text, which takes
-/// milliseconds to copy, so that a key press costs the same in a text of any length.
+/// Applies an edit of the document to the body. Only the edit: copying the document's whole text
+/// takes milliseconds, and a key press must cost the same in a text of any length.
 void ScriptEditor::takeOver(int position, int removed, int added)
 {
     // An edit at the end also counts the end of the last paragraph, which is not part of the text.
@@ -132,7 +132,7 @@ void ScriptEditor::takeOver(int position, int removed, int added)
 void ScriptEditor::replaceInBody(qsizetype position, qsizetype removed, const QString& inserted)
 {
     if (QStringView(m_body).sliced(position, removed) == inserted)
-        return; // Only the looks have changed.
+        return; // Only formatting has changed.
     // Whether a word begins right after the edit depends on the edit.
     m_wordCount -= WordCount::beginningIn(m_body, position, position + removed + 1);
     m_body.replace(position, removed, inserted);
@@ -154,8 +154,8 @@ void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& in
     cursor.insertText(inserted);
 }
 
-/// An input method may finish a word in a text field that is going out of sight or has gone
-/// already. The library would put it into another script, so that it waits until this one is active
+/// An input method may finish a word in a text field that is going out of sight or has already
+/// gone. The library would put it into another script, so the edit waits until this one is active
 /// again.
 bool ScriptEditor::canStore() const
 {

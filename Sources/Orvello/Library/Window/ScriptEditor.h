@@ -14,7 +14,7 @@ namespace Orvello {
 class LibraryStore;
 
 /// One script while it is open in the scripts window, or no script at all, which shows as empty
-/// fields. Every edit goes to the store at once, as that of the active script.
+/// fields. Every edit goes to the store at once, as an edit of the active script.
 class ScriptEditor final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
@@ -25,7 +25,7 @@ class ScriptEditor final : public QObject {
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)
 
 public:
-    explicit ScriptEditor(LibraryStore& library); ///< Of no script.
+    explicit ScriptEditor(LibraryStore& library); ///< An editor without a script.
     ScriptEditor(LibraryStore& library, const Script& script); ///< `library` must outlive both.
     ~ScriptEditor() override;
 
@@ -34,24 +34,24 @@ public:
     const QString& title() const { return m_title; }
     void setTitle(const QString& title);
 
-    /// What the document of the text field starts with.
+    /// What the text field's document starts with.
     const QString& body() const { return m_body; }
 
     /// "12 words".
     QString wordCountText() const;
 
-    /// A deck's body can only be read: the presentation is where it is edited.
+    /// A deck's body is read-only: it is edited in the presentation.
     bool isDeck() const { return m_deckSource.has_value(); }
     QString deckNotice() const;
 
-    /// Whether an edit would reach the script: it is the one that the store edits.
+    /// Whether an edit would reach the script, because it is the one that the store edits.
     bool isEditable() const { return m_isEditable; }
     void setEditable(bool isEditable);
 
-    /// Follows the edits that the user makes in a document that shows the body.
+    /// Follows the user's edits in a document that shows the body.
     Q_INVOKABLE void follow(QQuickTextDocument* document);
 
-    /// Shows what the library has after a change of this script.
+    /// Shows this script as the library has it after a change.
     void update(const Script& script, const LibraryChange& change);
 
 Q_SIGNALS:
@@ -69,14 +69,15 @@ private:
     LibraryStore& m_library;
     QUuid m_id;
     QString m_title;
-    QString m_body; ///< As a document has it: with plain line feeds.
-    std::optional<QString> m_deckSource; ///< Of a deck, an absent one as empty.
+    QString m_body; ///< In a document's form: with plain line feeds.
+    std::optional<QString> m_deckSource; ///< Set only for a deck; empty when its source is unknown.
     qsizetype m_wordCount = 0;
     bool m_isEditable = false;
-    bool m_isAsInLibrary = true; ///< The body, but for the unstored edit.
-    std::optional<TextEdit> m_unstored; ///< Where the library does not have the user's edits yet.
+    bool m_isAsInLibrary = true; ///< The body matches the library's, except for the unstored edit.
+    std::optional<TextEdit> m_unstored; ///< The user's edits that the library does not have yet.
     bool m_isStoring = false; ///< The library is taking over the user's edit.
-    bool m_isUpdating = false; ///< The document is following the library: no edit of the user's.
+    bool m_isUpdating
+        = false; ///< The document is following the library, which is no edit by the user.
     QPointer<QTextDocument> m_document;
 };
 

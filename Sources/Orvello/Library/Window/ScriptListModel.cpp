@@ -79,7 +79,7 @@ void ScriptListModel::followScripts(const LibraryChange& change)
         followActiveScript();
         break;
     case LibraryChange::Kind::Edited:
-        if (!change.isOtherTitle)
+        if (!change.hasNewTitle)
             break;
         m_rows[static_cast<std::size_t>(row)].title = m_library.scripts()[change.row].title;
         Q_EMIT dataChanged(index(row), index(row));

@@ -32,7 +32,7 @@ public:
     /// The row that `activeScriptID` names, or -1.
     int activeRow() const { return m_activeRow; }
 
-    /// Makes that row's script active. A row beyond the list gives the list's nearest.
+    /// Makes that row's script active; a row beyond the list means the nearest one.
     Q_INVOKABLE void activate(int row);
 
 Q_SIGNALS:

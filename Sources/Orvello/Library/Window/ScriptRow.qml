@@ -3,7 +3,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Orvello
 
-// One script in the list: its title, and for a deck its sign and the number of its slides.
+// One script in the list: its title, and for a deck its symbol and the number of slides.
 ItemDelegate {
     id: root
 
@@ -15,7 +15,7 @@ ItemDelegate {
     required property bool listHasFocus
     readonly property color textColor: isActive && listHasFocus ? palette.highlightedText : palette.windowText
 
-    focusPolicy: Qt.NoFocus // The list has it.
+    focusPolicy: Qt.NoFocus // The list has the focus.
     highlighted: isActive
     topPadding: 5
     bottomPadding: 5

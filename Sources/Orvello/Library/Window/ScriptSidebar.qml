@@ -10,7 +10,7 @@ ColumnLayout {
 
     required property LibraryViewModel library
     readonly property ScriptListModel scripts: library.scripts
-    readonly property int pageOfRows: Math.max(1, Math.floor(list.height / 30) - 1) // Of 30 points, more or less.
+    readonly property int pageOfRows: Math.max(1, Math.floor(list.height / 30) - 1) // A row is about 30 points high.
 
     signal addRequested
     signal editRequested

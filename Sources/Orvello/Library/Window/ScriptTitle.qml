@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Controls
 
-// A script's title in the list. What has no room there is told while the pointer rests on the row.
+// A script's title in the list. A title that does not fit appears whole while the pointer rests on
+// the row.
 Label {
     id: root
 
@@ -14,7 +15,7 @@ Label {
     ToolTip {
         visible: root.isHovered && root.truncated
         delay: 700
-        // The shared tool tip would take a title that looks like markup for it.
+        // The shared tool tip would render a title that looks like markup.
         contentItem: Label {
             text: root.text
             textFormat: Text.PlainText

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Orvello
 
-// A button at the foot of the scripts. Its help text is also its name.
+// A button below the list of scripts. Its help text is also its name.
 SymbolButton {
     id: root
 

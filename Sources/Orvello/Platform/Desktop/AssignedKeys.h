@@ -5,11 +5,11 @@
 
 namespace Orvello {
 
-/// The hot keys as the user has assigned them, where that is the desktop's business. Main thread.
-class AssignedKeys : public QObject { // Not final: the views derive from what they could make.
+/// The hot keys as the user has assigned them, on desktops that manage them. Main thread.
+class AssignedKeys : public QObject { // Not final: QML derives from the types that it can create.
     Q_OBJECT
-    /// What to press, in the desktop's own words, by the name of the key's purpose. Without those
-    /// that the desktop leaves to the program.
+    /// What to press, in the desktop's own words, by the name of the key's purpose. Keys that the
+    /// desktop leaves to the program are not in it.
     Q_PROPERTY(QVariantMap triggers READ triggers NOTIFY triggersChanged FINAL)
     /// Whether the desktop has a window for assigning them.
     Q_PROPERTY(bool canConfigure READ canConfigure NOTIFY canConfigureChanged FINAL)
@@ -39,7 +39,7 @@ public:
 Q_SIGNALS:
     void triggersChanged();
     void canConfigureChanged();
-    void configurationRequested(); ///< For who talks to the desktop.
+    void configurationRequested(); ///< For the part that talks to the desktop.
 
 private:
     QVariantMap m_triggers;

@@ -25,7 +25,7 @@ inline constexpr std::uint32_t optionKey = 0x800; ///< Alt where there is no opt
 
 } // namespace HotKey
 
-/// What a hot key is known to the system by.
+/// The name by which the system knows a hot key.
 struct HotKeyID {
     std::uint32_t signature = 0;
     std::uint32_t id = 0;
@@ -33,7 +33,7 @@ struct HotKeyID {
 
 /// What a key does, for desktops that list the keys and let the user assign others.
 struct HotKeyPurpose {
-    QString name; ///< For ever the same: the desktop remembers the user's choice by it.
+    QString name; ///< Never changes: the desktop remembers the user's choice by this name.
     QString description; ///< In the user's language.
 };
 
@@ -56,7 +56,7 @@ public:
     virtual ~HotKeys() = default;
 
     /// `handler` runs on the main loop once for each press of a registered key, however long the
-    /// key is held, whichever program has the keyboard. Called once, before any registration.
+    /// key is down, whichever program has the keyboard. Called once, before any registration.
     virtual void installHandler(Handler handler) = 0;
 
     /// Registers a key with exactly these modifiers; its presses reach no other program. Null when

@@ -11,13 +11,13 @@ class CaptureHiding;
 
 /// The one prompter window as the window system sees it: borderless, above every other window
 /// (full-screen ones too), on every workspace, never given the keyboard, dragged by its background
-/// and resized at its edges. The view inside it is somebody else's. Frames are in the coordinates
-/// of Screens. Main thread.
+/// and resized at its edges. The view inside it belongs to someone else. Frames are in the
+/// coordinates of Screens. Main thread.
 class NativePanel : public QObject {
     Q_OBJECT
 
 public:
-    /// The limits that the user's resizing keeps to.
+    /// The limits on the user's resizing.
     static constexpr QSizeF minimumSize { 340, 130 };
     static constexpr QSizeF maximumSize { 1600, 900 };
 
@@ -45,8 +45,8 @@ public:
 Q_SIGNALS:
     void resized();
     void resizeEnded(); ///< The user let go.
-    void scrolled(double delta); ///< Precise vertical scrolling delta of one wheel or trackpad
-                                 ///< event, upward positive.
+    void scrolled(double
+            delta); ///< The precise vertical delta of one wheel or trackpad event, upward positive.
 };
 
 } // namespace Orvello

@@ -12,11 +12,11 @@ class StatusBar {
 public:
     virtual ~StatusBar() = default;
 
-    /// The system's menu bar, if this bar is a part of it. It is always there then, and makes the
-    /// items itself. Null for other bars, which leave that to the toolkit, and may be missing.
+    /// The system's menu bar, if this bar is a part of it. Such a bar is always there and makes the
+    /// items itself. Null for other bars, which leave that to the toolkit and may be missing.
     virtual MenuBar* menuBar() = 0;
 
-    /// Tells whether there is a bar: once, as soon as that is known, and then each time one comes
+    /// Reports whether there is a bar: once, as soon as that is known, and then each time one comes
     /// or goes. Called once.
     virtual void observe(std::function<void(bool isThere)> changed) = 0;
 };

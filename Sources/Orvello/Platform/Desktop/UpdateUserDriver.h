@@ -14,7 +14,7 @@ class UpdateUserDriver {
 public:
     virtual ~UpdateUserDriver() = default;
 
-    /// Asks whether updates may be looked for regularly.
+    /// Asks whether to look for updates regularly.
     virtual void askPermission(std::function<void(bool)> answer) = 0;
 
     /// Offers an update. Closing the window is an answer: Later.
@@ -23,7 +23,7 @@ public:
     /// Brings a question that is still open to the front.
     virtual void bringToFront() = 0;
 
-    /// Tells, in front, how a check ended that the user asked for.
+    /// Reports, in front, how a check that the user asked for ended.
     virtual void showOutcome(const QString& text) = 0;
 };
 

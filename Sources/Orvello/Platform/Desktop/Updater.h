@@ -11,7 +11,7 @@ namespace Orvello {
 
 /// A release that the update feed offers.
 struct UpdateItem {
-    QString version; ///< By which releases compare.
+    QString version; ///< The version that decides which release is newer.
     QString displayVersion; ///< For people.
 };
 
@@ -37,7 +37,7 @@ class UpdaterDelegate {
 public:
     virtual ~UpdaterDelegate() = default;
 
-    /// The feed to read instead of the one that is built in, if any.
+    /// The feed to read instead of the built-in one, if any.
     virtual std::optional<QString> feedURLString() const = 0;
 
     virtual void didFindValidUpdate(const UpdateItem& item) = 0;
@@ -67,8 +67,8 @@ class Updater {
 public:
     virtual ~Updater() = default;
 
-    /// Begins the schedule, and asks the user whether there may be one if nobody has asked before.
-    /// `delegate` must outlive the updater. Called once.
+    /// Begins the schedule, after asking the user whether there may be one if that has never been
+    /// asked. `delegate` must outlive the updater. Called once.
     virtual void start(UpdaterDelegate& delegate) = 0;
 
     /// Checks now and shows the user whatever comes of it.

@@ -10,7 +10,7 @@ namespace Orvello {
 
 /// One window as the window server sees it.
 struct WindowOnScreen {
-    QString ownerName; ///< Of the application; empty when unknown.
+    QString ownerName; ///< The application's name; empty when unknown.
     std::optional<QRectF> bounds; ///< In the coordinates of Screens.
 };
 
@@ -20,7 +20,7 @@ public:
     virtual ~WindowServer() = default;
 
     /// The visible windows from front to back, without the desktop's own; nothing when the window
-    /// server does not tell.
+    /// server does not say.
     virtual std::optional<QList<WindowOnScreen>> windowsOnScreen() const = 0;
 
     /// The size of every screen in points, in the system's order.

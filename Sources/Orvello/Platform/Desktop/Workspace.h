@@ -16,7 +16,7 @@ struct RunningApplication {
     friend bool operator==(const RunningApplication&, const RunningApplication&) = default;
 };
 
-/// The user's applications. Main thread. What the system does not tell is left out.
+/// The user's applications. Main thread. What the system does not say is left out.
 class Workspace {
 public:
     virtual ~Workspace() = default;

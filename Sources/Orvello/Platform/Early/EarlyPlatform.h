@@ -39,7 +39,7 @@ public:
     /// The operating system's version for people, such as "Debian GNU/Linux 12 (bookworm)".
     virtual QString operatingSystemVersion() const = 0;
 
-    /// What the program's texts may say of this machine.
+    /// What the program's texts may say about this machine.
     virtual Facts facts() const = 0;
 
     /// Another program's user defaults, by the name of their domain; empty if it has none.

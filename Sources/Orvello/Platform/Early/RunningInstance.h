@@ -18,8 +18,8 @@ struct ProgramStart {
     friend bool operator==(const ProgramStart&, const ProgramStart&) = default;
 };
 
-/// Sees to it that the user runs the program once on a display, and hears what the system and later
-/// starts ask of the one that runs. Main thread.
+/// Makes sure that the program runs once on a display, and hears what the system and later starts
+/// ask of the running one. Main thread.
 class RunningInstance {
 public:
     /// Called once, with what the running program could not do, in words for the user.
@@ -31,26 +31,26 @@ public:
     };
 
     enum class Claim {
-        Granted, ///< This process is the one, which it stays until it ends.
-        HandedOver, ///< The one that runs has done what it could of what was asked.
-        Unanswered, ///< One runs, and cannot be asked.
+        Granted, ///< This process is the one that runs, until it ends.
+        HandedOver, ///< The running one has done what it could of the request.
+        Unanswered, ///< One is running, but cannot be asked.
     };
     struct Outcome {
         Claim claim = Claim::Granted;
-        QStringList messages; ///< What the user must be told of it.
+        QStringList messages; ///< What the user must be told about it.
     };
 
     virtual ~RunningInstance() = default;
 
-    /// Tries to be the one. A process that is not has nothing left to do. Before the application
-    /// object is made; at most once.
+    /// Tries to become the one that runs. A process that cannot has nothing left to do. Before the
+    /// application object is made; at most once.
     [[nodiscard]] virtual Outcome claim(const ProgramStart& start) = 0;
 
     /// From now on the handlers run on the main loop. Requests that came earlier come first. After
     /// the application object is made; once.
     virtual void listen(Handlers handlers) = 0;
 
-    /// Leaves nothing behind that tells of this process. For an end without destructors.
+    /// Removes every trace by which this process can be found. For an end without destructors.
     virtual void release() = 0;
 };
 

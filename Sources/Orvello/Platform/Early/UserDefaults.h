@@ -6,8 +6,8 @@
 namespace Orvello {
 
 /// One domain of preference values: booleans, numbers and strings. A value of another kind that the
-/// system keeps there can be passed on as it is, from one domain to another. Main thread. What a
-/// setter stored survives the death of the process right after it returned.
+/// system keeps there can be copied, unread, from one domain to another. Main thread. What a setter
+/// has stored survives even if the process dies right after the setter returns.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;

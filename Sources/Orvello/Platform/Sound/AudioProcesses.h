@@ -10,7 +10,7 @@ public:
     virtual ~AudioProcesses() = default;
 
     /// The identifiers of those that capture audio input now, this process among them if it does.
-    /// What the system does not tell is left out.
+    /// What the system does not say is left out.
     virtual QList<qint64> capturingInput() = 0;
 };
 

@@ -9,12 +9,12 @@
 
 namespace Orvello {
 
-/// The default input device as it sounds, mono. Main thread.
+/// The default input device, unprocessed and mono. Main thread.
 class RawMicrophone {
 public:
     virtual ~RawMicrophone() = default;
 
-    /// Of the input device, in hertz; 0 when there is no usable one.
+    /// The input device's rate in hertz; 0 when there is no usable device.
     virtual double sampleRate() = 0;
 
     /// Lets `listener` hear about `blockFrames` samples at a time once the microphone runs. It must

@@ -6,8 +6,8 @@
 
 namespace Orvello {
 
-/// One voice-processing unit: the default microphone, mono at 48 kHz, freed of what this computer
-/// plays. Nothing but a new unit can be configured; then it is initialised, started, stopped,
+/// One voice-processing unit: the default microphone, mono at 48 kHz, with what this computer plays
+/// removed. Nothing but a new unit can be configured; then it is initialised, started, stopped,
 /// uninitialised and destroyed. Main thread, but for the listener and render().
 class VoiceProcessingUnit {
 public:
@@ -26,8 +26,8 @@ public:
 
     class Listener {
     public:
-        /// The unit's audio thread: no lock, no memory, no log. So many samples wait to be fetched
-        /// from the unit by render().
+        /// The unit's audio thread: no lock, no memory, no log. That many samples wait to be
+        /// fetched from the unit by render().
         virtual void onInput(VoiceProcessingUnit& unit, std::uint32_t frames) noexcept = 0;
 
     protected:

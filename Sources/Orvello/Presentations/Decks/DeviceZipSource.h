@@ -8,7 +8,7 @@ QT_FORWARD_DECLARE_CLASS(QIODevice)
 
 namespace Orvello::PptxImporter {
 
-/// Lets libzip read a device, within an allowance that ends the work a hostile archive can ask for:
+/// Lets libzip read a device, within an allowance that limits the work a hostile archive can cause:
 /// a read past it fails.
 class DeviceZipSource {
 public:
@@ -23,7 +23,7 @@ public:
     DeviceZipSource& operator=(const DeviceZipSource&) = delete;
     ~DeviceZipSource();
 
-    /// Keeps belonging to this object, which must outlive every archive made from it.
+    /// Still belongs to this object, which must outlive every archive made from it.
     zip_source_t* get() const { return m_source; }
 
     void setAllowance(Allowance allowance) { m_allowance = allowance; }

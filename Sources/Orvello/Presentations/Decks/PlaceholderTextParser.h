@@ -10,8 +10,8 @@
 namespace Orvello::PptxImporter {
 
 /// Collects the plain text of a slide's or notes page's placeholder shapes of certain types: one
-/// string per shape, paragraphs and line breaks as newlines, trimmed. Elements are known by the end
-/// of their names, so any namespace prefix will do.
+/// string per shape, paragraphs and line breaks as newlines, trimmed. Elements are recognised by
+/// the end of their names, so any namespace prefix will do.
 ///
 /// Reading ends where the text would grow past `maximumLength` UTF-16 code units, with the shapes
 /// collected before.
@@ -33,7 +33,7 @@ private:
     bool m_insideShape = false;
     bool m_shapeAccepted = false;
     bool m_insideTextRun = false;
-    QString m_shapeText; ///< Of the shape being read.
+    QString m_shapeText; ///< The text so far of the shape being read.
 
     const qsizetype m_maximumLength;
     qsizetype m_collectedLength = 0;

@@ -21,13 +21,13 @@ QString description(ImportError error);
 /// each with its slide's title. A part of the package that is missing, damaged, encrypted or past
 /// one of the limits below leaves its slide with no title or with empty notes.
 ///
-/// Synchronous, on the caller's thread; calls on different threads do not meet.
+/// Synchronous, on the caller's thread; calls on different threads are independent.
 [[nodiscard]] Result<QList<SlideNote>, ImportError> importNotes(const QString& path);
 
-/// Far above any deck that people make, these limits are what a package made to do harm can cost:
-/// at worst a minute or two, and 400 MB beyond the result itself. In an ordinary one the memory
-/// beyond the result is that of its directory, of the list of its slides' paths and of its largest
-/// part. XmlParser and RelsParser add limits for what is inside a part.
+/// Far above any deck that people make, these limits bound the cost of a package made to do harm:
+/// at worst a minute or two, and 400 MB beyond the result itself. An ordinary one takes, beyond the
+/// result, the memory for its directory, the list of its slides' paths and its largest part.
+/// XmlParser and RelsParser add limits for what is inside a part.
 namespace Limits {
 
 /// Entries of a package, and the bytes of its directory. One with more is Unreadable.

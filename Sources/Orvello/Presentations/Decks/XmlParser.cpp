@@ -16,8 +16,8 @@ std::optional<std::string_view> XmlAttributes::value(std::string_view name) cons
     return std::nullopt;
 }
 
-/// expat's callbacks. After XML_StopParser() expat may still deliver a few events that it has at
-/// hand, which m_stopped keeps from the subclass.
+/// expat's callbacks. After XML_StopParser() expat may still deliver a few pending events, which
+/// m_stopped keeps from the subclass.
 struct XmlParser::Events {
     static void XMLCALL start(void* context, const XML_Char* name, const XML_Char** attributes)
     {
@@ -76,8 +76,8 @@ void XmlParser::parse(std::string_view document)
     XML_SetElementHandler(expat.get(), &Events::start, &Events::end);
     XML_SetCharacterDataHandler(expat.get(), &Events::text);
 
-    // A handful of declarations can make a small document ask for hours of work or for a stack as
-    // deep as it is long, by entities within entities and by default attributes.
+    // Through nested entities and default attributes, a handful of declarations can make a small
+    // document cost hours of work or a stack as deep as it is long.
     XML_SetEntityDeclHandler(expat.get(), &Events::entityDeclared);
     XML_SetAttlistDeclHandler(expat.get(), &Events::attributeDeclared);
     XML_SetBillionLaughsAttackProtectionMaximumAmplification(expat.get(), 2.0F);

@@ -21,13 +21,13 @@ private:
     const char* const* m_namesAndValues;
 };
 
-/// Receives the events of one document and is dropped after it. Names are qualified names as
+/// Receives the events of one document, and is used for no other. Names are qualified names as
 /// written: namespaces are not resolved. Text is UTF-8, whatever the document's encoding.
 ///
 /// Nothing outside the document is ever loaded. A document that is not well-formed, nests deeper
 /// than `maximumDepth`, declares more than `maximumDeclarations` entities and attributes, or grows
-/// to more than twice its size by its entities, ends there: the events up to that point have been
-/// delivered, and none follow.
+/// to more than twice its size through its entities, ends there: the events up to that point have
+/// been delivered, and none follow.
 class XmlParser {
 public:
     static constexpr int maximumDepth = 256;
@@ -47,7 +47,7 @@ protected:
     /// One piece of text; a run of text may come in several.
     virtual void characters(std::string_view) { }
 
-    /// Delivers no further event.
+    /// Ends the delivery of events.
     void stop();
 
 private:

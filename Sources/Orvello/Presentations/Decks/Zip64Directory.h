@@ -6,8 +6,8 @@ QT_FORWARD_DECLARE_CLASS(QIODevice)
 
 namespace Orvello::PptxImporter {
 
-/// How many entries an archive claims to have where it says so with 64 bits, which libzip takes at
-/// its word before it reads a single one; 0 when it does not. Of several claims the highest.
+/// How many entries an archive claims to have in a 64-bit record, which libzip takes at its word
+/// before it reads a single one; 0 without such a record. The highest of several claims.
 [[nodiscard]] quint64 zip64EntryCount(QIODevice& device);
 
 } // namespace Orvello::PptxImporter

@@ -16,11 +16,12 @@ namespace {
 
 constexpr qint64 chunkSize = 16'384;
 
-/// Of the buffer, from one entry to the next. The part that lists the slides may need far more.
+/// How much of the buffer is kept from one entry to the next. The part that lists the slides may
+/// need far more.
 constexpr qsizetype keptCapacity = 1'048'576;
 
 /// libzip takes two reads for each entry of the directory, which makes this a limit on their number
-/// before it has taken them in. It matters because the hash table for their names, as of libzip
+/// even before it has read them. It matters because the hash table for their names, as of libzip
 /// 1.7, can be made to degenerate, so that many entries take hours.
 constexpr DeviceZipSource::Allowance forOpening { .bytes = Limits::directorySize,
     .reads = 2 * Limits::entries + 1'000 };
@@ -32,7 +33,7 @@ struct CloseFile {
     void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
 
-/// Packages know these two methods only. Others that libzip may support need memory as the
+/// Packages use only these two methods. Others that libzip may support need as much memory as the
 /// archive demands.
 bool isSupported(const zip_stat_t& entry)
 {
@@ -131,7 +132,7 @@ bool ZipArchive::extract(quint32 index)
             return false;
         size += count;
         m_totalSize += count;
-    } while (count > 0); // libzip compares the checksum when it has found the end.
+    } while (count > 0); // libzip compares the checksum once it has reached the end.
     m_content.truncate(size);
     return static_cast<zip_uint64_t>(size) == entry.size;
 }

@@ -44,7 +44,7 @@ private:
     DeviceZipSource m_source;
     std::unique_ptr<zip_t, Discard> m_archive;
     std::vector<quint32> m_entries; ///< In the order of their names, then of the directory.
-    QByteArray m_content; ///< Of the entry that was extracted last.
+    QByteArray m_content; ///< The entry that was extracted last.
     qint64 m_totalSize = 0; ///< Bytes extracted so far.
 };
 

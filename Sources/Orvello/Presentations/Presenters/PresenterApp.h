@@ -19,7 +19,7 @@ struct PresenterApp {
     QString logName; ///< In log lines, in the texts of errors and as the source of its decks.
     QString bundleIdentifier; ///< Or the desktop identifier, on a system without bundles.
     QString notesName; ///< What it calls the speaker's notes.
-    QString permissionAdvice; ///< What to tell a user whose system refuses to let it be asked.
+    QString permissionAdvice; ///< What to tell a user whose system does not let it be asked.
     Query askCurrentSlide; ///< Prints the number of the slide on screen, 1-based.
     Query askOpenDeck; ///< Prints the deck record of the front document, or fails with NO_DOCUMENT.
     bool hasDeckFiles = false; ///< Its decks are files that the importer reads by itself.

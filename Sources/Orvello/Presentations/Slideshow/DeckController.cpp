@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Stands for a value that is looked up when the change arrives. A copy of the library would wait
-/// in the event queue, and every key press that it outlives would have to copy the whole list.
+/// in the event queue, and make every key press meanwhile copy the whole list.
 std::monostate nothing(const QObject&) { return {}; }
 
 qint64 slideCountOf(const Script* script)
@@ -63,7 +63,8 @@ void DeckController::showNextSlide()
     recompute();
 }
 
-/// At once, unlike what follows from it: the library may have more edits when the change arrives.
+/// Taken at once, unlike what follows from it: the library may have more edits by the time the
+/// change arrives.
 void DeckController::noteEdit(const LibraryChange& change)
 {
     if (change.body && change.id == m_lastScriptID)
@@ -117,11 +118,11 @@ DeckController::Unit DeckController::unitOf(const Script* script) const
     if (slideCountOf(script) == 0 || !m_settings.slideSync())
         return { script->body, std::nullopt, std::nullopt };
     const SlideNote& slide = script->slides->at(m_manualIndex);
-    return { slide.notes.isEmpty() ? u"(No speaker notes on this slide)"_s : slide.notes,
+    return { slide.notes.isEmpty() ? tr("(No speaker notes on this slide)") : slide.notes,
         slide.title, m_manualIndex };
 }
 
-/// How the text shown becomes the unit's, if it has to change.
+/// The edit that turns the text shown into the unit's, if it has to change.
 std::optional<TextEdit> DeckController::editTo(const Unit& unit, bool isOtherUnit) const
 {
     if (isOtherUnit && unit.text != m_promptText)
@@ -144,7 +145,7 @@ void DeckController::publish(const Script* script, const Unit& unit)
     const bool isOtherTracking = assign(m_trackingActive, unit.slide.has_value());
     const bool isOtherIndex = assign(m_displayIndex, m_manualIndex);
     const bool isOtherCount = assign(m_slideCount, slideCountOf(script));
-    const bool isOtherTitle = assign(m_slideTitle, unit.title);
+    const bool hasNewTitle = assign(m_slideTitle, unit.title);
 
     if (isOtherUnit)
         Q_EMIT slideChangeTokenChanged();
@@ -156,7 +157,7 @@ void DeckController::publish(const Script* script, const Unit& unit)
         Q_EMIT displayIndexChanged();
     if (isOtherCount)
         Q_EMIT slideCountChanged();
-    if (isOtherTitle)
+    if (hasNewTitle)
         Q_EMIT slideTitleChanged();
 }
 

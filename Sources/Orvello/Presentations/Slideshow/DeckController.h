@@ -17,8 +17,8 @@ struct LibraryChange;
 struct Script;
 
 /// Decides what the prompter shows: one slide's speaker notes while slide tracking is on and the
-/// active script has slides, its whole text otherwise. A slideshow's slide goes before the one
-/// stepped to by hand.
+/// active script has slides, its whole text otherwise. A slideshow's slide takes precedence over
+/// the one stepped to by hand.
 class DeckController final : public QObject {
     Q_OBJECT
 
@@ -28,19 +28,26 @@ public:
         const SlideSyncService& sync, QObject* parent = nullptr);
 
     const QString& promptText() const { return m_promptText; }
-    /// Goes up by 1 whenever another unit is shown, and so from its top.
+    /// Goes up by 1 whenever another unit is shown, which then starts at its top.
     qint64 slideChangeToken() const { return m_slideChangeToken; }
-    bool trackingActive() const { return m_trackingActive; } ///< One slide's notes are shown.
+    bool trackingActive() const
+    {
+        return m_trackingActive;
+    } ///< Whether one slide's notes are shown.
     qint64 displayIndex() const { return m_displayIndex; } ///< 0-based; 0 without slides.
-    qint64 slideCount() const { return m_slideCount; } ///< Of the active script.
-    const std::optional<QString>& slideTitle() const { return m_slideTitle; } ///< If one is shown.
+    qint64 slideCount() const { return m_slideCount; } ///< How many slides the active script has.
+    const std::optional<QString>& slideTitle() const
+    {
+        return m_slideTitle;
+    } ///< The title of the slide shown, if any.
     SlideSyncService::State syncState() const { return m_syncState; }
 
     void showPreviousSlide();
     void showNextSlide();
 
 Q_SIGNALS:
-    void promptTextChanged(const Orvello::TextEdit& edit); ///< From the text before.
+    void promptTextChanged(
+        const Orvello::TextEdit& edit); ///< The edit leads from the text before to the new one.
     void slideChangeTokenChanged();
     void trackingActiveChanged();
     void displayIndexChanged();
@@ -76,7 +83,8 @@ private:
     std::optional<QString> m_slideTitle;
     SlideSyncService::State m_syncState = SlideSyncService::State::Idle;
     qint64 m_manualIndex = 0; ///< Follows the live slide, so that it stays when the slideshow ends.
-    std::optional<TextEdit> m_edit; ///< Of the last script's body, since the text was published.
+    std::optional<TextEdit>
+        m_edit; ///< What has changed in the last script's body since the text was published.
     QString m_lastUnitKey;
     std::optional<QUuid> m_lastScriptID;
 };

@@ -22,7 +22,7 @@ bool isRefused(const ScriptResult& result)
         && result.standardError.contains(notAuthorised);
 }
 
-/// What the helper, which speaks English, says about a change, with a hole where it varies.
+/// What the helper says, in English, about a change, with a placeholder where it varies.
 constexpr std::array answers {
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
         "To follow Impress, Orvello needs the package python3-uno. Install it and try again."),
@@ -39,7 +39,7 @@ constexpr std::array answers {
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "Orvello may no longer follow Impress."),
 };
 
-/// An answer that is not among them, as from a part of the system, stays what it is.
+/// An answer that is not among them, such as one from the system, stays as it is.
 QString inUsersLanguage(const QString& answer)
 {
     for (const char* const source : answers) {
@@ -76,7 +76,7 @@ PresenterApp ImpressPresenter::row()
     return {
         .displayName = u"LibreOffice Impress"_s,
         .logName = u"Impress"_s,
-        .bundleIdentifier = u"libreoffice-impress"_s, // Of its desktop file.
+        .bundleIdentifier = u"libreoffice-impress"_s, // The name of its desktop file.
         //: What Impress calls a speaker's notes.
         .notesName = tr("notes"),
         .permissionAdvice
@@ -136,7 +136,7 @@ void ImpressPresenter::disallow(Completion completion)
 
 void ImpressPresenter::change(const QString& question, Completion completion)
 {
-    m_isAdviceDue = false; // The user has found the way.
+    m_isAdviceDue = false; // The user knows how to allow it by now.
     m_isChanging = true;
     m_helper.ask(question,
         [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {

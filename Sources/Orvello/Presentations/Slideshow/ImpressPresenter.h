@@ -29,16 +29,15 @@ public:
     ImpressPresenter(
         HelperProcess& helper, const PresentationMonitor& presentation, QObject* parent = nullptr);
 
-    PresenterApp row(); ///< Of the presenter table.
+    PresenterApp row(); ///< Its row of the presenter table.
 
-    /// Sets LibreOffice up to be asked, in the user's profile, for good; it may have to be started
-    /// for that. The completion is called on the main loop, unless the presenter is destroyed
-    /// first.
+    /// Permanently sets LibreOffice up to be asked, in the user's profile; that may mean starting
+    /// it. The completion is called on the main loop, unless the presenter is destroyed first.
     void allow(Completion completion);
-    /// Takes that back.
+    /// Undoes allow().
     void disallow(Completion completion);
 
-    /// A change is on its way, which may take some seconds.
+    /// A change is under way, which may take some seconds.
     bool isChanging() const { return m_isChanging; }
 
 Q_SIGNALS:

@@ -34,14 +34,14 @@ public:
     explicit PresentationMonitor(const Sources& sources, QObject* parent = nullptr);
     ~PresentationMonitor() override;
 
-    void start(); ///< Polls at once and then every second, for good. Once is enough.
+    void start(); ///< Polls at once and then every second, for good. Called once.
 
-    /// A presenter's slideshow fills a screen and a presenter is frontmost.
+    /// Whether a presenter's slideshow fills a screen and a presenter is frontmost.
     bool isPresenting() const { return m_isPresenting; }
     /// The owner name of the slideshow's window.
     const std::optional<QString>& presentingApp() const { return m_presentingApp; }
     bool meetingAppRunning() const { return m_meetingAppRunning; }
-    /// Another process is capturing audio input.
+    /// Whether another process is capturing audio input.
     bool inCall() const { return m_inCall; }
 
 Q_SIGNALS:

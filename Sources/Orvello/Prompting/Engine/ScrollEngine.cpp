@@ -14,7 +14,7 @@ namespace {
 constexpr double frameInterval = 1.0 / 60.0;
 constexpr double countdownInterval = 1.0;
 
-/// Of the viewport's height, from its top: where the last line comes to rest.
+/// Where the last line comes to rest: the share of the viewport's height that is above it.
 constexpr double restingPlace = 0.3;
 
 /// A text moved by less than this still counts as standing at its top, in points.
@@ -133,7 +133,7 @@ double ScrollEngine::offsetAt(double moment) const
 
 void ScrollEngine::tick()
 {
-    // Time passes on every frame, moving or not, so that going on after a hold never jumps.
+    // Time passes on every frame, moving or not, so that the text never jumps when a hold ends.
     const double now = m_time.now();
     const double elapsed = now - std::exchange(m_lastTick, now);
     if (!isMoving())

@@ -35,7 +35,7 @@ public:
     double offset() const { return m_offset; }
     void setOffset(double points); ///< As given; the next tick or nudge brings it into range.
 
-    /// True while the text scrolls, or would but for the pointer or the voice gate.
+    /// True while the text scrolls, or would if not for the pointer or the voice gate.
     bool isRunning() const { return m_isRunning; }
 
     bool hoverPaused() const { return m_hoverPaused; }
@@ -53,14 +53,14 @@ public:
     void setVoiceGate(bool open); ///< Open while the speaker speaks.
 
     double contentHeight() const { return m_contentHeight; }
-    void setContentHeight(double points); ///< Of the whole text, as laid out.
+    void setContentHeight(double points); ///< The height of the whole text, as laid out.
 
     double viewportHeight() const { return m_viewportHeight; }
-    void setViewportHeight(double points); ///< Of the visible text area.
+    void setViewportHeight(double points); ///< The height of the visible text area.
 
-    double speed() const; ///< Of the settings, in points per second.
+    double speed() const; ///< The speed in the settings, in points per second.
 
-    double now() const { return m_time.now(); } ///< Of the clock that it scrolls by.
+    double now() const { return m_time.now(); } ///< The time on the clock that it scrolls by.
 
     /// Whether the next tick moves the text on.
     bool isMoving() const;
@@ -75,7 +75,7 @@ public:
     /// How much of the way is done, 0 to 1; 1 for a text too short to scroll.
     double progress() const;
 
-    /// Begins to scroll, from the top through the countdown of the settings. A finished text starts
+    /// Begins to scroll, from the top after the countdown of the settings. A finished text starts
     /// again from the top.
     void start();
 

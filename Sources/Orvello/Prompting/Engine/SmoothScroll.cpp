@@ -10,8 +10,8 @@ namespace Orvello {
 
 namespace {
 
-/// How far a frame may seem to miss the display's beat and still be taken to be on it, in
-/// intervals. The moment a frame is prepared varies; the moment it is shown does not.
+/// How far a frame may seem to miss the display's beat and still count as on it, in intervals. The
+/// moment a frame is prepared varies; the moment it is shown does not.
 constexpr double offBeat = 0.35;
 
 } // namespace

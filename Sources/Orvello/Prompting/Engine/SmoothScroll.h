@@ -11,13 +11,13 @@ class ScrollEngine;
 /// than half a point, and rests exactly at it.
 class SmoothScroll {
 public:
-    static constexpr double tickInterval = 1.0 / 60.0; ///< Of the engine, in seconds.
+    static constexpr double tickInterval = 1.0 / 60.0; ///< The engine's, in seconds.
 
     /// How far the text may be behind the moment, in seconds.
     static constexpr double longestLag = tickInterval + 0.003;
 
     /// How far the text may be ahead of the offset, in points. At slow speeds that is a whole tick,
-    /// so that the text stands where it should at every moment.
+    /// so that the text is where it should be at every moment.
     static constexpr double longestLead = 0.5;
 
     explicit SmoothScroll(const ScrollEngine& engine); ///< `engine` must outlive it.

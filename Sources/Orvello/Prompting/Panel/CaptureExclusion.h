@@ -24,7 +24,7 @@ public:
     /// shadow stay covered until the next application.
     static constexpr double margin = 200;
 
-    /// Among everything that is loaded into this process.
+    /// Looks among everything that is loaded into this process.
     static void* lookUpInProcess(const char* name);
 
     explicit CaptureExclusion(const LookUp& lookUp = &lookUpInProcess);
@@ -41,7 +41,7 @@ public:
 
     /// Excludes the window with this number and size from captures, or ends that. Returns whether
     /// the window server accepted the call; false for a window number below 1. A number beyond 32
-    /// bits is a mistake of the caller and ends the process.
+    /// bits is the caller's mistake and ends the process.
     bool setExcluded(bool on, qint64 windowNumber, QSizeF windowSize) const;
 
 private:

@@ -14,8 +14,8 @@ constexpr double panelWidth = 720;
 constexpr double panelHeight = 200;
 constexpr double gapBelowScreenTop = 6;
 
-/// A panel of which less than this lies on a screen, in either direction, can hardly be found and
-/// dragged back.
+/// A panel of which less than this lies on a screen, in either direction, is hard to find and drag
+/// back.
 constexpr double grabbable = 40;
 
 bool isGrabbable(const QRectF& frame, const QRectF& screen)
@@ -36,8 +36,8 @@ const QRectF& mainScreen(const QList<QRectF>& screens)
     return screens.isEmpty() ? assumedScreen : screens.first();
 }
 
-/// The frame with its y counted the other way, up or down. Its own inverse.
-QRectF turnedOver(const QRectF& frame, const QList<QRectF>& screens)
+/// The frame with its y axis reversed. Its own inverse.
+QRectF flippedVertically(const QRectF& frame, const QList<QRectF>& screens)
 {
     const auto isPrimary = [](const QRectF& screen) { return screen.topLeft().isNull(); };
     const auto primary = std::ranges::find_if(screens, isPrimary);
@@ -78,7 +78,7 @@ QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest)
 
 QString description(const QRectF& frame, const QList<QRectF>& screens)
 {
-    const QRectF counted = turnedOver(frame, screens);
+    const QRectF counted = flippedVertically(frame, screens);
     return u"{{%1, %2}, {%3, %4}}"_s.arg(number(counted.x()), number(counted.y()),
         number(counted.width()), number(counted.height()));
 }
@@ -87,7 +87,7 @@ QString text(const QRectF& frame, const QList<QRectF>& screens)
 {
     QStringList numbers;
     for (const QRectF& part :
-        { turnedOver(frame, screens), turnedOver(mainScreen(screens), screens) }) {
+        { flippedVertically(frame, screens), flippedVertically(mainScreen(screens), screens) }) {
         for (const double value : { part.x(), part.y(), part.width(), part.height() })
             numbers.append(number(value));
     }
@@ -110,7 +110,7 @@ std::optional<QRectF> parsed(const QString& text, const QList<QRectF>& screens)
     const QRectF frame(values[0], values[1], values[2], values[3]);
     if (frame.width() <= 0 || frame.height() <= 0)
         return std::nullopt;
-    return turnedOver(frame, screens);
+    return flippedVertically(frame, screens);
 }
 
 } // namespace Orvello::PanelFrame

@@ -20,7 +20,7 @@ inline constexpr QRectF assumedScreen { 0, 0, 1440, 900 };
 /// must be, onto the nearest of them. Unchanged when there is no screen.
 [[nodiscard]] QRectF onScreen(const QRectF& frame, const QList<QRectF>& screens);
 
-/// `frame` with its size held between the two; its top left corner stays.
+/// `frame` with its size clamped between the two; its top left corner stays.
 [[nodiscard]] QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest);
 
 // Log and settings count frames from the bottom left corner of the primary screen, y upward.
@@ -32,8 +32,7 @@ inline constexpr QRectF assumedScreen { 0, 0, 1440, 900 };
 /// separated by blanks.
 [[nodiscard]] QString text(const QRectF& frame, const QList<QRectF>& screens);
 
-/// The frame in such a text; nothing unless it begins with four finite numbers of which the sizes
-/// are positive.
+/// Reads such a text; nothing unless it begins with four finite numbers, the sizes positive.
 [[nodiscard]] std::optional<QRectF> parsed(const QString& text, const QList<QRectF>& screens);
 
 } // namespace Orvello::PanelFrame

@@ -19,7 +19,7 @@ constexpr double watchdogPeriod = 2.0; // Seconds.
 constexpr double reassertionDelay = 0.1; // Seconds the window server may need to place a window.
 constexpr double pointsPerScrollDelta = 3.0;
 
-// What the log calls the two, by the numbers that macOS has for them.
+// The numbers that the log uses for the two, which are those of macOS.
 constexpr long sharingNone = 0;
 constexpr long sharingReadOnly = 1;
 
@@ -95,11 +95,11 @@ void PrompterPanelController::applyStealthMode(bool on)
         Q_EMIT visibleInRecordingsChanged();
 }
 
-/// Returns whether the window is a fresh one.
+/// Returns whether the window is a new one.
 bool PrompterPanelController::hideFromCaptures(bool isHidden, qint64 windowNumber)
 {
     if (windowNumber >= 1 && windowNumber != m_appliedWid) {
-        // The window server takes notice of a change only, not of what a window was created with.
+        // The window server notices only a change, not what a window was created with.
         if (m_hiding.isHidden() == isHidden)
             m_hiding.setHidden(!isHidden);
         m_hiding.setHidden(isHidden);

@@ -85,7 +85,7 @@ private:
     const bool m_forceCapturable;
     bool m_stealthOn = false;
     bool m_wantsStealth = false;
-    bool m_pendingShapeReapply = false; ///< A shape was left as it was because a call was going on.
+    bool m_pendingShapeReapply = false; ///< A shape was left as it was because of a call.
     qint64 m_appliedWid = -1; ///< Window number at the last application.
     std::optional<bool> m_appliedHidden;
     std::unique_ptr<TimeSource::Ticket> m_stealthWatchdog;

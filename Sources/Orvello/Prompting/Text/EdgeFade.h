@@ -6,10 +6,10 @@
 /// of the height on, opaque until 82 % of it, clear at the bottom, evenly in between.
 namespace Orvello::EdgeFade {
 
-/// Heights between which the fade is even, in parts of the card's height from its top.
+/// The heights between which the fade is linear, as shares of the card's height from its top.
 inline constexpr std::array stops { 0.0, 0.1, 0.82, 1.0 };
 
-/// 0 clear, 1 opaque, at a part of the card's height; clear outside of the card.
+/// From 0 (clear) to 1 (opaque) at a share of the card's height; clear outside the card.
 [[nodiscard]] double visibilityAt(double height);
 
 } // namespace Orvello::EdgeFade

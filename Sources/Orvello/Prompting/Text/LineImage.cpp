@@ -10,11 +10,11 @@ namespace Orvello {
 
 namespace {
 
-/// Of a picture; every renderer takes one a little larger as a texture.
+/// The longest side of a picture; every renderer takes a slightly larger one as a texture.
 constexpr double largestSide = 4000;
 
-/// In which all glyphs lie, in points from the frame's left edge and the baseline. Accents may be
-/// stacked, and letters may lean out of their boxes, by half the font's size.
+/// The box that holds all glyphs, in points from the frame's left edge and the baseline. Stacked
+/// accents and leaning letters may leave their own boxes by half the font's size.
 QRectF roomFor(const QTextLine& line)
 {
     const double reach = 0.5 * line.height();
@@ -34,7 +34,7 @@ bool isClear(const QImage& image, const QRect& area)
     return true;
 }
 
-/// The pixels that have marks.
+/// The part of the picture that is not blank.
 QRect inkOf(const QImage& image)
 {
     QRect ink = image.rect();
@@ -49,7 +49,7 @@ QRect inkOf(const QImage& image)
     return ink;
 }
 
-/// Grown to whole device pixels, with an empty one around it to filter into.
+/// Grown to whole device pixels, with an empty border of one to filter into.
 QRect devicePixelsAround(const QRect& ink)
 {
     constexpr int rows = LineImage::rowsPerPixel;
@@ -68,7 +68,7 @@ LineImage LineImage::of(
     // A line that no texture could hold is drawn coarser.
     const double resolution = std::min({ scale, largestSide / (room.width() * typography.scale),
         largestSide / (room.height() * typography.scale * rowsPerPixel) });
-    const double pixels = typography.scale * resolution; // For each point before it is scaled.
+    const double pixels = typography.scale * resolution; // Pixels for each unscaled point.
     const QRect area = QRectF(room.topLeft() * pixels, room.size() * pixels).toAlignedRect();
     QImage canvas(area.width(), area.height() * rowsPerPixel, QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);

@@ -6,7 +6,7 @@
 /// that the program ships.
 namespace Orvello::PromptFont {
 
-/// Makes the shipped face available, if any, and returns the family to ask for. Once there is an
+/// Makes the shipped face available, if any, and returns the family to ask for. Needs the
 /// application object.
 [[nodiscard]] QString family();
 

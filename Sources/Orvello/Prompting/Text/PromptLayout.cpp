@@ -9,11 +9,11 @@ namespace Orvello {
 
 namespace {
 
-/// The bits that a line's start has.
+/// The bits that hold the start of a line.
 constexpr quint32 startMask = (1U << 30) - 1;
 constexpr qsizetype longestText = startMask;
 
-/// How many characters, from the first end of a paragraph on, are that end.
+/// How many characters the paragraph's end takes that `fromEnd` begins with.
 qsizetype paragraphEndLength(QStringView fromEnd) { return fromEnd.startsWith(u"\r\n") ? 2 : 1; }
 
 /// Where the paragraph begins that contains `position`, if that is less than a piece away.
@@ -52,11 +52,11 @@ PromptLayout PromptLayout::edited(const QString& text, const TextEdit& edit) con
 
 void PromptLayout::keepLinesBefore(const PromptLayout& previous, qsizetype change)
 {
-    // A line feed may have come or gone behind a carriage return: a change of that line, too.
+    // A line feed may have come or gone after a carriage return, which changes that line, too.
     if (change > 0 && m_text[change - 1] == u'\r')
         --change;
 
-    // A piece knows its own characters and whether the text ends behind them.
+    // A piece knows its own characters and whether the text ends after them.
     const qsizetype kept
         = nearParagraphStart(m_text, change).value_or(change - PromptPiece::longest);
     auto next = std::ranges::lower_bound(

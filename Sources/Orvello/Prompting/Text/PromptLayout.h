@@ -16,12 +16,11 @@ class PromptLayout {
 public:
     using Index = std::vector<int>::difference_type;
 
-    PromptLayout() = default; ///< Of the empty text, complete.
+    PromptLayout() = default; ///< The complete layout of an empty text.
     PromptLayout(const QString& text, const PromptTypography& typography);
 
-    /// The layout of `text`, which differs from this one's text by the edit. Lines that it leaves
-    /// as they are are taken over: those before it at once, those after it when the layout gets
-    /// there.
+    /// The layout of `text`, which differs from this one's text by the edit. Lines that it does not
+    /// touch are reused: those before it at once, those after it when the layout gets there.
     [[nodiscard]] PromptLayout edited(const QString& text, const TextEdit& edit) const;
 
     /// Lays out some more. Takes a few milliseconds at most; does nothing when complete.
@@ -31,7 +30,7 @@ public:
 
     const PromptTypography& typography() const { return m_typography; }
 
-    /// Of the lines laid out so far, spacing between them included. 0 for an empty text.
+    /// The height of the lines laid out so far, spacing between them included. 0 for an empty text.
     double height() const;
 
     /// From one line's top to the next one's, at least.
@@ -55,11 +54,11 @@ private:
         double top = 0;
         quint32 start : 30 = 0;
         quint32 beginsPiece : 1 = 0;
-        quint32 isRightToLeft : 1 = 0; ///< Its paragraph.
+        quint32 isRightToLeft : 1 = 0; ///< The direction of its paragraph.
         float ascent = 0;
     };
 
-    /// Where layout goes on. The direction counts inside a paragraph only.
+    /// Where layout resumes. The direction matters only inside a paragraph.
     struct Position {
         qsizetype start = 0;
         bool isRightToLeft = false;

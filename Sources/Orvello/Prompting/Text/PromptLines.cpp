@@ -13,16 +13,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How long the main loop is kept at a time, in seconds: a quarter of a frame.
+/// How long the main loop is held up at a time, in seconds: a quarter of a frame.
 constexpr double sliceBudget = 0.004;
 
-/// Signs in colour, where this is installed: else the search for a font that has them would end at
-/// the first plain one. macOS has a fixed order of its own.
+/// Emoji in colour, where this is installed: otherwise the search for a font that has them would
+/// end at the first plain one. macOS has a fixed order of its own.
 constexpr auto emojiFamily = "Noto Color Emoji"_L1;
 
 constexpr double largestFontSize = 1000;
 
-/// Relative to the font's size.
+/// A share of the font's size.
 constexpr double relativeLineSpacing = 0.28;
 
 /// Lines just outside the visible part are ready, too: their accents may reach into it.
@@ -101,7 +101,7 @@ std::size_t PromptLines::positionBytes() const
 
 PromptLayout& PromptLines::newest() { return m_next ? *m_next : m_shown; }
 
-/// Whether size and width are known, and numbers.
+/// Whether size and width are known and are numbers.
 bool PromptLines::canLayOut() const { return m_fontSize > 0 && m_textWidth > 0; }
 
 void PromptLines::restart()

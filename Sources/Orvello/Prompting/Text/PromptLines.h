@@ -35,13 +35,14 @@ public:
     void setFontSize(double points);
 
     double textWidth() const { return m_textWidth; }
-    void setTextWidth(double points); ///< Of the frame in which lines wrap.
+    void setTextWidth(double points); ///< The width at which lines wrap.
 
-    /// Of the lines that are shown, which for a moment may still be the one before a change.
+    /// The scale of the lines that are shown, which for a moment may still be the one before a
+    /// change.
     const PromptTypography& shownTypography() const { return m_shown.typography(); }
 
-    /// Those at least partly in the visible part, from the top down, and one at most that is just
-    /// outside of it.
+    /// The lines at least partly in the visible part, from the top down, and at most one that is
+    /// just outside it.
     const std::vector<PromptLine>& visibleLines() const { return m_visibleLines; }
 
     double visibleTop() const { return m_visibleTop; }
@@ -50,13 +51,13 @@ public:
     double visibleHeight() const { return m_visibleHeight; }
     void setVisibleHeight(double points);
 
-    /// Of the whole text. While a text is being laid out it grows, and it never falls below the
-    /// height before the change until the layout is complete.
+    /// The height of the whole text. It grows while a text is being laid out, and never falls below
+    /// the height before the change until the layout is complete.
     double contentHeight() const { return m_contentHeight; }
 
     bool isLaidOut() const; ///< Whether the layout has reached the end of the present text.
 
-    std::size_t positionBytes() const; ///< That the positions of lines take.
+    std::size_t positionBytes() const; ///< The memory that the positions of lines take.
 
 Q_SIGNALS:
     void textChanged();
@@ -84,7 +85,7 @@ private:
     double m_contentHeight = 0;
     PromptLayout m_shown;
     std::optional<PromptLayout> m_next; ///< Replaces m_shown when it has reached the visible part.
-    /// Half open; nothing when it is out of date.
+    /// Half-open; nothing when out of date.
     std::optional<std::pair<PromptLayout::Index, PromptLayout::Index>> m_visibleRange;
     std::vector<PromptLine> m_visibleLines;
     std::unique_ptr<TimeSource::Ticket> m_slice;

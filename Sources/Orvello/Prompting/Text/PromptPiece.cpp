@@ -12,7 +12,7 @@ namespace {
 /// a direction in it.
 constexpr qsizetype longestContext = 100;
 
-/// No line is as wide, and every layout can still count in it.
+/// Wider than any line, but small enough for every layout to count with.
 constexpr double unlimitedWidth = 1e6;
 
 /// The words of the same paragraph before `start`, on a line of their own. The direction of numbers
@@ -70,7 +70,7 @@ PromptPiece::PromptPiece(
     m_layout.setFont(typography.font);
     m_layout.setTextOption(option);
     m_layout.setText(context + text.mid(start, m_length));
-    m_layout.setCacheEnabled(true); // To be drawn without being shaped again.
+    m_layout.setCacheEnabled(true); // Saves shaping the text again for drawing.
     m_layout.beginLayout();
     for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
         const bool isContext = line.textStart() < m_contextLength;

@@ -12,7 +12,7 @@ namespace Orvello {
 /// scaled down. Lengths are in points, before they are scaled.
 struct PromptTypography {
     QFont font;
-    double width = 0; ///< Of the frame in which lines wrap.
+    double width = 0; ///< The width at which lines wrap.
     double lineSpacing = 0; ///< Added between two lines.
     double scale = 1;
 
@@ -24,7 +24,7 @@ struct PromptTypography {
 
 /// A paragraph of the prompter's text, or the next part of a long one, laid out in lines that can
 /// be drawn. It depends on nothing but the part's own text and the paragraph's last words before
-/// it, so that the same piece comes out whenever it is laid out again.
+/// it, so that laying it out again gives the same piece.
 class PromptPiece {
 public:
     /// The most characters that a piece has.
@@ -45,7 +45,7 @@ public:
     /// Where the line begins in the text.
     qsizetype lineStart(int index) const;
 
-    /// The line's characters, those included that end it.
+    /// The line's characters, including those that end it.
     QString lineText(int index) const;
 
     /// The line in its place from the frame's left edge; its top is at 0.
@@ -64,12 +64,12 @@ private:
 /// One line, ready to be drawn, before it is scaled.
 struct PromptLine {
     std::shared_ptr<const PromptPiece> piece; ///< Shared with the lines around it.
-    int index = 0; ///< In its piece.
+    int index = 0; ///< The line's place in its piece.
     double baseline = 0; ///< Below the text's top, in points.
 
     QTextLine inPiece() const { return piece->line(index); }
 
-    /// Whether both are drawn alike, wherever they stand.
+    /// Whether both look the same, wherever they are drawn.
     bool looksLike(const PromptLine& other) const;
 };
 

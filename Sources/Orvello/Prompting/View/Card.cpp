@@ -17,7 +17,7 @@ namespace Orvello {
 
 namespace {
 
-/// A quarter of a circle in so many straight pieces is round at any scale in use.
+/// A quarter of a circle in this many straight pieces looks round at any scale in use.
 constexpr int piecesPerCorner = 16;
 
 /// Everything but the corners' squares, without blending.

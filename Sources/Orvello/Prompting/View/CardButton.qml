@@ -1,25 +1,25 @@
 import QtQuick
 import Orvello
 
-// A button on the prompter's card. While it is inert it still takes the press, so that a click
-// beside the mark never drags the panel away.
+// A button on the prompter's card. Even when disabled it takes the press, so that a click beside
+// the mark never drags the panel away.
 SymbolButton {
     id: root
 
     required property string description // For those who cannot see it.
-    property bool isInert: false
+    property bool isDisabled: false
 
     signal activated()
 
     implicitWidth: CardStyle.capsuleHeight
     implicitHeight: CardStyle.capsuleHeight
-    hoverEnabled: false // The pointer is on the card, too.
+    hoverEnabled: false // The card must see the pointer, too.
     focusPolicy: Qt.NoFocus
     symbolSize: 10
-    symbolColor: isInert ? CardStyle.inertSymbol : CardStyle.symbol
+    symbolColor: isDisabled ? CardStyle.disabledSymbol : CardStyle.symbol
     shade: "black"
     onClicked: {
-        if (!isInert)
+        if (!isDisabled)
             activated();
     }
 
@@ -28,7 +28,7 @@ SymbolButton {
     // A disabled item takes no press, so this is not the whole button.
     AccessibleButton {
         anchors.fill: parent
-        enabled: !root.isInert
+        enabled: !root.isDisabled
         name: root.description
         onPressed: root.activated()
 

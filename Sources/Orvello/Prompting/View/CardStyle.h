@@ -18,7 +18,7 @@ class CardStyle : public QObject {
     Q_PROPERTY(QColor notice MEMBER notice CONSTANT FINAL)
     Q_PROPERTY(QColor label MEMBER label CONSTANT FINAL)
     Q_PROPERTY(QColor symbol MEMBER symbol CONSTANT FINAL)
-    Q_PROPERTY(QColor inertSymbol MEMBER inertSymbol CONSTANT FINAL)
+    Q_PROPERTY(QColor disabledSymbol MEMBER disabledSymbol CONSTANT FINAL)
     Q_PROPERTY(QColor unlit MEMBER unlit CONSTANT FINAL)
     Q_PROPERTY(QColor capsule MEMBER capsule CONSTANT FINAL)
     Q_PROPERTY(QColor veil MEMBER veil CONSTANT FINAL)
@@ -39,7 +39,7 @@ public:
     static constexpr QColor notice { 255, 255, 255, 179 }; // 70 %
     static constexpr QColor label { 255, 255, 255, 140 }; // 55 %
     static constexpr QColor symbol { 255, 255, 255, 204 }; // 80 %
-    static constexpr QColor inertSymbol { 255, 255, 255, 64 }; // 25 %
+    static constexpr QColor disabledSymbol { 255, 255, 255, 64 }; // 25 %
     static constexpr QColor unlit { 255, 255, 255, 38 }; // 15 %
     static constexpr QColor capsule { 0, 0, 0, 224 }; ///< Readable above moving text.
     static constexpr QColor veil { 0, 0, 0, 153 }; ///< Over the text during a countdown.

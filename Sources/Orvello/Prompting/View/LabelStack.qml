@@ -1,8 +1,8 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 
-// A label that changes among a few. They lie above each other, all but one of them clear: the item
-// is as wide as the widest, and nothing moves when they change.
+// One of a few labels. They lie on top of each other, all but one transparent: the item is as wide
+// as the widest, and nothing moves when the label changes.
 Item {
     id: root
 

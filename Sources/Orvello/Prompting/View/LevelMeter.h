@@ -6,8 +6,8 @@ namespace Orvello {
 
 class VoiceActivityEngine;
 
-/// How many of the level beam's bars the voice lights: the level, as coarse as it is shown, so that
-/// nothing is drawn again for a change that nobody can see.
+/// How many of the level beam's bars the voice lights: the level, no finer than it is shown, so
+/// that nothing is redrawn for a change that nobody can see.
 class LevelMeter final : public QObject {
     Q_OBJECT
     Q_PROPERTY(int litBars READ litBars NOTIFY litBarsChanged FINAL)

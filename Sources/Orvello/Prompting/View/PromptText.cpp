@@ -15,7 +15,7 @@ namespace Orvello {
 
 namespace {
 
-/// Where the first line stands at offset 0, in parts of the card's height.
+/// Where the first line stands at offset 0, as a share of the card's height.
 constexpr double firstLineTop = 0.18;
 
 /// Beside the text, in points, on cards that are wide enough.
@@ -80,7 +80,7 @@ void PromptText::geometryChange(const QRectF& newGeometry, const QRectF& oldGeom
     tellSize();
 }
 
-/// The engine and the layout cannot know how much room there is.
+/// The engine and the layout cannot know how much space there is.
 void PromptText::tellSize()
 {
     if (!m_engine || !m_lines)

@@ -73,9 +73,9 @@ private:
     QColor m_color = Qt::white;
     std::optional<SmoothScroll> m_scroll;
     std::vector<ShownLine> m_shown;
-    bool m_areLinesNew = false; ///< Since they were drawn.
+    bool m_areLinesNew = false; ///< Whether the lines changed since they were drawn.
     bool m_isFollowing = false; ///< A frame is on its way after which the next one is asked for.
-    double m_nextFrame = 0; ///< The earliest moment for it, on the engine's clock.
+    double m_nextFrame = 0; ///< The earliest moment for that frame, on the engine's clock.
     QTimer m_pacing;
 };
 

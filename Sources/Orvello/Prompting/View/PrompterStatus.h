@@ -25,7 +25,7 @@ public:
     QString label() const;
     QColor color() const;
 
-    static QStringList labels(); ///< Every label there is: a badge has room for each.
+    static QStringList labels(); ///< Every possible label: a badge has room for the widest.
 
     /// Whether Stealth Mode is wanted where nothing can hide the panel.
     bool isVisibleInRecordings() const { return m_isVisibleInRecordings; }

@@ -1,7 +1,7 @@
 import QtQuick
 import Orvello
 
-// Says that others can see the prompter, so plainly that nobody believes it hidden.
+// Says that others can see the prompter, so plainly that nobody takes it for hidden.
 Rectangle {
     property alias message: label.text
 

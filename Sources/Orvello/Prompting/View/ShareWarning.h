@@ -23,6 +23,9 @@ public:
 
     Q_INVOKABLE void dismiss();
 
+    /// Where captures show the card anyway, Stealth Mode can gray nothing out.
+    void setVisibleInRecordings(bool isVisible);
+
 Q_SIGNALS:
     void isShownChanged();
 
@@ -34,6 +37,7 @@ private:
     const SettingsStore& m_settings;
     const ScrollEngine& m_engine;
     bool m_isDismissed = false;
+    bool m_isVisibleInRecordings = false;
     bool m_isShown;
 };
 

@@ -3,8 +3,8 @@ import QtQuick
 import Orvello
 
 // Which slide's notes are shown and who turns the slides, with buttons to turn them by hand. The
-// buttons stand at the chip's end and everything before them has its widest width: while the deck is
-// stepped through, they stay under the pointer.
+// buttons are at the chip's end and everything before them is as wide as it can get, so that they
+// stay under the pointer while the user steps through the deck.
 Capsule {
     id: root
 
@@ -56,8 +56,8 @@ Capsule {
         CardButton {
             symbol: root.isMirrored ? "chevron.right" : "chevron.left"
             description: qsTr("Previous slide")
-            isInert: !root.status.canGoBack
-            onActivated: root.status.goBack()
+            isDisabled: !root.status.hasPrevious
+            onActivated: root.status.previous()
         }
 
         SmallLabel {
@@ -79,8 +79,8 @@ Capsule {
         CardButton {
             symbol: root.isMirrored ? "chevron.left" : "chevron.right"
             description: qsTr("Next slide")
-            isInert: !root.status.canGoOn
-            onActivated: root.status.goOn()
+            isDisabled: !root.status.hasNext
+            onActivated: root.status.next()
         }
     }
 }

@@ -76,9 +76,9 @@ QString SlideStatus::widestPosition() const
 
 QString SlideStatus::title() const { return m_deck.slideTitle().value_or(QString()); }
 
-bool SlideStatus::canGoBack() const { return m_deck.displayIndex() > 0; }
+bool SlideStatus::hasPrevious() const { return m_deck.displayIndex() > 0; }
 
-bool SlideStatus::canGoOn() const { return m_deck.displayIndex() < m_deck.slideCount() - 1; }
+bool SlideStatus::hasNext() const { return m_deck.displayIndex() < m_deck.slideCount() - 1; }
 
 QString SlideStatus::stateLabel() const { return appearanceOf(m_deck.syncState()).label; }
 
@@ -89,15 +89,15 @@ QStringList SlideStatus::stateLabels()
     return { live().label, noAccess().label, manual().label };
 }
 
-void SlideStatus::goBack()
+void SlideStatus::previous()
 {
-    if (canGoBack())
+    if (hasPrevious())
         m_deck.showPreviousSlide();
 }
 
-void SlideStatus::goOn()
+void SlideStatus::next()
 {
-    if (canGoOn())
+    if (hasNext())
         m_deck.showNextSlide();
 }
 

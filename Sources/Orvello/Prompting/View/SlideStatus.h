@@ -16,8 +16,8 @@ class SlideStatus final : public QObject {
     Q_PROPERTY(QString position READ position NOTIFY changed FINAL)
     Q_PROPERTY(QString widestPosition READ widestPosition NOTIFY changed FINAL)
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
-    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY changed FINAL)
-    Q_PROPERTY(bool canGoOn READ canGoOn NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasPrevious READ hasPrevious NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasNext READ hasNext NOTIFY changed FINAL)
     Q_PROPERTY(QString stateLabel READ stateLabel NOTIFY changed FINAL)
     Q_PROPERTY(QColor stateColor READ stateColor NOTIFY changed FINAL)
     Q_PROPERTY(QStringList stateLabels READ stateLabels CONSTANT FINAL)
@@ -26,19 +26,19 @@ public:
     explicit SlideStatus(
         DeckController& deck, QObject* parent = nullptr); ///< `deck` must outlive it.
 
-    bool isShown() const; ///< While one slide's notes are shown.
+    bool isShown() const; ///< True while one slide's notes are shown.
     QString position() const; ///< "2 / 14": counted from 1, as people count slides.
-    QString widestPosition() const; ///< The widest of this deck: the chip has room for it.
-    QString title() const; ///< Of the slide; empty if it has none.
-    bool canGoBack() const;
-    bool canGoOn() const;
+    QString widestPosition() const; ///< This deck's widest position, for which the chip has room.
+    QString title() const; ///< The slide's title; empty if it has none.
+    bool hasPrevious() const;
+    bool hasNext() const;
     QString stateLabel() const; ///< Who turns the slides.
     QColor stateColor() const;
-    static QStringList stateLabels(); ///< Every label there is.
+    static QStringList stateLabels(); ///< Every possible label.
 
-    /// One slide back or on; nothing where there is none.
-    Q_INVOKABLE void goBack();
-    Q_INVOKABLE void goOn();
+    /// One slide back or forward; does nothing at either end.
+    Q_INVOKABLE void previous();
+    Q_INVOKABLE void next();
 
 Q_SIGNALS:
     void changed();

@@ -52,13 +52,13 @@ void migratePreferences(UserDefaults& defaults, const UserDefaults& former)
         if (!defaults.value(key).isValid())
             defaults.setValue(key, entry.value());
     }
-    // The size of the former domain on purpose, keys that were already set included.
+    // Deliberately the size of the former domain, with keys that were already set.
     AppLog::write("Orvello MIGRATE copied %ld preference keys from %@", values.size(),
         formerDomain.toString());
 }
 
 /// The array with every welcome script of the former product made the current one's; nothing when
-/// there is none, or when this is no array of objects.
+/// there is none, or when this is not an array of objects.
 std::optional<QJsonArray> withWelcomeScriptRefreshed(
     const QJsonDocument& library, const QString& sampleText)
 {
@@ -100,8 +100,8 @@ bool isThere(const fs::path& path)
 }
 
 /// Whether the current folder holds the application log and nothing else. The log opens before
-/// anything else happens and makes its folder, so this is how the current folder of a user who
-/// never ran this product looks by now.
+/// anything else happens and makes its folder, so this is how the current folder looks by now for a
+/// user who has never run this product.
 bool holdsOnlyLogs(const fs::path& folder)
 {
     std::error_code error;
@@ -113,8 +113,8 @@ bool holdsOnlyLogs(const fs::path& folder)
     return isLogs && entry.increment(error) == fs::directory_iterator() && !error;
 }
 
-/// The log files of one folder on their way to another, in place of that folder. The log that is
-/// open moves with its name, so whoever writes to it does not notice.
+/// The log files of one folder on their way to another, in place of that folder. The open log keeps
+/// its descriptor, so whoever writes to it does not notice.
 class LogMove {
 public:
     LogMove(fs::path from, fs::path to)

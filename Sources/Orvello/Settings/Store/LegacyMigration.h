@@ -15,14 +15,14 @@ struct Accounts {
     UserDefaults& defaults; ///< The current standard user defaults.
     const UserDefaults& formerDefaults; ///< The domain `formerDomain`.
     const Folders& folders;
-    QString sampleText; ///< The body that a former welcome script is given.
+    QString sampleText; ///< The new body for a former welcome script.
 };
 
 /// The former product's preferences domain.
 inline constexpr QStringView formerDomain = u"app.drumlin.mac";
 
-/// Migrates what there is and sets the marker "migratedFromDrumlin", whatever was achieved; does
-/// nothing when the marker is set. Never fails: what cannot be carried over stays where it is.
+/// Migrates what there is and sets the marker "migratedFromDrumlin", whether or not that succeeded;
+/// does nothing when the marker is set. Never fails: what cannot be carried over stays where it is.
 void runIfNeeded(const Accounts& accounts);
 
 } // namespace LegacyMigration

@@ -11,7 +11,7 @@ namespace Orvello {
 class UserDefaults;
 
 /// The user's preferences. Every property is read from the user defaults when the store is made and
-/// written back, under the property's own name, at every assignment. Values are neither clamped nor
+/// written back, under the property's own name, on every assignment. Values are neither clamped nor
 /// rounded here: callers keep them in range.
 class SettingsStore final : public QObject {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
     /// `defaults` must outlive the store.
     explicit SettingsStore(UserDefaults& defaults, QObject* parent = nullptr);
 
-    double fontSize() const { return m_fontSize; } ///< Of the prompter's text, in points.
+    double fontSize() const { return m_fontSize; } ///< The size of the prompter's text, in points.
     void setFontSize(double points);
 
     const QString& textColorName() const { return m_textColorName; }
@@ -53,11 +53,11 @@ public:
     QColor textColor() const; ///< The preset that `textColorName` names; white for an unknown name.
     static const std::array<ColorPreset, 6>& colorPresets(); ///< In the order of the choices.
 
-    /// Of the card: 0 clear, 1 opaque.
+    /// How opaque the card is, from 0 (clear) to 1.
     double backgroundOpacity() const { return m_backgroundOpacity; }
     void setBackgroundOpacity(double opacity);
 
-    double speed() const { return m_speed; } ///< Of scrolling, in points per second.
+    double speed() const { return m_speed; } ///< The scrolling speed, in points per second.
     void setSpeed(double pointsPerSecond);
 
     bool stealthMode() const { return m_stealthMode; }
@@ -95,7 +95,7 @@ Q_SIGNALS:
     void onboardingSeenVersionChanged();
 
 private:
-    /// Updates the value, stores it under the key, and announces it if it is another than before.
+    /// Updates the value, stores it under the key, and announces it if it changed.
     template <typename Value, typename Signal>
     void assign(Value& member, const Value& value, const QString& key, Signal changed);
 

@@ -45,7 +45,7 @@ Rectangle {
     }
     Shortcut {
         sequences: ["Return", "Enter"]
-        onActivated: root.tour.goOn()
+        onActivated: root.tour.next()
     }
     Shortcut {
         sequences: ["Escape"]
@@ -95,7 +95,7 @@ Rectangle {
         onClicked: root.Window.window.close()
     }
 
-    // What parts a window without a frame from a dark one behind it.
+    // Separates a window without a frame from a dark one behind it.
     Rectangle {
         visible: root.hasCloseButton
         anchors.fill: parent

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A button of the welcome tour: the one that leads on stands out, the others are quiet.
+// A button of the welcome tour: the one that leads to the next page stands out, the others do not.
 T.Button {
     id: root
 

@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 
-// One dot for each page, the current one drawn out.
+// One dot for each page, the current one elongated.
 Row {
     id: root
 

@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Layouts
 
-// One page of the welcome tour: a column in the middle of it. A page that is turned away slides off
-// to the side that it is reached from.
+// One page of the welcome tour: a column in the middle of it. A page that is left slides off to the
+// side from which it is reached.
 Item {
     id: root
 
@@ -33,7 +33,7 @@ Item {
         }
     }
 
-    // One after the other, so that no two texts lie above each other.
+    // One after the other, so that no two texts overlap.
     Behavior on opacity {
         SequentialAnimation {
             PauseAnimation {

@@ -38,7 +38,7 @@ TourPage {
               : qsTr("In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.")
     }
     TourZoomCard {
-        // Where the desktop hides the prompter, and Zoom has no say, there is nothing to set.
+        // Where the desktop hides the prompter, whatever Zoom does, there is nothing to set.
         visible: root.tour.zoomInstalled && (root.facts.zoomChoosesCapture || !root.facts.canHideWindows)
         facts: root.facts
         onCopyRequested: root.tour.copyZoomPath()

@@ -28,21 +28,21 @@ WelcomeTour::WelcomeTour(int initialPage, bool zoomIsInstalled, const Facts& fac
 {
 }
 
-void WelcomeTour::goBack()
+void WelcomeTour::previous()
 {
     if (!isFirstPage())
         turnTo(m_page - 1);
 }
 
-void WelcomeTour::goOn()
+void WelcomeTour::next()
 {
     if (isLastPage())
-        Q_EMIT left();
+        Q_EMIT exitRequested();
     else
         turnTo(m_page + 1);
 }
 
-void WelcomeTour::skip() { Q_EMIT left(); }
+void WelcomeTour::skip() { Q_EMIT exitRequested(); }
 
 void WelcomeTour::turnTo(int page)
 {

@@ -7,7 +7,7 @@
 
 namespace Orvello {
 
-/// Where the user is in the welcome tour, and the ways through it.
+/// Where the user is in the welcome tour, and the commands that lead through it.
 class WelcomeTour final : public QObject {
     Q_OBJECT
     Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
@@ -19,21 +19,21 @@ class WelcomeTour final : public QObject {
 public:
     static constexpr int pageCount = 3;
 
-    /// The page to start on: the decimal integer that `text` is, as near as there is a page; page 0
-    /// for any other text.
+    /// The page to start on: the one nearest to the decimal integer in `text`; page 0 for any other
+    /// text.
     [[nodiscard]] static int pageNamed(const QString& text);
 
     WelcomeTour(int initialPage, bool zoomInstalled, const Facts& facts, QObject* parent = nullptr);
 
-    const bool zoomInstalled; ///< Whether the tour speaks of Zoom.
+    const bool zoomInstalled; ///< Whether the tour mentions Zoom.
 
     int page() const { return m_page; }
     bool isFirstPage() const { return m_page == 0; }
     bool isLastPage() const { return m_page == pageCount - 1; }
 
-    Q_INVOKABLE void goBack(); ///< On the first page nothing.
-    Q_INVOKABLE void goOn(); ///< One page on; from the last one out of the tour.
-    Q_INVOKABLE void skip(); ///< Out of the tour.
+    Q_INVOKABLE void previous(); ///< Does nothing on the first page.
+    Q_INVOKABLE void next(); ///< Goes to the next page; leaves the tour from the last one.
+    Q_INVOKABLE void skip(); ///< Leaves the tour.
 
     /// Puts the way to Zoom's setting on the clipboard, as plain text.
     Q_INVOKABLE void copyZoomPath() const;
@@ -41,7 +41,7 @@ public:
 
 Q_SIGNALS:
     void pageChanged();
-    void left(); ///< The user wants out. Can come more than once.
+    void exitRequested(); ///< The user wants to leave the tour. May be emitted more than once.
 
 private:
     void turnTo(int page);

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::array countdownChoices { 0.0, 3.0, 5.0, 10.0 }; // Seconds.
 
-/// Each colour's name in the user's language, and the name that it has in the preferences.
+/// Each colour's name in the user's language, and its name in the preferences.
 std::vector<std::pair<QString, QString>> sortedColors()
 {
     std::vector<std::pair<QString, QString>> colors;

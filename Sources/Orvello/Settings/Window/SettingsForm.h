@@ -26,7 +26,7 @@ public:
     /// `settings` must outlive the form.
     explicit SettingsForm(SettingsStore& settings, QObject* parent = nullptr);
 
-    /// A number as the labels show it: without its fraction, however large it is.
+    /// A number as the labels show it, without its fraction, however large.
     static QString wholeNumber(double value);
 
     QString fontSizeLabel() const;
@@ -36,11 +36,11 @@ public:
 
     const QStringList& colorNames() const { return m_colorNames; } ///< In alphabetical order.
     int colorIndex() const;
-    void setColorIndex(int index); ///< Ignores what is no choice.
+    void setColorIndex(int index); ///< Ignores an index without a choice.
 
     static QStringList countdownNames();
     int countdownIndex() const;
-    void setCountdownIndex(int index); ///< Ignores what is no choice.
+    void setCountdownIndex(int index); ///< Ignores an index without a choice.
 
 Q_SIGNALS:
     void fontSizeLabelChanged();

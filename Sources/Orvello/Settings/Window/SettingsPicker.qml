@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// A row with a list of choices. Index -1 is none of them.
+// A row with a list of choices. Index -1 stands for no choice.
 SettingsRow {
     id: root
 

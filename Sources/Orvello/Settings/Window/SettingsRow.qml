@@ -2,13 +2,13 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 
-// A label on the left and its control on the right, parted from the row above by a line. A click on
-// the label counts as one on the row.
+// A label on the left and its control on the right, separated from the row above by a line. A click
+// on the label counts as one on the row.
 Item {
     id: root
 
     required property string label
-    property real labelShare: 0.5 // Of the row's width, at most.
+    property real labelShare: 0.5 // The most of the row's width that the label may take.
     default property alias control: line.data
 
     signal clicked

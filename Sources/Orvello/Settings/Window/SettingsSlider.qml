@@ -3,14 +3,14 @@ import QtQuick.Controls
 import QtQuick.Layouts
 
 // A row with a slider over a range that ends exactly at its bounds. A value beyond them is shown at
-// the bound and stays what it is until the user moves the slider.
+// the bound and keeps its value until the user moves the slider.
 SettingsRow {
     id: root
 
     required property real value
     required property real from
     required property real to
-    required property real step // By which the keys move it. The pointer moves it freely.
+    required property real step // How far the keys move it. The pointer moves it freely.
 
     signal moved(value: real)
 
@@ -29,7 +29,7 @@ SettingsRow {
         to: root.to
         value: root.value
         onMoved: root.moved(value)
-        // White like the knobs of the switches: on a dark desktop the style's own is hardly to be seen.
+        // White like the knobs of the switches: on a dark desktop the style's own is hard to see.
         handle: Rectangle {
             x: slider.leftPadding + slider.visualPosition * (slider.availableWidth - width)
             y: slider.topPadding + (slider.availableHeight - height) / 2

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// The switch of the current desktops, in the palette's colours.
+// The switch that current desktops use, in the palette's colours.
 T.Switch {
     id: root
 
@@ -15,7 +15,7 @@ T.Switch {
         width: root.width
         height: root.height
         radius: height / 2
-        // Off, it contrasts 3:1 with what is behind it, and the knob with it.
+        // When off, it contrasts 3:1 with what is behind it, and so does the knob with it.
         color: root.checked ? root.palette.highlight : root.isDark ? Qt.alpha("white", 0.4) : Qt.alpha("black", 0.45)
 
         Behavior on color {

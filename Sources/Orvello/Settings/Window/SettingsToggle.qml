@@ -19,7 +19,7 @@ SettingsRow {
 
         checked: root.isOn
         Accessible.name: root.label
-        // What is shown is the setting, whether or not it took the wish.
+        // It shows the setting, even if that did not accept the click.
         onToggled: {
             root.toggled(checked);
             checked = Qt.binding(() => root.isOn);

@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Controls
 import Orvello
 
-// The global keys. Where the desktop assigns them, it says in its own words what they are.
+// The global keys. Where the desktop assigns them, they appear in its own words.
 SettingsSection {
     id: root
 

@@ -46,7 +46,7 @@ SettingsSection {
               ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
               : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
     }
-    // Neither holds once nothing is captured any more.
+    // Neither is true once nothing is being captured.
     SettingsNote {
         visible: root.voice.isListening && root.voice.aecActive
         text: root.facts.isMac ? qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")

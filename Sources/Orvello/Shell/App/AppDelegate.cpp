@@ -124,7 +124,7 @@ void AppDelegate::applicationStartedAgain(
         m_statusItem->openMenu();
 }
 
-/// Whether there was anything that this process can do, which addresses are not.
+/// Whether there was anything for this process to do; addresses are for the one that runs.
 bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::Answer& answer)
 {
     QStringList decks = options.files;
@@ -259,7 +259,7 @@ void AppDelegate::showOnboarding()
 
 void AppDelegate::onboardingFinished()
 {
-    // The window is still closing: it goes when it has closed.
+    // The window is still closing; it goes once it has closed.
     QMetaObject::invokeMethod(
         this, [closing = std::shared_ptr(std::move(m_onboarding))] {}, Qt::QueuedConnection);
     showPanel();
@@ -332,7 +332,7 @@ void AppDelegate::importDecks()
         importDeck(file);
 }
 
-/// Returns what kept it from being imported, in words for the user.
+/// Returns why it could not be imported, in words for the user.
 std::optional<QString> AppDelegate::importDeck(const QString& path)
 {
     const auto imported = m_library.importPptx(path);

@@ -62,12 +62,12 @@ public:
     /// Once, when the event loop has ended in an ordinary quit.
     void applicationWillTerminate();
 
-    /// Addresses that the application is asked to open. Before the end of the launch they wait.
+    /// Addresses that the application is asked to open. Until the launch is over they wait.
     void applicationOpen(const QList<QUrl>& urls);
 
-    /// The user has started the program once more, while it runs. Does what that start asks for, at
-    /// the end of the launch at the earliest, and answers what it could not do. A start that asks
-    /// for nothing opens the menu, unless the launch is about to show what there is to see.
+    /// The user has started the program once more, while it runs. Does what that start asks for,
+    /// once the launch is over, and answers what it could not do. A start that asks for nothing
+    /// opens the menu, unless the launch is about to show a window anyway.
     void applicationStartedAgain(
         const LaunchOptions& options, const RunningInstance::Answer& answer);
 
@@ -119,7 +119,7 @@ private:
     HotKeyCenter m_hotKeys;
     std::unique_ptr<PrompterWindow> m_prompterWindow;
     std::unique_ptr<NativePanel> m_panel;
-    /// None until the launch is over but for what the user does not see.
+    /// None until the part of the launch that the user sees is over.
     std::unique_ptr<PrompterPanelController> m_panelController;
     std::unique_ptr<ShellWindows> m_windows;
     std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
@@ -135,7 +135,7 @@ private:
         LaunchOptions options;
         RunningInstance::Answer answer;
     };
-    std::vector<EarlyStart> m_earlyStarts; ///< Those before the end of the launch.
+    std::vector<EarlyStart> m_earlyStarts; ///< Starts that arrived before the launch was over.
 };
 
 } // namespace Orvello

@@ -12,7 +12,7 @@ OrvelloApplication::OrvelloApplication(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments)
 {
     setApplicationName(u"Orvello"_s);
-    // By the name of its desktop file the desktop tells whose windows, keys and permissions they
+    // From the name of its desktop file the desktop knows whose windows, keys and permissions they
     // are.
     setDesktopFileName(u"app.orvello.Orvello"_s);
     setApplicationVersion(QString::fromLatin1(version));

@@ -17,7 +17,7 @@ namespace {
 
 const QString prefix = u"orvello_"_s;
 
-/// The languages that the folder has files for.
+/// The languages for which the folder has files.
 QStringList languagesIn(const QString& folder)
 {
     QStringList languages;
@@ -74,7 +74,7 @@ void installTranslation(
     // Qt's words for the standard buttons and dialogs. They come with Qt, or are missing.
     for (const QString& part : { u"qtbase_"_s, u"qtdeclarative_"_s })
         install(application, part + *language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    // The last one is asked first.
+    // Qt asks the translator installed last first.
     install(application, prefix + *language, folder);
     QGuiApplication::setLayoutDirection(QLocale(*language).textDirection());
 }

@@ -140,10 +140,12 @@ int main(int argc, char** argv)
                          : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
         return EXIT_SUCCESS;
     }
-    const QStringList mistakes = options.mistakes + unreadableDecks(options.files);
-    if (!mistakes.isEmpty()) {
-        complain(mistakes);
-        print(stderr, u"Try \"orvello --help\".\n"_s);
+    if (!options.mistakes.isEmpty() || !unreadableDecks(options.files).isEmpty()) {
+        // Asked again, in the user's language, which needs an application object.
+        QCoreApplication application(argc, argv);
+        installTranslation(application);
+        complain(LaunchOptions::of(start).mistakes + unreadableDecks(options.files));
+        print(stderr, LaunchOptions::tr("Try \"orvello --help\".") + u'\n');
         return ExitStatus::mistaken;
     }
     std::unique_ptr<EarlyPlatform> firstStep = EarlyPlatform::create(arguments);

@@ -30,7 +30,7 @@ public:
         Facts facts;
     };
 
-    /// What is the application delegate's own business.
+    /// What the application delegate does itself.
     struct Delegate {
         std::function<void()> togglePanel;
         std::function<bool()> isPanelVisible;
@@ -72,7 +72,7 @@ private:
 
     const Services m_services;
     const Delegate m_delegate;
-    std::unique_ptr<ShellWindow> m_libraryWindow; ///< From its first opening on.
+    std::unique_ptr<ShellWindow> m_libraryWindow; ///< Null until it is first opened.
     std::unique_ptr<ShellWindow> m_settingsWindow; ///< The same.
 };
 

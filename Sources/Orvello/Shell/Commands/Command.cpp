@@ -44,7 +44,7 @@ constexpr std::array table {
     Command {
         .name = "slower",
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Slower"),
-        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll slower"),
+        .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll more slowly"),
         .key = Command::Key { HotKey::keyDown, optionCommand },
         .run = &CommandTarget::slowDown,
     },

@@ -47,19 +47,20 @@ struct Command {
         std::uint32_t modifiers = 0;
     };
 
-    std::string_view name; ///< For machines, the same for ever: a switch, a shortcut's id.
+    std::string_view name; ///< For machines, and never changed: a switch, a shortcut's id.
     const char* title; ///< In a menu.
-    const char* titleWhileOn = nullptr; ///< In a menu while it is on, of a command with two titles.
+    const char* titleWhileOn
+        = nullptr; ///< In a menu while it is on, for a command with two titles.
     const char* description = nullptr; ///< What its key does.
     const char* shortDescription = nullptr; ///< The same where there is less room.
     const char* purpose = nullptr; ///< The same in the desktop's list of keys.
     std::optional<Key> key {}; ///< Its hot key.
-    bool titleHasKey = false; ///< The title in the menu names the hot key.
+    bool titleHasKey = false; ///< Whether the title in the menu names the hot key.
     char16_t menuKey
         = 0; ///< The letter that, with the command key, stands for it in the open menu.
     void (CommandTarget::*run)() = nullptr;
-    bool (CommandTarget::*isOn)() const = nullptr; ///< Of a switch, or of one with two titles.
-    bool (CommandTarget::*isPossible)() const = nullptr; ///< None where it always is.
+    bool (CommandTarget::*isOn)() const = nullptr; ///< For a switch, or a command with two titles.
+    bool (CommandTarget::*isPossible)() const = nullptr; ///< Null when it always is.
 
     bool isSwitch() const { return isOn && !titleWhileOn; }
 };
@@ -73,7 +74,7 @@ namespace Commands {
 /// The command of that name, which must exist.
 [[nodiscard]] const Command& named(std::string_view name);
 
-/// What it is called in a menu, as things stand.
+/// What it is called in a menu at present.
 [[nodiscard]] QString title(
     const Command& command, const CommandTarget& target, const HotKeys& keys);
 

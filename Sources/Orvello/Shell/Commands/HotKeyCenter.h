@@ -24,8 +24,8 @@ public:
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
     /// Runs `action` at each press of the key with exactly these modifiers (HotKey, both). Returns
-    /// the id to unregister it by, also when the system refuses the key, which then never fires.
-    /// Ids are never used twice; running out of them ends the process.
+    /// the id to unregister it by, even when the system refuses the key, which then never fires.
+    /// Ids are never reused; running out of them ends the process.
     std::uint32_t registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers, Action action);
 
     /// The same for a key that the desktop may list and assign by its purpose.

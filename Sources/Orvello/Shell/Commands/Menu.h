@@ -14,13 +14,13 @@ class Menu;
 /// One line of a menu, whatever shows it.
 struct MenuItem {
     QString title; ///< Empty for a separator.
-    std::function<void()> action; ///< None for a line that only tells something.
+    std::function<void()> action; ///< Null for a line that only informs.
     QByteArray command; ///< The editing command that the action sends, if it sends one.
     QString
         keyEquivalent; ///< The letter that is pressed with the command key; upper case: and shift.
     bool isCheckable = false;
     bool isChecked = false;
-    bool isPossible = true; ///< As things stand.
+    bool isPossible = true; ///< Whether it can be chosen at present.
     std::unique_ptr<Menu> submenu;
 
     bool isSeparator() const { return title.isEmpty() && !action && !submenu; }

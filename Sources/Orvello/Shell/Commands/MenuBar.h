@@ -16,7 +16,7 @@ class MenuBar {
 public:
     virtual ~MenuBar() = default;
 
-    /// Replaces the program's main menu, whichever the toolkit made.
+    /// Replaces the program's main menu, even one that the toolkit made.
     virtual void setMainMenu(std::unique_ptr<Menu> menu) = 0;
 
     /// A square status item that opens the menu at a click. The bar gives the glyph its colour, and

@@ -38,7 +38,7 @@ private:
 
     const Services m_services;
     const std::function<void()> m_pressed;
-    std::optional<std::uint32_t> m_plainPHotKeyID; ///< While the key is armed.
+    std::optional<std::uint32_t> m_plainPHotKeyID; ///< Present while the key is armed.
 };
 
 } // namespace Orvello

@@ -21,17 +21,18 @@ class VoiceActivityEngine;
 class WindowChrome;
 class Workspace;
 
-/// One window of the program that the user opens and closes, and that keeps its content meanwhile.
+/// One window of the program that the user opens and closes, and that keeps its content while
+/// closed.
 class ShellWindow {
 public:
     virtual ~ShellWindow() = default;
 
-    /// Shows the window, in front of all others and with the keyboard. Centred at the first time.
+    /// Shows the window, in front of all others and with the keyboard. Centred the first time.
     virtual void makeKeyAndOrderFront() = 0;
 };
 
-/// Makes the windows that menus and the launch open, so that what decides when they open needs no
-/// window system. Each call makes a new window.
+/// Makes the windows that menus and the launch open, so that the code that decides when they open
+/// needs no window system. Each call makes a new window.
 class ShellWindows {
 public:
     /// What the windows show and work with. All of them outlive the windows.
@@ -47,7 +48,7 @@ public:
         WindowChrome& windowChrome;
         StatusBar& statusBar;
         HotKeys& hotKeys;
-        Facts facts; ///< What the windows may say of this machine.
+        Facts facts; ///< What the windows may say about this machine.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

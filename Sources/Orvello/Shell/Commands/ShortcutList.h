@@ -19,7 +19,7 @@ class ShortcutList final : public QAbstractListModel {
 public:
     enum Role {
         LabelRole = Qt::UserRole, ///< "label": what the keys do.
-        KeysRole, ///< "keys": one of them, or two with what parts them.
+        KeysRole, ///< "keys": one key, or two with a separator.
     };
 
     /// How much room there is: the settings spell everything out, the tour does not.
@@ -32,7 +32,7 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     QString toggleKey() const; ///< The key that starts and pauses.
-    QStringList menuLines() const; ///< What the tour names of the menu.
+    QStringList menuLines() const; ///< The menu lines that the tour mentions.
 
     AssignedKeys* assignedKeys() const { return &m_keys.assignedKeys(); }
 

@@ -15,8 +15,8 @@ class CommandTarget;
 class HotKeys;
 struct Command;
 
-/// The menu of the status item, which the prompter opens too: every command of the program but for
-/// those that are keys alone. Titles and check marks are those of the last opening.
+/// The menu of the status item, which the prompter opens too: every command except those that are
+/// only keys. Titles and check marks are those of the last opening.
 class StatusMenu final : public Menu {
     Q_DECLARE_TR_FUNCTIONS(Orvello::StatusMenu)
 

@@ -17,7 +17,7 @@ using enum Section;
 constexpr std::array table {
     Entry { Files, "FILE", "", "a PowerPoint deck (.pptx): its notes become the active script" },
 
-    Entry { Options, "--autostart", "", "start scrolling at once" },
+    Entry { Options, "--autostart", "", "start scrolling after the countdown" },
     Entry { Options, "--check-updates", "", "look for a newer version" },
     Entry { Options, "--no-stealth", "", "never hide the prompter from screen sharing" },
     Entry { Options, "--onboarding", "", "show the welcome tour" },
@@ -71,7 +71,7 @@ QString sectionText(Section section)
     return lines;
 }
 
-/// How many letters must be put in, left out or replaced to make one text of the other.
+/// How many letters must be inserted, removed or replaced to turn one text into the other.
 qsizetype distance(QStringView from, QStringView to)
 {
     std::vector<qsizetype> row(static_cast<std::size_t>(to.size()) + 1);

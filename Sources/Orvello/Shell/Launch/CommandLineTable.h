@@ -13,7 +13,7 @@ enum class Section { Files, Options, Environment, Signals, ExitStatus };
 
 struct Entry {
     Section section = Section::Options;
-    std::string_view name; ///< As it is typed, such as "--voice".
+    std::string_view name; ///< Spelled as it is typed, such as "--voice".
     std::string_view argument; ///< What follows the name; empty for nothing.
     std::string_view help; ///< What it does: one line, no full stop.
 };
@@ -31,7 +31,7 @@ struct Entry {
 /// All of it, as `--help` prints it.
 [[nodiscard]] QString helpText();
 
-/// The option that a mistyped one is most like; empty when it is like none.
+/// The option that a mistyped one most resembles; empty when it resembles none.
 [[nodiscard]] QString nearestOption(const QString& mistyped);
 
 } // namespace Orvello::CommandLineTable

@@ -51,6 +51,13 @@ LaunchOptions LaunchOptions::of(const ProgramStart& start)
     const auto imported = start.environment.constFind(u"ORVELLO_IMPORT_PPTX"_s);
     if (imported != start.environment.constEnd())
         options.importedPath = directory.absoluteFilePath(imported->toString());
+    for (const QString& key : parts.preferences.keys()) {
+        // Nobody's preference, but an option that lacks a dash and would swallow the file behind
+        // it.
+        if (std::ranges::find(switches, u"--"_s + key, &Switch::name) != switches.end())
+            options.mistakes.append(
+                tr("unknown option %1; did you mean %2?").arg(u"-"_s + key, u"--"_s + key));
+    }
     for (const QString& option : parts.options)
         options.takeOption(option);
     for (const QString& operand : parts.operands)
@@ -86,7 +93,7 @@ void LaunchOptions::takeOption(const QString& option)
         mistakes.append(tr("the preference %1 lacks its value").arg(option));
 }
 
-/// A file that is there is a file, whatever address its name looks like.
+/// A file that exists is a file, even if its name looks like an address.
 void LaunchOptions::takeOperand(const QString& operand, const QDir& directory)
 {
     if (isAddress(operand) && !QFileInfo::exists(directory.absoluteFilePath(operand)))

@@ -29,10 +29,10 @@ public:
     bool toggle = false;
     QStringList files; ///< Decks to import: absolute paths.
     QList<QUrl> urls; ///< Addresses of the program's own scheme.
-    QVariantMap preferences; ///< For one run: each pair `-Key value`.
+    QVariantMap preferences; ///< Each pair `-Key value`, for one run.
     QVariantMap environment; ///< The product's variables.
     QString importedPath; ///< The deck of the variable for it: an absolute path. Empty without it.
-    QStringList mistakes; ///< What else is there, in words for the user.
+    QStringList mistakes; ///< What could not be understood, in words for the user.
 
     friend bool operator==(const LaunchOptions&, const LaunchOptions&) = default;
 

@@ -9,9 +9,10 @@
 
 namespace Orvello {
 
-/// One release as an update feed describes it. Texts are trimmed, and empty where it says nothing.
+/// One release as an update feed describes it. Texts are trimmed, and empty where the feed says
+/// nothing.
 struct AppcastItem {
-    QString version; ///< By which releases compare; never empty.
+    QString version; ///< The version that decides which release is newer; never empty.
     QString displayVersion; ///< The version for people, else `version`.
     QString channel; ///< Empty for the releases that are meant for everybody.
     QUrl page; ///< Where a person downloads the release.

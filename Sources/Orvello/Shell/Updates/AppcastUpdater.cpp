@@ -34,7 +34,7 @@ void AppcastUpdater::start(UpdaterDelegate& delegate)
 {
     m_delegate = &delegate;
     announceChecks();
-    // In the next turn of the main loop, when whoever starts the updater has said so in the log. A
+    // On the next turn of the main loop, once the code that starts the updater has logged it. A
     // user who asks for a check before that is not asked whether to check.
     m_nextCheck = m_services.time.callAfter(0, [this] {
         askPermissionOnce();
@@ -73,7 +73,7 @@ void AppcastUpdater::setOn(bool on)
         return;
     for (const auto& changed : m_observers)
         changed();
-    // Whoever switches has logged that first by then.
+    // By then the code that switched has logged it.
     m_nextCheck = m_services.time.callAfter(0, [this] { scheduleNextCheck(); });
 }
 
@@ -125,7 +125,7 @@ double AppcastUpdater::secondsUntilNextCheck() const
     if (!last)
         return 0;
     const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
-    // A check in the future is a clock that was set back since.
+    // A last check in the future means that the clock was set back since.
     return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
 }
 
@@ -140,7 +140,7 @@ void AppcastUpdater::check(Origin origin)
     if (m_phase != Phase::Idle)
         return; // The outcome of the check that is under way will answer this one too.
 
-    m_nextCheck.reset(); // It is this one, or will be found anew when this one is over.
+    m_nextCheck.reset(); // It is this one, or will be scheduled again when this one is over.
     m_origin = origin;
     m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
     enter(Phase::Loading);

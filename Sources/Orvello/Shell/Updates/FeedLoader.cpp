@@ -15,7 +15,7 @@ namespace {
 
 constexpr int maximumRedirects = 5;
 
-/// Replies may be in the middle of a signal when they are no longer wanted.
+/// A reply may be in the middle of a signal when it is no longer needed.
 void dispose(QNetworkReply* reply)
 {
     reply->disconnect();

@@ -24,14 +24,14 @@ public:
     struct Services {
         Updater& updater;
         const UserDefaults& defaults;
-        std::function<void()> activateApplication; ///< Ignoring whatever else is active.
+        std::function<void()> activateApplication; ///< Activates it whatever else is active.
     };
 
     explicit UpdateController(Services services, QObject* parent = nullptr);
 
     void start(); ///< Once, at launch.
 
-    /// Checks at the user's wish, in front of everything else.
+    /// Checks because the user asks, in front of everything else.
     Q_INVOKABLE void checkForUpdates();
 
     bool checksAutomatically() const;

@@ -62,7 +62,7 @@ private:
     AccessibleButton& m_button;
 };
 
-/// Asked for every class that an object is of.
+/// Called for every class in an object's inheritance chain.
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
     auto* const button
@@ -77,7 +77,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 AccessibleButton::AccessibleButton(QQuickItem* parent)
     : QQuickItem(parent)
 {
-    QAccessible::installFactory(makeInterface); // The second time, it is there already.
+    QAccessible::installFactory(makeInterface); // Later calls find it installed.
 }
 
 void AccessibleButton::itemChange(ItemChange change, const ItemChangeData& data)

@@ -5,9 +5,9 @@
 
 namespace Orvello {
 
-/// A button as a screen reader finds it, disabled while the item is: what Qt Quick 6.4 tells of an
-/// item of its own never says so. The item has to have Accessible.role as well, by which the one
-/// above finds it. It shows nothing and takes no click.
+/// A button as a screen reader finds it, disabled while the item is: what Qt Quick 6.4 itself
+/// reports about an item never says so. The item has to have Accessible.role as well, by which the
+/// one above finds it. It shows nothing and takes no click.
 class AccessibleButton : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged FINAL)

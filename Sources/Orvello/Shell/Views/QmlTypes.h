@@ -21,7 +21,7 @@
 
 #include <QtQml/qqml.h>
 
-/// What the views know the services as. The services' own folders need no QML.
+/// The names by which the views know the services. The services' own folders need no QML.
 namespace Orvello::QmlTypes {
 
 struct FactsType {

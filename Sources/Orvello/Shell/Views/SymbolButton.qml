@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Orvello
 
-// A button that is a symbol alone, on a shade that answers to the pointer.
+// A button that is a symbol alone, on a shade that responds to the pointer.
 T.Button {
     id: root
 
@@ -10,7 +10,7 @@ T.Button {
     property real symbolSize: 16
     property color symbolColor: palette.windowText
     property color shade: palette.windowText
-    property real restingShade: 0 // How much of it there is while nothing happens.
+    property real restingShade: 0 // How strong the shade is while nothing happens.
     property color focusColor: palette.highlight
     property real radius: 5
 

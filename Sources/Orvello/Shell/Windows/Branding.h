@@ -12,7 +12,7 @@ namespace Orvello::Branding {
 /// The colour of what is chosen or switched on.
 [[nodiscard]] QColor accentColor();
 
-/// For a menu bar that colours its items itself: 18 × 18 points, opaque where it is to be seen.
+/// For a menu bar that colours its items itself: 18 × 18 points, opaque where it is visible.
 [[nodiscard]] QIcon menuBarGlyph();
 
 /// For trays, which show an item as it is, on whatever colour they have.

@@ -52,7 +52,7 @@ void ImpressAdviceDialog::disallow()
     tellChanging();
 }
 
-/// Shown meanwhile.
+/// The box shown while a change is under way.
 void ImpressAdviceDialog::tellChanging()
 {
     tell(tr("Orvello is talking to LibreOffice…\n\nThis may take some seconds."), Undo::NotOffered);
@@ -73,7 +73,7 @@ void ImpressAdviceDialog::tell(const QString& message, Undo undo)
     box.show();
 }
 
-/// A box in the place of the one before; its text can be copied.
+/// Replaces the box by another one, whose text can be copied.
 QMessageBox& ImpressAdviceDialog::open(const QString& text, const QString& explanation)
 {
     if (m_box)

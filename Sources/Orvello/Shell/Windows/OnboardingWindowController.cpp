@@ -46,7 +46,7 @@ OnboardingWindowController::OnboardingWindowController(
             { u"hasCloseButton"_s, !hasSystemCloseButton },
         });
 
-    connect(&m_tour, &WelcomeTour::left, this, [this] {
+    connect(&m_tour, &WelcomeTour::exitRequested, this, [this] {
         finish();
         m_view.close();
     });

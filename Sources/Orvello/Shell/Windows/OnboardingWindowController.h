@@ -16,13 +16,14 @@ class SettingsStore;
 class WindowChrome;
 class Workspace;
 
-/// The window of the welcome tour. Each one begins at the initial page.
+/// The window of the welcome tour. Every new one begins at the initial page.
 class OnboardingWindowController final : public QObject, public ShellWindow {
     Q_OBJECT
 
 public:
     static constexpr QSize contentSize { 680, 580 }; ///< In points.
-    static constexpr qint64 version = 1; ///< Of the tour: what counts as having seen it.
+    static constexpr qint64 version
+        = 1; ///< The tour's version, which is remembered once the user has seen it.
 
     /// All of them must outlive the window.
     struct Services {
@@ -30,10 +31,10 @@ public:
         const Workspace& workspace;
         WindowChrome& chrome;
         HotKeys& hotKeys;
-        Facts facts; ///< What the tour may say of this machine.
+        Facts facts; ///< What the tour may say about this machine.
     };
 
-    /// `onFinish` is called once, through the main event loop, by whichever way the user leaves. It
+    /// `onFinish` is called once, through the main event loop, whichever way the user leaves. It
     /// may destroy the window.
     OnboardingWindowController(const Services& services, std::function<void()> onFinish);
 

@@ -43,7 +43,7 @@ void QtMenu::addLines()
             addMenu(m_submenus.back().get());
         } else {
             QAction* const action = addAction(item->title);
-            action->setMenuRole(QAction::NoRole); // Titles are no hint to put it elsewhere.
+            action->setMenuRole(QAction::NoRole); // Keeps Qt from moving it because of its title.
             action->setShortcut(shortcut(item->keyEquivalent));
             action->setCheckable(item->isCheckable);
             action->setEnabled(item->isEnabled());

@@ -9,8 +9,8 @@ namespace Orvello {
 
 class Menu;
 
-/// A menu drawn by the toolkit, or by whoever it hands its menus to. It follows the other each time
-/// right before it opens.
+/// A menu drawn by the toolkit, or by whoever it hands its menus to. It is updated from the other
+/// each time right before it opens.
 class QtMenu final : public QMenu {
     Q_OBJECT
 

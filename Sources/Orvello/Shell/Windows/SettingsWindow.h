@@ -14,12 +14,13 @@ class SettingsStore;
 class UpdateController;
 class VoiceActivityEngine;
 
-/// The window of the preferences. Closing it hides it.
+/// The settings window. Closing it hides it.
 class SettingsWindow final : public ShellWindow {
     Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
 
 public:
-    static constexpr QSize contentSize { 500, 780 }; ///< In points, where the screen has the room.
+    static constexpr QSize contentSize { 500,
+        780 }; ///< In points, where the screen has room for it.
 
     /// All of them must outlive the window.
     struct Services {
@@ -27,7 +28,7 @@ public:
         VoiceActivityEngine& voice;
         UpdateController& updates;
         HotKeys& hotKeys;
-        Facts facts; ///< What the window may say of this machine.
+        Facts facts; ///< What the window may say about this machine.
     };
 
     explicit SettingsWindow(const Services& services);

@@ -18,7 +18,7 @@ struct NamedRole {
     QPalette::ColorRole role;
 };
 
-/// As the views name them.
+/// The controls, by the names that the views use.
 constexpr std::array namedRoles {
     NamedRole { "alternateBase", QPalette::AlternateBase },
     NamedRole { "base", QPalette::Base },
@@ -108,7 +108,7 @@ void setColors(QQuickWindow& window)
     window.setColor(palette.color(QPalette::Window));
 }
 
-/// Sets a window's colours anew with those of the application.
+/// Gives a window the application's present colours.
 class PaletteFollower final : public QObject {
 public:
     explicit PaletteFollower(QQuickWindow& window)

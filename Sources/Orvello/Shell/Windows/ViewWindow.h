@@ -7,7 +7,7 @@ class QQuickView;
 /// What the windows that show one of the program's views have in common.
 namespace Orvello::ViewWindow {
 
-/// Of a window with a title and a close button, and no other button.
+/// The flags of a window with a title and a close button, and no other button.
 inline constexpr Qt::WindowFlags titledAndClosable = Qt::Window | Qt::CustomizeWindowHint
     | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 

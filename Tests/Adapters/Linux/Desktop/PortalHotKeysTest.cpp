@@ -126,7 +126,7 @@ public:
     bool hasRegistry = true; ///< Not before 1.19.4.
     bool isInstalled = true; ///< The program, with its desktop file.
     bool demandsApplicationID = true; ///< Not before 1.21.
-    uint version = 1; ///< Of the shortcuts' interface.
+    uint version = 1; ///< The version of the shortcuts' interface.
     uint answer = 0; ///< 1 is the user's refusal.
     bool makesSessions = true;
     bool tellsWhatIsBound = true;
@@ -279,7 +279,7 @@ protected:
     std::unique_ptr<HotKeys::Reference> slower()
     {
         return keys->registerHotKeyFor(
-            { u"slower"_s, u"Scroll slower"_s }, HotKey::keyDown, optionCommand, { 0, 3 });
+            { u"slower"_s, u"Scroll more slowly"_s }, HotKey::keyDown, optionCommand, { 0, 3 });
     }
 
     template <typename Condition>

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// "PowerPoint 2007 presentation (*.pptx *.PPTX)": the system's words for files of this kind, and
-/// both ways to write it, of which some dialogs make a difference.
+/// both spellings of the extension, which some dialogs tell apart.
 QString filterFor(const QString& extension)
 {
     const QString pattern = u"*.%1 *.%2"_s.arg(extension.toLower(), extension.toUpper());
@@ -24,7 +24,7 @@ QString filterFor(const QString& extension)
 
 std::optional<QString> FileDialog::chooseFile(const QString& message, const FileKind& kind)
 {
-    // There is no place for a message but the title.
+    // The title is the only place for a message.
     QFileDialog dialog(nullptr, message);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -13,9 +13,9 @@ namespace Orvello {
 struct HotKeyName {
     std::uint32_t keyCode;
     const char* place; ///< The X server's name for the key's place on the keyboard.
-    const char* symbol; ///< The name of what an American layout has there.
-    const char* label; ///< In the log.
-    const char* sign; ///< For people.
+    const char* symbol; ///< What an American keyboard layout has there.
+    const char* label; ///< The key's name in the log.
+    const char* sign; ///< The key's name for people.
 };
 
 /// Null for a key that the product never asks for.

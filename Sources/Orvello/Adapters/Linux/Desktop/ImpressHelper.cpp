@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Beside the program in the build folder; in the installed one's folder for programs that nobody
+/// Beside the program in the build folder; when installed, in the folder for programs that nobody
 /// starts by hand.
 QString helperScript()
 {
@@ -26,7 +26,7 @@ QString helperScript()
 
 std::unique_ptr<HelperProcess> makeImpressHelper()
 {
-    // The distribution's own Python, because its package python3-uno serves no other one.
+    // The distribution's own Python, because its package python3-uno works with no other.
     return std::make_unique<QtHelperProcess>(
         u"/usr/bin/python3"_s, QStringList { helperScript(), u"serve"_s });
 }

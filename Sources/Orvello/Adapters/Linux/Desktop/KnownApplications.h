@@ -8,22 +8,23 @@
 
 #include <optional>
 
-/// The Linux applications that the product knows, by what the system tells about them.
+/// The Linux applications that the product knows, by what the system says about them.
 namespace Orvello::KnownApplications {
 
 /// The application that runs as a process of this name (/proc/…/comm, at most 15 bytes), under the
 /// bundle identifier that the product knows it by on every platform.
 [[nodiscard]] std::optional<RunningApplication> withProcessName(QByteArrayView name);
 
-/// The files by any of which the application lists itself in the desktop's menus; none for one that
-/// is not known by them.
+/// The files by any of which the application lists itself in the desktop's menus; none if it has no
+/// known ones.
 [[nodiscard]] QStringList desktopEntries(const QString& bundleIdentifier);
 
-/// Whose window it is; the window's class itself for an application that is not known.
+/// The application that owns the window; the window's class for an unknown application.
 [[nodiscard]] QString ownerName(const X11WindowClass& windowClass);
 
 /// The application as the frontmost one when a window of this class is active. LibreOffice Impress
-/// counts as itself only by its slideshow's windows: nobody presents from a document window.
+/// counts only when one of its slideshow's windows is active: nobody presents from a document
+/// window.
 [[nodiscard]] RunningApplication frontmost(const X11WindowClass& windowClass);
 
 } // namespace Orvello::KnownApplications

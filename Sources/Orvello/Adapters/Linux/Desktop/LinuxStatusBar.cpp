@@ -19,7 +19,7 @@ namespace {
 const QString service = u"org.kde.StatusNotifierWatcher"_s;
 const QString path = u"/StatusNotifierWatcher"_s;
 
-constexpr int patience = 2000; ///< For a watcher that hangs, in milliseconds.
+constexpr int patience = 2000; ///< How long to wait for a watcher that hangs, in milliseconds.
 
 } // namespace
 

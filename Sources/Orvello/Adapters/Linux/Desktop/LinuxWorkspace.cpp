@@ -24,7 +24,7 @@ LinuxWorkspace::LinuxWorkspace(
 QStringList LinuxWorkspace::desktopEntryFolders()
 {
     QStringList folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
-    // Sessions that were not started by a login shell know these two by no variable.
+    // In sessions that were not started by a login shell no variable names these two.
     folders.append({ QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
             + u"/flatpak/exports/share/applications"_s,
         u"/var/lib/flatpak/exports/share/applications"_s,

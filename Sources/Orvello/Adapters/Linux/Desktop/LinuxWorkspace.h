@@ -28,7 +28,7 @@ public:
 
 private:
     const X11Windows& m_windows;
-    mutable ProcessTable m_processes; ///< What it remembers only saves work.
+    mutable ProcessTable m_processes; ///< Mutable because what it remembers only saves work.
     const QStringList m_applicationFolders;
 };
 

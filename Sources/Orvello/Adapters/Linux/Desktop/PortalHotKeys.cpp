@@ -53,9 +53,8 @@ const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 
-constexpr uint declinedByUser
-    = 1; // Of the answers to a request; 0 is success, others are failures.
-constexpr uint configurableVersion = 2; // Of the interface: the first that can configure.
+constexpr uint declinedByUser = 1; // In the answer to a request; 0 is success, others are failures.
+constexpr uint configurableVersion = 2; // The first interface version that can configure.
 
 /// Enough for every restart of a long session; a portal that fails each time is left alone.
 constexpr int mostRevivals = 5;
@@ -103,7 +102,7 @@ struct PortalHotKeys::Shortcut final : Reference {
     const HotKeyName& name;
     const std::uint32_t modifiers;
     const HotKeyID id;
-    bool isHeld = false; ///< By the portal.
+    bool isHeld = false; ///< Whether the portal holds the key.
     std::unique_ptr<Reference> fallback; ///< What holds the key otherwise, if it can.
 };
 
@@ -181,8 +180,8 @@ void PortalHotKeys::ask()
         registerApplication();
 }
 
-/// Portals serve nobody whom they do not know. A program of the host system tells them itself, with
-/// the first call; one that is too old for that finds out otherwise, or does not ask.
+/// Portals serve only programs that they know. A program of the host system introduces itself with
+/// the first call; a portal that is too old for that finds out otherwise, or does not ask.
 void PortalHotKeys::registerApplication()
 {
     QDBusMessage message = methodCall(registryInterface, u"Register"_s);
@@ -244,7 +243,7 @@ void PortalHotKeys::bound(const QVariantMap& results)
             [this](const QVariantMap& list) { listed(list); });
 }
 
-/// The session stays, also without a key: the user can give the keys to it later.
+/// The session stays even without a key: the user can assign keys to it later.
 void PortalHotKeys::listed(const QVariantMap& results)
 {
     m_state = State::Bound;
@@ -261,8 +260,8 @@ void PortalHotKeys::listed(const QVariantMap& results)
     readVersion();
 }
 
-/// Portals differ in whether they leave out the shortcuts that the user gave no keys, or describe
-/// their keys with an empty text.
+/// For shortcuts without keys, some portals leave them out and others describe their keys with an
+/// empty text.
 void PortalHotKeys::assign(const QList<PortalShortcut>& shortcuts)
 {
     QStringList held;
@@ -395,7 +394,7 @@ void PortalHotKeys::ownerChanged(const QString& formerOwner, const QString& owne
         else if (m_state == State::Asking)
             giveUp(State::Lost, u"it has ended"_s);
     }
-    // While it is being asked, the question itself has started it.
+    // While a question is under way, it was the question that started the portal.
     if (!owner.isEmpty() && m_state == State::Lost && !m_shortcuts.empty())
         askSoon();
 }

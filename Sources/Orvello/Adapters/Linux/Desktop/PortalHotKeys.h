@@ -20,10 +20,10 @@ namespace Orvello {
 struct HotKeyName;
 struct PortalShortcut;
 
-/// Hot keys on a Wayland session, where grabbing keys is the desktop's alone: through the
-/// GlobalShortcuts portal, which asks the user once. Keys that it or the user does not take, all of
-/// them where there is no such portal, go to another service. When the portal restarts, or closes
-/// the session, the keys are offered to it anew.
+/// Hot keys on a Wayland session, where only the desktop may grab keys: through the GlobalShortcuts
+/// portal, which asks the user once. Keys that it or the user does not take, all of them where
+/// there is no such portal, go to another service. When the portal restarts, or closes the session,
+/// the keys are offered to it again.
 ///
 /// A key without a purpose is never offered to the portal: it comes and goes with each slideshow,
 /// and the portal would ask the user each time, in front of the audience.
@@ -58,7 +58,7 @@ private:
         Asking,
         Bound,
         Lost, ///< No portal, or one that failed. The next one that appears is asked.
-        Declined, ///< By the user, who is not asked again.
+        Declined, ///< The user said no and is not asked again.
     };
     struct Shortcut;
     using Answer = std::function<void(const QVariantMap& results)>;
@@ -98,7 +98,8 @@ private:
     State m_state = State::Idle;
     bool m_isRegistered = false; ///< The portal that runs has been told the ID.
     int m_attempt = 0; ///< Replies to an earlier one come too late.
-    int m_revivalsLeft; ///< How often a lost session is asked for anew without a new portal.
+    int m_revivalsLeft; ///< How often a lost session may still be asked for again without a new
+                        ///< portal.
     int m_nextToken = 1;
 };
 

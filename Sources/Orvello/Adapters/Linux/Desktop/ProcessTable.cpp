@@ -28,7 +28,7 @@ bool isProcess(std::string_view name)
         && std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// The beginning of what the table tells about a process in a file; empty when it is gone.
+/// The beginning of one of the table's files about a process; empty when the process is gone.
 QByteArray factsFrom(std::string_view file, int table, std::string_view process)
 {
     std::array<char, 32> path {};
@@ -65,7 +65,7 @@ bool isOwn(int table, const char* process)
     return ::fstatat(table, process, &status, 0) == 0 && status.st_uid == ::geteuid();
 }
 
-/// For so many scans a new process is looked at again.
+/// A new process is looked at again in this many scans.
 constexpr unsigned youngScans = 3;
 
 } // namespace
@@ -96,7 +96,7 @@ QList<RunningApplication> ProcessTable::knownApplications()
     return running;
 }
 
-/// Finds out which application a process is, unless that is known well enough.
+/// Finds out which application a process is, unless that is already certain.
 void ProcessTable::look(int table, const char* id, Process& process) const
 {
     process.lastScan = m_scan;
@@ -105,7 +105,7 @@ void ProcessTable::look(int table, const char* id, Process& process) const
     if (process.scans > youngScans && !isTurn && !process.application)
         return;
     process.application = KnownApplications::withProcessName(processName(table, id));
-    // Another user's programs are none of ours.
+    // Another user's programs do not count.
     if (process.application && (!isOwn(table, id) || isZombie(table, id)))
         process.application.reset();
 }

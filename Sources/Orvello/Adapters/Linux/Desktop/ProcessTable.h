@@ -26,7 +26,7 @@ public:
 private:
     struct Process {
         std::optional<RunningApplication> application;
-        unsigned scans = 0; ///< In how many it was seen.
+        unsigned scans = 0; ///< How many scans have seen it.
         unsigned lastScan = 0;
     };
 

@@ -17,7 +17,7 @@ QMessageBox* makeDialog(const QString& text, const QString& details)
     constexpr int iconSide = 64;
     dialog->setIconPixmap(QGuiApplication::windowIcon().pixmap(iconSide));
     dialog->setInformativeText(details);
-    dialog->setTextFormat(Qt::PlainText); // The feed has a part in it.
+    dialog->setTextFormat(Qt::PlainText); // Part of it comes from the feed.
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAttribute(Qt::WA_ShowWithoutActivating);
     dialog->setModal(false);

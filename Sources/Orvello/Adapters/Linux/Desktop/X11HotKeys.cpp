@@ -87,7 +87,7 @@ QString X11HotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
     return hotKeyText(keyCode, modifiers);
 }
 
-/// Tries to get the key, and says in the log when that it is not ours is news.
+/// Tries to get the key, and logs it when losing it is news.
 void X11HotKeys::acquire(Grab& grab)
 {
     grab.serverKeyCode = m_keyboard->keyCode(grab.name.place);
@@ -134,7 +134,7 @@ bool X11HotKeys::grabKey(const Grab& grab)
     }
     if (!isOwn)
         release(grab);
-    // What arrived while waiting for the replies lies in the connection's own queue, where the
+    // What arrived while waiting for the replies is in the connection's own queue, where the
     // notifier does not see it.
     readEventsSoon();
     return isOwn;
@@ -180,7 +180,7 @@ void X11HotKeys::readEvents()
     if (isKeyboardChanged)
         keyboardChanged();
     if (xcb_connection_has_error(m_connection))
-        m_notifier->setEnabled(false); // The display is gone, and with it the keyboard.
+        m_notifier->setEnabled(false); // The display is gone, and the keyboard with it.
 }
 
 void X11HotKeys::pressed(std::uint8_t keyCode, std::uint16_t state)

@@ -18,7 +18,7 @@ namespace Orvello {
 class X11Keyboard;
 
 /// Hot keys as key grabs on the root windows of an X server, whatever Caps, Num and Scroll Lock
-/// are. Keys keep their place when the layout changes, and one that the keyboard lacks is there as
+/// are. Keys keep their place when the layout changes, and one that the keyboard lacks works as
 /// soon as the keyboard has it.
 class X11HotKeys final : public QObject, public HotKeys {
     Q_OBJECT
@@ -53,7 +53,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::vector<std::uint32_t> m_roots;
     std::vector<Grab*> m_grabs;
-    std::set<std::uint8_t> m_heldKeys; ///< Pressed, and not released since.
+    std::set<std::uint8_t> m_heldKeys; ///< Keys pressed and not yet released.
     Handler m_handler;
 };
 

@@ -18,15 +18,15 @@ public:
     /// every set of key codes.
     using KeyName = const char*;
 
-    /// The connection must outlive the keyboard. Also asks the server for news of the keyboard and
-    /// for auto-repeat without made-up releases.
+    /// The connection must outlive the keyboard. Also asks the server to report keyboard changes
+    /// and to repeat keys without artificial releases.
     explicit X11Keyboard(xcb_connection_t* connection);
     ~X11Keyboard();
 
-    bool load(); ///< False, with the old state kept, when the server does not tell.
+    bool load(); ///< False, with the old state kept, when the server does not answer.
     bool isChangeEvent(std::uint8_t eventType) const; ///< After such an event, load again.
 
-    std::uint8_t keyCode(KeyName name) const; ///< 0 for a key that there is not.
+    std::uint8_t keyCode(KeyName name) const; ///< 0 for a key that the keyboard lacks.
     std::uint16_t altMask() const { return m_altMask; }
     std::uint16_t superMask() const { return m_superMask; }
     /// Every combination of the locks (Caps, Num and Scroll Lock), none included.

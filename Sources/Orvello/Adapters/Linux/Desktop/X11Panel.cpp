@@ -19,7 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int edgeWidth = 6; ///< How far from its edge the panel is taken by the edge, in points.
+constexpr int edgeWidth
+    = 6; ///< How far inside the panel a press still takes hold of its edge, in points.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
 
 Qt::Edges edgesAt(QPointF position, QSize size)
@@ -153,7 +154,7 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     case QEvent::Hide:
-        endGesture(); // No release comes to a window that is not there.
+        endGesture(); // A hidden window gets no release.
         return false;
     case QEvent::Move:
         saveFrame();
@@ -173,7 +174,7 @@ bool X11Panel::pressed(QMouseEvent& event)
         return false;
     const Qt::Edges edges = edgesAt(event.position(), m_window.size());
     if (!edges) {
-        // The background is whatever the view does not want for itself.
+        // The background is whatever part of the view does not accept the press.
         static_cast<QObject&>(m_window).event(&event);
         if (event.exclusiveGrabber(event.point(0)))
             return true;
@@ -218,7 +219,7 @@ void X11Panel::endGesture()
         Q_EMIT resizeEnded();
 }
 
-/// A window that is shown, or only moved, is told of its size again.
+/// A window that is shown, or only moved, gets a resize event all the same.
 void X11Panel::announceSize()
 {
     if (assign(m_announcedSize, m_window.size()))
@@ -227,7 +228,7 @@ void X11Panel::announceSize()
 
 void X11Panel::saveFrame()
 {
-    // While a gesture goes on, only its end counts.
+    // While a gesture lasts, only its end counts.
     if (m_autosaveKey.isEmpty() || m_gesture.isActive || frame() == m_settledFrame)
         return;
     m_settledFrame = frame();

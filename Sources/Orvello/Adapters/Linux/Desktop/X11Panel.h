@@ -17,7 +17,7 @@ namespace Orvello {
 class X11StackingGuard;
 
 /// The prompter's window on X11, around the window that shows the view. Window managers disagree
-/// about what is above a full-screen window and about which windows may be without focus, so the
+/// about what is above a full-screen window and about which windows may do without focus, so the
 /// panel asks none of them: it is an override-redirect window, which no manager places, focuses or
 /// assigns to a workspace. What the manager would do otherwise is done here: staying on top,
 /// dragging, resizing, remembering the frame.
@@ -66,7 +66,7 @@ private:
     UserDefaults& m_defaults;
     std::unique_ptr<X11StackingGuard> m_stackingGuard;
     QString m_autosaveKey; ///< Empty while the frame is not saved.
-    QRectF m_settledFrame; ///< As it was set or saved last: what need not be saved.
+    QRectF m_settledFrame; ///< The frame last set or saved, which need not be saved again.
     QSize m_announcedSize;
     bool m_isHidden = false;
     Gesture m_gesture;

@@ -75,8 +75,8 @@ void X11StackingGuard::restacked(std::uint32_t window, bool isOverrideRedirect)
 {
     if (window == m_window)
         return;
-    // Some managers make the frames of managed windows override-redirect, so the flag alone does
-    // not tell.
+    // Some managers make the frames of managed windows override-redirect, so the flag alone proves
+    // nothing.
     if (isOverrideRedirect && !holdsManagedWindow(window, deepestClient))
         return;
     // TopIf lets the server decide: it raises the panel only if the other window covers some of it.

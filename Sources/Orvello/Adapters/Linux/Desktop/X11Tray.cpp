@@ -51,9 +51,10 @@ X11Tray::~X11Tray()
 
 void X11Tray::readEvents()
 {
-    // One by one: waiting for an answer may bring further events in, without a word of the socket.
+    // One by one: waiting for an answer may read further events, of which the socket then gives no
+    // notice.
     while (const auto event = Xcb::owned(xcb_poll_for_event(m_connection))) {
-        const int type = event->response_type & 0x7F; // Without the mark of a sent event.
+        const int type = event->response_type & 0x7F; // Masks out the bit that marks a sent event.
         if (type == XCB_CLIENT_MESSAGE || type == XCB_DESTROY_NOTIFY)
             findOwner();
     }
@@ -71,7 +72,7 @@ xcb_window_t X11Tray::owner() const
 void X11Tray::findOwner()
 {
     const xcb_window_t before = m_owner;
-    // A tray that ends before its end is listened for would stay for good.
+    // A tray that goes before we listen for its end would seem to stay for good.
     for (xcb_window_t now = owner(); now != m_owner; now = owner()) {
         m_owner = now;
         if (m_owner != XCB_WINDOW_NONE)

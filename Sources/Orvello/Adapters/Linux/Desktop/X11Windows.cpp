@@ -16,7 +16,7 @@ using Xcb::owned;
 
 namespace {
 
-constexpr std::uint32_t longestList = 65536; ///< Of a property, in units of four bytes.
+constexpr std::uint32_t longestList = 65536; ///< The longest property read, in units of four bytes.
 constexpr std::uint32_t longestClass = 256;
 
 using PropertyReply = Xcb::Owned<xcb_get_property_reply_t>;

@@ -13,15 +13,15 @@ struct xcb_connection_t;
 
 namespace Orvello {
 
-/// The two texts of WM_CLASS, by which a window says whose it is. Empty when it does not.
+/// The two texts of WM_CLASS, by which a window names its application. Empty when it does not.
 struct X11WindowClass {
     QString instance;
     QString name;
 };
 
 /// What the window manager publishes about the client windows (the EWMH properties of the root
-/// window), read over a connection of its own. Main thread. After a lost connection every function
-/// finds nothing.
+/// window), read over a connection of its own. Main thread. Once the connection is lost, every
+/// function finds nothing.
 class X11Windows {
 public:
     struct Window {
@@ -34,7 +34,7 @@ public:
     X11Windows(const X11Windows&) = delete;
     X11Windows& operator=(const X11Windows&) = delete;
 
-    /// Of the window that has the user's attention.
+    /// The class of the window that has the user's attention.
     std::optional<X11WindowClass> activeWindowClass() const;
 
     /// The mapped client windows without the desktop's own, from top to bottom; nothing without a

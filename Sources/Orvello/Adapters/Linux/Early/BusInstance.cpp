@@ -30,7 +30,7 @@ QByteArray displayProper(const QString& display)
     return name.startsWith("unix:") ? name.sliced(4) : name;
 }
 
-/// The display in letters that names on the bus and of files may have.
+/// The display, spelled in characters that bus names and file names may contain.
 QString displayLetters(const QString& display)
 {
     QString letters = u"Display"_s;
@@ -77,7 +77,7 @@ RunningInstance::Outcome BusInstance::claim(const ProgramStart& start)
 {
     if (!m_bus.isConnected())
         return claimLock();
-    // Before the name: who sees the name may call at once.
+    // Before the name, because whoever sees the name may call at once.
     m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots);
     // The other process may end between the two steps, and the name be free at the second try.
     for (int attempt = 0; attempt < 2; ++attempt) {
@@ -137,7 +137,7 @@ QStringList BusInstance::Start(
         m_handlers->startedAgain(start, answer);
     else
         m_earlyStarts.push_back({ start, answer });
-    return {}; // The answer is the reply.
+    return {}; // The answer is sent as the reply.
 }
 
 } // namespace Orvello

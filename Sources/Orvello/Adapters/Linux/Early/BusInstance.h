@@ -56,7 +56,7 @@ private:
     const QString m_lockFolder;
     QLockFile m_lock;
     std::optional<Handlers> m_handlers;
-    std::vector<EarlyStart> m_earlyStarts; ///< Before anybody listened.
+    std::vector<EarlyStart> m_earlyStarts; ///< Starts that arrived before anybody listened.
 };
 
 } // namespace Orvello

@@ -13,7 +13,7 @@ void Syslog::write(std::string_view message)
     const std::string text(message);
     ::syslog(LOG_NOTICE, "%s", text.c_str());
 
-    // One call for each line, so that lines of several threads stay whole.
+    // One call for each line, so that lines from several threads stay whole.
     const std::string line = text + '\n';
     [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, line.data(), line.size());
 }

@@ -31,7 +31,7 @@ public:
         return m_value;
     }
 
-    /// The value once `isAwaited` holds for it, or whatever it is when the time is up.
+    /// The value once `isAwaited` accepts it, or whatever it is when the time is up.
     template <typename Predicate>
     Value await(std::chrono::milliseconds atMost, Predicate isAwaited) const
     {

@@ -13,7 +13,7 @@ constexpr int assumedDelayMilliseconds = 50;
 /// Quieter than the last bit of 16-bit sound: nothing that a microphone could hear again.
 constexpr float audible = 1.0f / 65536;
 
-/// The longest echo, with the time that the two streams may be apart.
+/// The longest echo, including the time by which the two streams may differ.
 constexpr int framesOfEcho = 300;
 
 /// One sample that is not a number would stay in the adaptive filter for good.
@@ -47,7 +47,7 @@ void EchoCanceller::hearFarEnd(std::span<const float> samples)
 void EchoCanceller::process(std::span<float> frame)
 {
     makeSound(frame);
-    // Most of the time nothing is played, and to find no echo costs as much as to remove one.
+    // Most of the time nothing is played, and finding no echo costs as much as removing one.
     if (!isFarEndAudible())
         return;
     ++m_framesSinceFarEnd;

@@ -8,7 +8,7 @@
 
 namespace Orvello {
 
-/// Takes what the computer plays out of what its microphone hears, by WebRTC audio processing,
+/// Removes what the computer plays from what its microphone hears, by WebRTC audio processing,
 /// which finds the delay between the two by itself. One thread.
 class EchoCanceller {
 public:
@@ -31,7 +31,7 @@ private:
 
     EchoRemoval m_removal { sampleRate };
     SampleBlocks m_farEnd { frameSamples };
-    int m_framesSinceFarEnd; ///< Of the microphone, since something audible was played.
+    int m_framesSinceFarEnd; ///< Microphone frames since something audible was played.
 };
 
 } // namespace Orvello

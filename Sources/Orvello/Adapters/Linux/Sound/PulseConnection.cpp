@@ -74,7 +74,7 @@ void PulseConnection::connect()
     pa_context_set_state_callback(
         m_context, [](pa_context*, void* connection) { connectionOf(connection).onStateChanged(); },
         this);
-    // To start a server is for the session to decide, not for us.
+    // Starting a server is up to the session, not to us.
     if (pa_context_connect(m_context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
         onLost();
 }

@@ -11,7 +11,7 @@
 namespace Orvello {
 
 /// This program's one connection to the sound server, PulseAudio or PipeWire, with a thread of its
-/// own, the sound thread. It connects again by itself when the server goes and comes.
+/// own, the sound thread. It reconnects by itself when the server goes and comes back.
 class PulseConnection final {
 public:
     /// Hears of the connection, on the sound thread.
@@ -50,10 +50,10 @@ public:
     /// What the server said last; nothing while there is no server. Any thread; never waits.
     PulseFacts facts() const { return m_state.get().facts; }
 
-    /// The same, but gives a connection that is not there a moment to come up. Main thread.
+    /// The same, but gives a missing connection a moment to come up. Main thread.
     PulseFacts factsOnceConnected();
 
-    /// Asks the server anew; the answer changes facts() later. Main thread; does not wait.
+    /// Asks the server again; the answer changes facts() later. Main thread; does not wait.
     void refreshFacts();
 
     /// With the lock, or on the sound thread.

@@ -9,8 +9,9 @@
 
 namespace Orvello {
 
-/// Records 48 kHz mono from the default source, or from what the default sink plays, and keeps at
-/// it: it follows the user to another default and comes back with a device or server that was away.
+/// Records 48 kHz mono from the default source, or from what the default sink plays, and keeps
+/// recording: it follows the user to another default and resumes when a lost device or server
+/// returns.
 class PulseRecordStream final : private PulseConnection::Client {
 public:
     enum class Source { Microphone, DefaultSinkMonitor };
@@ -61,7 +62,7 @@ private:
     pa_usec_t m_lastSamples = 0;
 
     static constexpr int pending = -1;
-    AwaitableState<int> m_outcome; ///< Of the latest opening: pending, 0 or a pa_error_code.
+    AwaitableState<int> m_outcome; ///< How the latest opening went: pending, 0 or a pa_error_code.
 };
 
 } // namespace Orvello

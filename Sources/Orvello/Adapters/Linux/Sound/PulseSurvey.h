@@ -11,7 +11,7 @@
 
 namespace Orvello {
 
-/// What this program wants to know of a sound server.
+/// What this program wants to know about a sound server.
 struct PulseFacts {
     QByteArray defaultSource; ///< Names; empty when there is none.
     QByteArray defaultSink;
@@ -21,7 +21,7 @@ struct PulseFacts {
     friend bool operator==(const PulseFacts&, const PulseFacts&) = default;
 };
 
-/// Collects the facts from a server by one question after the other. Sound thread.
+/// Collects the facts from a server, one question after the other. Sound thread.
 class PulseSurvey {
 public:
     explicit PulseSurvey(std::function<void(const PulseFacts&)> report);

@@ -10,7 +10,7 @@ namespace Orvello {
 
 namespace {
 
-/// Two frames of the canceller: half the wake-ups of one, and still quick.
+/// Two frames of the canceller: half the wake-ups of a single frame, and still fast.
 constexpr std::size_t blockSamples = 2 * EchoCanceller::frameSamples;
 
 class PulseVoiceProcessingUnit final : public VoiceProcessingUnit {

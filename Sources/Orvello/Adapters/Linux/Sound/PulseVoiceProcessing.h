@@ -6,8 +6,8 @@ namespace Orvello {
 
 class PulseConnection;
 
-/// The default source of the sound server, freed in this process of what the default sink plays.
-/// Nothing but two record streams shows on the server.
+/// The default source of the sound server, from which this process removes what the default sink
+/// plays. The server sees nothing but two record streams.
 class PulseVoiceProcessing final : public VoiceProcessing {
 public:
     explicit PulseVoiceProcessing(

@@ -21,7 +21,7 @@ public:
 
 private:
     bool isOn() const override { return false; }
-    /// Changes nothing, and says so to whoever shows the wish already.
+    /// Changes nothing, and tells observers so, in case a view already shows the click.
     void setOn(bool isOn) override;
     void observe(std::function<void()> changed) override;
 

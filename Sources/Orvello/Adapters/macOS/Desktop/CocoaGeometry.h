@@ -18,7 +18,7 @@ inline CGRect cgRect(const QRectF& rect)
 
 /// A rectangle on the screen with its y counted the other way: AppKit counts upward from the bottom
 /// left corner of the primary screen. Its own inverse.
-inline QRectF turnedOver(const QRectF& rect)
+inline QRectF flippedVertically(const QRectF& rect)
 {
     const CGFloat height = NSScreen.screens.firstObject.frame.size.height;
     return { rect.x(), height - rect.y() - rect.height(), rect.width(), rect.height() };

@@ -25,7 +25,7 @@ using Orvello::nsString;
     _lines = [[NSMutableArray alloc] init];
     _submenus = [[NSMutableArray alloc] init];
     _nativeMenu = [[NSMenu alloc] initWithTitle:nsString(menu.title())];
-    // Each line says itself whether it can be chosen. AppKit would ask the responders instead, and
+    // Each line itself says whether it can be chosen. AppKit would ask the responders instead, and
     // those of a Qt window give wrong answers: see OrvelloApplication.
     _nativeMenu.autoenablesItems = NO;
     for (const auto& item : menu.items()) {

@@ -87,11 +87,11 @@ void CocoaPanel::observePanel()
     ];
 }
 
-QRectF CocoaPanel::frame() const { return turnedOver(qRect(m_panel.frame)); }
+QRectF CocoaPanel::frame() const { return flippedVertically(qRect(m_panel.frame)); }
 
 void CocoaPanel::setFrame(const QRectF& frame)
 {
-    shielded([&] { [m_panel setFrame:cgRect(turnedOver(frame)) display:YES]; });
+    shielded([&] { [m_panel setFrame:cgRect(flippedVertically(frame)) display:YES]; });
 }
 
 void CocoaPanel::saveFrameAs(const QString& name)
@@ -118,7 +118,7 @@ void CocoaPanel::show()
 void CocoaPanel::hide()
 {
     shielded([&] { [m_panel orderOut:nil]; });
-    // AppKit tells no tracking area that its window went from under the pointer.
+    // AppKit does not notify a tracking area when its window goes away under the pointer.
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&m_view, &leave);
     m_view.setVisible(false); // Ends the drawing.
@@ -144,7 +144,7 @@ bool CocoaPanel::eventFilter(QObject* watched, QEvent* event)
         && pressed(static_cast<QMouseEvent&>(*event));
 }
 
-/// The background is whatever the view does not want for itself.
+/// The background is whatever part of the view does not accept the press.
 bool CocoaPanel::pressed(QMouseEvent& event)
 {
     NSEvent* const press = NSApp.currentEvent;
@@ -160,7 +160,7 @@ bool CocoaPanel::pressed(QMouseEvent& event)
 }
 
 /// The window server carries a drag out by itself and may never report the button's release; Qt's
-/// view would take the button for pressed until the next click.
+/// view would believe the button pressed until the next click.
 void CocoaPanel::releaseInView(NSEvent* press)
 {
     NSEvent* const release = [NSEvent mouseEventWithType:NSEventTypeLeftMouseUp

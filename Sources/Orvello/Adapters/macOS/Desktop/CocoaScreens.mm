@@ -11,10 +11,10 @@ QList<QRectF> CocoaScreens::frames() const
     NSScreen* const main = NSScreen.mainScreen;
     QList<QRectF> frames;
     if (main)
-        frames.append(turnedOver(qRect(main.frame)));
+        frames.append(flippedVertically(qRect(main.frame)));
     for (NSScreen* screen in NSScreen.screens) {
         if (![screen isEqual:main])
-            frames.append(turnedOver(qRect(screen.frame)));
+            frames.append(flippedVertically(qRect(screen.frame)));
     }
     return frames;
 }

@@ -33,7 +33,7 @@ NSImage* templateImage(const QIcon& glyph, const QString& description)
         NSBitmapImageRep* const picture = [NSBitmapImageRep imageRepWithData:pngOf(pixmap)];
         if (!picture)
             continue;
-        picture.size = size; // In points, by which AppKit tells the densities apart.
+        picture.size = size; // The size in points, by which AppKit tells the densities apart.
         [image addRepresentation:picture];
     }
     [image setTemplate:YES]; // No property syntax: the name is a keyword of C++.

@@ -44,7 +44,7 @@
 - (void)mouseEntered:(NSEvent*)event
 {
     if (NSApp.active)
-        return; // Qt's view tells it.
+        return; // Qt's view reports it.
     const QPointF position = [self positionOf:event];
     QEnterEvent enter(position, position, _window->mapToGlobal(position));
     QCoreApplication::sendEvent(_window, &enter);

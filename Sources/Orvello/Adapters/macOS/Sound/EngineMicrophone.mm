@@ -147,7 +147,7 @@ Result<std::monostate, QString> EngineMicrophone::Engine::start()
     return std::monostate {};
 }
 
-/// Another device, or another format of the same one, has stopped the engine.
+/// The engine has stopped because the device, or its format, changed.
 void EngineMicrophone::Engine::restart()
 {
     if (!isStarted || !outlet)
@@ -180,7 +180,7 @@ double EngineMicrophone::sampleRate()
     @try {
         AVAudioInputNode* const node = m_engine->engine.inputNode;
         AVAudioFormat* const device = [node inputFormatForBus:inputBus];
-        // Without a device the node's output goes on promising samples.
+        // Without a device the node's output still promises samples.
         if (device.channelCount == 0 || !(device.sampleRate > 0))
             return 0;
         return [node outputFormatForBus:inputBus].sampleRate;

@@ -85,7 +85,7 @@ private:
 
     AudioUnit m_unit;
     Listener& m_listener;
-    AudioUnitRenderActionFlags* m_flags = nullptr; ///< Of the callback that is running.
+    AudioUnitRenderActionFlags* m_flags = nullptr; ///< What the running callback was given.
     const AudioTimeStamp* m_time = nullptr; ///< The same.
 };
 
@@ -93,7 +93,7 @@ OSStatus orvelloVPInputProc(void* unit, AudioUnitRenderActionFlags* flags,
     const AudioTimeStamp* time, UInt32, UInt32 frames, AudioBufferList*)
 {
     static_cast<Unit*>(unit)->onInput(flags, time, frames);
-    return noErr; // Whatever happened: a skipped block is no reason to fail the unit.
+    return noErr; // Whatever happened: a skipped block must not fail the unit.
 }
 
 VoiceProcessingUnit::Status Unit::configure(Setting setting)
