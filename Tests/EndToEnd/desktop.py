@@ -59,7 +59,8 @@ class Desktop(contextlib.ExitStack):
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    what="the window manager")
         if self.compositor:
-            self.start(["picom", "--backend", "xrender"])
+            # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
+            self.start(["picom", "--backend", "xrender", "--no-use-damage"])
         time.sleep(0.3)
 
     def start_x_server(self):
