@@ -136,6 +136,16 @@ class Desktop(contextlib.ExitStack):
     def focused_window(self):
         return int(self.run("xdotool", "getwindowfocus").strip())
 
+    def ask_window_manager_to_close(self, title):
+        """Closes the window as a user does. Openbox loses a key of its own now and then, on a busy machine."""
+        def is_gone():
+            windows = self.windows_titled(title)
+            if windows:
+                self.run_any("xdotool", "windowactivate", "--sync", str(windows[0]), "key", "alt+F4")
+                time.sleep(1)
+            return not windows
+        wait_until(is_gone, what=f"the end of {title!r}")
+
 
 class Picture:
     """Pixels of a screenshot."""
