@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/LibraryFile.h"

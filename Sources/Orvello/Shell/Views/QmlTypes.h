@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
