@@ -108,7 +108,8 @@ protected:
     ThreadedMicrophone threadedMicrophone;
     ThreadedVoiceProcessing threadedVoiceProcessing;
     VoiceActivityEngine threadedEngine { settings,
-        { time, permission, threadedVoiceProcessing, threadedMicrophone, micActivity, workspace } };
+        { time, permission, threadedVoiceProcessing, threadedMicrophone, micActivity,
+            microphones, workspace } };
 };
 
 TEST_F(VoiceThreadsTest, startsAndStopsUnderLoad)

@@ -5,6 +5,7 @@
 #include "Orvello/Platform/Sound/MicrophonePermission.h"
 #include "Orvello/Platform/Sound/RawMicrophone.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Voice/Loudness.h"
 #include "Orvello/Voice/MeetingApplications.h"
 #include "Orvello/Voice/MicActivity.h"
 
@@ -23,6 +24,9 @@ constexpr double watchdogSeconds = 1.0;
 constexpr int clearPollsBeforeAec = 5;
 constexpr int rawBlockFrames = 2048;
 
+/// How long a start waits for a microphone, in a session that is only just coming up.
+constexpr double startPatienceSeconds = 3.0;
+
 } // namespace
 
 VoiceActivityEngine::VoiceActivityEngine(
@@ -38,9 +42,14 @@ VoiceActivityEngine::VoiceActivityEngine(
     // Directly, not through the event loop: the very next block uses the new value.
     connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
         [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
+    ports.microphones.setObserver([this] { onMicrophonesChanged(); });
 }
 
-VoiceActivityEngine::~VoiceActivityEngine() { stopCurrentCapture(); }
+VoiceActivityEngine::~VoiceActivityEngine()
+{
+    m_ports.microphones.setObserver({});
+    stopCurrentCapture();
+}
 
 QVariant VoiceActivityEngine::micAuthorizedOrNull() const
 {
@@ -98,8 +107,24 @@ void VoiceActivityEngine::requestPermission()
 
 void VoiceActivityEngine::start()
 {
-    if (m_isListening)
+    if (m_isListening || m_patience)
         return;
+    // Who else has the microphone is known once the sound system answers, and not before.
+    if (m_ports.microphones.state().isReady)
+        choosePath();
+    else
+        m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+}
+
+void VoiceActivityEngine::onMicrophonesChanged()
+{
+    if (m_patience && m_ports.microphones.state().isReady)
+        choosePath();
+}
+
+void VoiceActivityEngine::choosePath()
+{
+    m_patience.reset();
     if (const std::optional<HoldReason> reason = holdReason()) {
         AppLog::write("Orvello VAD: AEC held (%@) — raw mic tap", reason->logText());
         startFallback(RawPathCause::EnvironmentHoldsAec, reason);
@@ -117,6 +142,7 @@ void VoiceActivityEngine::start()
 
 void VoiceActivityEngine::stop()
 {
+    m_patience.reset();
     m_watchdog.reset();
     if (!m_isListening)
         return;
@@ -124,6 +150,12 @@ void VoiceActivityEngine::stop()
     publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
     publish(m_aecActive, false, &VoiceActivityEngine::aecActiveChanged);
     publish(m_aecHoldReason, {}, &VoiceActivityEngine::aecHoldReasonChanged);
+    fallSilent();
+}
+
+/// Once nothing is captured.
+void VoiceActivityEngine::fallSilent()
+{
     m_detector.stopSpeaking();
     // What the audio thread reported before it ended takes effect before the reset, and what a new
     // start reports takes effect after it.
@@ -186,6 +218,7 @@ void VoiceActivityEngine::watchdogTick()
 {
     if (!m_isListening)
         return;
+    noticeSilence();
     const std::optional<HoldReason> reason = holdReason();
     if (m_aecActive && reason) {
         AppLog::write(
@@ -196,6 +229,17 @@ void VoiceActivityEngine::watchdogTick()
     } else if (m_usingFallback && m_fallbackIsEnvironmental) {
         reconsiderHold(reason);
     }
+}
+
+/// Nobody speaks into a microphone from which nothing comes, whatever it was that it said last.
+void VoiceActivityEngine::noticeSilence()
+{
+    applyPendingReports(); // After a stall of the main loop they are only late.
+    if (std::exchange(m_hasHeard, false) || !m_isSpeaking)
+        return;
+    apply({ .levelDecay = 0,
+        .isSpeaking = false,
+        .threshold = Loudness::speechThreshold(m_settings.voiceSensitivity()) });
 }
 
 void VoiceActivityEngine::reconsiderHold(const std::optional<HoldReason>& reason)
@@ -236,6 +280,7 @@ void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<
     if (!(microphone.sampleRate() > 0)) {
         AppLog::write("Orvello VAD: no usable input device");
         publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
+        fallSilent();
         return;
     }
     microphone.removeTap();
@@ -244,6 +289,7 @@ void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<
         microphone.removeTap();
         publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
         AppLog::write("Orvello VAD failed to start: %@", started.error());
+        fallSilent();
         return;
     }
     m_usingFallback = true;
@@ -270,8 +316,10 @@ void VoiceActivityEngine::process(std::span<const float> samples) noexcept
 
 void VoiceActivityEngine::applyPendingReports()
 {
-    while (const std::optional<BlockReport> report = m_reports.pop())
+    while (const std::optional<BlockReport> report = m_reports.pop()) {
+        m_hasHeard = true;
         apply(*report);
+    }
 }
 
 void VoiceActivityEngine::apply(const BlockReport& report)

@@ -2,6 +2,7 @@
 
 #include "Orvello/Foundation/WakeUp.h"
 #include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Platform/Sound/Microphones.h"
 #include "Orvello/Platform/Sound/SampleListener.h"
 #include "Orvello/Voice/ReportQueue.h"
 #include "Orvello/Voice/VoiceActivityDetector.h"
@@ -48,6 +49,7 @@ public:
         VoiceProcessing& voiceProcessing;
         RawMicrophone& rawMicrophone;
         MicActivity& micActivity;
+        Microphones& microphones;
         const Workspace& workspace;
     };
 
@@ -92,6 +94,8 @@ private:
 
     void requestPermission();
     void start();
+    void choosePath();
+    void onMicrophonesChanged();
     void startWatchdog();
     void watchdogTick();
     void reconsiderHold(const std::optional<HoldReason>& reason);
@@ -101,6 +105,8 @@ private:
     enum class RawPathCause { EnvironmentHoldsAec, VoiceProcessingFailed };
     void startFallback(RawPathCause cause, const std::optional<HoldReason>& reason);
     void stopCurrentCapture();
+    void fallSilent();
+    void noticeSilence();
 
     void onSamples(std::span<const float> samples) noexcept override;
     void process(std::span<const float> samples) noexcept; ///< The audio thread.
@@ -122,7 +128,9 @@ private:
     bool m_usingFallback = false;
     bool m_fallbackIsEnvironmental = false;
     int m_clearPolls = 0;
+    std::unique_ptr<TimeSource::Ticket> m_patience; ///< While it waits for a microphone to start on.
     std::unique_ptr<TimeSource::Ticket> m_watchdog;
+    bool m_hasHeard = false; ///< A block came since the watchdog last looked.
 
     VoiceActivityDetector m_detector; ///< The audio thread's, while one runs.
     std::atomic<double> m_sensitivity; ///< Mirrors the setting for the audio thread.
