@@ -2,7 +2,7 @@
 // to standard output with the monotonic time, and each line of standard input is a command:
 // "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "microphone NAME", "peak" (of
 // the level since the last time), "stall" (the longest time for which the main loop did not turn,
-// since the last time), "state", "quit".
+// but for want of a processor, since the last time), "state", "quit".
 
 #include "Orvello/Adapters/Linux/Sound/PulseSound.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -45,6 +46,16 @@ private:
     const TimeSource& m_time;
 };
 
+/// For how long the main thread was ready to run and other programs had the processors.
+double secondsInRunQueue()
+{
+    std::ifstream statistics("/proc/self/schedstat"); // The main thread's.
+    double running = 0;
+    double waiting = 0;
+    statistics >> running >> waiting;
+    return waiting / 1e9;
+}
+
 class Probe final {
 public:
     explicit Probe(const QString& folder)
@@ -56,7 +67,7 @@ public:
         QObject::connect(&m_engine, &VoiceActivityEngine::levelChanged, &m_engine,
             [this] { m_peak = std::max(m_peak, m_engine.level()); });
         QObject::connect(&m_turn, &QTimer::timeout, &m_engine, [this] {
-            const double now = m_time.now();
+            const double now = m_time.now() - secondsInRunQueue();
             m_stall = std::max(m_stall, now - std::exchange(m_lastTurn, now));
         });
         m_turn.setTimerType(Qt::PreciseTimer);
@@ -89,7 +100,7 @@ public:
         } else if (command == "stall") {
             m_journal.write("stall " + std::to_string(std::exchange(m_stall, 0.0)));
             if (!m_turn.isActive())
-                m_lastTurn = m_time.now();
+                m_lastTurn = m_time.now() - secondsInRunQueue();
             m_turn.start(1);
         } else if (command == "microphone") {
             std::string name;

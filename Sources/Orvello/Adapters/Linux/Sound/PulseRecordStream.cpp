@@ -18,6 +18,19 @@ constexpr std::array<float, PulseRecordStream::sampleRate / 10> silenceOfATick {
 
 constexpr pa_sample_spec monoFloat { PA_SAMPLE_FLOAT32NE, PulseRecordStream::sampleRate, 1 };
 
+/// A stream that the server is still creating has no name yet by which to end it there: whoever let
+/// go of it now would leave it recording.
+void endOnceCreated(pa_stream* stream)
+{
+    const pa_stream_state_t state = pa_stream_get_state(stream);
+    if (state == PA_STREAM_CREATING)
+        return;
+    pa_stream_set_state_callback(stream, nullptr, nullptr);
+    if (state == PA_STREAM_READY)
+        pa_stream_disconnect(stream);
+    pa_stream_unref(stream);
+}
+
 PulseRecordStream& streamOf(void* userData) { return *static_cast<PulseRecordStream*>(userData); }
 
 } // namespace
@@ -114,11 +127,11 @@ void PulseRecordStream::close()
     if (!m_stream)
         return;
     pa_stream* const stream = std::exchange(m_stream, nullptr);
-    pa_stream_set_state_callback(stream, nullptr, nullptr);
+    pa_stream_set_state_callback(
+        stream, [](pa_stream* closing, void*) { endOnceCreated(closing); }, nullptr);
     pa_stream_set_moved_callback(stream, nullptr, nullptr);
     pa_stream_set_read_callback(stream, nullptr, nullptr);
-    pa_stream_disconnect(stream);
-    pa_stream_unref(stream);
+    endOnceCreated(stream);
     publish();
 }
 
