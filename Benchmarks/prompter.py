@@ -86,7 +86,7 @@ FRAME_LOG = {"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop=true", "QT_MESSA
 
 def frames_shown(desktop):
     text = (desktop.scratch / "orvello.log").read_text()
-    return [float(moment) for moment in re.findall(r"^ *([\d.]+) .*frame rendered in", text, re.MULTILINE)]
+    return [float(moment) for moment in re.findall(r"^ *([\d.]+) .*frame rendered", text, re.MULTILINE | re.IGNORECASE)]
 
 
 def measure_smoothness():

@@ -87,6 +87,7 @@ public:
     HotKeys& hotKeys() override { return hotKeysFake; }
     Updater& updater() override { return updaterFake; }
     HelperProcess* impressHelper() override { return nullptr; }
+    bool hasHardwareRenderer() override { return false; }
 
     MicrophonePermission& microphonePermission() override { return permission; }
     VoiceProcessing& voiceProcessing() override { return voiceProcessingFake; }

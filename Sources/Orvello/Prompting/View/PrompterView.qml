@@ -29,8 +29,9 @@ Item {
         id: hover
     }
 
-    Card {
+    Rectangle {
         anchors.fill: parent
+        radius: CardStyle.cornerRadius
         color: Qt.rgba(0, 0, 0, root.settings.backgroundOpacity)
     }
 

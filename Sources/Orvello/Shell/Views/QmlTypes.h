@@ -1,11 +1,10 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
-#include "Orvello/Prompting/View/Card.h"
 #include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
@@ -42,12 +41,6 @@ struct AssignedKeysType {
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
     QML_UNCREATABLE("The program makes it.")
-};
-
-struct CardType {
-    Q_GADGET
-    QML_FOREIGN(Orvello::Card)
-    QML_NAMED_ELEMENT(Card)
 };
 
 struct CardStyleType {
