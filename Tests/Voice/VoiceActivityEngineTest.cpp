@@ -155,8 +155,8 @@ TEST_F(VoiceActivityEngineTest, choosesItsPathOnceTheSoundSystemHasAnswered)
     microphones.become({});
 
     EXPECT_TRUE(engine->isListening());
-    EXPECT_EQ(log.lines().front(),
-        "VAD: AEC held (another app is using the microphone) — raw mic tap");
+    EXPECT_EQ(
+        log.lines().front(), "VAD: AEC held (another app is using the microphone) — raw mic tap");
     EXPECT_EQ(time.pendingCalls(), 1u);
 }
 

@@ -37,12 +37,27 @@ VoiceActivityEngine::VoiceActivityEngine(
     , m_voiceProcessing(ports.voiceProcessing, *this)
     , m_sensitivity(settings.voiceSensitivity())
     , m_reportsArrived([this] { applyPendingReports(); })
+    , m_sensitivityTest(*this, settings, ports.time)
 {
     static_assert(std::atomic<double>::is_always_lock_free);
     // Directly, not through the event loop: the very next block uses the new value.
     connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
         [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
+    connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
+        &VoiceActivityEngine::thresholdLevelChanged);
+    connect(&settings, &SettingsStore::microphoneChanged, this, [this] {
+        m_ports.microphones.choose(m_settings.microphone());
+        Q_EMIT choicesChanged();
+    });
+    ports.microphones.choose(settings.microphone());
+    m_sound = ports.microphones.state();
     ports.microphones.setObserver([this] { onMicrophonesChanged(); });
+    for (const auto signal :
+        { &VoiceActivityEngine::micAuthorizedChanged, &VoiceActivityEngine::isListeningChanged,
+            &VoiceActivityEngine::aecActiveChanged, &VoiceActivityEngine::aecHoldReasonChanged })
+        connect(this, signal, this, &VoiceActivityEngine::statusChanged);
+    connect(
+        &settings, &SettingsStore::voiceFollowChanged, this, &VoiceActivityEngine::statusChanged);
 }
 
 VoiceActivityEngine::~VoiceActivityEngine()
@@ -110,7 +125,8 @@ void VoiceActivityEngine::start()
     if (m_isListening || m_patience)
         return;
     // Who else has the microphone is known once the sound system answers, and not before.
-    if (m_ports.microphones.state().isReady)
+    m_sound = m_ports.microphones.state();
+    if (m_sound.isReady)
         choosePath();
     else
         m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
@@ -118,8 +134,145 @@ void VoiceActivityEngine::start()
 
 void VoiceActivityEngine::onMicrophonesChanged()
 {
-    if (m_patience && m_ports.microphones.state().isReady)
+    const Microphones::State before = std::exchange(m_sound, m_ports.microphones.state());
+    if (before != m_sound)
+        Q_EMIT statusChanged();
+    if (before.choices != m_sound.choices)
+        Q_EMIT choicesChanged();
+    if (m_patience && m_sound.isReady)
         choosePath();
+}
+
+VoiceActivityEngine::Trouble VoiceActivityEngine::trouble() const
+{
+    if (m_micAuthorized == false)
+        return Trouble::PermissionDenied;
+    switch (m_sound.trouble) {
+    case Microphones::Trouble::None:
+        return Trouble::None;
+    case Microphones::Trouble::NoAnswer:
+        return Trouble::NoAnswer;
+    case Microphones::Trouble::Refused:
+        return Trouble::PermissionDenied;
+    case Microphones::Trouble::NoMicrophone:
+        return Trouble::NoMicrophone;
+    case Microphones::Trouble::Muted:
+        return Trouble::Muted;
+    case Microphones::Trouble::Withheld:
+        return Trouble::Withheld;
+    }
+    return Trouble::None;
+}
+
+VoiceActivityEngine::EchoCancellation VoiceActivityEngine::echoCancellation() const
+{
+    if (!m_isListening)
+        return EchoCancellation::Off;
+    if (m_aecActive)
+        return EchoCancellation::On;
+    if (!m_aecHoldReason)
+        return EchoCancellation::Unavailable;
+    return m_aecHoldReason->meetingApp.isEmpty() ? EchoCancellation::HeldForOtherProgram
+                                                 : EchoCancellation::HeldForMeeting;
+}
+
+QString VoiceActivityEngine::troubleForPeople() const
+{
+    switch (trouble()) {
+    case Trouble::None:
+        break;
+    case Trouble::PermissionDenied:
+        return tr("The microphone may not be used.");
+    case Trouble::NoAnswer:
+        return tr("The sound system does not answer.");
+    case Trouble::NoMicrophone:
+        return m_isListening || m_patience
+            ? tr("No microphone is connected.")
+            : tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+    case Trouble::Muted:
+        //: %1: the name of a microphone.
+        return tr("The microphone “%1” is muted.").arg(m_sound.heard);
+    case Trouble::Withheld:
+        //: %1: the name of a microphone.
+        return tr("Nothing comes from the microphone “%1”. Another program may keep it to "
+                  "itself.")
+            .arg(m_sound.heard);
+    }
+    return {};
+}
+
+QString VoiceActivityEngine::echoCancellationForPeople() const
+{
+    switch (echoCancellation()) {
+    case EchoCancellation::Off:
+        break;
+    case EchoCancellation::On:
+        return tr("Echo cancellation is on.");
+    case EchoCancellation::HeldForOtherProgram:
+    case EchoCancellation::HeldForMeeting:
+        //: %1: why, such as "Zoom is open".
+        return tr("Echo cancellation is paused: %1.").arg(aecHoldReasonForPeople());
+    case EchoCancellation::Unavailable:
+        return tr("Echo cancellation is not available.");
+    }
+    return {};
+}
+
+QString VoiceActivityEngine::status() const
+{
+    if (!m_settings.voiceFollow() && !m_isListening)
+        return {};
+    if (const QString trouble = troubleForPeople(); !trouble.isEmpty())
+        return trouble;
+    if (!m_isListening)
+        return {};
+    const QString echo = echoCancellationForPeople();
+    if (m_sound.heard.isEmpty())
+        return echo;
+    //: %1: the name of a microphone. %2: a sentence about echo cancellation.
+    return tr("Listening to “%1”. %2").arg(m_sound.heard, echo);
+}
+
+QStringList VoiceActivityEngine::microphoneChoices() const
+{
+    if (m_sound.choices.isEmpty() && m_settings.microphone().isEmpty())
+        return {};
+    //: The microphone that the desktop's settings choose.
+    QStringList names { tr("System default") };
+    for (const Microphones::Microphone& microphone : m_sound.choices)
+        names.append(microphone.name);
+    const bool isGone = microphoneIndex() == names.size();
+    if (isGone)
+        //: %1: the name of a microphone.
+        names.append(tr("%1 (not connected)").arg(m_settings.microphoneName()));
+    return names;
+}
+
+int VoiceActivityEngine::microphoneIndex() const
+{
+    if (m_settings.microphone().isEmpty())
+        return 0;
+    int index = 1;
+    for (const Microphones::Microphone& microphone : m_sound.choices) {
+        if (microphone.identifier == m_settings.microphone())
+            break;
+        ++index;
+    }
+    return index; // One past the others while it is not connected.
+}
+
+void VoiceActivityEngine::chooseMicrophone(int index)
+{
+    if (index == 0)
+        m_settings.setMicrophone({}, {});
+    else if (index > 0 && index <= m_sound.choices.size())
+        m_settings.setMicrophone(
+            m_sound.choices[index - 1].identifier, m_sound.choices[index - 1].name);
+}
+
+float VoiceActivityEngine::thresholdLevel() const
+{
+    return Loudness::levelTarget(Loudness::speechThreshold(m_settings.voiceSensitivity()));
 }
 
 void VoiceActivityEngine::choosePath()
@@ -219,6 +372,7 @@ void VoiceActivityEngine::watchdogTick()
     if (!m_isListening)
         return;
     noticeSilence();
+    onMicrophonesChanged(); // Where the system does not say when, it is seen here.
     const std::optional<HoldReason> reason = holdReason();
     if (m_aecActive && reason) {
         AppLog::write(
@@ -325,6 +479,7 @@ void VoiceActivityEngine::applyPendingReports()
 void VoiceActivityEngine::apply(const BlockReport& report)
 {
     publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
+    m_sensitivityTest.hear(report.rootMeanSquare);
     if (m_isSpeaking == report.isSpeaking)
         return;
     publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);
