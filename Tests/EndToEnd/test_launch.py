@@ -260,6 +260,8 @@ class RenderersTest(LaunchTest):
         app = App(self.desktop, "--autostart",
                   environment={"ORVELLO_RENDERER": "opengl", "QT_XCB_GL_INTEGRATION": "none"})
         app.wait_for_log("starting again with software")
+        wait_until(lambda: len([line for line in self.messages() if line.startswith("PANEL_UP")]) == 2,
+                   what="the second process's panel")
 
         app.shown()
 

@@ -179,7 +179,7 @@ class PrompterTest(unittest.TestCase):
         picture = self.desktop.screenshot()
 
         lit = 0
-        for row in range(height - 30):  # The badge lies below.
+        for row in range(1, height - 30):  # Between the hair line at the edge and the badge.
             middle = (row + 0.5) / height
             visibility = max(0.0, min(middle / 0.1, (1 - middle) / 0.18, 1.0))
             value = picture.pixel(x + 200, y + row)[1]
