@@ -96,7 +96,9 @@ def frames_shown(desktop):
 
 def measure_smoothness(renderer, size=(720, 200), scale=1, seconds=SMOOTH_SECONDS):
     width, height = size
-    with Desktop(max(1440, width * scale), max(900, height * scale)) as desktop:
+    # With room for the pointer below the panel, on which it would hold the text.
+    with Desktop(max(1440, width * scale), max(900, (height + 50) * scale)) as desktop:
+        desktop.run("xdotool", "mousemove", "10", str(desktop.height - 10))
         write_script(desktop, 1_000)
         App.set_defaults(desktop, countdownSeconds=0, onboardingSeenVersion=1, slideSync=False, **{
             "NSWindow Frame PrompterPanel": f"0 0 {width} {height} 0 0 {desktop.width} {desktop.height}"})
