@@ -55,8 +55,8 @@ QSGTexture& FadingLinesNode::textureOf(const Picture& picture)
 {
     std::unique_ptr<QSGTexture>& texture = m_textures[picture.id];
     if (!texture)
-        texture.reset(m_window.createTextureFromImage(
-            picture.pixels, QQuickWindow::TextureHasAlphaChannel));
+        texture.reset(
+            m_window.createTextureFromImage(picture.pixels, QQuickWindow::TextureHasAlphaChannel));
     return *texture;
 }
 

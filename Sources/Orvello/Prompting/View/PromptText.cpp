@@ -126,8 +126,8 @@ void PromptText::frameWasShown()
     m_isFollowing = m_scroll->isMoving();
     if (!m_isFollowing)
         return;
-    const auto next = std::ranges::find_if(
-        m_shown, [](const ShownLine& shown) { return !shown.image; });
+    const auto next
+        = std::ranges::find_if(m_shown, [](const ShownLine& shown) { return !shown.image; });
     if (next != m_shown.end())
         draw(*next);
     // Where showing a frame waits for the display, it is time for the next one. Where it does not,
@@ -201,8 +201,7 @@ bool PromptText::isInSight(const ShownLine& shown) const
 
 QSGNode* PromptText::updatePaintNode(QSGNode* root, UpdatePaintNodeData* /*data*/)
 {
-    auto* const node
-        = root ? static_cast<FadingLinesNode*>(root) : new FadingLinesNode(*window());
+    auto* const node = root ? static_cast<FadingLinesNode*>(root) : new FadingLinesNode(*window());
     std::vector<FadingLinesNode::Picture> pictures;
     for (const ShownLine& shown : m_shown) {
         if (shown.image && !shown.image->pixels.isNull())

@@ -23,7 +23,7 @@ SettingsSection {
     }
     SettingsNote {
         //: The words in quotation marks are those of the card. %1: presentation programs.
-        text: root.facts.asksBeforeControl
+        text: root.facts.hasPrivacySettings
               ? qsTr("If sync shows \"No access\": System Settings → Privacy & Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.").arg(root.facts.presentersInFull)
               //: The words in quotation marks are those of the card; Scripts and Allow are names in the program.
               : qsTr("If sync shows \"No access\": LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.")

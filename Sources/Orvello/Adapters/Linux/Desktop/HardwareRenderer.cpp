@@ -25,7 +25,8 @@ bool canBeUsed(const QString& device)
     return ::access(QFile::encodeName(device).constData(), R_OK | W_OK) == 0;
 }
 
-/// The kernel has a node for each graphics processor that can draw; NVIDIA's own driver has another.
+/// The kernel has a node for each graphics processor that can draw; NVIDIA's own driver has
+/// another.
 bool hasDevice()
 {
     if (canBeUsed(u"/dev/nvidiactl"_s))

@@ -33,6 +33,7 @@ public:
             .canHideWindows = true,
             .hasMenuBar = true,
             .isMac = true,
+            .hasQuickTime = true,
             .asksBeforeControl = true,
             .hasPrivacySettings = true,
             .installsUpdates = true,
