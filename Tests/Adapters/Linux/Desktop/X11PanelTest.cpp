@@ -431,6 +431,17 @@ TEST_F(X11PanelTest, savesWhereADragEndsAndNothingBefore)
     EXPECT_EQ(defaults.writes, 1);
 }
 
+TEST_F(X11PanelTest, savesTheFrameThatItIsGivenLater)
+{
+    panel.saveFrameAs(u"PrompterPanel"_s);
+
+    panel.setFrame({ 280, 6, 720, 200 });
+    settle();
+
+    EXPECT_EQ(saved(), QRectF(280, 6, 720, 200));
+    EXPECT_EQ(defaults.writes, 1);
+}
+
 TEST_F(X11PanelTest, takesTheSavedPlaceUnderTheTopOfAnotherScreen)
 {
     defaults.stored.insert(savedKey, u"600 1234 720 200 0 0 1920 1440"_s);

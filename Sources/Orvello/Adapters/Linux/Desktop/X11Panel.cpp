@@ -121,6 +121,7 @@ void X11Panel::setFrame(const QRectF& frame)
     m_screens = QtScreens().frames();
     m_home = PanelFrame::homeAt(frame, m_screens);
     moveTo(frame);
+    saveHome();
 }
 
 void X11Panel::moveTo(const QRectF& frame)
@@ -156,9 +157,9 @@ void X11Panel::saveFrameAs(const QString& name)
     if (!home)
         return;
     home->frame = PanelFrame::withSizeBetween(home->frame, minimumSize, maximumSize);
-    setFrame(PanelFrame::placeOf(*home, screens));
-    if (!home->screen.isEmpty())
-        m_home = *home;
+    m_screens = screens;
+    moveTo(PanelFrame::placeOf(*home, screens));
+    m_home = home->screen.isEmpty() ? PanelFrame::homeAt(m_settledFrame, screens) : *home;
 }
 
 void X11Panel::show()
@@ -281,6 +282,11 @@ void X11Panel::noteFrame()
         return;
     m_settledFrame = frame();
     m_home = PanelFrame::homeAt(m_settledFrame, m_screens);
+    saveHome();
+}
+
+void X11Panel::saveHome()
+{
     if (!m_autosaveKey.isEmpty())
         m_defaults.setValue(m_autosaveKey, PanelFrame::text(m_home, m_screens));
 }

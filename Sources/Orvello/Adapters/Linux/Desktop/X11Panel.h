@@ -69,6 +69,7 @@ private:
     void moveTo(const QRectF& frame);
     void announceSize();
     void noteFrame();
+    void saveHome();
 
     QWindow& m_window;
     UserDefaults& m_defaults;
