@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar u ocultar el prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Poner bajo la cámara</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>

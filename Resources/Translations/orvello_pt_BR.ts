@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar ou ocultar o prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Colocar sob a câmera</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>

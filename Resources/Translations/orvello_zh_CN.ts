@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>显示或隐藏提词器</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>移到摄像头下方</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>

@@ -223,6 +223,7 @@ void AppDelegate::makeWindows()
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
         AppCommands::Delegate {
             .togglePanel = [this] { togglePanel(); },
+            .putUnderCamera = [this] { putUnderCamera(); },
             .isPanelVisible = [this] { return m_panel->isVisible(); },
             .showOnboarding = [this] { showOnboarding(); },
         });
@@ -248,6 +249,12 @@ void AppDelegate::togglePanel()
         m_panelController->panel().hide();
     else
         showPanel();
+}
+
+void AppDelegate::putUnderCamera()
+{
+    m_panelController->putUnderCamera();
+    showPanel();
 }
 
 void AppDelegate::showOnboarding()

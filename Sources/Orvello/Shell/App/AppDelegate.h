@@ -77,6 +77,9 @@ public:
     /// Shows the prompter panel if it is hidden, hides it if it is shown.
     void togglePanel();
 
+    /// Moves the panel to the top of the screen that the pointer is on, and shows it.
+    void putUnderCamera();
+
 private:
     void addPresenters();
     void makePanel();

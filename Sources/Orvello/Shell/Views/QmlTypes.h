@@ -9,6 +9,7 @@
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
+#include "Orvello/Prompting/View/RoundedBox.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -42,6 +43,12 @@ struct AssignedKeysType {
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct RoundedBoxType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::RoundedBox)
+    QML_NAMED_ELEMENT(RoundedBox)
 };
 
 struct CardStyleType {

@@ -103,8 +103,8 @@ void CocoaPanel::saveFrameAs(const QString& name)
     });
     // The screen that the frame was saved on may be gone; AppKit looks after titled windows only.
     const QRectF saved = frame();
-    const QRectF wanted = PanelFrame::onScreen(
-        PanelFrame::withSizeBetween(saved, minimumSize, maximumSize), m_screens.frames());
+    const QRectF wanted = PanelFrame::placeOf(
+        { PanelFrame::withSizeBetween(saved, minimumSize, maximumSize), {} }, m_screens.frames());
     if (wanted != saved)
         setFrame(wanted);
 }
