@@ -209,7 +209,7 @@ void AppDelegate::makePanel()
             .time = m_platforms.early.time(),
             .screens = m_platforms.desktop.screens(),
             .folders = m_platforms.early.folders() },
-        m_options.noStealth);
+        m_options.noStealth, m_platforms.captureExclusion);
 }
 
 void AppDelegate::makeWindows()

@@ -50,6 +50,7 @@ public:
         EarlyPlatform& early;
         DesktopPlatform& desktop;
         SoundPlatform& sound;
+        CaptureExclusion captureExclusion; ///< Found in this process, where nobody gives another.
     };
 
     AppDelegate(
