@@ -50,7 +50,8 @@ public:
         EarlyPlatform& early;
         DesktopPlatform& desktop;
         SoundPlatform& sound;
-        CaptureExclusion captureExclusion; ///< Found in this process, where nobody gives another.
+        /// Found in this process, where nobody gives another.
+        CaptureExclusion captureExclusion {};
     };
 
     AppDelegate(
