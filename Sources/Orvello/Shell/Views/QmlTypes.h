@@ -9,6 +9,7 @@
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
+#include "Orvello/Prompting/View/RoundedBox.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -16,6 +17,7 @@
 #include "Orvello/Settings/Window/SettingsForm.h"
 #include "Orvello/Shell/Commands/ShortcutList.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Voice/SensitivityTest.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QtQml/qqml.h>
@@ -41,6 +43,12 @@ struct AssignedKeysType {
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct RoundedBoxType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::RoundedBox)
+    QML_NAMED_ELEMENT(RoundedBox)
 };
 
 struct CardStyleType {
@@ -103,6 +111,13 @@ struct UpdateControllerType {
     QML_FOREIGN(Orvello::UpdateController)
     QML_NAMED_ELEMENT(UpdateController)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct SensitivityTestType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SensitivityTest)
+    QML_NAMED_ELEMENT(SensitivityTest)
+    QML_UNCREATABLE("The voice engine has one.")
 };
 
 struct VoiceActivityEngineType {

@@ -68,8 +68,8 @@ void CocoaPanel::observePanel()
                       .screensChanged = [this] { bringOntoScreen(); },
                       .placed =
                           [this](NSRect frame) {
-                              return cgRect(flippedVertically(PanelFrame::onScreen(
-                                  flippedVertically(qRect(frame)), m_screens.frames())));
+                              return cgRect(flippedVertically(PanelFrame::placeOf(
+                                  { flippedVertically(qRect(frame)), {} }, m_screens.frames())));
                           },
                   }];
 }
@@ -95,8 +95,8 @@ void CocoaPanel::saveFrameAs(const QString& name)
 void CocoaPanel::bringOntoScreen()
 {
     const QRectF now = frame();
-    const QRectF wanted = PanelFrame::onScreen(
-        PanelFrame::withSizeBetween(now, minimumSize, maximumSize), m_screens.frames());
+    const QRectF wanted = PanelFrame::placeOf(
+        { PanelFrame::withSizeBetween(now, minimumSize, maximumSize), {} }, m_screens.frames());
     if (wanted != now)
         setFrame(wanted);
 }
