@@ -208,7 +208,6 @@ class VoiceFaultsTest(unittest.TestCase):
     def test_two_hundred_streams_that_record(self):
         crowd = Recorders(self.sound, "microphone", 200)
         self.probe.wait_for("VAD listening (raw mic, no AEC — another app is using the microphone)", 10)
-        wait_until(self.is_speaking, FOLLOWS_WITHIN, "following in the crowd")
         crowd.stop()
         self.probe.wait_for("VAD: environment clear — re-engaging AEC", 15)
         self.assert_recovers()
