@@ -757,7 +757,7 @@ TEST_F(AppDelegateTest, armsUnderANewIdEachTime)
     ASSERT_EQ(platform.hotKeysFake.registrations.size(), 7u);
     EXPECT_EQ(platform.hotKeysFake.registrations[5].id.id, 6u);
     EXPECT_EQ(platform.hotKeysFake.registrations[6].id.id, 7u);
-    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (Testing::FakeHotKeys::Key { 35, 0 }));
+    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (HotKey { 35, 0 }));
 }
 
 TEST_F(AppDelegateTest, armsAtOnceForASlideshowThatRunsAtTheLaunch)

@@ -39,7 +39,7 @@ protected:
         window.reset();
         services.emplace(scripts);
         window.emplace(services->ofWindow());
-        window->makeKeyAndOrderFront();
+        window->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
         settle();
     }
@@ -125,7 +125,7 @@ TEST_F(LibraryWindowTest, isHiddenWhenClosedAndComesBackAsItWas)
     view().close();
     EXPECT_FALSE(view().isVisible());
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_EQ(view().size(), QSize(800, 500));
@@ -470,7 +470,7 @@ TEST_F(LibraryWindowTest, staysMaximizedWhenItIsBroughtToTheFront)
     view().showMaximized();
     settle();
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().windowStates().testFlag(Qt::WindowMaximized));
 }
@@ -480,7 +480,7 @@ TEST_F(LibraryWindowTest, comesBackWhenItWasMinimized)
     view().showMinimized();
     settle();
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_FALSE(view().windowStates().testFlag(Qt::WindowMinimized));

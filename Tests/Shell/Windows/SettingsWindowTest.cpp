@@ -117,7 +117,7 @@ protected:
 TEST_F(SettingsWindowTest, isAFixedWindowOfItsOwn)
 {
     view().hide();
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_EQ(view().title(), u"Orvello Settings"_s);
     EXPECT_EQ(view().minimumSize(), view().maximumSize());
@@ -132,7 +132,7 @@ TEST_F(SettingsWindowTest, isHiddenByClosingAndComesBack)
     view().close();
     EXPECT_FALSE(view().isVisible());
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_NE(controlNamed(view(), u"Font size — 44"_s), nullptr);

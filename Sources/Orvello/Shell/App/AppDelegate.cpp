@@ -254,7 +254,7 @@ void AppDelegate::showOnboarding()
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
     m_platforms.desktop.desktopServices().activateApplication();
-    m_onboarding->makeKeyAndOrderFront();
+    m_onboarding->bringToFront();
 }
 
 void AppDelegate::onboardingFinished()
@@ -279,8 +279,9 @@ void AppDelegate::registerHotKeys()
 {
     for (const Command& command : Commands::all()) {
         if (command.key)
-            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
-                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
+            m_hotKeys.registerHotKey(
+                *command.key, [this, run = command.run] { (m_commands.get()->*run)(); },
+                Commands::purpose(command));
     }
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/Card.h"

@@ -29,6 +29,6 @@ LibraryWindow::LibraryWindow(const Services& services)
 
 LibraryWindow::~LibraryWindow() = default;
 
-void LibraryWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view); }
+void LibraryWindow::bringToFront() { WindowPlacement::bringToFront(m_view); }
 
 } // namespace Orvello

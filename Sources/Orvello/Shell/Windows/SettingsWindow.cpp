@@ -34,6 +34,6 @@ SettingsWindow::SettingsWindow(const Services& services)
         });
 }
 
-void SettingsWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+void SettingsWindow::bringToFront() { WindowPlacement::bringToFront(m_view, contentSize); }
 
 } // namespace Orvello
