@@ -380,6 +380,19 @@ TEST_F(AppDelegateTest, importsTheDecksOfTheCommandLine)
     EXPECT_EQ(library().activeScript()->title, u"talk");
 }
 
+TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.pptx"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
+    construct({ path }, { { path, { { 1, u"Intro"_s, u"Hello all"_s } } } });
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(library().activeScript()->title, u"talk");
+    EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
+}
+
 TEST_F(AppDelegateTest, opensTheWindowsOfTheCommandLine)
 {
     platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/LibraryFile.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 
 #include <QObject>
@@ -53,6 +53,10 @@ public:
     /// it, the file name does. On failure the library stays as it was.
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
+
+    /// The same for the notes of a file that has been read already.
+    QUuid addPptx(const QString& path, const QList<SlideNote>& slides,
+        const std::optional<QString>& source = {});
 
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
