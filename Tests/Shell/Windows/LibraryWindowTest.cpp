@@ -117,6 +117,24 @@ TEST_F(LibraryWindowTest, comesUpInTheMiddleOfTheScreen)
     EXPECT_LE((view().geometry().center() - middle).manhattanLength(), 2);
 }
 
+TEST_F(LibraryWindowTest, beginsWithTheListWhereReadingBegins)
+{
+    const auto places = [this] {
+        return std::pair(Testing::placeInWindow(*named(u"Scripts"_s)).center().x(),
+            Testing::placeInWindow(*named(u"Script text"_s)).center().x());
+    };
+    const auto [list, text] = places();
+    EXPECT_LT(list, text);
+
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    SetUp();
+    const auto [mirroredList, mirroredText] = places();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+    EXPECT_DOUBLE_EQ(mirroredList, view().width() - list);
+    EXPECT_LT(mirroredText, mirroredList);
+}
+
 TEST_F(LibraryWindowTest, isHiddenWhenClosedAndComesBackAsItWas)
 {
     view().resize(800, 500);

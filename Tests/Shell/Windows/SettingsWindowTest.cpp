@@ -503,6 +503,26 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
     EXPECT_TRUE(showsText(view(), warning));
 }
 
+TEST_F(SettingsWindowTest, namesTheSystemsSettingsWhereTheyGrantPermissions)
+{
+    Facts facts = factsOfALinuxDesktop();
+    const auto mentions = [&](const QString& words) {
+        open(facts);
+        return std::ranges::any_of(
+            visibleTexts(view()), [&](const QString& text) { return text.contains(words); });
+    };
+    facts.asksBeforeControl = true;
+    facts.isMac = true;
+    facts.canHideWindows = true;
+    EXPECT_FALSE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_FALSE(mentions(u"QuickTime"_s));
+
+    facts.hasPrivacySettings = true;
+    facts.hasQuickTime = true;
+    EXPECT_TRUE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_TRUE(mentions(u"QuickTime"_s));
+}
+
 TEST_F(SettingsWindowTest, saysNothingOfAMacOnALinuxDesktop)
 {
     keys.modifiersLabel = u"Alt+Super+"_s;
