@@ -448,8 +448,8 @@ So nehmen Sie das später zurück: %1</translation>
         <translation>Unbekannte Option %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>Der Einstellung %1 fehlt der Wert</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 ist weder eine Option noch eine Einstellung mit Wert</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

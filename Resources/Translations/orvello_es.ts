@@ -448,8 +448,8 @@ Para deshacerlo más tarde: %1</translation>
         <translation>opción desconocida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>al ajuste %1 le falta su valor</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 no es una opción ni un ajuste con su valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

@@ -448,8 +448,8 @@ Pour revenir en arrière plus tard : %1</translation>
         <translation>option inconnue %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>il manque une valeur au réglage %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 n’est ni une option ni un réglage suivi de sa valeur</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

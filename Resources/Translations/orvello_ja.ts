@@ -448,8 +448,8 @@ To take this back later: %1</source>
         <translation>不明なオプション%1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>設定%1に値がありません</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1は、オプションでも、値の付いた設定でもありません</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

@@ -448,8 +448,8 @@ Para desfazer mais tarde: %1</translation>
         <translation>opção desconhecida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>falta o valor do ajuste %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 não é uma opção nem um ajuste com valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

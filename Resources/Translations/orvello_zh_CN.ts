@@ -448,8 +448,8 @@ To take this back later: %1</source>
         <translation>未知选项 %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>偏好设置 %1 缺少值</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 既不是选项，也不是带值的偏好设置</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>

@@ -58,7 +58,7 @@ private:
             if (m_count)
                 --*m_count;
         }
-        void makeKeyAndOrderFront() override { note(m_state.journal, m_name + " window in front"); }
+        void bringToFront() override { note(m_state.journal, m_name + " window in front"); }
 
     private:
         State& m_state;

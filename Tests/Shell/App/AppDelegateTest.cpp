@@ -381,6 +381,19 @@ TEST_F(AppDelegateTest, importsTheDecksOfTheCommandLine)
     EXPECT_EQ(library().activeScript()->title, u"talk");
 }
 
+TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.pptx"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
+    construct({ path }, { { path, { { 1, u"Intro"_s, u"Hello all"_s } } } });
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(library().activeScript()->title, u"talk");
+    EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
+}
+
 TEST_F(AppDelegateTest, opensTheWindowsOfTheCommandLine)
 {
     platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
@@ -769,7 +782,7 @@ TEST_F(AppDelegateTest, armsUnderANewIdEachTime)
     ASSERT_EQ(platform.hotKeysFake.registrations.size(), 7u);
     EXPECT_EQ(platform.hotKeysFake.registrations[5].id.id, 6u);
     EXPECT_EQ(platform.hotKeysFake.registrations[6].id.id, 7u);
-    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (Testing::FakeHotKeys::Key { 35, 0 }));
+    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (HotKey { 35, 0 }));
 }
 
 TEST_F(AppDelegateTest, armsAtOnceForASlideshowThatRunsAtTheLaunch)

@@ -133,8 +133,8 @@ void LibraryStore::remove(QUuid id)
         const qsizetype row = script - m_scripts.cbegin();
         m_scripts.removeAt(row);
         publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
-        script = std::ranges::find_if(
-            std::as_const(m_scripts), hasID); // A file may hold the id twice.
+        // A file may hold the id twice.
+        script = std::ranges::find_if(std::as_const(m_scripts), hasID);
     }
 
     if (isAnotherActive)
@@ -195,11 +195,16 @@ Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
     const auto slides = PptxImporter::importNotes(path);
     if (!slides)
         return Failure { slides.error() };
+    return addPptx(path, *slides, source);
+}
 
+QUuid LibraryStore::addPptx(
+    const QString& path, const QList<SlideNote>& slides, const std::optional<QString>& source)
+{
     const QString fileName = QFileInfo(path).fileName();
-    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides->size(), fileName);
+    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides.size(), fileName);
 
-    return addDeck(withoutExtension(fileName), *slides, source.value_or(fileName));
+    return addDeck(withoutExtension(fileName), slides, source.value_or(fileName));
 }
 
 QUuid LibraryStore::addDeck(

@@ -54,6 +54,10 @@ public:
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
+    /// The same for the notes of a file that has been read already.
+    QUuid addPptx(const QString& path, const QList<SlideNote>& slides,
+        const std::optional<QString>& source = {});
+
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 

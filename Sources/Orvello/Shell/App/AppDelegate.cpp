@@ -31,11 +31,12 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-AppDelegate::AppDelegate(
-    const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
+AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+    LaunchOptions options, ReadDecks decks)
     : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
+    , m_readDecks(std::move(decks))
     , m_settings(platforms.early.userDefaults())
     , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
           platforms.early.facts())
@@ -262,7 +263,7 @@ void AppDelegate::showOnboarding()
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
     m_platforms.desktop.desktopServices().activateApplication();
-    m_onboarding->makeKeyAndOrderFront();
+    m_onboarding->bringToFront();
 }
 
 void AppDelegate::onboardingFinished()
@@ -287,8 +288,9 @@ void AppDelegate::registerHotKeys()
 {
     for (const Command& command : Commands::all()) {
         if (command.key)
-            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
-                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
+            m_hotKeys.registerHotKey(
+                *command.key, [this, run = command.run] { (m_commands.get()->*run)(); },
+                Commands::purpose(command));
     }
 }
 
@@ -336,8 +338,13 @@ void AppDelegate::importDecks()
 {
     if (!m_options.importedPath.isEmpty())
         importDeck(m_options.importedPath);
-    for (const QString& file : m_options.files)
-        importDeck(file);
+    for (const QString& file : m_options.files) {
+        if (const auto deck = m_readDecks.find(file); deck != m_readDecks.end())
+            m_library.addPptx(file, deck->second);
+        else
+            importDeck(file);
+    }
+    m_readDecks.clear();
 }
 
 /// Returns why it could not be imported, in words for the user.

@@ -23,6 +23,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -54,8 +55,12 @@ public:
         CaptureExclusion captureExclusion {};
     };
 
-    AppDelegate(
-        const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options);
+    /// What is in decks, by their paths.
+    using ReadDecks = std::map<QString, QList<SlideNote>>;
+
+    /// `decks` are those among the options' files that have been read already.
+    AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+        LaunchOptions options, ReadDecks decks = {});
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -108,6 +113,7 @@ private:
     const Platforms m_platforms;
     const ShellWindows::Factory m_makeWindows;
     const LaunchOptions m_options;
+    ReadDecks m_readDecks; ///< Until they are imported.
     SettingsStore m_settings;
     LibraryStore m_library;
     AppleScriptRunner m_scriptRunner;

@@ -28,7 +28,7 @@ public:
     virtual ~ShellWindow() = default;
 
     /// Shows the window, in front of all others and with the keyboard. Centred the first time.
-    virtual void makeKeyAndOrderFront() = 0;
+    virtual void bringToFront() = 0;
 };
 
 /// Makes the windows that menus and the launch open, so that the code that decides when they open

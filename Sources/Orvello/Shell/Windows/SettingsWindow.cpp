@@ -21,7 +21,6 @@ SettingsWindow::SettingsWindow(const Services& services)
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
     m_view.resize(contentSize);
-    followSystemPalette(m_view);
     ViewWindow::load(m_view, u"SettingsView"_s,
         {
             { u"settings"_s, QVariant::fromValue(&services.settings) },
@@ -32,8 +31,9 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
         });
+    followSystemPalette(m_view);
 }
 
-void SettingsWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+void SettingsWindow::bringToFront() { WindowPlacement::bringToFront(m_view, contentSize); }
 
 } // namespace Orvello
