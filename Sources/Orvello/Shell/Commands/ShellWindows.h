@@ -9,6 +9,7 @@ namespace Orvello {
 
 class AppleScriptRunner;
 class HotKeys;
+class ImpressPresenter;
 class LibraryStore;
 class Menu;
 class OpenPanel;
@@ -49,6 +50,7 @@ public:
         StatusBar& statusBar;
         HotKeys& hotKeys;
         Facts facts; ///< What the windows may say about this machine.
+        ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

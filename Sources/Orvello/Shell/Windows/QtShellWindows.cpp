@@ -25,8 +25,9 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
-    return std::make_unique<SettingsWindow>(SettingsWindow::Services { m_services.settings,
-        m_services.voice, m_services.updates, m_services.hotKeys, m_services.facts });
+    return std::make_unique<SettingsWindow>(
+        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
+            m_services.hotKeys, m_services.facts, m_services.impress });
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
