@@ -137,6 +137,7 @@ private:
 
 int main(int argc, char** argv)
 {
+    std::ios::sync_with_stdio(false); // A stream with a buffer of its own says what is left in it.
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 3)

@@ -209,6 +209,7 @@ class SlideshowTest(unittest.TestCase):
         App.set_defaults(self.desktop, impressAllowed=False)
         self.start()
         slideshow = self.office.open(self.deck)
+        self.forget_news()
         slideshow.start()
         self.app.wait_for_log("SYNC denied (Automation permission for Impress)", 10)
         self.assert_chip(RED)
@@ -255,11 +256,13 @@ class SlideshowTest(unittest.TestCase):
 
         # The editor over the whole screen, and a window of LibreOffice that is none of a module's in front of it.
         self.desktop.run("xdotool", "windowactivate", editor)
-        self.desktop.run("xdotool", "key", "ctrl+shift+j")
+        slideshow.dispatch(".uno:FullScreen")
         wait_until(lambda: self.desktop.frame(int(editor))[2:] == (self.desktop.width, self.desktop.height), 10,
                    "the editor to fill the screen")
-        self.desktop.run("xdotool", "key", "F1")
-        time.sleep(3.0)
+        slideshow.dispatch(".uno:SearchDialog")
+        wait_until(lambda: "libreoffice-impress" not in self.desktop.run(
+            "xprop", "-id", self.desktop.run("xdotool", "getactivewindow").strip(), "WM_CLASS"), 15, "the dialog")
+        time.sleep(2.5)
         self.assertEqual(App.log_text(self.desktop).count("PRESENTING=1"), 1)
         self.assertEqual(self.app.quit(), 0)
 
