@@ -386,7 +386,10 @@ TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"talk.pptx"_s);
     ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
-    construct({ path }, { { path, { { 1, u"Intro"_s, u"Hello all"_s } } } });
+    construct({ path },
+        { { path,
+            PptxImporter::Deck {
+                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {} } } });
 
     delegate->applicationDidFinishLaunching();
 
