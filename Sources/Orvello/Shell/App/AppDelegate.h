@@ -38,6 +38,7 @@ class PrompterWindow;
 class RightClickFilter;
 class SoundPlatform;
 class StatusItem;
+class Wakefulness;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -93,6 +94,7 @@ private:
     void registerHotKeys();
     void startUpdates();
     void subscribe();
+    void keepAwake(Wakefulness& wakefulness);
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);

@@ -157,7 +157,14 @@ typedef void NSUncaughtExceptionHandler(NSException* exception);
 - (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 @end
 
+typedef NS_OPTIONS(unsigned long long, NSActivityOptions) {
+    NSActivityIdleDisplaySleepDisabled = 1ULL << 40,
+    NSActivityUserInitiated = 0x00FFFFFFULL,
+    NSActivityUserInitiatedAllowingIdleSystemSleep = 0x00EFFFFFULL,
+};
 @interface NSProcessInfo : NSObject
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
+- (void)endActivity:(id<NSObject>)activity;
 @property (class, readonly, strong) NSProcessInfo* processInfo;
 @property (copy) NSString* processName;
 @property (readonly, copy) NSString* operatingSystemVersionString;

@@ -4,6 +4,7 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaStatusBar.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaWakefulness.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
@@ -33,6 +34,8 @@ public:
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
 
+    Wakefulness* wakefulness() override { return &m_wakefulness; }
+
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
 
@@ -54,6 +57,7 @@ private:
     CarbonHotKeys m_hotKeys;
     std::unique_ptr<Updater> m_updater;
     CocoaWindowChrome m_windowChrome;
+    CocoaWakefulness m_wakefulness;
 };
 
 } // namespace
