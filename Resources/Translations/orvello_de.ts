@@ -853,11 +853,6 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Die Echounterdrückung ist nicht verfügbar.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>„%1“ wird gehört. %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Wie im System</translation>
@@ -866,6 +861,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>„%1“ wird gehört.</translation>
     </message>
 </context>
 <context>
@@ -1441,6 +1441,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Microphone</source>
         <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Echounterdrückung: nicht verfügbar. Über Lautsprecher können laute Gegenstellen den Prompter anstoßen – mit Kopfhörern nicht.</translation>
     </message>
 </context>
 </TS>

@@ -853,11 +853,6 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>La cancelación de eco no está disponible.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>Se escucha «%1». %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>El del sistema</translation>
@@ -866,6 +861,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (no conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Se escucha «%1».</translation>
     </message>
 </context>
 <context>
@@ -1441,6 +1441,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Microphone</source>
         <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelación de eco: no disponible. Con altavoces, un interlocutor ruidoso puede mover el prompter; con auriculares no.</translation>
     </message>
 </context>
 </TS>

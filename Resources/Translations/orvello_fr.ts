@@ -853,11 +853,6 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>L’annulation de l’écho n’est pas disponible.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>À l’écoute de « %1 ». %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Celui du système</translation>
@@ -866,6 +861,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (non connecté)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>À l’écoute de « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1441,6 +1441,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Microphone</source>
         <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Annulation de l’écho : indisponible. Sur haut-parleurs, un interlocuteur bruyant peut faire avancer le prompteur ; un casque l’évite.</translation>
     </message>
 </context>
 </TS>

@@ -851,11 +851,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>エコーキャンセルは利用できません。</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>「%1」を聞いています。%2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>システムの設定どおり</translation>
@@ -864,6 +859,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1（未接続）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>「%1」を聞いています。</translation>
     </message>
 </context>
 <context>
@@ -1439,6 +1439,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Microphone</source>
         <translation>マイク</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>エコーキャンセル：利用できません。スピーカーでは相手の大きな声でプロンプターが動くことがありますが、ヘッドフォンなら動きません。</translation>
     </message>
 </context>
 </TS>

@@ -853,11 +853,6 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>O cancelamento de eco não está disponível.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>Ouvindo “%1”. %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Padrão do sistema</translation>
@@ -866,6 +861,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (não conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Ouvindo “%1”.</translation>
     </message>
 </context>
 <context>
@@ -1441,6 +1441,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Microphone</source>
         <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelamento de eco: não disponível. Com alto-falantes, uma voz alta do outro lado pode mover o prompter; com fones, não.</translation>
     </message>
 </context>
 </TS>

@@ -851,11 +851,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>回声消除不可用。</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>正在聆听“%1”。%2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>系统默认</translation>
@@ -864,6 +859,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1（未连接）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>正在聆听“%1”。</translation>
     </message>
 </context>
 <context>
@@ -1439,6 +1439,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Microphone</source>
         <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>回声消除：不可用。使用扬声器时，对方的大声可能会推动提词器——戴耳机可以避免。</translation>
     </message>
 </context>
 </TS>
