@@ -62,9 +62,7 @@ __attribute__((objc_root_class))
 @end
 
 @interface NSObject (NSDelayedPerforming)
-- (void)performSelector:(SEL)aSelector
-             withObject:(nullable id)anArgument
-             afterDelay:(double)delay;
+- (void)performSelector:(SEL)aSelector withObject:(nullable id)anArgument afterDelay:(double)delay;
 @end
 
 typedef NSUInteger NSKeyValueObservingOptions;
@@ -199,11 +197,15 @@ typedef NSString* NSNotificationName;
                         usingBlock:(void (^)(NSNotification* notification))block;
 @end
 
-typedef unsigned int FourCharCode;
 typedef FourCharCode AEEventClass;
 typedef FourCharCode AEEventID;
-@class NSAppleEventDescriptor;
+typedef FourCharCode AEKeyword;
+@interface NSAppleEventDescriptor : NSObject
+@property (readonly) OSType typeCodeValue;
+- (nullable NSAppleEventDescriptor*)attributeDescriptorForKeyword:(AEKeyword)keyword;
+@end
 @interface NSAppleEventManager : NSObject
+@property (nullable, readonly, retain) NSAppleEventDescriptor* currentAppleEvent;
 + (NSAppleEventManager*)sharedAppleEventManager;
 - (void)setEventHandler:(id)handler
             andSelector:(SEL)handleEventSelector

@@ -7,6 +7,7 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaWakefulness.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
+#include "Orvello/Adapters/macOS/Desktop/LogOut.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
 #include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
 #include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
@@ -65,6 +66,7 @@ private:
 QString DesktopPlatform::prepare()
 {
     makeApplicationObject();
+    agreeToLogOut();
     return {};
 }
 
