@@ -683,6 +683,31 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
 }
 
+TEST_F(AppDelegateTest, keepsTimersOnTimeWhilePresentingAndTheDisplayOnWhileScrolling)
+{
+    using Need = Wakefulness::Need;
+    std::vector<Need>& held = platform.wakefulnessFake.held;
+    launchAndSettle();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::None));
+
+    presentKeynote();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+
+    engine().toggle();
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Display));
+
+    engine().toggle();
+    endSlideshow();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers, Need::None));
+
+    settings().setVoiceFollow(true);
+    Testing::drainEvents();
+    platform.manualTime.advance(1.0);
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+}
+
 TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)
 {
     Testing::WindowServerStandIn::state() = {};
