@@ -142,11 +142,11 @@ class Slideshow:
     def __init__(self, document, context):
         self.document, self.context = document, context
 
-    def dispatch(self, command):
+    def dispatch(self, command, *arguments):
         """What a menu line of the editor does."""
         self.context.ServiceManager.createInstanceWithContext(
             "com.sun.star.frame.DispatchHelper", self.context).executeDispatch(
-                self.document.getCurrentController().getFrame(), command, "", 0, ())
+                self.document.getCurrentController().getFrame(), command, "", 0, arguments)
 
     def start(self):
         self.document.getPresentation().start()

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/LibraryFile.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 
 #include <QObject>

@@ -25,7 +25,7 @@ SettingsSection {
                : qsTr("With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide's speaker notes and flips automatically as you advance in %1. Turn Slide Tracking off to scroll the whole deck as one normal script instead.")).arg(root.facts.presenters)
     }
     SettingsNote {
-        visible: root.facts.asksBeforeControl
+        visible: root.facts.hasPrivacySettings
         //: The words in quotation marks are those of the card. %1: presentation programs.
         text: qsTr("If sync shows \"No access\": System Settings → Privacy & Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.").arg(root.facts.presentersInFull)
     }

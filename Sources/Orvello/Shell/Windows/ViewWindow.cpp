@@ -1,5 +1,7 @@
 #include "Orvello/Shell/Windows/ViewWindow.h"
 
+#include "Orvello/Shell/Windows/Renderer.h"
+
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -10,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 void load(QQuickView& window, const QString& view, const QVariantMap& properties)
 {
+    Renderer::watch(window);
     window.engine()->addImportPath(u"qrc:/qt/qml"_s);
     window.setResizeMode(QQuickView::SizeRootObjectToView);
     window.setInitialProperties(properties);
