@@ -15,6 +15,7 @@
 #include "Tests/Support/FakeNativePanel.h"
 #include "Tests/Support/FakeOpenPanel.h"
 #include "Tests/Support/FakeProcessSignals.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeScreens.h"
 #include "Tests/Support/FakeSystemLog.h"
@@ -91,6 +92,7 @@ public:
     MicrophonePermission& microphonePermission() override { return permission; }
     VoiceProcessing& voiceProcessing() override { return voiceProcessingFake; }
     RawMicrophone& rawMicrophone() override { return rawMicrophoneFake; }
+    Microphones& microphones() override { return microphonesFake; }
     AudioProcesses& audioProcesses() override { return audioProcessesFake; }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& window) override
@@ -127,6 +129,7 @@ public:
     Journal soundJournal;
     FakeVoiceProcessing voiceProcessingFake { soundJournal };
     FakeRawMicrophone rawMicrophoneFake { soundJournal };
+    FakeMicrophones microphonesFake;
     FakeAudioProcesses audioProcessesFake;
     FakeNativePanel* panel = nullptr; ///< The one that was made last.
     QWindow* panelView = nullptr; ///< Its content.

@@ -45,7 +45,8 @@ AppDelegate::AppDelegate(
     , m_voice(m_settings,
           VoiceActivityEngine::Ports { platforms.early.time(),
               platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
-              platforms.sound.rawMicrophone(), m_micActivity, platforms.desktop.workspace() })
+              platforms.sound.rawMicrophone(), m_micActivity, platforms.sound.microphones(),
+              platforms.desktop.workspace() })
     , m_presentation({ m_presenters, platforms.desktop.workspace(),
           platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
     , m_slideSync(m_presentation, m_presenters, platforms.early.time())
@@ -208,7 +209,7 @@ void AppDelegate::makePanel()
             .time = m_platforms.early.time(),
             .screens = m_platforms.desktop.screens(),
             .folders = m_platforms.early.folders() },
-        m_options.noStealth);
+        m_options.noStealth, m_platforms.captureExclusion);
 }
 
 void AppDelegate::makeWindows()

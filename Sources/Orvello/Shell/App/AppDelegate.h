@@ -50,6 +50,8 @@ public:
         EarlyPlatform& early;
         DesktopPlatform& desktop;
         SoundPlatform& sound;
+        /// Found in this process, where nobody gives another.
+        CaptureExclusion captureExclusion {};
     };
 
     AppDelegate(

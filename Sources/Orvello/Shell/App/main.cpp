@@ -1,5 +1,6 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
+#include "Orvello/Diagnostics/LossyOutput.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
@@ -115,8 +116,6 @@ void guardSession(RunningInstance& instance)
 {
     runningInstance = &instance;
     static_cast<void>(std::atexit(endSessionAtExit));
-    // The log goes to standard error too, and whoever read that may be gone before the program is.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
 }
 
 /// Set for a process that replaced one whose renderer could not start, to that renderer's name.
@@ -174,6 +173,9 @@ void listen(RunningInstance& instance, AppDelegate& delegate)
 
 int main(int argc, char** argv)
 {
+    LossyOutput::fillStandardStreams();
+    // Whoever reads standard error, where the log goes too, may be gone before the program is.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     const QStringList arguments = argumentsWithoutProgram(argc, argv);
     const ProgramStart start = LaunchOptions::thisStart(arguments);
     LaunchOptions options = LaunchOptions::of(start);

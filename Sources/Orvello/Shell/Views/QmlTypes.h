@@ -17,6 +17,7 @@
 #include "Orvello/Settings/Window/SettingsForm.h"
 #include "Orvello/Shell/Commands/ShortcutList.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Voice/SensitivityTest.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QtQml/qqml.h>
@@ -110,6 +111,13 @@ struct UpdateControllerType {
     QML_FOREIGN(Orvello::UpdateController)
     QML_NAMED_ELEMENT(UpdateController)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct SensitivityTestType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SensitivityTest)
+    QML_NAMED_ELEMENT(SensitivityTest)
+    QML_UNCREATABLE("The voice engine has one.")
 };
 
 struct VoiceActivityEngineType {
