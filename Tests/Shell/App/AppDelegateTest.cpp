@@ -868,8 +868,8 @@ TEST_F(AppDelegateTest, opensEachWindowOnceAndThenBringsItToTheFront)
 {
     launchAndSettle();
     platform.journal.clear();
-    constexpr std::size_t scripts = 10;
-    constexpr std::size_t settingsLine = 11;
+    constexpr std::size_t scripts = 9;
+    constexpr std::size_t settingsLine = 10;
 
     choose(scripts);
     choose(scripts);
@@ -901,16 +901,16 @@ TEST_F(AppDelegateTest, runsTheOtherLinesOfTheMenu)
     EXPECT_FALSE(settings().stealthMode());
     choose(7);
     EXPECT_FALSE(platform.panel->isVisible());
-    choose(12);
+    choose(11);
     EXPECT_EQ(windows.openOnboardings, 1);
-    choose(13);
+    choose(12);
     EXPECT_EQ(platform.updaterFake.checks, 1);
 }
 
 TEST_F(AppDelegateTest, helpsWithALetterAndTheLog)
 {
     launchAndSettle();
-    const auto& help = *windows.statusMenu->items().at(13)->submenu;
+    const auto& help = *windows.statusMenu->items().at(12)->submenu;
 
     help.items().at(0)->action();
     help.items().at(1)->action();
