@@ -340,7 +340,8 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 {
     qint64 seen = -1;
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
+        OnboardingWindowController::Services {
+            settings, workspace, chrome, keys, voice.voice, facts },
         [&] { seen = settings.onboardingSeenVersion(); });
     controller->makeKeyAndOrderFront();
 
@@ -353,7 +354,9 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
 {
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts }, [this] {
+        OnboardingWindowController::Services {
+            settings, workspace, chrome, keys, voice.voice, facts },
+        [this] {
             ++finishes;
             controller.reset();
         });
