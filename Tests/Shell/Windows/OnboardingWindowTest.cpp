@@ -34,7 +34,7 @@ protected:
             OnboardingWindowController::Services {
                 settings, workspace, chrome, keys, voice.voice, facts },
             [this] { ++finishes; });
-        controller->makeKeyAndOrderFront();
+        controller->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
     }
 
@@ -343,7 +343,7 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
         OnboardingWindowController::Services {
             settings, workspace, chrome, keys, voice.voice, facts },
         [&] { seen = settings.onboardingSeenVersion(); });
-    controller->makeKeyAndOrderFront();
+    controller->bringToFront();
 
     controller->tour().skip();
     drainEvents();
@@ -360,7 +360,7 @@ TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
             ++finishes;
             controller.reset();
         });
-    controller->makeKeyAndOrderFront();
+    controller->bringToFront();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
 
     pressButton(u"Skip tour"_s);

@@ -21,8 +21,10 @@ namespace Orvello {
 /// The pictures of the visible lines in the scene graph, dissolving toward the edges of the card
 /// that they move over. It is made of images and opacity alone, which every renderer of Qt Quick
 /// draws: for each band of the card in which the text is equally visible an opacity, and under it
-/// the part of each picture that is in the band. Render thread.
-class FadingLinesNode final : public QSGNode {
+/// the part of each picture that is in the band. It is a transform, although it changes nothing: to
+/// nodes that come later, Qt's software renderer knows the place of a parent of this kind, and
+/// takes any other for the scene's origin. Render thread.
+class FadingLinesNode final : public QSGTransformNode {
 public:
     struct Picture {
         quint64 id = 0; ///< The same for the same pixels, and never used again.

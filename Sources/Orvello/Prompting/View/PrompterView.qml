@@ -29,10 +29,11 @@ Item {
         id: hover
     }
 
-    Rectangle {
+    RoundedBox {
         anchors.fill: parent
         radius: CardStyle.cornerRadius
         color: Qt.rgba(0, 0, 0, root.settings.backgroundOpacity)
+        lineColor: CardStyle.hairLine
     }
 
     PromptText {

@@ -3,12 +3,14 @@
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Platform/Early/Facts.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
+#include "Orvello/Prompting/View/RoundedBox.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -42,6 +44,12 @@ struct AssignedKeysType {
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct RoundedBoxType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::RoundedBox)
+    QML_NAMED_ELEMENT(RoundedBox)
 };
 
 struct CardStyleType {
@@ -96,6 +104,13 @@ struct SettingsFormType {
     Q_GADGET
     QML_FOREIGN(Orvello::SettingsForm)
     QML_NAMED_ELEMENT(SettingsForm)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ImpressPresenterType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ImpressPresenter)
+    QML_NAMED_ELEMENT(ImpressPresenter)
     QML_UNCREATABLE("The program makes it.")
 };
 

@@ -55,7 +55,7 @@ OnboardingWindowController::OnboardingWindowController(
     m_view.installEventFilter(this);
 }
 
-void OnboardingWindowController::makeKeyAndOrderFront()
+void OnboardingWindowController::bringToFront()
 {
     WindowPlacement::bringToFront(m_view, contentSize);
 }

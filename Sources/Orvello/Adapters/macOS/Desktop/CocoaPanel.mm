@@ -10,7 +10,7 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QPointer>
+#include <QQuickWindow>
 #include <QWindow>
 
 namespace Orvello {
@@ -36,13 +36,12 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
 {
     embedView();
     observePanel();
+    renewShadow();
 }
 
 CocoaPanel::~CocoaPanel()
 {
-    for (id<NSObject> observer in m_observers)
-        [NSNotificationCenter.defaultCenter removeObserver:observer];
-    m_panel.onScroll = nil;
+    [m_panel tell:PanelEvents {}];
     [m_panel orderOut:nil];
     [m_pointerTracker stop];
     m_view.removeEventFilter(this);
@@ -63,28 +62,18 @@ void CocoaPanel::embedView()
 
 void CocoaPanel::observePanel()
 {
-    const QPointer<CocoaPanel> self(this);
-    m_panel.onScroll = ^(CGFloat delta) {
-        if (self)
-            Q_EMIT self->scrolled(delta);
-    };
-    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
-    m_observers = @[
-        [center addObserverForName:NSWindowDidResizeNotification
-                            object:m_panel
-                             queue:nil
-                        usingBlock:^(NSNotification*) {
-                            if (self)
-                                Q_EMIT self->resized();
-                        }],
-        [center addObserverForName:NSWindowDidEndLiveResizeNotification
-                            object:m_panel
-                             queue:nil
-                        usingBlock:^(NSNotification*) {
-                            if (self)
-                                Q_EMIT self->resizeEnded();
-                        }],
-    ];
+    // None of them comes after the destructor, which takes them back.
+    [m_panel tell:PanelEvents {
+                      .scrolled = [this](CGFloat delta) { Q_EMIT scrolled(delta); },
+                      .resized = [this] { Q_EMIT resized(); },
+                      .resizeEnded = [this] { Q_EMIT resizeEnded(); },
+                      .screensChanged = [this] { bringOntoScreen(); },
+                      .placed =
+                          [this](NSRect frame) {
+                              return cgRect(flippedVertically(PanelFrame::placeOf(
+                                  { flippedVertically(qRect(frame)), {} }, m_screens.frames())));
+                          },
+                  }];
 }
 
 QRectF CocoaPanel::frame() const { return flippedVertically(qRect(m_panel.frame)); }
@@ -101,11 +90,33 @@ void CocoaPanel::saveFrameAs(const QString& name)
         [m_panel setFrameUsingName:autosaveName force:YES];
         [m_panel setFrameAutosaveName:autosaveName];
     });
-    // The screen that the frame was saved on may be gone; AppKit looks after titled windows only.
-    const QRectF saved = frame();
-    const QRectF wanted = PanelFrame::onScreen(
-        PanelFrame::withSizeBetween(saved, minimumSize, maximumSize), m_screens.frames());
-    if (wanted != saved)
+    bringOntoScreen(); // The screen that the frame was saved on may be gone.
+}
+
+/// The shadow has the shape of the card and of the letters on it, of which an old one would shine
+/// through. Not for each frame: the window server would do little else while the text moves.
+void CocoaPanel::renewShadow()
+{
+    constexpr int milliseconds = 250;
+    m_shadowDue.setSingleShot(true);
+    m_shadowDue.setInterval(milliseconds);
+    connect(&m_shadowDue, &QTimer::timeout, this,
+        [this] { shielded([&] { [m_panel invalidateShadow]; }); });
+    if (const auto* const view = qobject_cast<QQuickWindow*>(&m_view)) {
+        connect(view, &QQuickWindow::frameSwapped, this, [this] {
+            if (!m_shadowDue.isActive())
+                m_shadowDue.start();
+        });
+    }
+}
+
+/// AppKit looks after titled windows only.
+void CocoaPanel::bringOntoScreen()
+{
+    const QRectF now = frame();
+    const QRectF wanted = PanelFrame::placeOf(
+        { PanelFrame::withSizeBetween(now, minimumSize, maximumSize), {} }, m_screens.frames());
+    if (wanted != now)
         setFrame(wanted);
 }
 

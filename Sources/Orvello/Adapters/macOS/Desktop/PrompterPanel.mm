@@ -32,6 +32,8 @@ constexpr NSWindowLevel screenSaverLevel = 1000;
     self.backgroundColor = NSColor.clearColor;
     self.opaque = NO;
     self.hasShadow = YES;
+    self.canHide = NO; // "Hide Others" of the program that presents means this one, too.
+    self.worksWhenModal = YES; // While the panel of files is open.
     self.minSize = minimumSize;
     self.maxSize = maximumSize;
     // A plain view, so that Qt's own view is a subview of it: were Qt's view the content view, Qt
@@ -50,19 +52,53 @@ constexpr NSWindowLevel screenSaverLevel = 1000;
     return NO;
 }
 
-/// The panel belongs under the camera, where the menu bar is; AppKit may not push it down.
+- (void)tell:(const PanelEvents&)events
+{
+    _events = events;
+    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
+    [center removeObserver:self];
+    if (!_events.resized)
+        return;
+    const auto observe = [&](SEL method, NSNotificationName name, id object) {
+        [center addObserver:self selector:method name:name object:object];
+    };
+    observe(@selector(panelDidResize:), NSWindowDidResizeNotification, self);
+    observe(@selector(panelDidEndResize:), NSWindowDidEndLiveResizeNotification, self);
+    observe(@selector(screensDidChange:), NSApplicationDidChangeScreenParametersNotification, nil);
+}
+
+- (void)panelDidResize:(NSNotification*)notification
+{
+    (void)notification;
+    _events.resized();
+}
+
+- (void)panelDidEndResize:(NSNotification*)notification
+{
+    (void)notification;
+    _events.resizeEnded();
+}
+
+- (void)screensDidChange:(NSNotification*)notification
+{
+    (void)notification;
+    _events.screensChanged();
+}
+
+/// The panel belongs under the camera, where the menu bar is, and AppKit would push it down. But
+/// this is also how AppKit brings windows back that nobody could reach.
 - (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(NSScreen*)screen
 {
     (void)screen;
-    return frameRect;
+    return _events.placed ? _events.placed(frameRect) : frameRect;
 }
 
 - (void)sendEvent:(NSEvent*)event
 {
     if (event.type != NSEventTypeScrollWheel)
         [super sendEvent:event];
-    else if (self.onScroll)
-        self.onScroll(event.scrollingDeltaY);
+    else if (_events.scrolled)
+        _events.scrolled(event.scrollingDeltaY);
 }
 
 @end
