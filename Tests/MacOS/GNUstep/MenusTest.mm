@@ -418,7 +418,7 @@ protected:
 
     NSMenu* native() { return cocoaMenu.nativeMenu; }
 
-    /// As AppKit does right before it opens the menu.
+    /// Does what AppKit does right before it opens the menu.
     void open() { [native().delegate menuNeedsUpdate:native()]; }
 
     ChangingMenu menu;
