@@ -453,8 +453,8 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <translation>Unbekannte Option %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>Der Einstellung %1 fehlt der Wert</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 ist weder eine Option noch eine Einstellung mit Wert</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -862,11 +862,6 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Die Echounterdrückung ist nicht verfügbar.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>„%1“ wird gehört. %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Wie im System</translation>
@@ -875,6 +870,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>„%1“ wird gehört.</translation>
     </message>
 </context>
 <context>
@@ -1299,6 +1299,25 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Die Empfindlichkeit für meine Stimme finden</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Mikrofonpegel</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfen</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1469,6 +1488,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Microphone</source>
         <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Echounterdrückung: nicht verfügbar. Über Lautsprecher können laute Gegenstellen den Prompter anstoßen – mit Kopfhörern nicht.</translation>
     </message>
 </context>
 </TS>

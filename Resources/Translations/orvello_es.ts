@@ -453,8 +453,8 @@ En los ajustes hay un botón que lo revoca.</translation>
         <translation>opción desconocida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>al ajuste %1 le falta su valor</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 no es una opción ni un ajuste con su valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -862,11 +862,6 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>La cancelación de eco no está disponible.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>Se escucha «%1». %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>El del sistema</translation>
@@ -875,6 +870,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (no conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Se escucha «%1».</translation>
     </message>
 </context>
 <context>
@@ -1299,6 +1299,25 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Buscar la sensibilidad para mi voz</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Nivel del micrófono</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1469,6 +1488,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Microphone</source>
         <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelación de eco: no disponible. Con altavoces, un interlocutor ruidoso puede mover el prompter; con auriculares no.</translation>
     </message>
 </context>
 </TS>

@@ -453,8 +453,8 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <translation>option inconnue %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>il manque une valeur au réglage %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 n’est ni une option ni un réglage suivi de sa valeur</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -862,11 +862,6 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>L’annulation de l’écho n’est pas disponible.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>À l’écoute de « %1 ». %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Celui du système</translation>
@@ -875,6 +870,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (non connecté)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>À l’écoute de « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1299,6 +1299,25 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Trouver la sensibilité pour ma voix</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Niveau du micro</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Adopter</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1469,6 +1488,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Microphone</source>
         <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Annulation de l’écho : indisponible. Sur haut-parleurs, un interlocuteur bruyant peut faire avancer le prompteur ; un casque l’évite.</translation>
     </message>
 </context>
 </TS>

@@ -453,8 +453,8 @@ The settings have a button that takes this back.</source>
         <translation>不明なオプション%1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>設定%1に値がありません</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1は、オプションでも、値の付いた設定でもありません</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -860,11 +860,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>エコーキャンセルは利用できません。</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>「%1」を聞いています。%2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>システムの設定どおり</translation>
@@ -873,6 +868,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1（未接続）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>「%1」を聞いています。</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1297,25 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>自分の声に合う感度を調べる</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>マイクのレベル</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>テスト</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1467,6 +1486,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Microphone</source>
         <translation>マイク</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>エコーキャンセル：利用できません。スピーカーでは相手の大きな声でプロンプターが動くことがありますが、ヘッドフォンなら動きません。</translation>
     </message>
 </context>
 </TS>

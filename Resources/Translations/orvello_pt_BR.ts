@@ -453,8 +453,8 @@ Nas configurações há um botão que desfaz isso.</translation>
         <translation>opção desconhecida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>falta o valor do ajuste %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 não é uma opção nem um ajuste com valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -862,11 +862,6 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>O cancelamento de eco não está disponível.</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>Ouvindo “%1”. %2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>Padrão do sistema</translation>
@@ -875,6 +870,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1 (não conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Ouvindo “%1”.</translation>
     </message>
 </context>
 <context>
@@ -1299,6 +1299,25 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Encontrar a sensibilidade para a minha voz</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Nível do microfone</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1469,6 +1488,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Microphone</source>
         <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelamento de eco: não disponível. Com alto-falantes, uma voz alta do outro lado pode mover o prompter; com fones, não.</translation>
     </message>
 </context>
 </TS>

@@ -453,8 +453,8 @@ The settings have a button that takes this back.</source>
         <translation>未知选项 %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>偏好设置 %1 缺少值</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 既不是选项，也不是带值的偏好设置</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -860,11 +860,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>回声消除不可用。</translation>
     </message>
     <message>
-        <source>Listening to “%1”. %2</source>
-        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
-        <translation>正在聆听“%1”。%2</translation>
-    </message>
-    <message>
         <source>System default</source>
         <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
         <translation>系统默认</translation>
@@ -873,6 +868,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 (not connected)</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>%1（未连接）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>正在聆听“%1”。</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1297,25 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>为我的声音找到灵敏度</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>
@@ -1467,6 +1486,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Microphone</source>
         <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>回声消除：不可用。使用扬声器时，对方的大声可能会推动提词器——戴耳机可以避免。</translation>
     </message>
 </context>
 </TS>

@@ -42,7 +42,7 @@ class VoiceCaptureTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         with SoundServer() as sound:
-            cls.far_end = speech(FAR_END, sound.scratch, level=0.1)
+            cls.far_end = speech(FAR_END, sound.scratch, level=0.1)[:15 * RATE]
             cls.near_end = speech(NEAR_END, sound.scratch, voice="en-us+f3", level=0.1)
             cls.sentence = cls.near_end[:2 * RATE]
 
@@ -150,9 +150,10 @@ class VoiceCaptureTest(unittest.TestCase):
         """A meeting program plays where its own settings say; music goes on where the desktop's say."""
         modules = SoundServer.MODULES + ["module-null-sink sink_name=other rate=48000 channels=2"]
         sound = self.sound(modules=modules, default_sink="other")
+        # A null sink that nobody hears plays in steps of two seconds, and its echo would come before it.
+        Listener(sound, "speakers.monitor")
         probe = self.listening(sound)
-        for _ in range(2):
-            begin, end = self.play_echo(sound, self.echo())
+        begin, end = self.play_echo(sound, self.echo())
         share = probe.share_of_speaking(begin, end)
         print(f"open through echo of another sink than the default: {share:.1%}", flush=True)
         self.assertLessEqual(share, 0.05)
@@ -501,7 +502,7 @@ class VoiceCaptureTest(unittest.TestCase):
         return number
 
     def test_sources_of_every_format_are_heard(self):
-        for rate, channels, form in ((8000, 1, "s16le"), (192000, 2, "s16le"), (44100, 2, "u8"), (96000, 6, "float32le")):
+        for rate, channels, form in ((8000, 1, "u8"), (192000, 6, "float32le")):
             with self.subTest(f"{rate} Hz, {channels} channels, {form}"):
                 air = f"module-null-sink sink_name=air rate={rate} channels={channels} format={form}"
                 microphone = "module-remap-source master=air.monitor source_name=microphone"  # In the air's own format.

@@ -70,7 +70,7 @@ TEST_F(LaunchOptionsTest, findsFaultWithAnUnknownOptionAndSuggestsTheNearest)
 TEST_F(LaunchOptionsTest, findsFaultWithAPreferenceWithoutAValue)
 {
     EXPECT_THAT(of({ u"-fontSize"_s, u"--voice"_s }).mistakes,
-        ElementsAre(u"the preference -fontSize lacks its value"_s));
+        ElementsAre(u"-fontSize is neither an option nor a preference with a value"_s));
 }
 
 TEST_F(LaunchOptionsTest, takesPairsForPreferences)

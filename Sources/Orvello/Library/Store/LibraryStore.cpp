@@ -133,8 +133,8 @@ void LibraryStore::remove(QUuid id)
         const qsizetype row = script - m_scripts.cbegin();
         m_scripts.removeAt(row);
         publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
-        script = std::ranges::find_if(
-            std::as_const(m_scripts), hasID); // A file may hold the id twice.
+        // A file may hold the id twice.
+        script = std::ranges::find_if(std::as_const(m_scripts), hasID);
     }
 
     if (isAnotherActive)

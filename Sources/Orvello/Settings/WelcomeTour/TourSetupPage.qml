@@ -9,6 +9,7 @@ TourPage {
     required property string headingFamily
     required property ShortcutList shortcuts
     required property facts facts
+    required property VoiceActivityEngine voice
 
     number: 2
     columnWidth: 600
@@ -90,5 +91,9 @@ TourPage {
                                             : qsTr("… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.")
             }
         }
+    }
+    TourVoiceTest {
+        Layout.fillWidth: true
+        voice: root.voice
     }
 }

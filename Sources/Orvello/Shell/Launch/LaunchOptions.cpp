@@ -97,7 +97,7 @@ void LaunchOptions::takeOption(const QString& option)
     else if (option.startsWith(u"--"_s))
         mistakes.append(tr("unknown option %1").arg(option));
     else
-        mistakes.append(tr("the preference %1 lacks its value").arg(option));
+        mistakes.append(tr("%1 is neither an option nor a preference with a value").arg(option));
 }
 
 /// A file that exists is a file, even if its name looks like an address.

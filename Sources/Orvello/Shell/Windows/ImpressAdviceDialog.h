@@ -17,8 +17,8 @@ class ImpressAdviceDialog final : public QObject {
     Q_OBJECT
 
 public:
-    explicit ImpressAdviceDialog(
-        ImpressPresenter& impress, QObject* parent = nullptr); ///< `impress` must outlive it.
+    /// `impress` must outlive it.
+    explicit ImpressAdviceDialog(ImpressPresenter& impress, QObject* parent = nullptr);
     ~ImpressAdviceDialog() override;
 
     /// What the user agrees to: what is opened, for whom and until when.

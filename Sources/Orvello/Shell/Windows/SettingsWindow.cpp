@@ -23,7 +23,6 @@ SettingsWindow::SettingsWindow(const Services& services)
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
     m_view.resize(contentSize);
-    followSystemPalette(m_view);
     ViewWindow::load(m_view, u"SettingsView"_s,
         {
             { u"settings"_s, QVariant::fromValue(&services.settings) },
@@ -36,8 +35,9 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"impress"_s, QVariant::fromValue(services.impress) },
             { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
+    followSystemPalette(m_view);
 }
 
-void SettingsWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+void SettingsWindow::bringToFront() { WindowPlacement::bringToFront(m_view, contentSize); }
 
 } // namespace Orvello

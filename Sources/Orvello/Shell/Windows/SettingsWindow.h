@@ -20,8 +20,8 @@ class SettingsWindow final : public ShellWindow {
     Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
 
 public:
-    static constexpr QSize contentSize { 500,
-        780 }; ///< In points, where the screen has room for it.
+    /// In points, where the screen has room for it.
+    static constexpr QSize contentSize { 500, 780 };
 
     /// All of them must outlive the window.
     struct Services {
@@ -35,7 +35,7 @@ public:
 
     explicit SettingsWindow(const Services& services);
 
-    void makeKeyAndOrderFront() override;
+    void bringToFront() override;
 
     QQuickView& view() { return m_view; }
 

@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QQuickWindow>
 #include <QWindow>
 
 namespace Orvello {
@@ -35,6 +36,7 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
 {
     embedView();
     observePanel();
+    renewShadow();
 }
 
 CocoaPanel::~CocoaPanel()
@@ -89,6 +91,23 @@ void CocoaPanel::saveFrameAs(const QString& name)
         [m_panel setFrameAutosaveName:autosaveName];
     });
     bringOntoScreen(); // The screen that the frame was saved on may be gone.
+}
+
+/// The shadow has the shape of the card and of the letters on it, of which an old one would shine
+/// through. Not for each frame: the window server would do little else while the text moves.
+void CocoaPanel::renewShadow()
+{
+    constexpr int milliseconds = 250;
+    m_shadowDue.setSingleShot(true);
+    m_shadowDue.setInterval(milliseconds);
+    connect(&m_shadowDue, &QTimer::timeout, this,
+        [this] { shielded([&] { [m_panel invalidateShadow]; }); });
+    if (const auto* const view = qobject_cast<QQuickWindow*>(&m_view)) {
+        connect(view, &QQuickWindow::frameSwapped, this, [this] {
+            if (!m_shadowDue.isActive())
+                m_shadowDue.start();
+        });
+    }
 }
 
 /// AppKit looks after titled windows only.

@@ -4,7 +4,7 @@
 #include "Orvello/Adapters/macOS/Early/CocoaFolders.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
-#include "Orvello/Adapters/macOS/Early/LaunchServicesInstance.h"
+#include "Orvello/Adapters/macOS/Early/MacInstance.h"
 #include "Orvello/Adapters/macOS/Early/UnifiedLog.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 
@@ -60,7 +60,8 @@ private:
     CocoaUserDefaults m_userDefaults;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
-    LaunchServicesInstance m_runningInstance;
+    MacInstance m_runningInstance { m_folders.applicationSupport()
+        + QStringLiteral("/Orvello/logs") };
 };
 
 } // namespace
