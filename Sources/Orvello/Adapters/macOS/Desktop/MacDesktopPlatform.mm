@@ -1,19 +1,77 @@
 #include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaDesktop.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaMenuBar.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaOpenPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaStatusBar.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
 #include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
 #include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
+#include "Orvello/Platform/Desktop/DesktopServices.h"
+#include "Orvello/Platform/Desktop/Screens.h"
+#include "Orvello/Platform/Desktop/StatusBar.h"
 
 namespace Orvello {
 
 namespace {
+
+/// The screens in AppKit's own coordinates, which are those of its windows. The first one is the
+/// screen that the user works on: the one with the key window, not always the one with the origin.
+class CocoaScreens final : public Screens {
+public:
+    QList<QRectF> frames() const override
+    {
+        NSScreen* const main = NSScreen.mainScreen;
+        QList<QRectF> frames;
+        if (main)
+            frames.append(flippedVertically(qRect(main.frame)));
+        for (NSScreen* screen in NSScreen.screens) {
+            if (![screen isEqual:main])
+                frames.append(flippedVertically(qRect(screen.frame)));
+        }
+        return frames;
+    }
+};
+
+class CocoaDesktop final : public DesktopServices {
+public:
+    void activateApplication() override
+    {
+        // Since macOS 14 a request only, which the system grants after a click in our own menu.
+        shielded([] { [NSApp activateIgnoringOtherApps:YES]; });
+    }
+    bool open(const QUrl& url) override
+    {
+        bool isOpened = false;
+        shielded([&] {
+            NSURL* const address =
+                [NSURL URLWithString:nsString(QString::fromLatin1(url.toEncoded()))];
+            isOpened = address && [NSWorkspace.sharedWorkspace openURL:address];
+        });
+        return isOpened;
+    }
+    void reveal(const QString& path) override
+    {
+        shielded([&] {
+            NSURL* const file = [NSURL fileURLWithPath:nsString(path)];
+            [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ file ]];
+        });
+    }
+};
+
+/// The right side of the system's menu bar, which is never missing.
+class CocoaStatusBar final : public StatusBar {
+public:
+    MenuBar* menuBar() override { return &m_menuBar; }
+    void observe(std::function<void(bool isThere)> changed) override { changed(true); }
+
+private:
+    CocoaMenuBar m_menuBar;
+};
 
 class MacDesktopPlatform final : public DesktopPlatform {
 public:
