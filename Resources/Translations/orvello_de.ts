@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Prompter zeigen oder verbergen</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Unter die Kamera setzen</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -599,6 +604,22 @@ So nehmen Sie das später zurück: %1</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Für Ihre Stimme passt hier eine Empfindlichkeit von %1 %.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Keine Stimme hob sich vom Raum ab. Gehen Sie näher ans Mikrofon, oder wählen Sie ein anderes.</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -791,6 +812,60 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 ist geöffnet</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>Das Mikrofon darf nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>Das Tonsystem antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Es ist kein Mikrofon angeschlossen.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Es ist kein Mikrofon angeschlossen. Schließen Sie eines an, dann schalten Sie „Der Stimme folgen“ aus und ein.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Das Mikrofon „%1“ ist stummgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>Die Echounterdrückung ist an.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>Die Echounterdrückung ist pausiert: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>Die Echounterdrückung ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>„%1“ wird gehört. %2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Wie im System</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (nicht angeschlossen)</translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1421,26 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>Der Ton wird nur auf dem Gerät und nur auf Lautstärke ausgewertet. Nichts wird aufgenommen, erkannt oder hochgeladen.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Die Empfindlichkeit für meine Stimme finden</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
     </message>
 </context>
 </TS>

@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar u ocultar el prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Poner bajo la cámara</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -599,6 +604,22 @@ Para deshacerlo más tarde: %1</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Para tu voz, aquí conviene una sensibilidad del %1 %.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Ninguna voz destacó sobre el ruido de la sala. Acércate al micrófono o elige otro.</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -791,6 +812,60 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 está abierto</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>No está permitido usar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>El sistema de sonido no responde.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>No hay ningún micrófono conectado.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>No hay ningún micrófono conectado. Conecta uno y después desactiva y activa el seguimiento de la voz.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>El micrófono «%1» está silenciado.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>La cancelación de eco está activada.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>La cancelación de eco está en pausa: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>La cancelación de eco no está disponible.</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>Se escucha «%1». %2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>El del sistema</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (no conectado)</translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1421,26 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>El audio se analiza en el dispositivo y solo por su volumen. Nada se graba, se reconoce ni se envía.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Buscar la sensibilidad para mi voz</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
     </message>
 </context>
 </TS>

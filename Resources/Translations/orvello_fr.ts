@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Afficher ou masquer le prompteur</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Placer sous la caméra</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -599,6 +604,22 @@ Pour revenir en arrière plus tard : %1</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Pour votre voix, une sensibilité de %1 % convient ici.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Aucune voix ne s’est détachée du bruit de la pièce. Rapprochez-vous du microphone ou choisissez-en un autre.</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -791,6 +812,60 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 est ouvert</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>L’utilisation du microphone n’est pas autorisée.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>Le système audio ne répond pas.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Aucun microphone n’est connecté.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Aucun microphone n’est connecté. Connectez-en un, puis désactivez et réactivez le suivi de la voix.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Le microphone « %1 » est coupé.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>L’annulation de l’écho est active.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>L’annulation de l’écho est suspendue : %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>L’annulation de l’écho n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>À l’écoute de « %1 ». %2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Celui du système</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (non connecté)</translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1421,26 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>Le son est analysé sur l’appareil, pour son volume seulement. Rien n’est enregistré, reconnu ni envoyé.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Trouver la sensibilité pour ma voix</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Adopter</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
     </message>
 </context>
 </TS>

@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>プロンプターを表示または隠す</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>カメラの下に置く</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -597,6 +602,22 @@ To take this back later: %1</source>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>ここでのあなたの声には、感度 %1% が合っています。</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>部屋の音より大きな声は聞こえませんでした。マイクに近づくか、別のマイクを選んでください。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -789,6 +810,60 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1が起動中</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>マイクの使用が許可されていません。</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>サウンドシステムが応答しません。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>マイクが接続されていません。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>マイクが接続されていません。接続してから、「音声に追従」をいったんオフにしてオンに戻してください。</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>マイク「%1」はミュートされています。</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>エコーキャンセルはオンです。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>エコーキャンセルは停止中：%1。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>エコーキャンセルは利用できません。</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>「%1」を聞いています。%2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>システムの設定どおり</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1（未接続）</translation>
     </message>
 </context>
 <context>
@@ -1344,6 +1419,26 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>音声は機器の中で音量だけを調べます。録音も認識も送信もされません。</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>自分の声に合う感度を調べる</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>テスト</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
     </message>
 </context>
 </TS>

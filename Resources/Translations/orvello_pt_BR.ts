@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar ou ocultar o prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Colocar sob a câmera</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -599,6 +604,22 @@ Para desfazer mais tarde: %1</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Fale normalmente por cinco segundos.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Para a sua voz, uma sensibilidade de %1% é adequada aqui.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Nenhuma voz se destacou do ambiente. Aproxime-se do microfone ou escolha outro.</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -791,6 +812,60 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 está aberto</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>O uso do microfone não é permitido.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>O sistema de som não responde.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Nenhum microfone está conectado.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Nenhum microfone está conectado. Conecte um, depois desative e ative “Seguir a voz”.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>O microfone “%1” está sem som.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>O cancelamento de eco está ativo.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>O cancelamento de eco está pausado: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>O cancelamento de eco não está disponível.</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>Ouvindo “%1”. %2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Padrão do sistema</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (não conectado)</translation>
     </message>
 </context>
 <context>
@@ -1346,6 +1421,26 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>O áudio é analisado no aparelho, só pelo volume. Nada é gravado, reconhecido nem enviado.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Encontrar a sensibilidade para a minha voz</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Fale normalmente por cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfone</translation>
     </message>
 </context>
 </TS>

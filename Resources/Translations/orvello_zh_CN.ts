@@ -247,6 +247,11 @@
         <source>Show or hide the prompter</source>
         <translation>显示或隐藏提词器</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>移到摄像头下方</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -597,6 +602,22 @@ To take this back later: %1</source>
     </message>
 </context>
 <context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>%1% 的灵敏度适合你在这里的声音。</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>没有听到明显高于环境的声音。请靠近麦克风，或选择另一个。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::SettingsForm</name>
     <message>
         <source>%1%</source>
@@ -789,6 +810,60 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>%1 is open</source>
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 正在运行</translation>
+    </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>不允许使用麦克风。</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>声音系统没有响应。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>没有连接麦克风。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>没有连接麦克风。请连接一个，然后关闭再打开语音跟随。</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>麦克风“%1”已静音。</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>回声消除已开启。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>回声消除已暂停：%1。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>回声消除不可用。</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”. %2</source>
+        <extracomment>%1: the name of a microphone. %2: a sentence about echo cancellation.</extracomment>
+        <translation>正在聆听“%1”。%2</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>系统默认</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1（未连接）</translation>
     </message>
 </context>
 <context>
@@ -1344,6 +1419,26 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>声音只在设备上按响度分析。不会录制、识别或上传。</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>为我的声音找到灵敏度</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>麦克风</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@ from bus import FileManager, Opener, SessionBus, TrayHost
 from desktop import App, Desktop, wait_until
 
 TITLES = ["Start Scrolling  (Alt+Super+P)", "Back to Top", "-", "Voice-Follow Scrolling", "Slide Tracking", "Stealth Mode",
-          "Hide Prompter  (Alt+Super+H)", "-", "Scripts…", "Settings…", "Welcome Tour…", "Check for Updates…", "Help", "-",
+          "Hide Prompter  (Alt+Super+H)", "Put Under the Camera", "-", "Scripts…", "Settings…", "Welcome Tour…", "Check for Updates…", "Help", "-",
           "Quit Orvello"]
 
 
@@ -88,6 +88,17 @@ class BusMenuTest(unittest.TestCase):
         self.wait_for_title("Show Prompter  (Alt+Super+H)")
         self.item.choose("Show Prompter  (Alt+Super+H)")
         wait_until(self.app.is_window_visible, what="the prompter to come back")
+
+    def test_the_prompter_is_put_back_under_the_camera_and_stays_there(self):
+        self.start()
+        self.desktop.run("xdotool", "mousemove", "400", "100", "mousedown", "1", "mousemove", "300", "400",
+                         "mousemove", "200", "500", "mouseup", "1")
+        wait_until(lambda: self.app.geometry()[:2] == (160, 406), what="the end of the drag")
+
+        self.item.choose("Put Under the Camera")
+        wait_until(lambda: self.app.geometry() == (360, 6, 720, 200), what="the prompter to go back")
+        self.app.quit()
+        self.assertEqual(App.defaults(self.desktop)["NSWindow Frame PrompterPanel"], "360 694 720 200 0 0 1440 900")
 
     def test_each_window_opens_once_and_comes_to_the_front_with_the_keyboard(self):
         self.start()

@@ -11,6 +11,7 @@
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/FakeUserDefaults.h"
@@ -82,6 +83,7 @@ public:
     Testing::FakeMicrophonePermission permission;
     Testing::FakeVoiceProcessing voiceProcessing { journal };
     Testing::FakeRawMicrophone microphone { journal };
+    Testing::FakeMicrophones microphones;
     Testing::FakeMicActivity micActivity;
     Testing::FakeWorkspace workspace;
     Testing::FakeUserDefaults defaults;
@@ -89,7 +91,8 @@ public:
     Testing::FakeHotKeys keys;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
-        { time, permission, voiceProcessing, microphone, micActivity, workspace } };
+        { time, permission, voiceProcessing, microphone, micActivity, microphones,
+            workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
     AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;

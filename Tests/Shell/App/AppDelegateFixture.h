@@ -32,7 +32,7 @@ protected:
     void construct(const QStringList& arguments = {}, AppDelegate::ReadDecks decks = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Platforms { platform, platform, platform },
+            AppDelegate::Platforms { platform, platform, platform, CaptureExclusion(findCall) },
             [this](const ShellWindows::Services& services) {
                 m_settings = &services.settings;
                 m_library = &services.library;
@@ -109,6 +109,8 @@ protected:
 
     Testing::LogCapture log;
     Testing::FakePlatform platform;
+    /// The window server's private calls: none, although this process may have them.
+    CaptureExclusion::LookUp findCall = [](const char*) -> void* { return nullptr; };
     Testing::FakeShellWindows::State windows;
     std::unique_ptr<AppDelegate> delegate;
 

@@ -1,5 +1,6 @@
 #include "Tests/Shell/App/AppDelegateFixture.h"
 #include "Tests/Support/DeckBuilder.h"
+#include "Tests/Support/WindowServerStandIn.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -677,6 +678,17 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     delegate->togglePanel();
 
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
+}
+
+TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)
+{
+    Testing::WindowServerStandIn::state() = {};
+    findCall = Testing::WindowServerStandIn::lookUp();
+
+    launchAndSettle();
+
+    EXPECT_EQ(Testing::WindowServerStandIn::state().shapeCalls.front().window, 42U);
+    EXPECT_EQ(logged("STEALTH ON wid=42 fresh=1 mode=both sckExcludeApplied=1"), 1);
 }
 
 // Hot keys

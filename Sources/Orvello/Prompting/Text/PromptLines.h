@@ -41,8 +41,8 @@ public:
     /// change.
     const PromptTypography& shownTypography() const { return m_shown.typography(); }
 
-    /// The lines at least partly in the visible part, from the top down, and at most one that is
-    /// just outside it.
+    /// The lines at least partly in the visible part, from the top down, with at most one that is
+    /// just above it, and the one that is the next to come from below.
     const std::vector<PromptLine>& visibleLines() const { return m_visibleLines; }
 
     double visibleTop() const { return m_visibleTop; }

@@ -46,7 +46,8 @@ AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeW
     , m_voice(m_settings,
           VoiceActivityEngine::Ports { platforms.early.time(),
               platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
-              platforms.sound.rawMicrophone(), m_micActivity, platforms.desktop.workspace() })
+              platforms.sound.rawMicrophone(), m_micActivity, platforms.sound.microphones(),
+              platforms.desktop.workspace() })
     , m_presentation({ m_presenters, platforms.desktop.workspace(),
           platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
     , m_slideSync(m_presentation, m_presenters, platforms.early.time())
@@ -209,7 +210,7 @@ void AppDelegate::makePanel()
             .time = m_platforms.early.time(),
             .screens = m_platforms.desktop.screens(),
             .folders = m_platforms.early.folders() },
-        m_options.noStealth);
+        m_options.noStealth, m_platforms.captureExclusion);
 }
 
 void AppDelegate::makeWindows()
@@ -223,6 +224,7 @@ void AppDelegate::makeWindows()
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
         AppCommands::Delegate {
             .togglePanel = [this] { togglePanel(); },
+            .putUnderCamera = [this] { putUnderCamera(); },
             .isPanelVisible = [this] { return m_panel->isVisible(); },
             .showOnboarding = [this] { showOnboarding(); },
         });
@@ -248,6 +250,12 @@ void AppDelegate::togglePanel()
         m_panelController->panel().hide();
     else
         showPanel();
+}
+
+void AppDelegate::putUnderCamera()
+{
+    m_panelController->putUnderCamera();
+    showPanel();
 }
 
 void AppDelegate::showOnboarding()

@@ -51,6 +51,8 @@ public:
         EarlyPlatform& early;
         DesktopPlatform& desktop;
         SoundPlatform& sound;
+        /// Found in this process, where nobody gives another.
+        CaptureExclusion captureExclusion {};
     };
 
     /// What is in decks, by their paths.
@@ -81,6 +83,9 @@ public:
 
     /// Shows the prompter panel if it is hidden, hides it if it is shown.
     void togglePanel();
+
+    /// Moves the panel to the top of the screen that the pointer is on, and shows it.
+    void putUnderCamera();
 
 private:
     void addPresenters();

@@ -70,6 +70,8 @@ void AppCommands::toggleStealth()
 
 void AppCommands::togglePanel() { m_delegate.togglePanel(); }
 
+void AppCommands::putUnderCamera() { m_delegate.putUnderCamera(); }
+
 void AppCommands::openLibrary()
 {
     if (!m_libraryWindow)

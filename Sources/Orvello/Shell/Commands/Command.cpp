@@ -73,6 +73,12 @@ constexpr std::array table {
         .isOn = &CommandTarget::isPanelVisible,
     },
     Command {
+        .name = "camera",
+        //: In a menu: moves the prompter to the top of the screen that the pointer is on.
+        .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Put Under the Camera"),
+        .run = &CommandTarget::putUnderCamera,
+    },
+    Command {
         .name = "voice",
         //: A mode: the text scrolls while the user speaks.
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Voice-Follow Scrolling"),

@@ -20,6 +20,7 @@ public:
     virtual void slowDown() = 0;
     virtual void backToTop() = 0;
     virtual void togglePanel() = 0;
+    virtual void putUnderCamera() = 0;
     virtual void toggleVoice() = 0;
     virtual void toggleSlideTracking() = 0;
     virtual void toggleStealth() = 0;

@@ -9,8 +9,9 @@ namespace Orvello {
 namespace {
 
 constexpr std::string_view separator;
-constexpr auto lines = std::to_array<std::string_view>({ "toggle", "restart", separator, "voice",
-    "tracking", "stealth", "hide", separator, "scripts", "settings", "tour", "check-updates" });
+constexpr auto lines
+    = std::to_array<std::string_view>({ "toggle", "restart", separator, "voice", "tracking",
+        "stealth", "hide", "camera", separator, "scripts", "settings", "tour", "check-updates" });
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
+#include "Orvello/Shell/Windows/Renderer.h"
 
 #include <QQmlEngine>
 #include <QQmlError>
@@ -29,6 +30,7 @@ namespace {
 
 void load(QQuickView& window, const QString& view, const QVariantMap& properties)
 {
+    Renderer::watch(window);
     window.engine()->addImportPath(u"qrc:/qt/qml"_s);
     window.setResizeMode(QQuickView::SizeRootObjectToView);
     window.setInitialProperties(properties);

@@ -228,6 +228,7 @@ static const NSModalResponse NSModalResponseOK = 1;
 
 extern NSNotificationName const NSWindowDidResizeNotification;
 extern NSNotificationName const NSWindowDidEndLiveResizeNotification;
+extern NSNotificationName const NSApplicationDidChangeScreenParametersNotification;
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
     NSApplicationActivationPolicyAccessory = 1,

@@ -176,6 +176,10 @@ typedef NSString* NSNotificationName;
 @interface NSNotificationCenter : NSObject
 @property (class, readonly, strong) NSNotificationCenter* defaultCenter;
 - (void)removeObserver:(id)observer;
+- (void)addObserver:(id)observer
+           selector:(SEL)selector
+               name:(nullable NSNotificationName)name
+             object:(nullable id)object;
 - (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
                             object:(nullable id)obj
                              queue:(nullable NSOperationQueue*)queue

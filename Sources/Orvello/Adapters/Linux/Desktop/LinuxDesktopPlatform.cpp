@@ -1,4 +1,5 @@
 #include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
+#include "Orvello/Adapters/Linux/Desktop/HardwareRenderer.h"
 #include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxDesktopServices.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxStatusBar.h"
@@ -113,6 +114,7 @@ public:
     Updater& updater() override { return m_updates.updater; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
     HelperProcess* impressHelper() override { return m_impressHelper.get(); }
+    bool hasHardwareRenderer() override { return HardwareRenderer::isThere(); }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {

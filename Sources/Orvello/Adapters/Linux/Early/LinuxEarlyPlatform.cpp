@@ -1,19 +1,16 @@
 #include "Orvello/Adapters/Linux/Early/BusInstance.h"
 #include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
+#include "Orvello/Adapters/Linux/Early/Syslog.h"
 #include "Orvello/Adapters/Portable/PosixProcessSignals.h"
 #include "Orvello/Adapters/Portable/QtChildProcess.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/Folders.h"
-#include "Orvello/Platform/Early/SystemLog.h"
 
 #include <QDir>
 #include <QSysInfo>
 
 #include <optional>
-#include <string>
-#include <syslog.h>
-#include <unistd.h>
 #include <utility>
 
 namespace Orvello {
@@ -21,21 +18,6 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// syslog(3) under the name "Orvello", and standard error.
-class Syslog final : public SystemLog {
-public:
-    Syslog() { ::openlog("Orvello", LOG_PID, LOG_USER); }
-
-    void write(std::string_view message) override
-    {
-        std::string line(message);
-        ::syslog(LOG_NOTICE, "%s", line.c_str());
-        // One call for each line, so that lines from several threads stay whole.
-        line += '\n';
-        [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, line.data(), line.size());
-    }
-};
 
 /// The folders of the XDG base directories.
 class XdgFolders final : public Folders {
@@ -73,7 +55,12 @@ public:
         return *m_userDefaults;
     }
     Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
+    /// Never destroyed: threads that outlive this, and static objects, may still log.
+    SystemLog& systemLog() override
+    {
+        static Syslog& log = *new Syslog;
+        return log;
+    }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
     RunningInstance& runningInstance() override { return m_runningInstance; }
@@ -98,7 +85,6 @@ private:
     XdgFolders m_folders;
     const QStringList m_arguments;
     std::optional<JsonUserDefaults> m_userDefaults;
-    Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
     BusInstance m_runningInstance { { qEnvironmentVariable("DISPLAY"),

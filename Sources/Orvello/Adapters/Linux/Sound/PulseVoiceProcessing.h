@@ -6,8 +6,8 @@ namespace Orvello {
 
 class PulseConnection;
 
-/// The default source of the sound server, from which this process removes what the default sink
-/// plays. The server sees nothing but two record streams.
+/// The microphone, from which this process removes what the default sink plays, and up to two other
+/// sinks on which something plays. The server sees nothing but record streams.
 class PulseVoiceProcessing final : public VoiceProcessing {
 public:
     /// `connection` must outlive this and its units.

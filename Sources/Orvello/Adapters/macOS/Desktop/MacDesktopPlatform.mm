@@ -1,8 +1,8 @@
 #include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaMenuBar.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaOpenPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
@@ -12,30 +12,11 @@
 #include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
-#include "Orvello/Platform/Desktop/Screens.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
 
 namespace Orvello {
 
 namespace {
-
-/// The screens in AppKit's own coordinates, which are those of its windows. The first one is the
-/// screen that the user works on: the one with the key window, not always the one with the origin.
-class CocoaScreens final : public Screens {
-public:
-    QList<QRectF> frames() const override
-    {
-        NSScreen* const main = NSScreen.mainScreen;
-        QList<QRectF> frames;
-        if (main)
-            frames.append(flippedVertically(qRect(main.frame)));
-        for (NSScreen* screen in NSScreen.screens) {
-            if (![screen isEqual:main])
-                frames.append(flippedVertically(qRect(screen.frame)));
-        }
-        return frames;
-    }
-};
 
 class CocoaDesktop final : public DesktopServices {
 public:
@@ -93,6 +74,9 @@ public:
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
+
+    /// Metal draws on every Mac that this edition runs on.
+    bool hasHardwareRenderer() override { return true; }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {

@@ -60,7 +60,12 @@ public:
     TimeSource& time() override { return m_time; }
     UserDefaults& userDefaults() override { return m_userDefaults; }
     Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
+    /// Never destroyed: threads that outlive this, and static objects, may still log.
+    SystemLog& systemLog() override
+    {
+        static UnifiedLog& log = *new UnifiedLog;
+        return log;
+    }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
     RunningInstance& runningInstance() override { return m_runningInstance; }
@@ -96,7 +101,6 @@ private:
     QtTimeSource m_time;
     CocoaFolders m_folders;
     CocoaUserDefaults m_userDefaults;
-    UnifiedLog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
     LaunchServicesInstance m_runningInstance;

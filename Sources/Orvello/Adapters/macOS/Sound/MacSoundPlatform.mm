@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/macOS/Sound/EngineMicrophone.h"
 #include "Orvello/Adapters/macOS/Sound/HalAudioProcesses.h"
+#include "Orvello/Adapters/macOS/Sound/HalMicrophones.h"
 #include "Orvello/Adapters/macOS/Sound/VoiceProcessingIO.h"
 #include "Orvello/Platform/Sound/MicrophonePermission.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
@@ -38,6 +39,14 @@ public:
 
 class MacSoundPlatform final : public SoundPlatform {
 public:
+    MacSoundPlatform()
+    {
+        m_microphones.setDeviceObserver([this] {
+            if (m_rawMicrophone)
+                m_rawMicrophone->onDeviceChanged();
+        });
+    }
+
     MicrophonePermission& microphonePermission() override { return m_microphonePermission; }
     VoiceProcessing& voiceProcessing() override { return m_voiceProcessing; }
     RawMicrophone& rawMicrophone() override
@@ -45,12 +54,14 @@ public:
         return m_rawMicrophone ? *m_rawMicrophone : m_rawMicrophone.emplace();
     }
     AudioProcesses& audioProcesses() override { return m_audioProcesses; }
+    Microphones& microphones() override { return m_microphones; }
 
 private:
     CapturePermission m_microphonePermission;
     VoiceProcessingIO m_voiceProcessing;
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.
     HalAudioProcesses m_audioProcesses;
+    HalMicrophones m_microphones;
 };
 
 } // namespace
