@@ -907,9 +907,12 @@ TEST_F(AppDelegateTest, opensItsMenuAtARightClickOnThePrompter)
     };
 
     click(Qt::LeftButton);
-    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_EQ(windows.poppedUp, nullptr);
     click(Qt::RightButton);
-    EXPECT_EQ(windows.openedMenus, 1);
+    ASSERT_NE(windows.poppedUp, nullptr);
+    const auto& lines = windows.poppedUp->items();
+    EXPECT_EQ(lines.size(), windows.statusMenu->items().size() + 2);
+    EXPECT_EQ(lines.at(lines.size() - 3)->title, u"Put Under the Camera");
 }
 
 TEST_F(AppDelegateTest, endsTheSessionOnce)

@@ -118,7 +118,7 @@ TEST_F(LaunchOptionsTest, findsFaultWithWhatIsNoDeck)
 
     EXPECT_THAT(options.files, IsEmpty());
     EXPECT_THAT(options.mistakes,
-        ElementsAre(u"notes.txt is not a PowerPoint deck (.pptx)"_s,
+        ElementsAre(u"notes.txt is not a deck (.pptx or .odp)"_s,
             u"there is no file \"gone.pptx\""_s, u"there is no file \"\""_s,
             u"there is no file \"-\""_s, u"there is no file \"12:30\""_s,
             u"https://example.com/talk.pptx is no address that Orvello opens"_s,

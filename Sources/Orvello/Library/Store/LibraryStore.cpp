@@ -192,19 +192,24 @@ void LibraryStore::edit(Script& script, LibraryChange change)
 Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
     const QString& path, const std::optional<QString>& source)
 {
-    const auto slides = PptxImporter::importNotes(path);
-    if (!slides)
-        return Failure { slides.error() };
-    return addPptx(path, *slides, source);
+    const auto deck = PptxImporter::importDeck(path);
+    if (!deck)
+        return Failure { deck.error() };
+    return addReadDeck(path, *deck, source);
 }
 
-QUuid LibraryStore::addPptx(
-    const QString& path, const QList<SlideNote>& slides, const std::optional<QString>& source)
+QUuid LibraryStore::addReadDeck(
+    const QString& path, const PptxImporter::Deck& deck, const std::optional<QString>& source)
 {
     const QString fileName = QFileInfo(path).fileName();
-    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides.size(), fileName);
-
-    return addDeck(withoutExtension(fileName), slides, source.value_or(fileName));
+    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", deck.slides.size(), fileName);
+    const QUuid id = addDeck(withoutExtension(fileName), deck.slides, source.value_or(fileName));
+    if (!deck.unread.isEmpty()) {
+        const QString slides = PptxImporter::slideRanges(deck.unread);
+        AppLog::write("Orvello IMPORT_PPTX limit: notes of slides %@ could not be read", slides);
+        Q_EMIT notesLeftOut(slides);
+    }
+    return id;
 }
 
 QUuid LibraryStore::addDeck(

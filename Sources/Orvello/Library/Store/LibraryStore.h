@@ -54,8 +54,8 @@ public:
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
-    /// The same for the notes of a file that has been read already.
-    QUuid addPptx(const QString& path, const QList<SlideNote>& slides,
+    /// Adds what importPptx() would have read from that file.
+    QUuid addReadDeck(const QString& path, const PptxImporter::Deck& deck,
         const std::optional<QString>& source = {});
 
     /// Adds a deck's speaker notes on top and makes them active.
@@ -64,6 +64,10 @@ public:
 Q_SIGNALS:
     void scriptsChanged(const Orvello::LibraryChange& change);
     void activeScriptIDChanged();
+
+    /// The file that was imported holds more than the importer's limits allow: the notes of these
+    /// slides ("3, 257–300") are missing or not whole.
+    void notesLeftOut(const QString& slides);
 
 private:
     void makeFirstScript(const Facts& facts);

@@ -64,10 +64,15 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::addPresenters()
 {
-    m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
-    m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
+    const auto add = [this](PresenterApp app) {
+        app.isForThisSystem = m_platforms.early.facts().hasKeynoteAndPowerPoint;
+        m_presenters.add(std::move(app));
+    };
+    add(AppleScriptPresenters::keynote(m_scriptRunner));
+    add(AppleScriptPresenters::powerPoint(m_scriptRunner));
     if (HelperProcess* helper = m_platforms.desktop.impressHelper()) {
-        m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
+        m_impress = std::make_unique<ImpressPresenter>(
+            *helper, m_presentation, m_platforms.early.userDefaults());
         m_presenters.add(m_impress->row());
         m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
     }
@@ -218,7 +223,7 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.early.facts() });
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
@@ -279,9 +284,11 @@ void AppDelegate::setupStatusItem()
     m_statusMenu = std::make_unique<StatusMenu>(
         *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
+    m_prompterMenu = std::make_unique<StatusMenu>(*m_commands, m_platforms.desktop.hotKeys(),
+        AppCommands::versionText(), StatusMenu::Owner::Prompter);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
-        m_prompterWindow->window(), [this] { m_statusItem->openMenu(); });
+        m_prompterWindow->window(), [this] { m_windows->popUp(*m_prompterMenu); });
 }
 
 void AppDelegate::registerHotKeys()
@@ -332,6 +339,15 @@ void AppDelegate::followSlideTracking()
         changeOf(m_settings, &SettingsStore::slideSyncChanged),
         changeOf(m_library, &LibraryStore::activeScriptIDChanged),
         changeOf(m_library, &LibraryStore::scriptsChanged));
+    if (!m_impress)
+        return;
+    // A consent given while a slideshow runs counts at once.
+    connect(m_impress.get(), &ImpressPresenter::isAllowedChanged, this, [this] {
+        if (m_slideSync.state() != SlideSyncService::State::Denied || !m_impress->isAllowed())
+            return;
+        m_slideSync.setActive(false);
+        m_slideSync.setActive(true);
+    });
 }
 
 void AppDelegate::importDecks()
@@ -340,7 +356,7 @@ void AppDelegate::importDecks()
         importDeck(m_options.importedPath);
     for (const QString& file : m_options.files) {
         if (const auto deck = m_readDecks.find(file); deck != m_readDecks.end())
-            m_library.addPptx(file, deck->second);
+            m_library.addReadDeck(file, deck->second);
         else
             importDeck(file);
     }

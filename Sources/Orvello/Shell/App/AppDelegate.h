@@ -56,7 +56,7 @@ public:
     };
 
     /// What is in decks, by their paths.
-    using ReadDecks = std::map<QString, QList<SlideNote>>;
+    using ReadDecks = std::map<QString, PptxImporter::Deck>;
 
     /// `decks` are those among the options' files that have been read already.
     AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
@@ -136,6 +136,7 @@ private:
     std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
     std::unique_ptr<AppCommands> m_commands;
     std::unique_ptr<StatusMenu> m_statusMenu;
+    std::unique_ptr<StatusMenu> m_prompterMenu;
     std::unique_ptr<StatusItem> m_statusItem;
     std::unique_ptr<RightClickFilter> m_rightClicks;
     std::unique_ptr<PlainPKey> m_plainPKey;

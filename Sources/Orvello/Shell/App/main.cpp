@@ -82,10 +82,10 @@ Decks readDecks(const QStringList& files)
 {
     Decks decks;
     for (const QString& file : files) {
-        if (auto notes = PptxImporter::importNotes(file))
-            decks.read.emplace(file, std::move(*notes));
+        if (auto deck = PptxImporter::importDeck(file))
+            decks.read.emplace(file, std::move(*deck));
         else
-            decks.refused.emplace(file, notes.error());
+            decks.refused.emplace(file, deck.error());
     }
     return decks;
 }

@@ -1,8 +1,10 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
 #include "Orvello/Shell/Windows/SystemPalette.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
 #include "Orvello/Shell/Windows/WindowPlacement.h"
@@ -30,6 +32,8 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"version"_s, QString::fromLatin1(version) },
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
+            { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
     followSystemPalette(m_view);
 }

@@ -10,6 +10,7 @@
 namespace Orvello {
 
 class AssignedKeys;
+class ImpressPresenter;
 class SettingsStore;
 class UpdateController;
 class VoiceActivityEngine;
@@ -29,6 +30,7 @@ public:
         UpdateController& updates;
         HotKeys& hotKeys;
         Facts facts; ///< What the window may say about this machine.
+        ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
 
     explicit SettingsWindow(const Services& services);

@@ -129,6 +129,7 @@ private:
     FramelessChrome m_windowChrome;
     Updates m_updates { m_early.time(), m_early.userDefaults(), m_session.services };
     std::unique_ptr<HelperProcess> m_impressHelper = makeImpressHelper();
+    std::unique_ptr<HelperProcess> m_formerPermission = FormerImpressPermission::takeBack();
 };
 
 } // namespace

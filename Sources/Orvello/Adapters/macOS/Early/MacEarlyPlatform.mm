@@ -1,15 +1,12 @@
-#include "Orvello/Adapters/Portable/OpenedUrls.h"
 #include "Orvello/Adapters/Portable/PosixProcessSignals.h"
 #include "Orvello/Adapters/Portable/QtChildProcess.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
+#include "Orvello/Adapters/macOS/Early/MacInstance.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/Folders.h"
-#include "Orvello/Platform/Early/RunningInstance.h"
 #include "Orvello/Platform/Early/SystemLog.h"
-
-#include <optional>
 
 namespace Orvello {
 
@@ -36,23 +33,6 @@ public:
             NSLog(@"%@", nsString(QString::fromUtf8(bytes)));
         }
     }
-};
-
-/// The system starts an application once, and tells the one that runs what else is asked of it.
-class LaunchServicesInstance final : public RunningInstance {
-public:
-    Outcome claim(const ProgramStart&) override { return {}; }
-
-    /// A second start is nothing: the menu bar has the menu.
-    void listen(Handlers handlers) override
-    {
-        m_openedUrls.emplace(QStringLiteral("orvello")); // The scheme of the bundle's Info.plist.
-        QObject::connect(&*m_openedUrls, &OpenedUrls::opened, &*m_openedUrls, handlers.opened);
-    }
-    void release() override { }
-
-private:
-    std::optional<OpenedUrls> m_openedUrls;
 };
 
 class MacEarlyPlatform final : public EarlyPlatform {
@@ -103,7 +83,8 @@ private:
     CocoaUserDefaults m_userDefaults;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
-    LaunchServicesInstance m_runningInstance;
+    MacInstance m_runningInstance { m_folders.applicationSupport()
+        + QStringLiteral("/Orvello/logs") };
 };
 
 } // namespace
