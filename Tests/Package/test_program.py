@@ -56,6 +56,7 @@ class ProgramTest(unittest.TestCase):
 
     def test_starts_its_helper_when_a_slideshow_begins(self):
         self.write_library()
+        App.set_defaults(self.desktop, impressAllowed=True)
         app = App(self.desktop)
         app.shown()
         # What looks like a slideshow of LibreOffice is enough for the prompter to ask.

@@ -19,6 +19,13 @@ ToolbarButton {
     Menu {
         id: menu
 
+        // The style's menus are as wide as their background, whatever is written in them.
+        width: {
+            let widest = implicitWidth
+            for (let i = 0; i < count; ++i)
+                widest = Math.max(widest, itemAt(i).implicitWidth + leftPadding + rightPadding)
+            return widest
+        }
         palette: root.palette // Popups do not inherit the window's.
         // On a dark editor the style's own edge is invisible.
         background: Rectangle {
