@@ -15,8 +15,8 @@
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeCommandTarget.h"
 #include "Tests/Support/FakeHelperProcess.h"
-#include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeHotKeys.h"
+#include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/SlideshowStage.h"
 #include "Tests/Support/ViewItems.h"
 

@@ -35,6 +35,7 @@ typedef NSUInteger NSEventModifierFlags;
 @property (readonly) NSTimeInterval timestamp;
 @property (readonly) NSPoint locationInWindow;
 @property (readonly) CGFloat scrollingDeltaY;
+@property (class, readonly) NSPoint mouseLocation;
 + (nullable NSEvent*)mouseEventWithType:(NSEventType)type
                                location:(NSPoint)location
                           modifierFlags:(NSEventModifierFlags)flags

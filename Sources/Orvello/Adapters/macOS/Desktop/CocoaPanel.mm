@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaView.h"
 #include "Orvello/Adapters/macOS/Desktop/PointerTracker.h"
 #include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
@@ -17,11 +18,12 @@ namespace Orvello {
 
 namespace {
 
-NSView* nativeViewOf(QWindow& window)
+/// Before its view is made.
+QWindow& withoutFrame(QWindow& window)
 {
     window.setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     window.create();
-    return (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+    return window;
 }
 
 } // namespace
@@ -32,7 +34,7 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
     , m_panel([[PrompterPanel alloc] initWithSize:cgSize(PanelFrame::initial({}).size())
                                           minimum:cgSize(minimumSize)
                                           maximum:cgSize(maximumSize)])
-    , m_nativeView(nativeViewOf(view))
+    , m_nativeView(nativeViewOf(withoutFrame(view)))
 {
     embedView();
     observePanel();

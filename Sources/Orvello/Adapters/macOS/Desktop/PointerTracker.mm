@@ -5,11 +5,7 @@
 #include <QMouseEvent>
 #include <QWindow>
 
-@implementation PointerTracker {
-    NSView* _view;
-    QWindow* _window;
-    NSTrackingArea* _area;
-}
+@implementation PointerTracker
 
 - (instancetype)initWithView:(NSView*)view window:(QWindow*)window
 {
