@@ -15,7 +15,7 @@ FAR_END = ("The quick brown fox jumps over the lazy dog, while the band plays a 
            "house. Nobody had expected that so many people would come, and yet the chairs were not enough for half "
            "of them. After the second song the rain began, and everybody ran to the tents. There they stood.")
 # Microphones::Trouble
-NO_ANSWER, NO_MICROPHONE, MUTED, WITHHELD = 1, 3, 4, 5
+NO_ANSWER, NO_MICROPHONE, MUTED = 1, 3, 4
 
 NEAR_END = "And now I would like to say a few words about the weather in the mountains this year."
 
@@ -477,8 +477,10 @@ class VoiceCaptureTest(unittest.TestCase):
                 if path == "raw":
                     probe.command("app us.zoom.xos Zoom")
                     probe.wait_for("VAD listening (raw mic")
-                    time.sleep(0.5)
+                wait_until(lambda: "Voice-Follow" in sound.control("list", "source-outputs"), what="the stream")
+                time.sleep(0.5)
                 sound.control("move-source-output", self.stream(sound, "Voice-Follow"), "microphone")
+                time.sleep(0.5)
                 self.assert_hears(sound, probe)
                 reference = None if path == "raw" else self.stream(sound, "Echo reference")
 
@@ -500,6 +502,16 @@ class VoiceCaptureTest(unittest.TestCase):
         outputs = sound.control("list", "source-outputs").split("Source Output #")
         number, = [output.split("\n")[0] for output in outputs if f'media.name = "{name}"' in output]
         return number
+
+    def test_a_microphone_that_is_muted_is_named(self):
+        sound = self.sound()
+        probe = self.listening(sound)
+        self.assert_hears(sound, probe)
+        sound.control("set-source-mute", "microphone", "1")
+        wait_until(lambda: f"trouble={MUTED}" in probe.answer("state"), what="the trouble")
+        self.assertIn("heard=Remapped ", probe.answer("state"))
+        sound.control("set-source-mute", "microphone", "0")
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
 
     def test_sources_of_every_format_are_heard(self):
         for rate, channels, form in ((8000, 1, "u8"), (192000, 6, "float32le")):

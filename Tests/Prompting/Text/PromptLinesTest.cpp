@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/Text/PromptLines.h"
 
+#include "Orvello/Prompting/Text/LineImage.h"
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Tests/Prompting/Text/ShownText.h"
 #include "Tests/Support/ManualTimeSource.h"
@@ -131,6 +132,30 @@ TEST_F(PromptLinesTest, setsLinesInSemibold)
     EXPECT_EQ(font.families().first(), PromptFont::family());
     EXPECT_EQ(font.weight(), QFont::DemiBold);
     EXPECT_EQ(QFontInfo(font).pixelSize(), 30);
+}
+
+TEST_F(PromptLinesTest, drawsSignsInTheTextsColorAndWhatAsksForColorInItsOwn)
+{
+    const QColor green(48, 209, 88);
+    const auto hasOtherColors = [&](const QString& text) {
+        lines.setText(text);
+        finish();
+        const QImage pixels
+            = LineImage::of(lines.visibleLines().at(0), lines.shownTypography(), green, 1).pixels;
+        for (int y = 0; y < pixels.height(); ++y) {
+            for (int x = 0; x < pixels.width(); ++x) {
+                if (const QColor color = pixels.pixelColor(x, y);
+                    color.alpha() == 255 && color.rgb() != green.rgb())
+                    return true;
+            }
+        }
+        return false;
+    };
+
+    for (const QString& sign : { u"▪"_s, u"✔"_s, u"✖"_s, u"⚠"_s, u"♥"_s, u"▶"_s, u"➡"_s, u"©"_s })
+        EXPECT_FALSE(hasOtherColors(sign)) << sign.toStdString();
+    for (const QString& emoji : { u"❤\uFE0F"_s, u"😀"_s, u"🇩🇪"_s, u"⌚"_s })
+        EXPECT_TRUE(hasOtherColors(emoji)) << emoji.toStdString();
 }
 
 TEST_F(PromptLinesTest, setsLinesInSizesBetweenWholeOnes)

@@ -16,8 +16,8 @@ namespace {
 /// How long the main loop is held up at a time, in seconds: a quarter of a frame.
 constexpr double sliceBudget = 0.004;
 
-/// Emoji in colour, where this is installed: otherwise the search for a font that has them would
-/// end at the first plain one. macOS has a fixed order of its own.
+/// What asks for colour gets it, where this is installed: otherwise the search for a font would end
+/// at the first plain one. macOS has a fixed order of its own.
 constexpr auto emojiFamily = "Noto Color Emoji"_L1;
 
 constexpr double smallestFontSize = 12;
@@ -74,13 +74,15 @@ PromptTypography PromptLines::typography() const
     // In this order what is no number is the smallest size.
     const double size
         = std::min(std::max(smallestFontSize, m_fontSize.value_or(0)), largestFontSize);
-    QFont font(QStringList { PromptFont::family(), emojiFamily });
+    QFont font(PromptFont::family());
     const double wholeSize = std::ceil(size);
     font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);
     font.setHintingPreference(QFont::PreferNoHinting);
     const double scale = size / wholeSize;
-    return { font, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
+    QFont emojiFont = font;
+    emojiFont.setFamilies({ PromptFont::family(), emojiFamily });
+    return { font, emojiFont, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
 }
 
 void PromptLines::setReadingTop(double points) { m_readingTop = points; }

@@ -13,7 +13,7 @@ TourPage {
 
     number: 2
     columnWidth: 600
-    spacing: 24
+    spacing: 8 // In some languages the page is full.
 
     ColumnLayout {
         Layout.fillWidth: true

@@ -43,11 +43,13 @@ RowLayout {
         }
     }
     TourButton {
+        implicitHeight: 28
         visible: root.test.hasProposal
         text: qsTr("Use It")
         onClicked: root.test.useProposal()
     }
     TourButton {
+        implicitHeight: 28
         enabled: !root.test.isRunning
         text: qsTr("Test")
         onClicked: root.test.begin()
