@@ -96,6 +96,7 @@ typedef NSUInteger NSKeyValueObservingOptions;
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
++ (instancetype)array;
 - (void)addObject:(ObjectType)anObject;
 - (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)anObject;
 @end
