@@ -97,6 +97,13 @@ class SoundServer(contextlib.ExitStack):
             self.stop(server)
         self.servers = []
 
+    def kill_server(self):
+        """As a crash ends it."""
+        for server in self.servers:
+            server.kill()
+            server.wait()
+        self.servers = []
+
     def freeze(self):
         """Keeps the server from answering, until thaw()."""
         for server in self.servers:
@@ -186,6 +193,17 @@ class PausingRecorder:
 
     def _wait_until_ready(self, kind, thing):
         wait_until(lambda: self.call(f"pa_{kind}_get_state", thing) == self.READY[kind], what=f"the recorder's {kind}")
+
+
+class Recorders:
+    """A crowd of record streams of other programs, twenty for each connection; a server takes no more of those than 64."""
+
+    def __init__(self, sound, source, count):
+        program = pathlib.Path(__file__).with_name("crowd.py")
+        self.process = sound.start(["/usr/bin/python3", str(program), source, str(count)])
+        wait_until(lambda: sound.control("list", "source-outputs").count('application.name = "Crowd"') >= count, 60,
+                   "the crowd")
+        self.stop = lambda: sound.stop(self.process)
 
 
 class Probe:

@@ -160,8 +160,8 @@ class FilesTest(LaunchTest):
         (self.desktop.scratch / "broken.pptx").write_text("x")
         for argument, complaint in (
                 ("--autostrat", "orvello: unknown option --autostrat; did you mean --autostart?"),
-                ("-fontSize", "orvello: the preference -fontSize lacks its value"),
-                ("notes.txt", "orvello: notes.txt is not a PowerPoint deck (.pptx)"),
+                ("-fontSize", "orvello: -fontSize is neither an option nor a preference with a value"),
+                ("notes.txt", "orvello: notes.txt is not a deck (.pptx or .odp)"),
                 ("gone.pptx", 'orvello: there is no file "gone.pptx"'),
                 ("https://example.com/talk.pptx", "orvello: https://example.com/talk.pptx is no address that Orvello opens"),
                 ("broken.pptx", "broken.pptx: The file could not be opened as a PowerPoint package.")):

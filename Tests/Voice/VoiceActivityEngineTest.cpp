@@ -325,7 +325,7 @@ TEST_F(VoiceActivityEngineTest, startingWhileListeningChangesNothing)
 // Voice processing that fails
 
 struct FailingStep {
-    std::string name; ///< In the fake's journal.
+    std::string name; ///< What the fake's journal calls it.
     std::string line;
 
     friend void PrintTo(const FailingStep& step, std::ostream* stream) { *stream << step.name; }

@@ -43,13 +43,13 @@ TEST_F(VoiceStatusTest, namesTheMicrophoneAndSaysWhetherEchoIsCancelled)
 
     EXPECT_EQ(engine->trouble(), Trouble::None);
     EXPECT_EQ(engine->echoCancellation(), EchoCancellation::On);
-    EXPECT_EQ(engine->status(), u"Listening to “Headset”. Echo cancellation is on."_s);
+    EXPECT_EQ(engine->status(), u"Listening to “Headset”.\nEcho cancellation is on."_s);
 
     runZoom();
     time.advance(1);
     EXPECT_EQ(engine->echoCancellation(), EchoCancellation::HeldForMeeting);
     EXPECT_EQ(
-        engine->status(), u"Listening to “Headset”. Echo cancellation is paused: Zoom is open."_s);
+        engine->status(), u"Listening to “Headset”.\nEcho cancellation is paused: Zoom is open."_s);
 
     micActivity.otherProcessCaptures = true;
     time.advance(1);
@@ -63,7 +63,7 @@ TEST_F(VoiceStatusTest, saysWhenEchoCannotBeCancelled)
     engine->requestPermissionAndStart();
 
     EXPECT_EQ(engine->echoCancellation(), EchoCancellation::Unavailable);
-    EXPECT_EQ(engine->status(), u"Listening to “Headset”. Echo cancellation is not available."_s);
+    EXPECT_EQ(engine->status(), u"Listening to “Headset”.\nEcho cancellation is not available."_s);
 }
 
 TEST_F(VoiceStatusTest, saysWhyNothingIsHeard)

@@ -218,19 +218,24 @@ QString VoiceActivityEngine::echoCancellationForPeople() const
     return {};
 }
 
-QString VoiceActivityEngine::status() const
+QString VoiceActivityEngine::hearing() const
 {
     if (!m_settings.voiceFollow() && !m_isListening)
         return {};
-    if (const QString trouble = troubleForPeople(); !trouble.isEmpty())
+    const QString trouble = troubleForPeople();
+    if (!trouble.isEmpty() || !m_isListening || m_sound.heard.isEmpty())
         return trouble;
-    if (!m_isListening)
-        return {};
-    const QString echo = echoCancellationForPeople();
-    if (m_sound.heard.isEmpty())
-        return echo;
-    //: %1: the name of a microphone. %2: a sentence about echo cancellation.
-    return tr("Listening to “%1”. %2").arg(m_sound.heard, echo);
+    //: %1: the name of a microphone.
+    return tr("Listening to “%1”.").arg(m_sound.heard);
+}
+
+QString VoiceActivityEngine::status() const
+{
+    QStringList lines { hearing() };
+    if (trouble() == Trouble::None)
+        lines.append(echoCancellationForPeople());
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 QStringList VoiceActivityEngine::microphoneChoices() const

@@ -47,7 +47,9 @@ class VoiceActivityEngine final : public QObject, private SampleListener {
     Q_PROPERTY(Trouble trouble READ trouble NOTIFY statusChanged FINAL)
     Q_PROPERTY(EchoCancellation echoCancellation READ echoCancellation NOTIFY statusChanged FINAL)
     Q_PROPERTY(QString microphoneName READ microphoneName NOTIFY statusChanged FINAL)
-    // The same in the user's language, as whole sentences; empty while nothing is wanted.
+    // Which microphone is heard, or why none is, in the user's language, as a whole sentence; and
+    // the same with a line about echo cancellation. Empty while nothing is wanted.
+    Q_PROPERTY(QString hearing READ hearing NOTIFY statusChanged FINAL)
     Q_PROPERTY(QString status READ status NOTIFY statusChanged FINAL)
     // The choices of a microphone; the first is the system's own. Empty where there is no choice.
     Q_PROPERTY(QStringList microphoneChoices READ microphoneChoices NOTIFY choicesChanged FINAL)
@@ -96,6 +98,7 @@ public:
     Trouble trouble() const;
     EchoCancellation echoCancellation() const;
     const QString& microphoneName() const { return m_sound.heard; }
+    QString hearing() const;
     QString status() const;
     QStringList microphoneChoices() const;
     int microphoneIndex() const;

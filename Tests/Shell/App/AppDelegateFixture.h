@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace Orvello {
 
@@ -28,7 +29,7 @@ protected:
     }
     ~AppDelegateFixture() override { Testing::LogCapture::noteIn(nullptr); }
 
-    void construct(const QStringList& arguments = {})
+    void construct(const QStringList& arguments = {}, AppDelegate::ReadDecks decks = {})
     {
         delegate = std::make_unique<AppDelegate>(
             AppDelegate::Platforms { platform, platform, platform, CaptureExclusion(findCall) },
@@ -37,7 +38,7 @@ protected:
                 m_library = &services.library;
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)), std::move(decks));
         platform.journal.clear();
     }
 

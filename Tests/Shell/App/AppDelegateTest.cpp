@@ -381,6 +381,22 @@ TEST_F(AppDelegateTest, importsTheDecksOfTheCommandLine)
     EXPECT_EQ(library().activeScript()->title, u"talk");
 }
 
+TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.pptx"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
+    construct({ path },
+        { { path,
+            PptxImporter::Deck {
+                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {} } } });
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(library().activeScript()->title, u"talk");
+    EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
+}
+
 TEST_F(AppDelegateTest, opensTheWindowsOfTheCommandLine)
 {
     platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
@@ -667,6 +683,31 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
 }
 
+TEST_F(AppDelegateTest, keepsTimersOnTimeWhilePresentingAndTheDisplayOnWhileScrolling)
+{
+    using Need = Wakefulness::Need;
+    std::vector<Need>& held = platform.wakefulnessFake.held;
+    launchAndSettle();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::None));
+
+    presentKeynote();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+
+    engine().toggle();
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Display));
+
+    engine().toggle();
+    endSlideshow();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers, Need::None));
+
+    settings().setVoiceFollow(true);
+    Testing::drainEvents();
+    platform.manualTime.advance(1.0);
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+}
+
 TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)
 {
     Testing::WindowServerStandIn::state() = {};
@@ -769,7 +810,7 @@ TEST_F(AppDelegateTest, armsUnderANewIdEachTime)
     ASSERT_EQ(platform.hotKeysFake.registrations.size(), 7u);
     EXPECT_EQ(platform.hotKeysFake.registrations[5].id.id, 6u);
     EXPECT_EQ(platform.hotKeysFake.registrations[6].id.id, 7u);
-    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (Testing::FakeHotKeys::Key { 35, 0 }));
+    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (HotKey { 35, 0 }));
 }
 
 TEST_F(AppDelegateTest, armsAtOnceForASlideshowThatRunsAtTheLaunch)
@@ -827,8 +868,8 @@ TEST_F(AppDelegateTest, opensEachWindowOnceAndThenBringsItToTheFront)
 {
     launchAndSettle();
     platform.journal.clear();
-    constexpr std::size_t scripts = 10;
-    constexpr std::size_t settingsLine = 11;
+    constexpr std::size_t scripts = 9;
+    constexpr std::size_t settingsLine = 10;
 
     choose(scripts);
     choose(scripts);
@@ -860,16 +901,16 @@ TEST_F(AppDelegateTest, runsTheOtherLinesOfTheMenu)
     EXPECT_FALSE(settings().stealthMode());
     choose(7);
     EXPECT_FALSE(platform.panel->isVisible());
-    choose(12);
+    choose(11);
     EXPECT_EQ(windows.openOnboardings, 1);
-    choose(13);
+    choose(12);
     EXPECT_EQ(platform.updaterFake.checks, 1);
 }
 
 TEST_F(AppDelegateTest, helpsWithALetterAndTheLog)
 {
     launchAndSettle();
-    const auto& help = *windows.statusMenu->items().at(13)->submenu;
+    const auto& help = *windows.statusMenu->items().at(12)->submenu;
 
     help.items().at(0)->action();
     help.items().at(1)->action();
@@ -894,9 +935,12 @@ TEST_F(AppDelegateTest, opensItsMenuAtARightClickOnThePrompter)
     };
 
     click(Qt::LeftButton);
-    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_EQ(windows.poppedUp, nullptr);
     click(Qt::RightButton);
-    EXPECT_EQ(windows.openedMenus, 1);
+    ASSERT_NE(windows.poppedUp, nullptr);
+    const auto& lines = windows.poppedUp->items();
+    EXPECT_EQ(lines.size(), windows.statusMenu->items().size() + 2);
+    EXPECT_EQ(lines.at(lines.size() - 3)->title, u"Put Under the Camera");
 }
 
 TEST_F(AppDelegateTest, endsTheSessionOnce)

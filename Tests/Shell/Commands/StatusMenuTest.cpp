@@ -34,14 +34,25 @@ TEST_F(StatusMenuTest, hasEveryLineInItsPlace)
     EXPECT_THAT(titles(menu),
         ElementsAre(u"Start Scrolling  (⌥⌘P)"_s, u"Back to Top"_s, u"-"_s,
             u"Voice-Follow Scrolling"_s, u"Slide Tracking"_s, u"Stealth Mode"_s,
-            u"Show Prompter  (⌥⌘H)"_s, u"Put Under the Camera"_s, u"-"_s, u"Scripts…"_s,
-            u"Settings…"_s, u"Welcome Tour…"_s, u"Check for Updates…"_s, u"Help"_s, u"-"_s,
-            u"Quit Orvello"_s));
+            u"Show Prompter  (⌥⌘H)"_s, u"-"_s, u"Scripts…"_s, u"Settings…"_s, u"Welcome Tour…"_s,
+            u"Check for Updates…"_s, u"Help"_s, u"-"_s, u"Quit Orvello"_s));
+}
+
+TEST_F(StatusMenuTest, putsThePrompterUnderTheCameraOnlyWhereItIsThePrompters)
+{
+    StatusMenu prompters { target, keys, u"2.1 (57)"_s, StatusMenu::Owner::Prompter };
+
+    auto expected = titles(menu);
+    expected.insert(expected.size() - 2, u"-"_s);
+    expected.insert(expected.size() - 2, u"Put Under the Camera"_s);
+    EXPECT_EQ(titles(prompters), expected);
+    prompters.items().at(prompters.items().size() - 3)->action();
+    EXPECT_THAT(target.calls, ElementsAre(u"putUnderCamera"_s));
 }
 
 TEST_F(StatusMenuTest, hasAHelpSubmenuWhoseVersionCannotBeChosen)
 {
-    const Menu& help = *item(14).submenu;
+    const Menu& help = *item(13).submenu;
 
     EXPECT_EQ(help.title(), u"Help");
     EXPECT_THAT(titles(help),
@@ -63,14 +74,14 @@ TEST_F(StatusMenuTest, runsTheCommandOfEachLine)
         if (each->action)
             each->action();
     }
-    item(14).submenu->items()[0]->action();
-    item(14).submenu->items()[1]->action();
+    item(13).submenu->items()[0]->action();
+    item(13).submenu->items()[1]->action();
 
     EXPECT_THAT(target.calls,
         ElementsAre(u"toggleScroll"_s, u"backToTop"_s, u"toggleVoice"_s, u"toggleSlideTracking"_s,
-            u"toggleStealth"_s, u"togglePanel"_s, u"putUnderCamera"_s, u"openLibrary"_s,
-            u"openSettings"_s, u"openTour"_s, u"checkForUpdates"_s, u"terminate"_s,
-            u"contactSupport"_s, u"revealLogs"_s));
+            u"toggleStealth"_s, u"togglePanel"_s, u"openLibrary"_s, u"openSettings"_s,
+            u"openTour"_s, u"checkForUpdates"_s, u"terminate"_s, u"contactSupport"_s,
+            u"revealLogs"_s));
 }
 
 TEST_F(StatusMenuTest, offersToPauseWhileTheTextScrolls)
@@ -134,7 +145,7 @@ TEST_F(StatusMenuTest, offersNoLetterToNobody)
 
     menu.needsUpdate();
 
-    EXPECT_FALSE(item(14).submenu->items()[0]->isEnabled());
+    EXPECT_FALSE(item(13).submenu->items()[0]->isEnabled());
 }
 
 } // namespace

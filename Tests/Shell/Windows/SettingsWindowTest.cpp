@@ -1,9 +1,12 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUpdater.h"
+#include "Tests/Support/SlideshowStage.h"
 #include "Tests/Support/ViewItems.h"
 #include "Tests/Voice/VoiceFixture.h"
 
@@ -56,7 +59,7 @@ protected:
     {
         window.reset();
         window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, updates, keys, facts });
+            SettingsWindow::Services { settings, *engine, updates, keys, facts, impress });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -111,13 +114,14 @@ protected:
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
     FakeHotKeys keys;
+    ImpressPresenter* impress = nullptr;
     std::unique_ptr<SettingsWindow> window;
 };
 
 TEST_F(SettingsWindowTest, isAFixedWindowOfItsOwn)
 {
     view().hide();
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_EQ(view().title(), u"Orvello Settings"_s);
     EXPECT_EQ(view().minimumSize(), view().maximumSize());
@@ -126,13 +130,36 @@ TEST_F(SettingsWindowTest, isAFixedWindowOfItsOwn)
     EXPECT_FALSE(view().flags().testFlag(Qt::WindowMaximizeButtonHint));
 }
 
+TEST_F(SettingsWindowTest, allowsImpressToBeFollowedAndTakesThatBack)
+{
+    EXPECT_EQ(controlNamed(view(), u"Orvello may not follow Impress"_s), nullptr);
+
+    FakeHelperProcess helper;
+    SlideshowStage stage;
+    ImpressPresenter presenter(helper, stage.monitor, defaults);
+    impress = &presenter;
+    open(factsOfALinuxDesktop());
+    press(control(u"Allow"_s), Qt::Key_Space);
+    EXPECT_TRUE(presenter.isAllowed());
+    EXPECT_NE(controlNamed(view(), u"Orvello may follow Impress"_s), nullptr);
+
+    presenter.row().askOpenDeck([](const ScriptResult&) {});
+    helper.questions.last().completion({ 1, {}, u"It is closed. (-1743)"_s });
+    EXPECT_NE(controlNamed(view(), u"Orvello may follow Impress, but could not"_s), nullptr);
+
+    press(control(u"Take Back"_s), Qt::Key_Space);
+    EXPECT_FALSE(presenter.isAllowed());
+    EXPECT_NE(controlNamed(view(), u"Orvello may not follow Impress"_s), nullptr);
+    window.reset();
+}
+
 TEST_F(SettingsWindowTest, isHiddenByClosingAndComesBack)
 {
     settings.setFontSize(44);
     view().close();
     EXPECT_FALSE(view().isVisible());
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_NE(controlNamed(view(), u"Font size — 44"_s), nullptr);
@@ -501,6 +528,26 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
     open(factsOfALinuxDesktop());
 
     EXPECT_TRUE(showsText(view(), warning));
+}
+
+TEST_F(SettingsWindowTest, namesTheSystemsSettingsWhereTheyGrantPermissions)
+{
+    Facts facts = factsOfALinuxDesktop();
+    const auto mentions = [&](const QString& words) {
+        open(facts);
+        return std::ranges::any_of(
+            visibleTexts(view()), [&](const QString& text) { return text.contains(words); });
+    };
+    facts.asksBeforeControl = true;
+    facts.isMac = true;
+    facts.canHideWindows = true;
+    EXPECT_FALSE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_FALSE(mentions(u"QuickTime"_s));
+
+    facts.hasPrivacySettings = true;
+    facts.hasQuickTime = true;
+    EXPECT_TRUE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_TRUE(mentions(u"QuickTime"_s));
 }
 
 TEST_F(SettingsWindowTest, saysNothingOfAMacOnALinuxDesktop)

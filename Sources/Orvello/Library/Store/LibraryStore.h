@@ -54,12 +54,20 @@ public:
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
+    /// Adds what importPptx() would have read from that file.
+    QUuid addReadDeck(const QString& path, const PptxImporter::Deck& deck,
+        const std::optional<QString>& source = {});
+
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
 Q_SIGNALS:
     void scriptsChanged(const Orvello::LibraryChange& change);
     void activeScriptIDChanged();
+
+    /// The file that was imported holds more than the importer's limits allow: the notes of these
+    /// slides ("3, 257–300") are missing or not whole.
+    void notesLeftOut(const QString& slides);
 
 private:
     void makeFirstScript(const Facts& facts);

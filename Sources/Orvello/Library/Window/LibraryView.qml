@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Controls
 import Orvello
 
-// The scripts on the left, the active one with its editor on the right.
+// The scripts where reading begins, and beside them the active one with its editor.
 Pane {
     id: root
 
@@ -43,6 +43,8 @@ Pane {
 
     SplitView {
         anchors.fill: parent
+        // It does not mirror by itself.
+        Component.onCompleted: if (root.mirrored) moveItem(0, 1)
 
         ScriptSidebar {
             SplitView.minimumWidth: 180

@@ -20,8 +20,8 @@ class PromptLines final : public QObject {
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
 
 public:
-    explicit PromptLines(
-        TimeSource& time, QObject* parent = nullptr); ///< `time` must outlive the lines.
+    /// `time` must outlive the lines.
+    explicit PromptLines(TimeSource& time, QObject* parent = nullptr);
     ~PromptLines() override;
 
     const QString& text() const { return m_text; }

@@ -44,6 +44,7 @@ SettingsSection {
             Rectangle {
                 x: Math.round((level.mirrored ? 1 - root.voice.thresholdLevel : root.voice.thresholdLevel) * (level.width - width))
                 y: -2
+                z: 1
                 width: 2
                 height: level.height + 4
                 color: root.palette.windowText
@@ -59,11 +60,13 @@ SettingsSection {
             visible: root.voice.sensitivityTest.hasProposal
             text: qsTr("Use It")
             onClicked: root.voice.sensitivityTest.useProposal()
+            Accessible.name: text
         }
         Button {
             enabled: !root.voice.sensitivityTest.isRunning
             text: qsTr("Test")
             onClicked: root.voice.sensitivityTest.begin()
+            Accessible.name: text
             Accessible.description: qsTr("Speak normally for five seconds.")
         }
     }
@@ -75,9 +78,9 @@ SettingsSection {
         onPicked: index => root.voice.chooseMicrophone(index)
     }
     SettingsNote {
-        visible: root.voice.micAuthorized !== false && root.voice.status !== ""
+        visible: root.voice.micAuthorized !== false && text !== ""
         isWarning: root.voice.trouble !== VoiceActivityEngine.None
-        text: root.voice.status
+        text: root.voice.hearing
     }
     SettingsNote {
         visible: root.voice.micAuthorized === false
@@ -85,6 +88,10 @@ SettingsSection {
         text: !root.facts.hasPrivacySettings
               ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
               : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
+    }
+    SettingsNote {
+        visible: root.voice.echoCancellation === VoiceActivityEngine.Unavailable
+        text: qsTr("Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.")
     }
     // Neither is true once nothing is being captured.
     SettingsNote {

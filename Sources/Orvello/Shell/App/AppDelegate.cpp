@@ -7,6 +7,7 @@
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Desktop/Wakefulness.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
@@ -31,11 +32,12 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-AppDelegate::AppDelegate(
-    const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
+AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+    LaunchOptions options, ReadDecks decks)
     : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
+    , m_readDecks(std::move(decks))
     , m_settings(platforms.early.userDefaults())
     , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
           platforms.early.facts())
@@ -63,10 +65,15 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::addPresenters()
 {
-    m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
-    m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
+    const auto add = [this](PresenterApp app) {
+        app.isForThisSystem = m_platforms.early.facts().hasKeynoteAndPowerPoint;
+        m_presenters.add(std::move(app));
+    };
+    add(AppleScriptPresenters::keynote(m_scriptRunner));
+    add(AppleScriptPresenters::powerPoint(m_scriptRunner));
     if (HelperProcess* helper = m_platforms.desktop.impressHelper()) {
-        m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
+        m_impress = std::make_unique<ImpressPresenter>(
+            *helper, m_presentation, m_platforms.early.userDefaults());
         m_presenters.add(m_impress->row());
         m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
     }
@@ -217,7 +224,7 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.early.facts() });
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get() });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
@@ -262,7 +269,7 @@ void AppDelegate::showOnboarding()
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
     m_platforms.desktop.desktopServices().activateApplication();
-    m_onboarding->makeKeyAndOrderFront();
+    m_onboarding->bringToFront();
 }
 
 void AppDelegate::onboardingFinished()
@@ -278,17 +285,20 @@ void AppDelegate::setupStatusItem()
     m_statusMenu = std::make_unique<StatusMenu>(
         *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
+    m_prompterMenu = std::make_unique<StatusMenu>(*m_commands, m_platforms.desktop.hotKeys(),
+        AppCommands::versionText(), StatusMenu::Owner::Prompter);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
-        m_prompterWindow->window(), [this] { m_statusItem->openMenu(); });
+        m_prompterWindow->window(), [this] { m_windows->popUp(*m_prompterMenu); });
 }
 
 void AppDelegate::registerHotKeys()
 {
     for (const Command& command : Commands::all()) {
         if (command.key)
-            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
-                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
+            m_hotKeys.registerHotKey(
+                *command.key, [this, run = command.run] { (m_commands.get()->*run)(); },
+                Commands::purpose(command));
     }
 }
 
@@ -316,6 +326,24 @@ void AppDelegate::subscribe()
         });
     observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
         *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
+    if (Wakefulness* const wakefulness = m_platforms.desktop.wakefulness())
+        keepAwake(*wakefulness);
+}
+
+void AppDelegate::keepAwake(Wakefulness& wakefulness)
+{
+    const auto need = [this] {
+        if (m_engine.isRunning() || m_engine.isCountingDown())
+            return Wakefulness::Need::Display;
+        return m_voice.isListening() || m_presentation.isPresenting() ? Wakefulness::Need::Timers
+                                                                      : Wakefulness::Need::None;
+    };
+    observeCombined(
+        *this, need, [&wakefulness](Wakefulness::Need now) { wakefulness.hold(now); },
+        changeOf(m_engine, &ScrollEngine::isRunningChanged),
+        changeOf(m_engine, &ScrollEngine::countdownChanged),
+        changeOf(m_voice, &VoiceActivityEngine::isListeningChanged),
+        changeOf(m_presentation, &PresentationMonitor::isPresentingChanged));
 }
 
 /// Slide tracking is on exactly while the setting is and the active script has slides.
@@ -330,14 +358,28 @@ void AppDelegate::followSlideTracking()
         changeOf(m_settings, &SettingsStore::slideSyncChanged),
         changeOf(m_library, &LibraryStore::activeScriptIDChanged),
         changeOf(m_library, &LibraryStore::scriptsChanged));
+    if (!m_impress)
+        return;
+    // A consent given while a slideshow runs counts at once.
+    connect(m_impress.get(), &ImpressPresenter::isAllowedChanged, this, [this] {
+        if (m_slideSync.state() != SlideSyncService::State::Denied || !m_impress->isAllowed())
+            return;
+        m_slideSync.setActive(false);
+        m_slideSync.setActive(true);
+    });
 }
 
 void AppDelegate::importDecks()
 {
     if (!m_options.importedPath.isEmpty())
         importDeck(m_options.importedPath);
-    for (const QString& file : m_options.files)
-        importDeck(file);
+    for (const QString& file : m_options.files) {
+        if (const auto deck = m_readDecks.find(file); deck != m_readDecks.end())
+            m_library.addReadDeck(file, deck->second);
+        else
+            importDeck(file);
+    }
+    m_readDecks.clear();
 }
 
 /// Returns why it could not be imported, in words for the user.

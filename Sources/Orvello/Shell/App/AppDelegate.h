@@ -23,6 +23,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -38,6 +39,7 @@ class PrompterWindow;
 class RightClickFilter;
 class SoundPlatform;
 class StatusItem;
+class Wakefulness;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -54,8 +56,12 @@ public:
         CaptureExclusion captureExclusion {};
     };
 
-    AppDelegate(
-        const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options);
+    /// What is in decks, by their paths.
+    using ReadDecks = std::map<QString, PptxImporter::Deck>;
+
+    /// `decks` are those among the options' files that have been read already.
+    AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+        LaunchOptions options, ReadDecks decks = {});
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -93,6 +99,7 @@ private:
     void registerHotKeys();
     void startUpdates();
     void subscribe();
+    void keepAwake(Wakefulness& wakefulness);
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);
@@ -108,6 +115,7 @@ private:
     const Platforms m_platforms;
     const ShellWindows::Factory m_makeWindows;
     const LaunchOptions m_options;
+    ReadDecks m_readDecks; ///< Until they are imported.
     SettingsStore m_settings;
     LibraryStore m_library;
     AppleScriptRunner m_scriptRunner;
@@ -130,6 +138,7 @@ private:
     std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
     std::unique_ptr<AppCommands> m_commands;
     std::unique_ptr<StatusMenu> m_statusMenu;
+    std::unique_ptr<StatusMenu> m_prompterMenu;
     std::unique_ptr<StatusItem> m_statusItem;
     std::unique_ptr<RightClickFilter> m_rightClicks;
     std::unique_ptr<PlainPKey> m_plainPKey;

@@ -29,7 +29,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -70,15 +72,22 @@ void migrate(EarlyPlatform& platform)
         WelcomeScript::body(platform.facts()) });
 }
 
-/// What keeps a file from being imported, for each of the files that are no decks.
-QStringList unreadableDecks(const QStringList& files)
+/// The decks on the command line, and what is wrong with the files that are none.
+struct Decks {
+    AppDelegate::ReadDecks read;
+    std::map<QString, PptxImporter::ImportError> refused;
+};
+
+Decks readDecks(const QStringList& files)
 {
-    QStringList problems;
+    Decks decks;
     for (const QString& file : files) {
-        if (const auto notes = PptxImporter::importNotes(file); !notes)
-            problems.append(file + u": "_s + PptxImporter::description(notes.error()));
+        if (auto deck = PptxImporter::importDeck(file))
+            decks.read.emplace(file, std::move(*deck));
+        else
+            decks.refused.emplace(file, deck.error());
     }
-    return problems;
+    return decks;
 }
 
 /// Tells the user, a line each, in the terminal or the log of whoever started the program.
@@ -185,11 +194,15 @@ int main(int argc, char** argv)
                          : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
         return EXIT_SUCCESS;
     }
-    if (!options.mistakes.isEmpty() || !unreadableDecks(options.files).isEmpty()) {
+    Decks decks = readDecks(options.files);
+    if (!options.mistakes.isEmpty() || !decks.refused.empty()) {
         // Asked again, in the user's language, which needs an application object.
         QCoreApplication application(argc, argv);
         installTranslation(application);
-        complain(LaunchOptions::of(start).mistakes + unreadableDecks(options.files));
+        QStringList problems = LaunchOptions::of(start).mistakes;
+        for (const auto& [file, error] : decks.refused)
+            problems.append(file + u": "_s + PptxImporter::description(error));
+        complain(problems);
         print(stderr, LaunchOptions::tr("Try \"orvello --help\".") + u'\n');
         return ExitStatus::mistaken;
     }
@@ -230,7 +243,7 @@ int main(int argc, char** argv)
         [](const ShellWindows::Services& services) {
             return std::make_unique<QtShellWindows>(services);
         },
-        options);
+        options, std::move(decks.read));
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
         &AppDelegate::applicationWillTerminate);
     delegate.applicationOpen(options.urls);

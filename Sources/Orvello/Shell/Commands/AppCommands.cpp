@@ -89,7 +89,7 @@ void AppCommands::openSettings()
 void AppCommands::show(ShellWindow& window)
 {
     m_services.desktop.activateApplication();
-    window.makeKeyAndOrderFront();
+    window.bringToFront();
 }
 
 void AppCommands::openTour() { m_delegate.showOnboarding(); }

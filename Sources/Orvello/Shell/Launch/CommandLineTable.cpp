@@ -15,7 +15,7 @@ namespace {
 using enum Section;
 
 constexpr std::array table {
-    Entry { Files, "FILE", "", "a PowerPoint deck (.pptx): its notes become the active script" },
+    Entry { Files, "FILE", "", "a deck (.pptx or .odp): its notes become the active script" },
 
     Entry { Options, "--autostart", "", "start scrolling after the countdown" },
     Entry { Options, "--check-updates", "", "look for a newer version" },

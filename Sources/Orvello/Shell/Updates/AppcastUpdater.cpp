@@ -30,9 +30,9 @@ AppcastUpdater::AppcastUpdater(const Services& services, QString version, QStrin
 {
 }
 
-void AppcastUpdater::start(UpdaterDelegate& delegate)
+void AppcastUpdater::start(UpdateListener& listener)
 {
-    m_delegate = &delegate;
+    m_listener = &listener;
     announceChecks();
     // On the next turn of the main loop, once the code that starts the updater has logged it. A
     // user who asks for a check before that is not asked whether to check.
@@ -42,7 +42,7 @@ void AppcastUpdater::start(UpdaterDelegate& delegate)
     });
 }
 
-QString AppcastUpdater::feed() const { return m_delegate->feedURLString().value_or(m_builtInFeed); }
+QString AppcastUpdater::feed() const { return m_listener->feedAddress().value_or(m_builtInFeed); }
 
 std::optional<QString> AppcastUpdater::builtInFeed() const
 {
@@ -82,7 +82,7 @@ void AppcastUpdater::observe(std::function<void()> changed)
     m_observers.push_back(std::move(changed));
 }
 
-bool AppcastUpdater::canCheck() const { return m_delegate && m_phase != Phase::Loading; }
+bool AppcastUpdater::canCheck() const { return m_listener && m_phase != Phase::Loading; }
 
 std::optional<Date> AppcastUpdater::lastCheck() const
 {
@@ -111,11 +111,11 @@ void AppcastUpdater::enter(Phase phase)
 void AppcastUpdater::scheduleNextCheck()
 {
     m_nextCheck.reset();
-    if (!m_delegate || !isOn() || feed().isEmpty())
+    if (!m_listener || !isOn() || feed().isEmpty())
         return;
     const double delay = secondsUntilNextCheck();
     if (delay > 0)
-        m_delegate->willScheduleUpdateCheckAfterDelay(delay);
+        m_listener->checkScheduled(delay);
     m_nextCheck = m_services.time.callAfter(delay, [this] { check(Origin::Schedule); });
 }
 
@@ -178,7 +178,7 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
 void AppcastUpdater::offer(const AppcastItem& item)
 {
     enter(Phase::Asking);
-    m_delegate->didFindValidUpdate(updateItem(item));
+    m_listener->updateFound(updateItem(item));
     m_services.user.showUpdate(
         updateItem(item), [this, item](UpdateChoice choice) { chosen(choice, item); });
     if (m_origin == Origin::User)
@@ -188,7 +188,7 @@ void AppcastUpdater::offer(const AppcastItem& item)
 void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
 {
     const UpdateItem update = updateItem(item);
-    m_delegate->userDidMakeChoice(choice, update);
+    m_listener->userChose(choice, update);
     if (choice == UpdateChoice::Skip)
         m_services.defaults.setValue(skippedKey, item.version);
     if (choice == UpdateChoice::Install)
@@ -199,26 +199,26 @@ void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
 void AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem& update)
 {
     m_services.defaults.remove(skippedKey);
-    m_delegate->willInstallUpdate(update);
+    m_listener->installing(update);
     // The feed decides what is opened, so it must not be able to start just any program.
     if (!FeedLoader::isSecure(item.page))
-        m_delegate->failedToDownloadUpdate(
+        m_listener->downloadFailed(
             update, { tr("The update feed names no secure page."), UpdateError::download });
     else if (!m_services.desktop.open(item.page))
-        m_delegate->failedToDownloadUpdate(
+        m_listener->downloadFailed(
             update, { tr("The download page cannot be opened."), UpdateError::download });
 }
 
 void AppcastUpdater::upToDate()
 {
     const UpdateError error { tr("Orvello is up to date."), UpdateError::noUpdate };
-    m_delegate->didNotFindUpdate(error);
+    m_listener->noUpdateFound(error);
     abort(error);
 }
 
 void AppcastUpdater::abort(const UpdateError& error)
 {
-    m_delegate->didAbortWithError(error);
+    m_listener->checkFailed(error);
     finish(error.description);
 }
 

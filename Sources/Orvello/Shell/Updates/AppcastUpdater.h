@@ -36,7 +36,7 @@ public:
     /// Looks in `feed` for updates of a program of that version; an empty feed is none.
     AppcastUpdater(const Services& services, QString version, QString feed);
 
-    void start(UpdaterDelegate& delegate) override;
+    void start(UpdateListener& listener) override;
     void check() override;
     UpdateSchedule& schedule() override { return *this; }
     bool canCheck() const override;
@@ -71,7 +71,7 @@ private:
     const QString m_version;
     const QString m_builtInFeed;
     FeedLoader m_loader;
-    UpdaterDelegate* m_delegate = nullptr; ///< Null until started.
+    UpdateListener* m_listener = nullptr; ///< Null until started.
     std::vector<std::function<void()>> m_observers;
     std::vector<std::function<void()>> m_checkObservers;
     std::unique_ptr<TimeSource::Ticket> m_nextCheck; ///< Or the moment to schedule it.

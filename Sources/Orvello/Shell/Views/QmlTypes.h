@@ -3,6 +3,7 @@
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Platform/Early/Facts.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/CardStyle.h"
@@ -103,6 +104,13 @@ struct SettingsFormType {
     Q_GADGET
     QML_FOREIGN(Orvello::SettingsForm)
     QML_NAMED_ELEMENT(SettingsForm)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ImpressPresenterType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ImpressPresenter)
+    QML_NAMED_ELEMENT(ImpressPresenter)
     QML_UNCREATABLE("The program makes it.")
 };
 

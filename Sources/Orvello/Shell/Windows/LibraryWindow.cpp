@@ -21,14 +21,14 @@ LibraryWindow::LibraryWindow(const Services& services)
     m_view.setTitle(tr("Scripts"));
     m_view.setFlags(ViewWindow::titledAndClosable | Qt::WindowMaximizeButtonHint);
     m_view.setMinimumSize(smallestSize);
-    followSystemPalette(m_view);
     ViewWindow::load(
         m_view, u"LibraryView"_s, { { u"library"_s, QVariant::fromValue(&m_library) } });
+    followSystemPalette(m_view);
     m_view.resize(firstSize);
 }
 
 LibraryWindow::~LibraryWindow() = default;
 
-void LibraryWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view); }
+void LibraryWindow::bringToFront() { WindowPlacement::bringToFront(m_view); }
 
 } // namespace Orvello

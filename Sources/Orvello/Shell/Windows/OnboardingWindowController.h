@@ -13,6 +13,7 @@ namespace Orvello {
 
 class AssignedKeys;
 class SettingsStore;
+class VoiceActivityEngine;
 class WindowChrome;
 class Workspace;
 
@@ -22,8 +23,8 @@ class OnboardingWindowController final : public QObject, public ShellWindow {
 
 public:
     static constexpr QSize contentSize { 680, 580 }; ///< In points.
-    static constexpr qint64 version
-        = 1; ///< The tour's version, which is remembered once the user has seen it.
+    /// The tour's version, which is remembered once the user has seen it.
+    static constexpr qint64 version = 1;
 
     /// All of them must outlive the window.
     struct Services {
@@ -31,6 +32,7 @@ public:
         const Workspace& workspace;
         WindowChrome& chrome;
         HotKeys& hotKeys;
+        VoiceActivityEngine& voice;
         Facts facts; ///< What the tour may say about this machine.
     };
 
@@ -38,7 +40,7 @@ public:
     /// may destroy the window.
     OnboardingWindowController(const Services& services, std::function<void()> onFinish);
 
-    void makeKeyAndOrderFront() override;
+    void bringToFront() override;
 
     QQuickView& view() { return m_view; }
     WelcomeTour& tour() { return m_tour; }

@@ -1,8 +1,10 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
 #include "Orvello/Shell/Windows/SystemPalette.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
 #include "Orvello/Shell/Windows/WindowPlacement.h"
@@ -21,7 +23,6 @@ SettingsWindow::SettingsWindow(const Services& services)
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
     m_view.resize(contentSize);
-    followSystemPalette(m_view);
     ViewWindow::load(m_view, u"SettingsView"_s,
         {
             { u"settings"_s, QVariant::fromValue(&services.settings) },
@@ -31,9 +32,12 @@ SettingsWindow::SettingsWindow(const Services& services)
             { u"version"_s, QString::fromLatin1(version) },
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
+            { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
+    followSystemPalette(m_view);
 }
 
-void SettingsWindow::makeKeyAndOrderFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+void SettingsWindow::bringToFront() { WindowPlacement::bringToFront(m_view, contentSize); }
 
 } // namespace Orvello

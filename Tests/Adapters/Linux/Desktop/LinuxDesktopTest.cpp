@@ -1,3 +1,4 @@
+#include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/KnownApplications.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
@@ -110,15 +111,27 @@ TEST_F(X11DesktopTest, survivesWindowsThatSayNothingOrNonsense)
     EXPECT_EQ(owners(), QStringList({ u"LibreOffice Impress"_s, QString() }));
 }
 
-TEST_F(X11DesktopTest, takesImpressForFrontmostOnlyByItsSlideshow)
+TEST_F(X11DesktopTest, tellsASlideshowFromADeckThatIsEdited)
+{
+    const auto editor = server.addWindow(0, 0, 1280, 800, impressClass);
+    const auto slideshow = server.addWindow(0, 0, 1280, 800, slideshowClass);
+    server.publishStacking({ editor, slideshow });
+
+    EXPECT_EQ(owners(), QStringList({ u"LibreOffice Impress"_s, u"libreoffice-impress"_s }));
+}
+
+TEST_F(X11DesktopTest, takesImpressForFrontmostByAnyOfItsWindows)
 {
     const auto slideshow = server.addWindow(0, 0, 1280, 800, slideshowClass);
     const auto editor = server.addWindow(0, 0, 100, 100, impressClass);
+    const auto writer = server.addWindow(0, 0, 100, 100, writerClass);
     const auto browser = server.addWindow(0, 0, 100, 100, browserClass);
 
     server.publishActive(slideshow);
     EXPECT_EQ(frontmost()->bundleIdentifier, u"libreoffice-impress"_s);
     server.publishActive(editor);
+    EXPECT_EQ(frontmost()->bundleIdentifier, u"libreoffice-impress"_s);
+    server.publishActive(writer);
     EXPECT_EQ(frontmost()->bundleIdentifier, std::nullopt);
     server.publishActive(browser);
     EXPECT_EQ(frontmost()->bundleIdentifier, std::nullopt);
@@ -140,6 +153,22 @@ TEST_F(X11DesktopTest, findsNothingOnceTheDisplayIsGone)
     EXPECT_EQ(X11WindowServer(*windows).windowsOnScreen(), std::nullopt);
     EXPECT_TRUE(X11WindowServer(*windows).screenSizes().isEmpty());
     EXPECT_EQ(frontmost(), std::nullopt);
+}
+
+TEST(FormerImpressPermissionTest, isFoundInTheProfileAlone)
+{
+    const QTemporaryDir folder;
+    const QString profile = folder.filePath(u"registrymodifications.xcu"_s);
+    const auto write = [&](const QByteArray& content) {
+        QFile file(profile);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    };
+    EXPECT_FALSE(FormerImpressPermission::isIn(profile));
+    write("<item><value>pipe,name=other;urp;</value></item>");
+    EXPECT_FALSE(FormerImpressPermission::isIn(profile));
+    write("<item><value>pipe,name=orvello;urp;</value></item>");
+    EXPECT_TRUE(FormerImpressPermission::isIn(profile));
 }
 
 TEST(X11WindowsTest, findsNothingWithoutADisplay)

@@ -61,6 +61,10 @@ __attribute__((objc_root_class))
 - (void)dealloc;
 @end
 
+@interface NSObject (NSDelayedPerforming)
+- (void)performSelector:(SEL)aSelector withObject:(nullable id)anArgument afterDelay:(double)delay;
+@end
+
 typedef NSUInteger NSKeyValueObservingOptions;
 @interface NSObject (NSKeyValueObserving)
 - (void)observeValueForKeyPath:(nullable NSString*)keyPath
@@ -151,7 +155,14 @@ typedef void NSUncaughtExceptionHandler(NSException* exception);
 - (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 @end
 
+typedef NS_OPTIONS(unsigned long long, NSActivityOptions) {
+    NSActivityIdleDisplaySleepDisabled = 1ULL << 40,
+    NSActivityUserInitiated = 0x00FFFFFFULL,
+    NSActivityUserInitiatedAllowingIdleSystemSleep = 0x00EFFFFFULL,
+};
 @interface NSProcessInfo : NSObject
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
+- (void)endActivity:(id<NSObject>)activity;
 @property (class, readonly, strong) NSProcessInfo* processInfo;
 @property (copy) NSString* processName;
 @property (readonly, copy) NSString* operatingSystemVersionString;
@@ -184,6 +195,23 @@ typedef NSString* NSNotificationName;
                             object:(nullable id)obj
                              queue:(nullable NSOperationQueue*)queue
                         usingBlock:(void (^)(NSNotification* notification))block;
+@end
+
+typedef FourCharCode AEEventClass;
+typedef FourCharCode AEEventID;
+typedef FourCharCode AEKeyword;
+@interface NSAppleEventDescriptor : NSObject
+@property (readonly) OSType typeCodeValue;
+- (nullable NSAppleEventDescriptor*)attributeDescriptorForKeyword:(AEKeyword)keyword;
+@end
+@interface NSAppleEventManager : NSObject
+@property (nullable, readonly, retain) NSAppleEventDescriptor* currentAppleEvent;
++ (NSAppleEventManager*)sharedAppleEventManager;
+- (void)setEventHandler:(id)handler
+            andSelector:(SEL)handleEventSelector
+          forEventClass:(AEEventClass)eventClass
+             andEventID:(AEEventID)eventID;
+- (void)removeEventHandlerForEventClass:(AEEventClass)eventClass andEventID:(AEEventID)eventID;
 @end
 
 typedef NS_ENUM(NSUInteger, NSSearchPathDirectory) { NSApplicationSupportDirectory = 14 };

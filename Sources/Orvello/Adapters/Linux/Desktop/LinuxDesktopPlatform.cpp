@@ -1,5 +1,4 @@
 #include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
-#include "Orvello/Adapters/Linux/Desktop/FramelessChrome.h"
 #include "Orvello/Adapters/Linux/Desktop/HardwareRenderer.h"
 #include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxDesktopServices.h"
@@ -13,6 +12,7 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Windows.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
+#include "Orvello/Platform/Desktop/WindowChrome.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Shell/Updates/AppcastUpdater.h"
 
@@ -20,6 +20,7 @@
 
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QWindow>
 
 #include <memory>
 #include <optional>
@@ -39,6 +40,16 @@ bool canConnectToDisplay()
     xcb_disconnect(connection);
     return isConnected;
 }
+
+/// X11 window managers draw a title bar whole or not at all.
+class FramelessChrome final : public WindowChrome {
+public:
+    bool hideTitleBar(QWindow& window) override
+    {
+        window.setFlag(Qt::FramelessWindowHint);
+        return false;
+    }
+};
 
 /// What is read from the X display.
 struct Desktop {
@@ -118,6 +129,7 @@ private:
     FramelessChrome m_windowChrome;
     Updates m_updates { m_early.time(), m_early.userDefaults(), m_session.services };
     std::unique_ptr<HelperProcess> m_impressHelper = makeImpressHelper();
+    std::unique_ptr<HelperProcess> m_formerPermission = FormerImpressPermission::takeBack();
 };
 
 } // namespace

@@ -24,8 +24,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int edgeWidth
-    = 6; ///< How far inside the panel a press still takes hold of its edge, in points.
+/// How far inside the panel a press still takes hold of its edge, in points.
+constexpr int edgeWidth = 6;
 constexpr std::chrono::milliseconds screensSettlingTime { 100 };
 constexpr int cornerRadius = 16; ///< The card's.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.

@@ -36,10 +36,10 @@ private:
     bool isManaged(std::uint32_t window) const;
 
     std::uint32_t m_window;
-    xcb_connection_t*
-        m_connection; ///< Its own, so that Qt's event selection on the root window stays as it is.
-    std::uint32_t m_managedStateAtom
-        = 0; ///< WM_STATE, which a manager sets on each window that it manages.
+    /// Its own, so that Qt's event selection on the root window stays as it is.
+    xcb_connection_t* m_connection;
+    /// WM_STATE, which a manager sets on each window that it manages.
+    std::uint32_t m_managedStateAtom = 0;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 

@@ -1,12 +1,13 @@
 #include "Orvello/Adapters/Linux/Early/BusInstance.h"
 #include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
 #include "Orvello/Adapters/Linux/Early/Syslog.h"
-#include "Orvello/Adapters/Linux/Early/XdgFolders.h"
 #include "Orvello/Adapters/Portable/PosixProcessSignals.h"
 #include "Orvello/Adapters/Portable/QtChildProcess.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
+#include "Orvello/Platform/Early/Folders.h"
 
+#include <QDir>
 #include <QSysInfo>
 
 #include <optional>
@@ -17,6 +18,26 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The folders of the XDG base directories.
+class XdgFolders final : public Folders {
+public:
+    QString applicationSupport() const override
+    {
+        return folder("XDG_DATA_HOME", u"/.local/share"_s);
+    }
+    QString configuration() const { return folder("XDG_CONFIG_HOME", u"/.config"_s); }
+
+private:
+    static QString folder(const char* variable, const QString& belowHome)
+    {
+        const QString named = qEnvironmentVariable(variable);
+        // "All paths set in these environment variables must be absolute. If an implementation
+        // encounters a relative path […] it should consider the path invalid and ignore it." (XDG
+        // base directories, basics)
+        return QDir::isAbsolutePath(named) ? QDir::cleanPath(named) : QDir::homePath() + belowHome;
+    }
+};
 
 class LinuxEarlyPlatform final : public EarlyPlatform {
 public:

@@ -10,8 +10,8 @@ class PulseConnection;
 /// sinks on which something plays. The server sees nothing but record streams.
 class PulseVoiceProcessing final : public VoiceProcessing {
 public:
-    explicit PulseVoiceProcessing(
-        PulseConnection& connection); ///< Must outlive this and its units.
+    /// `connection` must outlive this and its units.
+    explicit PulseVoiceProcessing(PulseConnection& connection);
 
     bool isAvailable() override;
     Instantiation instantiate(VoiceProcessingUnit::Listener& listener) override;

@@ -1,19 +1,60 @@
 #include "Orvello/Adapters/macOS/Desktop/CarbonHotKeys.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaDesktop.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaMenuBar.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaOpenPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
-#include "Orvello/Adapters/macOS/Desktop/CocoaStatusBar.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaWakefulness.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
+#include "Orvello/Adapters/macOS/Desktop/LogOut.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
 #include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
 #include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
+#include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
+#include "Orvello/Platform/Desktop/DesktopServices.h"
+#include "Orvello/Platform/Desktop/StatusBar.h"
 
 namespace Orvello {
 
 namespace {
+
+class CocoaDesktop final : public DesktopServices {
+public:
+    void activateApplication() override
+    {
+        // Since macOS 14 a request only, which the system grants after a click in our own menu.
+        shielded([] { [NSApp activateIgnoringOtherApps:YES]; });
+    }
+    bool open(const QUrl& url) override
+    {
+        bool isOpened = false;
+        shielded([&] {
+            NSURL* const address =
+                [NSURL URLWithString:nsString(QString::fromLatin1(url.toEncoded()))];
+            isOpened = address && [NSWorkspace.sharedWorkspace openURL:address];
+        });
+        return isOpened;
+    }
+    void reveal(const QString& path) override
+    {
+        shielded([&] {
+            NSURL* const file = [NSURL fileURLWithPath:nsString(path)];
+            [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ file ]];
+        });
+    }
+};
+
+/// The right side of the system's menu bar, which is never missing.
+class CocoaStatusBar final : public StatusBar {
+public:
+    MenuBar* menuBar() override { return &m_menuBar; }
+    void observe(std::function<void(bool isThere)> changed) override { changed(true); }
+
+private:
+    CocoaMenuBar m_menuBar;
+};
 
 class MacDesktopPlatform final : public DesktopPlatform {
 public:
@@ -32,6 +73,8 @@ public:
         return *m_updater;
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
+
+    Wakefulness* wakefulness() override { return &m_wakefulness; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -54,6 +97,7 @@ private:
     CarbonHotKeys m_hotKeys;
     std::unique_ptr<Updater> m_updater;
     CocoaWindowChrome m_windowChrome;
+    CocoaWakefulness m_wakefulness;
 };
 
 } // namespace
@@ -61,6 +105,7 @@ private:
 QString DesktopPlatform::prepare()
 {
     makeApplicationObject();
+    agreeToLogOut();
     return {};
 }
 

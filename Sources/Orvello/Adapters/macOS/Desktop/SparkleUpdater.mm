@@ -28,9 +28,9 @@ SparkleUpdater::~SparkleUpdater()
     m_delegate.target = nullptr;
 }
 
-void SparkleUpdater::start(UpdaterDelegate& delegate)
+void SparkleUpdater::start(UpdateListener& listener)
 {
-    m_delegate.target = &delegate;
+    m_delegate.target = &listener;
     shielded([&] { [m_controller startUpdater]; });
 }
 
@@ -41,7 +41,10 @@ void SparkleUpdater::check()
 
 bool SparkleUpdater::isOn() const { return m_controller.updater.automaticallyChecksForUpdates; }
 
-void SparkleUpdater::setOn(bool isOn) { m_controller.updater.automaticallyChecksForUpdates = isOn; }
+void SparkleUpdater::setOn(bool isOn)
+{
+    shielded([&] { m_controller.updater.automaticallyChecksForUpdates = isOn; });
+}
 
 void SparkleUpdater::observe(std::function<void()> changed)
 {

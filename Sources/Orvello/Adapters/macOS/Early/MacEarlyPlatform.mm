@@ -1,16 +1,39 @@
 #include "Orvello/Adapters/Portable/PosixProcessSignals.h"
 #include "Orvello/Adapters/Portable/QtChildProcess.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
-#include "Orvello/Adapters/macOS/Early/CocoaFolders.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
-#include "Orvello/Adapters/macOS/Early/LaunchServicesInstance.h"
-#include "Orvello/Adapters/macOS/Early/UnifiedLog.h"
+#include "Orvello/Adapters/macOS/Early/MacInstance.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
+#include "Orvello/Platform/Early/Folders.h"
+#include "Orvello/Platform/Early/SystemLog.h"
 
 namespace Orvello {
 
 namespace {
+
+class CocoaFolders final : public Folders {
+public:
+    QString applicationSupport() const override
+    {
+        NSArray<NSString*>* const folders = NSSearchPathForDirectoriesInDomains(
+            NSApplicationSupportDirectory, NSUserDomainMask, YES);
+        return qString(folders.firstObject);
+    }
+};
+
+/// NSLog: the unified log, and standard error where it is a terminal.
+class UnifiedLog final : public SystemLog {
+public:
+    void write(std::string_view message) override
+    {
+        // Threads without a run loop have no pool of their own.
+        @autoreleasepool {
+            const QByteArrayView bytes(message.data(), static_cast<qsizetype>(message.size()));
+            NSLog(@"%@", nsString(QString::fromUtf8(bytes)));
+        }
+    }
+};
 
 class MacEarlyPlatform final : public EarlyPlatform {
 public:
@@ -60,7 +83,8 @@ private:
     CocoaUserDefaults m_userDefaults;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
-    LaunchServicesInstance m_runningInstance;
+    MacInstance m_runningInstance { m_folders.applicationSupport()
+        + QStringLiteral("/Orvello/logs") };
 };
 
 } // namespace

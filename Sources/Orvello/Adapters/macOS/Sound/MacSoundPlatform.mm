@@ -1,15 +1,41 @@
-#include "Orvello/Adapters/macOS/Sound/CapturePermission.h"
 #include "Orvello/Adapters/macOS/Sound/EngineMicrophone.h"
 #include "Orvello/Adapters/macOS/Sound/HalAudioProcesses.h"
 #include "Orvello/Adapters/macOS/Sound/HalMicrophones.h"
 #include "Orvello/Adapters/macOS/Sound/VoiceProcessingIO.h"
+#include "Orvello/Platform/Sound/MicrophonePermission.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
 
 #include <optional>
 
+#import <AVFoundation/AVFoundation.h>
+
 namespace Orvello {
 
 namespace {
+
+/// The user's decision about the microphone in System Settings, Privacy & Security.
+class CapturePermission final : public MicrophonePermission {
+public:
+    Status status() const override
+    {
+        switch ([AVCaptureDevice authorizationStatusForMediaType:AVMediaTypeAudio]) {
+        case AVAuthorizationStatusNotDetermined:
+            return Status::NotDetermined;
+        case AVAuthorizationStatusRestricted:
+            return Status::Restricted;
+        case AVAuthorizationStatusDenied:
+            return Status::Denied;
+        case AVAuthorizationStatusAuthorized:
+            return Status::Authorized;
+        }
+        return Status::Denied; // A status that a later system added.
+    }
+    void request(std::function<void(bool isGranted)> completion) override
+    {
+        [AVCaptureDevice requestAccessForMediaType:AVMediaTypeAudio
+                                 completionHandler:^(BOOL granted) { completion(granted); }];
+    }
+};
 
 class MacSoundPlatform final : public SoundPlatform {
 public:
