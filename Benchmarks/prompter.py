@@ -100,8 +100,9 @@ def measure_smoothness(renderer, size=(720, 200), scale=1, seconds=SMOOTH_SECOND
     with Desktop(max(1440, width * scale), max(900, (height + 50) * scale)) as desktop:
         desktop.run("xdotool", "mousemove", "10", str(desktop.height - 10))
         write_script(desktop, 1_000)
+        screen = (desktop.width // scale, desktop.height // scale)
         App.set_defaults(desktop, countdownSeconds=0, onboardingSeenVersion=1, slideSync=False, **{
-            "NSWindow Frame PrompterPanel": f"0 0 {width} {height} 0 0 {desktop.width} {desktop.height}"})
+            "NSWindow Frame PrompterPanel": f"0 {screen[1] - height} {width} {height} 0 0 {screen[0]} {screen[1]}"})
         app = App(desktop, "--autostart", environment=FRAME_LOG | {
             "ORVELLO_RENDERER": renderer, "QT_SCALE_FACTOR": str(scale)})
         app.shown()

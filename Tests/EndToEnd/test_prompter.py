@@ -234,6 +234,21 @@ class PrompterTest(unittest.TestCase):
         wait_until(lambda: frames() > drawn, what="the text to move")
         wait_until(rests, what="the prompter to rest again")
 
+    def test_without_a_compositor_its_corners_are_cut_off(self):
+        for compositor in (True, False):
+            with self.subTest(compositor=compositor), Desktop(compositor=compositor) as desktop:
+                App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=1.0)
+                app = App(desktop)
+                x, y, width, height = app.shown()
+
+                picture = desktop.screenshot()
+
+                wallpaper = (0x28, 0x40, 0x60)
+                for corner in ((x + 1, y + 1), (x + width - 2, y + 1), (x + 1, y + height - 2),
+                               (x + width - 2, y + height - 2)):
+                    self.assertEqual(picture.pixel(*corner), wallpaper)
+                self.assertLess(max(picture.pixel(x + width // 2, y + height - 3)), 60)
+
     # Stealth Mode
 
     def test_each_mechanism_is_logged_as_it_was_asked_for(self):

@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
+#include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
@@ -14,6 +15,8 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
+#include <string>
+#include <xcb/xcb.h>
 
 namespace Orvello {
 
@@ -24,7 +27,22 @@ namespace {
 /// How far inside the panel a press still takes hold of its edge, in points.
 constexpr int edgeWidth = 6;
 constexpr std::chrono::milliseconds screensSettlingTime { 100 };
+constexpr int cornerRadius = 16; ///< The card's.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
+
+/// Whether somebody on the display draws windows over each other with their transparency.
+bool hasCompositor()
+{
+    int screen = 0;
+    xcb_connection_t* const connection = xcb_connect(nullptr, &screen);
+    const std::uint32_t selection
+        = Xcb::atomNamed(connection, "_NET_WM_CM_S" + std::to_string(screen));
+    const auto owner = Xcb::owned(xcb_get_selection_owner_reply(
+        connection, xcb_get_selection_owner(connection, selection), nullptr));
+    const bool hasOwner = owner && owner->owner != XCB_WINDOW_NONE;
+    xcb_disconnect(connection);
+    return hasOwner;
+}
 
 Qt::Edges edgesAt(QPointF position, QSize size)
 {
@@ -165,6 +183,8 @@ void X11Panel::saveFrameAs(const QString& name)
 void X11Panel::show()
 {
     returnToScreens();
+    m_isComposited = hasCompositor();
+    roundCorners();
     m_window.show();
     m_stackingGuard->settle();
 }
@@ -270,8 +290,33 @@ void X11Panel::endGesture()
 /// A window that is shown, or only moved, gets a resize event all the same.
 void X11Panel::announceSize()
 {
-    if (assign(m_announcedSize, m_window.size()))
-        Q_EMIT resized();
+    if (!assign(m_announcedSize, m_window.size()))
+        return;
+    roundCorners();
+    Q_EMIT resized();
+}
+
+/// Without a compositor there is no transparency: what is outside of the card's corners would be
+/// black, and so is cut off.
+void X11Panel::roundCorners()
+{
+    if (m_isComposited) {
+        m_window.setMask({});
+        return;
+    }
+    const QRect area(QPoint(), m_window.size());
+    QRegion mask = QRegion(area.adjusted(cornerRadius, 0, -cornerRadius, 0))
+        + QRegion(area.adjusted(0, cornerRadius, 0, -cornerRadius));
+    QRect corner(0, 0, 2 * cornerRadius, 2 * cornerRadius);
+    corner.moveTopLeft(area.topLeft());
+    mask += QRegion(corner, QRegion::Ellipse);
+    corner.moveTopRight(area.topRight());
+    mask += QRegion(corner, QRegion::Ellipse);
+    corner.moveBottomLeft(area.bottomLeft());
+    mask += QRegion(corner, QRegion::Ellipse);
+    corner.moveBottomRight(area.bottomRight());
+    mask += QRegion(corner, QRegion::Ellipse);
+    m_window.setMask(mask);
 }
 
 void X11Panel::noteFrame()

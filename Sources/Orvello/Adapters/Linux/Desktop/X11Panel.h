@@ -68,6 +68,7 @@ private:
     void returnToScreens();
     void moveTo(const QRectF& frame);
     void announceSize();
+    void roundCorners();
     void noteFrame();
     void saveHome();
 
@@ -80,6 +81,7 @@ private:
     QRectF m_settledFrame; ///< The frame last set or noted. Any other was chosen by the user.
     QTimer m_screensSettling;
     QSize m_announcedSize;
+    bool m_isComposited = true; ///< When the panel was last shown.
     bool m_isHidden = false;
     Gesture m_gesture;
 };
