@@ -1299,6 +1299,25 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Die Empfindlichkeit für meine Stimme finden</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Mikrofonpegel</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfen</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

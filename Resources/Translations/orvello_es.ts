@@ -1299,6 +1299,25 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Buscar la sensibilidad para mi voz</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Nivel del micrófono</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

@@ -1299,6 +1299,25 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Trouver la sensibilité pour ma voix</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Niveau du micro</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Adopter</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

@@ -1297,6 +1297,25 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>自分の声に合う感度を調べる</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>マイクのレベル</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>テスト</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

@@ -1299,6 +1299,25 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Encontrar a sensibilidade para a minha voz</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>Nível do microfone</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

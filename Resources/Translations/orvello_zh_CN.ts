@@ -1297,6 +1297,25 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>TourVoiceTest</name>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>为我的声音找到灵敏度</translation>
+    </message>
+    <message>
+        <source>Mic level</source>
+        <translation>麦克风音量</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+</context>
+<context>
     <name>TourWelcomePage</name>
     <message>
         <source>Welcome to Orvello</source>

@@ -1,8 +1,8 @@
 // The voice engine on the platform's own sound, without a window: what it logs and publishes goes
 // to standard output with the monotonic time, and each line of standard input is a command:
-// "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "microphone NAME", "peak" (of
-// the level since the last time), "stall" (the longest time for which the main loop did not turn,
-// but for want of a processor, since the last time), "state", "quit".
+// "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "microphone NAME", "peak"
+// (of the level since the last time), "stall" (the longest time for which the main loop did not
+// turn, but for want of a processor, since the last time), "state", "quit".
 
 #include "Orvello/Adapters/Linux/Sound/PulseSound.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
@@ -110,7 +110,8 @@ public:
             const Microphones::State heard = m_sound.microphones.state();
             std::ostringstream state;
             state << "state listening=" << m_engine.isListening() << " aec=" << m_engine.aecActive()
-                  << " speaking=" << m_engine.isSpeaking() << " trouble=" << static_cast<int>(heard.trouble)
+                  << " speaking=" << m_engine.isSpeaking()
+                  << " trouble=" << static_cast<int>(heard.trouble)
                   << " heard=" << heard.heard.toStdString() << " level=" << m_engine.level();
             m_journal.write(state.str());
         }

@@ -133,20 +133,14 @@ class Office:
 
     def open(self, path):
         document = self._desktop().loadComponentFromURL(path.as_uri(), "_blank", 0, ())
-        return Slideshow(document, self.context)
+        return Slideshow(document)
 
 
 class Slideshow:
     """One open presentation."""
 
-    def __init__(self, document, context):
-        self.document, self.context = document, context
-
-    def dispatch(self, command):
-        """What a menu line of the editor does."""
-        self.context.ServiceManager.createInstanceWithContext(
-            "com.sun.star.frame.DispatchHelper", self.context).executeDispatch(
-                self.document.getCurrentController().getFrame(), command, "", 0, ())
+    def __init__(self, document):
+        self.document = document
 
     def start(self):
         self.document.getPresentation().start()

@@ -15,7 +15,7 @@ FAR_END = ("The quick brown fox jumps over the lazy dog, while the band plays a 
            "house. Nobody had expected that so many people would come, and yet the chairs were not enough for half "
            "of them. After the second song the rain began, and everybody ran to the tents. There they stood.")
 # Microphones::Trouble
-NO_ANSWER, NO_MICROPHONE, MUTED, WITHHELD = 1, 3, 4, 5
+NO_ANSWER, NO_MICROPHONE, MUTED = 1, 3, 4
 
 NEAR_END = "And now I would like to say a few words about the weather in the mountains this year."
 
@@ -42,7 +42,7 @@ class VoiceCaptureTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         with SoundServer() as sound:
-            cls.far_end = speech(FAR_END, sound.scratch, level=0.1)
+            cls.far_end = speech(FAR_END, sound.scratch, level=0.1)[:15 * RATE]
             cls.near_end = speech(NEAR_END, sound.scratch, voice="en-us+f3", level=0.1)
             cls.sentence = cls.near_end[:2 * RATE]
 
@@ -150,9 +150,10 @@ class VoiceCaptureTest(unittest.TestCase):
         """A meeting program plays where its own settings say; music goes on where the desktop's say."""
         modules = SoundServer.MODULES + ["module-null-sink sink_name=other rate=48000 channels=2"]
         sound = self.sound(modules=modules, default_sink="other")
+        # A null sink that nobody hears plays in steps of two seconds, and its echo would come before it.
+        Listener(sound, "speakers.monitor")
         probe = self.listening(sound)
-        for _ in range(2):
-            begin, end = self.play_echo(sound, self.echo())
+        begin, end = self.play_echo(sound, self.echo())
         share = probe.share_of_speaking(begin, end)
         print(f"open through echo of another sink than the default: {share:.1%}", flush=True)
         self.assertLessEqual(share, 0.05)
@@ -476,8 +477,10 @@ class VoiceCaptureTest(unittest.TestCase):
                 if path == "raw":
                     probe.command("app us.zoom.xos Zoom")
                     probe.wait_for("VAD listening (raw mic")
-                    time.sleep(0.5)
+                wait_until(lambda: "Voice-Follow" in sound.control("list", "source-outputs"), what="the stream")
+                time.sleep(0.5)
                 sound.control("move-source-output", self.stream(sound, "Voice-Follow"), "microphone")
+                time.sleep(0.5)
                 self.assert_hears(sound, probe)
                 reference = None if path == "raw" else self.stream(sound, "Echo reference")
 
@@ -500,8 +503,18 @@ class VoiceCaptureTest(unittest.TestCase):
         number, = [output.split("\n")[0] for output in outputs if f'media.name = "{name}"' in output]
         return number
 
+    def test_a_microphone_that_is_muted_is_named(self):
+        sound = self.sound()
+        probe = self.listening(sound)
+        self.assert_hears(sound, probe)
+        sound.control("set-source-mute", "microphone", "1")
+        wait_until(lambda: f"trouble={MUTED}" in probe.answer("state"), what="the trouble")
+        self.assertIn("heard=Remapped ", probe.answer("state"))
+        sound.control("set-source-mute", "microphone", "0")
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
+
     def test_sources_of_every_format_are_heard(self):
-        for rate, channels, form in ((8000, 1, "s16le"), (192000, 2, "s16le"), (44100, 2, "u8"), (96000, 6, "float32le")):
+        for rate, channels, form in ((8000, 1, "u8"), (192000, 6, "float32le")):
             with self.subTest(f"{rate} Hz, {channels} channels, {form}"):
                 air = f"module-null-sink sink_name=air rate={rate} channels={channels} format={form}"
                 microphone = "module-remap-source master=air.monitor source_name=microphone"  # In the air's own format.

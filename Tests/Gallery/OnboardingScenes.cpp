@@ -8,6 +8,7 @@
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWorkspace.h"
+#include "Tests/Support/VoiceServices.h"
 
 namespace Orvello::Gallery {
 
@@ -27,8 +28,8 @@ public:
         if (zoom == Zoom::Installed)
             workspace.installed.append(u"us.zoom.xos"_s);
         qputenv("ORVELLO_ONBOARDING_PAGE", QByteArray::number(page)); // Turning takes its time.
-        controller.emplace(
-            OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
+        controller.emplace(OnboardingWindowController::Services { settings, workspace, chrome, keys,
+                               voice.voice, facts },
             [] {});
         qunsetenv("ORVELLO_ONBOARDING_PAGE");
         controller->view().setFlags(Qt::FramelessWindowHint);
@@ -41,6 +42,7 @@ public:
     Testing::FakeWorkspace workspace;
     Testing::FakeWindowChrome chrome;
     Testing::FakeHotKeys keys;
+    Testing::VoiceServices voice { settings };
     std::optional<OnboardingWindowController> controller;
 };
 

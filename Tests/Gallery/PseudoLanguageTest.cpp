@@ -16,6 +16,7 @@
 #include "Tests/Support/FakeCommandTarget.h"
 #include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/FakeHotKeys.h"
+#include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/SlideshowStage.h"
 #include "Tests/Support/ViewItems.h"
 
@@ -274,11 +275,11 @@ TEST(PseudoLanguageTest, isSpokenByTheAdviceOnImpress)
     const PseudoLanguage language;
     SlideshowStage stage;
     FakeHelperProcess helper;
-    ImpressPresenter impress(helper, stage.monitor);
+    FakeUserDefaults defaults;
+    ImpressPresenter impress(helper, stage.monitor, defaults);
     const ImpressAdviceDialog dialog(impress);
 
     impress.row().askOpenDeck([](const ScriptResult&) {});
-    helper.questions.last().completion({ 1, {}, u"-1743"_s });
     drainEvents();
     expectMarked(shownBox());
     for (QAbstractButton* const button : shownBox().buttons()) {

@@ -91,8 +91,7 @@ public:
     Testing::FakeHotKeys keys;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
-        { time, permission, voiceProcessing, microphone, micActivity, microphones,
-            workspace } };
+        { time, permission, voiceProcessing, microphone, micActivity, microphones, workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
     AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;

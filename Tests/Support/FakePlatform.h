@@ -12,16 +12,17 @@
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeNativePanel.h"
 #include "Tests/Support/FakeOpenPanel.h"
 #include "Tests/Support/FakeProcessSignals.h"
-#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeScreens.h"
 #include "Tests/Support/FakeSystemLog.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeVoiceProcessing.h"
+#include "Tests/Support/FakeWakefulness.h"
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWindowServer.h"
 #include "Tests/Support/FakeWorkspace.h"
@@ -87,6 +88,7 @@ public:
     HotKeys& hotKeys() override { return hotKeysFake; }
     Updater& updater() override { return updaterFake; }
     HelperProcess* impressHelper() override { return nullptr; }
+    Wakefulness* wakefulness() override { return &wakefulnessFake; }
     bool hasHardwareRenderer() override { return false; }
 
     MicrophonePermission& microphonePermission() override { return permission; }
@@ -120,6 +122,7 @@ public:
     FakeWorkspace workspaceFake;
     FakeWindowServer windowServerFake;
     FakeWindowChrome windowChromeFake;
+    FakeWakefulness wakefulnessFake;
     FakeDesktopServices desktop;
     FakeOpenPanel openPanelFake;
     FakeStatusBar statusBarFake;

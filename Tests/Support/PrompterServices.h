@@ -114,8 +114,8 @@ public:
     FakeMicrophones microphones;
     FakeWorkspace quietWorkspace;
     VoiceActivityEngine voice { settings,
-        { stage.time, permission, voiceProcessing, rawMicrophone, otherMicrophoneUse,
-            microphones,            quietWorkspace } };
+        { stage.time, permission, voiceProcessing, rawMicrophone, otherMicrophoneUse, microphones,
+            quietWorkspace } };
 };
 
 } // namespace Orvello::Testing

@@ -68,8 +68,7 @@ protected:
     Testing::LogCapture log;
     std::unique_ptr<VoiceActivityEngine> engine = std::make_unique<VoiceActivityEngine>(settings,
         VoiceActivityEngine::Ports {
-            time, permission, voiceProcessing, microphone, micActivity,
-            microphones, workspace });
+            time, permission, voiceProcessing, microphone, micActivity, microphones, workspace });
 };
 
 } // namespace Orvello

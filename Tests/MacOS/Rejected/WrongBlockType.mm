@@ -3,6 +3,5 @@
 
 void ask()
 {
-    [AVCaptureDevice requestAccessForMediaType:AVMediaTypeAudio
-                             completionHandler:^(NSString*) {}];
+    [AVCaptureDevice requestAccessForMediaType:AVMediaTypeAudio completionHandler:^(NSString*) {}];
 }

@@ -18,6 +18,7 @@ protected:
     {
         typography.font = QFont(PromptFont::family());
         typography.font.setPixelSize(40);
+        typography.emojiFont = typography.font;
         typography.width = 600;
     }
 

@@ -23,7 +23,7 @@ PromptTypography typography(double frameWidth = width)
     QFont font(QStringList { PromptFont::family() });
     font.setPixelSize(30);
     font.setWeight(QFont::DemiBold);
-    return { font, frameWidth, spacing };
+    return { font, font, frameWidth, spacing };
 }
 
 PromptLayout complete(PromptLayout layout)

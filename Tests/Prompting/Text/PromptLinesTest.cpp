@@ -1,5 +1,6 @@
 #include "Orvello/Prompting/Text/PromptLines.h"
 
+#include "Orvello/Prompting/Text/LineImage.h"
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Tests/Prompting/Text/ShownText.h"
 #include "Tests/Support/ManualTimeSource.h"
@@ -131,6 +132,30 @@ TEST_F(PromptLinesTest, setsLinesInSemibold)
     EXPECT_EQ(font.families().first(), PromptFont::family());
     EXPECT_EQ(font.weight(), QFont::DemiBold);
     EXPECT_EQ(QFontInfo(font).pixelSize(), 30);
+}
+
+TEST_F(PromptLinesTest, drawsSignsInTheTextsColorAndWhatAsksForColorInItsOwn)
+{
+    const QColor green(48, 209, 88);
+    const auto hasOtherColors = [&](const QString& text) {
+        lines.setText(text);
+        finish();
+        const QImage pixels
+            = LineImage::of(lines.visibleLines().at(0), lines.shownTypography(), green, 1).pixels;
+        for (int y = 0; y < pixels.height(); ++y) {
+            for (int x = 0; x < pixels.width(); ++x) {
+                if (const QColor color = pixels.pixelColor(x, y);
+                    color.alpha() == 255 && color.rgb() != green.rgb())
+                    return true;
+            }
+        }
+        return false;
+    };
+
+    for (const QString& sign : { u"▪"_s, u"✔"_s, u"✖"_s, u"⚠"_s, u"♥"_s, u"▶"_s, u"➡"_s, u"©"_s })
+        EXPECT_FALSE(hasOtherColors(sign)) << sign.toStdString();
+    for (const QString& emoji : { u"❤\uFE0F"_s, u"😀"_s, u"🇩🇪"_s, u"⌚"_s })
+        EXPECT_TRUE(hasOtherColors(emoji)) << emoji.toStdString();
 }
 
 TEST_F(PromptLinesTest, setsLinesInSizesBetweenWholeOnes)
@@ -381,6 +406,41 @@ TEST_F(PromptLinesTest, keepsScrollingTheOldLinesMeanwhile)
     EXPECT_EQ(shownTexts().first(), u"line 810"_s);
 }
 
+TEST_F(PromptLinesTest, goesOnWhereTheReaderIsWhenTheNewLinesHaveGotThere)
+{
+    lines.setText(numbered(1000));
+    finish();
+    const double pitch = (lines.contentHeight() + 0.28 * 30) / 1000;
+    lines.setReadingTop(800 * pitch);
+    lines.setVisibleTop(800 * pitch - 36);
+    const QSignalSpy readingTopMoved(&lines, &PromptLines::readingTopMoved);
+
+    lines.setFontSize(60);
+    EXPECT_EQ(shownTexts().value(1), u"line 800"_s);
+    EXPECT_EQ(readingTopMoved.count(), 0);
+    lines.setReadingTop(810 * pitch); // The reader goes on meanwhile.
+    lines.setVisibleTop(810 * pitch - 36);
+    finish();
+
+    EXPECT_EQ(readingTopMoved.count(), 1);
+    EXPECT_EQ(lines.visibleTop(), lines.readingTop() - 36);
+    EXPECT_NEAR(lines.readingTop(), 810 * 2 * pitch, 0.02 * 810 * 2 * pitch);
+    EXPECT_EQ(shownTexts().value(1), u"line 810"_s);
+}
+
+TEST_F(PromptLinesTest, leavesThePlaceOfAnotherText)
+{
+    lines.setText(numbered(1000));
+    finish();
+    lines.setReadingTop(20000);
+    const QSignalSpy readingTopMoved(&lines, &PromptLines::readingTopMoved);
+
+    lines.setText(numbered(500, u"other"_s));
+    finish();
+
+    EXPECT_EQ(readingTopMoved.count(), 0);
+}
+
 TEST_F(PromptLinesTest, neverPullsTheEndAboveTheReaderDuringALayout)
 {
     lines.setText(numbered(1000));
@@ -488,6 +548,11 @@ TEST_F(PromptLinesTest, survivesSizesThatNobodyAsksFor)
              std::numeric_limits<double>::quiet_NaN(), 30.0 }) {
         lines.setFontSize(size);
         finish();
+        const PromptTypography& typography = lines.shownTypography();
+        const double shownSize = QFontInfo(typography.font).pixelSize() * typography.scale;
+        EXPECT_GE(shownSize, 12) << size;
+        EXPECT_LE(shownSize, 128) << size;
+        EXPECT_FALSE(shownTexts().isEmpty()) << size;
     }
 
     EXPECT_EQ(shownTexts(), QStringList({ u"Hello world"_s }));

@@ -18,6 +18,7 @@ protected:
     {
         typography.font = QFont(QStringList { PromptFont::family() });
         typography.font.setPixelSize(30);
+        typography.emojiFont = typography.font;
         typography.width = 10000;
     }
 

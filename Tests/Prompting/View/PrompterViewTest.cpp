@@ -80,8 +80,8 @@ protected:
         for (const PromptLine& line : lines().visibleLines()) {
             if (Testing::shownText(line) == text)
                 return { (item.width() - typography.width) / 2,
-                    line.baseline - metrics.ascent() - lines().visibleTop(), typography.width,
-                    std::ceil(metrics.ascent() + metrics.descent()) };
+                    (line.baseline - metrics.ascent()) * typography.scale - lines().visibleTop(),
+                    typography.width, std::ceil(metrics.ascent() + metrics.descent()) };
         }
         return {};
     }
@@ -196,6 +196,58 @@ TEST_F(PrompterViewTest, movesTheEndAtOnceWhenTheFontSizeChanges)
     settings.setFontSize(60);
 
     EXPECT_GT(engine.endOffset(), 1.5 * before);
+}
+
+TEST_F(PrompterViewTest, keepsTheLineThatIsReadWhereItIsWhenTheTextSizeChanges)
+{
+    QStringList numbered;
+    for (int i = 0; i < 400; ++i)
+        numbered.append(u"line %1"_s.arg(i));
+    show(numbered.join(u'\n'));
+    const double pitch = (engine.contentHeight() + 0.28 * 30) / 400;
+    engine.setOffset(200 * pitch);
+    ASSERT_NEAR(placeOfLine(u"line 200"_s).top(), 36, 1);
+    const double before = placeOfLine(u"line 200"_s).top();
+
+    for (const double size : { 16.0, 64.0, 24.5, 30.0 }) {
+        settings.setFontSize(size);
+        EXPECT_NEAR(placeOfLine(u"line 200"_s).top(), before, 1) << size;
+    }
+}
+
+TEST_F(PrompterViewTest, keepsTheWordsThatAreReadWhereTheyAreWhenTheWidthChanges)
+{
+    QStringList words;
+    for (int i = 0; i < 2000; ++i)
+        words.append(QString::number(i));
+    show(words.join(u' '));
+    engine.start();
+    engine.setOffset(engine.contentHeight() / 2);
+    const auto topOf = [this](const QString& word) {
+        placeOfLine({}); // Prepares a frame.
+        for (const PromptLine& line : lines().visibleLines()) {
+            if (const QString text = Testing::shownText(line); text.split(u' ').contains(word))
+                return placeOfLine(text).top();
+        }
+        return -1000.0;
+    };
+    placeOfLine({});
+    const QString read = Testing::shownText(lines().visibleLines().at(2)).section(u' ', 0, 0);
+    engine.setOffset(engine.offset() + topOf(read) - 36);
+    ASSERT_NEAR(topOf(read), 36, 1);
+
+    for (const int width : { 340, 1200, 500, 720, 400, 1600, 720 }) {
+        resize(width, 200);
+        EXPECT_NEAR(topOf(read), 36, 47) << "within a line, at the width " << width;
+        EXPECT_TRUE(engine.isRunning());
+    }
+    EXPECT_NEAR(topOf(read), 36, 1) << "at the width that it had";
+}
+
+TEST_F(PrompterViewTest, staysAtTheTopWhenTheTextSizeChanges)
+{
+    settings.setFontSize(60);
+    EXPECT_EQ(engine.offset(), 0);
 }
 
 TEST_F(PrompterViewTest, keeps28PointsFreeAtEachSide)

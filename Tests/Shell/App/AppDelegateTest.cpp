@@ -386,7 +386,10 @@ TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"talk.pptx"_s);
     ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
-    construct({ path }, { { path, { { 1, u"Intro"_s, u"Hello all"_s } } } });
+    construct({ path },
+        { { path,
+            PptxImporter::Deck {
+                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {} } } });
 
     delegate->applicationDidFinishLaunching();
 
@@ -678,6 +681,31 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     delegate->togglePanel();
 
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
+}
+
+TEST_F(AppDelegateTest, keepsTimersOnTimeWhilePresentingAndTheDisplayOnWhileScrolling)
+{
+    using Need = Wakefulness::Need;
+    std::vector<Need>& held = platform.wakefulnessFake.held;
+    launchAndSettle();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::None));
+
+    presentKeynote();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+
+    engine().toggle();
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Display));
+
+    engine().toggle();
+    endSlideshow();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers, Need::None));
+
+    settings().setVoiceFollow(true);
+    Testing::drainEvents();
+    platform.manualTime.advance(1.0);
+    Testing::drainEvents();
+    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
 }
 
 TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)

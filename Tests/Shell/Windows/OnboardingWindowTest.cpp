@@ -8,6 +8,7 @@
 #include "Tests/Support/FakeWindowChrome.h"
 #include "Tests/Support/FakeWorkspace.h"
 #include "Tests/Support/ViewItems.h"
+#include "Tests/Support/VoiceServices.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -30,7 +31,8 @@ protected:
     void open()
     {
         controller = std::make_unique<OnboardingWindowController>(
-            OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
+            OnboardingWindowController::Services {
+                settings, workspace, chrome, keys, voice.voice, facts },
             [this] { ++finishes; });
         controller->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
@@ -66,6 +68,7 @@ protected:
     FakeWorkspace workspace;
     FakeWindowChrome chrome;
     FakeHotKeys keys;
+    VoiceServices voice { settings };
     Facts facts = factsOfAMac();
     int finishes = 0;
     std::unique_ptr<OnboardingWindowController> controller;
@@ -337,7 +340,8 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 {
     qint64 seen = -1;
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
+        OnboardingWindowController::Services {
+            settings, workspace, chrome, keys, voice.voice, facts },
         [&] { seen = settings.onboardingSeenVersion(); });
     controller->bringToFront();
 
@@ -350,7 +354,9 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
 TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
 {
     controller = std::make_unique<OnboardingWindowController>(
-        OnboardingWindowController::Services { settings, workspace, chrome, keys, facts }, [this] {
+        OnboardingWindowController::Services {
+            settings, workspace, chrome, keys, voice.voice, facts },
+        [this] {
             ++finishes;
             controller.reset();
         });
@@ -387,6 +393,24 @@ TEST_F(OnboardingWindowTest, pressesTheFocusedButtonByTheSpaceBar)
     QTest::keyClick(&view(), Qt::Key_Space);
 
     EXPECT_EQ(page(), 0);
+}
+
+TEST_F(OnboardingWindowTest, findsTheSensitivityForTheUsersVoice)
+{
+    openOn("2");
+    pressButton(u"Test"_s);
+    EXPECT_TRUE(voice.voice.isListening());
+    for (int block = 0; block < 100; ++block) {
+        voice.voiceProcessing.hear(std::vector<float>(480, block % 3 == 0 ? 0.0005F : 0.03F));
+        drainEvents();
+    }
+    voice.time.advance(SensitivityTest::seconds);
+    drainEvents();
+    EXPECT_FALSE(voice.voice.isListening());
+
+    pressButton(u"Use It"_s);
+
+    EXPECT_EQ(settings.voiceSensitivity(), 0.55);
 }
 
 } // namespace

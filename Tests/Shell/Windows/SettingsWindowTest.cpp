@@ -1,9 +1,12 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Tests/Support/FactsOf.h"
+#include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeUpdater.h"
+#include "Tests/Support/SlideshowStage.h"
 #include "Tests/Support/ViewItems.h"
 #include "Tests/Voice/VoiceFixture.h"
 
@@ -56,7 +59,7 @@ protected:
     {
         window.reset();
         window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, updates, keys, facts });
+            SettingsWindow::Services { settings, *engine, updates, keys, facts, impress });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -111,6 +114,7 @@ protected:
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
     FakeHotKeys keys;
+    ImpressPresenter* impress = nullptr;
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -124,6 +128,29 @@ TEST_F(SettingsWindowTest, isAFixedWindowOfItsOwn)
     EXPECT_EQ(view().width(), 500);
     EXPECT_TRUE(view().flags().testFlag(Qt::WindowCloseButtonHint));
     EXPECT_FALSE(view().flags().testFlag(Qt::WindowMaximizeButtonHint));
+}
+
+TEST_F(SettingsWindowTest, allowsImpressToBeFollowedAndTakesThatBack)
+{
+    EXPECT_EQ(controlNamed(view(), u"Orvello may not follow Impress"_s), nullptr);
+
+    FakeHelperProcess helper;
+    SlideshowStage stage;
+    ImpressPresenter presenter(helper, stage.monitor, defaults);
+    impress = &presenter;
+    open(factsOfALinuxDesktop());
+    press(control(u"Allow"_s), Qt::Key_Space);
+    EXPECT_TRUE(presenter.isAllowed());
+    EXPECT_NE(controlNamed(view(), u"Orvello may follow Impress"_s), nullptr);
+
+    presenter.row().askOpenDeck([](const ScriptResult&) {});
+    helper.questions.last().completion({ 1, {}, u"It is closed. (-1743)"_s });
+    EXPECT_NE(controlNamed(view(), u"Orvello may follow Impress, but could not"_s), nullptr);
+
+    press(control(u"Take Back"_s), Qt::Key_Space);
+    EXPECT_FALSE(presenter.isAllowed());
+    EXPECT_NE(controlNamed(view(), u"Orvello may not follow Impress"_s), nullptr);
+    window.reset();
 }
 
 TEST_F(SettingsWindowTest, isHiddenByClosingAndComesBack)

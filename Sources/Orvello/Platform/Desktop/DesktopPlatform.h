@@ -17,6 +17,7 @@ class OpenPanel;
 class Screens;
 class StatusBar;
 class Updater;
+class Wakefulness;
 class WindowChrome;
 class WindowServer;
 class Workspace;
@@ -51,6 +52,9 @@ public:
     /// Whether graphics hardware draws the windows, and not the processor in its place. May take as
     /// long as loading the hardware's driver.
     virtual bool hasHardwareRenderer() = 0;
+
+    /// Null in an edition that holds nothing awake.
+    virtual Wakefulness* wakefulness() { return nullptr; }
 
     /// The prompter's window around the window that shows its view, which must not have been shown
     /// and must outlive it.

@@ -42,8 +42,8 @@ public:
 
     virtual State state() = 0;
 
-    /// Which one is heard from now on, by its identifier; empty for the system's choice. While it is
-    /// not connected, the system's choice takes its place.
+    /// Which one is heard from now on, by its identifier; empty for the system's choice. While it
+    /// is not connected, the system's choice takes its place.
     virtual void choose(const QString& identifier) = 0;
 
     /// `changed` is called on the main loop after state() has changed. One at a time; none ends it.

@@ -1,34 +1,32 @@
 #include "Orvello/Prompting/Text/PromptFont.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFontDatabase>
 
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Empty where the build ships no face: see this folder's CMakeLists.txt.
-QString shippedFamily()
-{
-    QString family;
-    const QDir folder(u":/Orvello/Fonts"_s);
-    for (const QFileInfo& file : folder.entryInfoList({ u"*.ttf"_s })) {
-        const int font = QFontDatabase::addApplicationFont(file.filePath());
-        const QStringList families = QFontDatabase::applicationFontFamilies(font);
-        if (!families.isEmpty())
-            family = families.first();
-    }
-    return family;
-}
-
-} // namespace
-
 QString PromptFont::family()
 {
-    static const QString shipped = shippedFamily();
-    return shipped.isEmpty() ? u".AppleSystemUIFontRounded"_s : shipped;
+    // Apple's own rounded face has no name that could be asked for; the file has one, which is
+    // learnt by loading it.
+    static const QString found = familyOf(
+        { u"/System/Library/Fonts/SFNSRounded.ttf"_s, u":/Orvello/Fonts/Quicksand-Bold.ttf"_s });
+    return found;
+}
+
+QString PromptFont::familyOf(const QStringList& files)
+{
+    for (const QString& file : files) {
+        if (!QFile::exists(file))
+            continue; // Qt would complain on standard error.
+        const int font = QFontDatabase::addApplicationFont(file);
+        const QStringList families = QFontDatabase::applicationFontFamilies(font);
+        if (!families.isEmpty())
+            return families.first();
+    }
+    return {};
 }
 
 } // namespace Orvello

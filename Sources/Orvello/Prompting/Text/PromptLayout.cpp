@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -161,6 +162,41 @@ double PromptLayout::smallestPitch() const
 }
 
 qsizetype PromptLayout::lineStart(Index line) const { return at(line).start; }
+
+/// Where the line after the last one would begin.
+PromptLayout::Line PromptLayout::end() const
+{
+    Line end;
+    end.top = m_nextTop;
+    end.start = static_cast<quint32>(m_isComplete ? m_text.size() : m_position.start) & startMask;
+    return end;
+}
+
+double PromptLayout::characterAt(double top) const
+{
+    const auto after = std::ranges::upper_bound(m_lines, top, {}, &Line::top);
+    if (after == m_lines.begin())
+        return 0;
+    const Line& line = *std::prev(after);
+    const Line next = after == m_lines.end() ? end() : *after;
+    const double share = std::min((top - line.top) / (next.top - line.top), 1.0);
+    return line.start + share * (double(next.start) - line.start);
+}
+
+double PromptLayout::topOf(double character) const
+{
+    const auto after = std::ranges::upper_bound(
+        m_lines, character, {}, [](const Line& line) { return double(line.start); });
+    if (after == m_lines.begin())
+        return 0;
+    const Line& line = *std::prev(after);
+    const Line next = after == m_lines.end() ? end() : *after;
+    if (next.start <= line.start)
+        return line.top;
+    const double share
+        = std::min((character - line.start) / (double(next.start) - line.start), 1.0);
+    return line.top + share * (next.top - line.top);
+}
 
 std::vector<PromptLine> PromptLayout::lines(
     Index first, Index end, const std::vector<PromptLine>& known) const

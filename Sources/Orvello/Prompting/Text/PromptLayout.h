@@ -41,6 +41,12 @@ public:
     /// Where the line begins in the text.
     qsizetype lineStart(Index line) const;
 
+    /// The character at a height below the text's top, and the height at which a character stands:
+    /// to fractions of a line's characters, so that one undoes the other. Where the layout has not
+    /// reached the character, the height is that of its end.
+    double characterAt(double top) const;
+    double topOf(double character) const;
+
     /// The half-open range of lines, ready to be drawn. Pieces of `known`, which must be lines of
     /// this layout, are used again.
     std::vector<PromptLine> lines(
@@ -77,6 +83,7 @@ private:
     bool reuseTail();
     void append(const PromptPiece& piece, int lineCount);
     void endParagraph(qsizetype end);
+    Line end() const;
     const Line& at(Index line) const { return m_lines[static_cast<std::size_t>(line)]; }
 
 public:

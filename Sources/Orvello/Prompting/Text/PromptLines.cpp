@@ -16,11 +16,12 @@ namespace {
 /// How long the main loop is held up at a time, in seconds: a quarter of a frame.
 constexpr double sliceBudget = 0.004;
 
-/// Emoji in colour, where this is installed: otherwise the search for a font that has them would
-/// end at the first plain one. macOS has a fixed order of its own.
+/// What asks for colour gets it, where this is installed: otherwise the search for a font would end
+/// at the first plain one. macOS has a fixed order of its own.
 constexpr auto emojiFamily = "Noto Color Emoji"_L1;
 
-constexpr double largestFontSize = 1000;
+constexpr double smallestFontSize = 12;
+constexpr double largestFontSize = 128;
 
 /// A share of the font's size.
 constexpr double relativeLineSpacing = 0.28;
@@ -44,7 +45,7 @@ void PromptLines::setText(const QString& text)
 {
     if (!assign(m_text, text))
         return;
-    restart();
+    restart(Place::Left);
     Q_EMIT textChanged();
 }
 
@@ -59,26 +60,32 @@ void PromptLines::edit(const QString& text, const TextEdit& edit)
 void PromptLines::setFontSize(double points)
 {
     if (assign(m_fontSize, points))
-        restart();
+        restart(Place::Kept);
 }
 
 void PromptLines::setTextWidth(double points)
 {
     if (assign(m_textWidth, points))
-        restart();
+        restart(Place::Kept);
 }
 
 PromptTypography PromptLines::typography() const
 {
-    const double size = std::clamp(m_fontSize, 1.0, largestFontSize);
-    QFont font(QStringList { PromptFont::family(), emojiFamily });
+    // In this order what is no number is the smallest size.
+    const double size
+        = std::min(std::max(smallestFontSize, m_fontSize.value_or(0)), largestFontSize);
+    QFont font(PromptFont::family());
     const double wholeSize = std::ceil(size);
     font.setPixelSize(static_cast<int>(wholeSize));
     font.setWeight(QFont::DemiBold);
     font.setHintingPreference(QFont::PreferNoHinting);
     const double scale = size / wholeSize;
-    return { font, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
+    QFont emojiFont = font;
+    emojiFont.setFamilies({ PromptFont::family(), emojiFamily });
+    return { font, emojiFont, m_textWidth / scale, relativeLineSpacing * wholeSize, scale };
 }
+
+void PromptLines::setReadingTop(double points) { m_readingTop = points; }
 
 void PromptLines::setVisibleTop(double points)
 {
@@ -101,11 +108,12 @@ std::size_t PromptLines::positionBytes() const
 
 PromptLayout& PromptLines::newest() { return m_next ? *m_next : m_shown; }
 
-/// Whether size and width are known and are numbers.
-bool PromptLines::canLayOut() const { return m_fontSize > 0 && m_textWidth > 0; }
+/// Whether size and width are known, and the width is a number.
+bool PromptLines::canLayOut() const { return m_fontSize && m_textWidth > 0; }
 
-void PromptLines::restart()
+void PromptLines::restart(Place place)
 {
+    m_place = place;
     if (canLayOut())
         layOut(PromptLayout(m_text, typography()));
 }
@@ -126,21 +134,37 @@ void PromptLines::layOutSlice()
     m_slice.reset();
     if (!layout.isComplete())
         m_slice = m_time.callAfter(0, [this] { layOutSlice(); });
+    const double readingTop = m_readingTop;
     adoptWhenReady();
     updateContentHeight();
+    if (m_readingTop != readingTop)
+        Q_EMIT readingTopMoved();
+}
+
+/// Whether what is going to be visible is laid out.
+bool PromptLines::isNextReady(double readingTop) const
+{
+    const double visibleBottom
+        = m_visibleTop + (readingTop - m_readingTop) + m_visibleHeight + margin;
+    return m_next->isComplete() || heightOf(*m_next) >= visibleBottom || m_shown.lineCount() == 0;
 }
 
 void PromptLines::adoptWhenReady()
 {
-    const double visibleBottom = m_visibleTop + m_visibleHeight + margin;
-    const bool isReady = m_next
-        && (m_next->isComplete() || heightOf(*m_next) >= visibleBottom || m_shown.lineCount() == 0);
-    if (!isReady) {
+    double readingTop = m_readingTop;
+    if (m_next && m_place == Place::Kept) {
+        const double character = m_shown.characterAt(readingTop / m_shown.typography().scale);
+        readingTop = m_next->topOf(character) * m_next->typography().scale;
+    }
+    if (!m_next || !isNextReady(readingTop)) {
         showVisibleLines();
         return;
     }
     const PromptTypography before = m_shown.typography();
     m_shown = *std::exchange(m_next, std::nullopt);
+    m_visibleTop += readingTop - m_readingTop;
+    m_readingTop = readingTop;
+    m_place = Place::Left;
     m_visibleRange.reset();
     showVisibleLines();
     if (m_shown.typography() != before)

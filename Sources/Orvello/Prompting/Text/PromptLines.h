@@ -31,7 +31,7 @@ public:
     /// edit, not of the text.
     void edit(const QString& text, const TextEdit& edit);
 
-    double fontSize() const { return m_fontSize; }
+    /// Sizes at which nobody could read are shown as the nearest at which one can.
     void setFontSize(double points);
 
     double textWidth() const { return m_textWidth; }
@@ -44,6 +44,11 @@ public:
     /// The lines at least partly in the visible part, from the top down, with at most one that is
     /// just above it, and the one that is the next to come from below.
     const std::vector<PromptLine>& visibleLines() const { return m_visibleLines; }
+
+    /// What the reader is reading now, below the text's top. When the text is set anew, in another
+    /// size or width, this moves to where the same words have gone.
+    double readingTop() const { return m_readingTop; }
+    void setReadingTop(double points);
 
     double visibleTop() const { return m_visibleTop; }
     void setVisibleTop(double points); ///< Below the text's top; negative above it.
@@ -64,12 +69,16 @@ Q_SIGNALS:
     void visibleLinesChanged();
     void shownTypographyChanged();
     void contentHeightChanged();
+    void readingTopMoved(); ///< Not by who set it. The visible part has moved by as much.
 
 private:
     PromptTypography typography() const;
     PromptLayout& newest();
     bool canLayOut() const;
-    void restart();
+    bool isNextReady(double readingTop) const;
+    enum class Place { Kept, Left };
+
+    void restart(Place place);
     void layOut(PromptLayout layout);
     void layOutSlice();
     void adoptWhenReady();
@@ -78,13 +87,15 @@ private:
 
     TimeSource& m_time;
     QString m_text;
-    double m_fontSize = 0;
+    std::optional<double> m_fontSize;
     double m_textWidth = 0;
+    double m_readingTop = 0;
     double m_visibleTop = 0;
     double m_visibleHeight = 0;
     double m_contentHeight = 0;
     PromptLayout m_shown;
     std::optional<PromptLayout> m_next; ///< Replaces m_shown when it has reached the visible part.
+    Place m_place = Place::Left; ///< Of the reader, in the text that is being laid out.
     /// Half-open; nothing when out of date.
     std::optional<std::pair<PromptLayout::Index, PromptLayout::Index>> m_visibleRange;
     std::vector<PromptLine> m_visibleLines;

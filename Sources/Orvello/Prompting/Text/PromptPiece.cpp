@@ -1,5 +1,7 @@
 #include "Orvello/Prompting/Text/PromptPiece.h"
 
+#include "Orvello/Prompting/Text/EmojiRuns.h"
+
 #include <QGlyphRun>
 
 #include <algorithm>
@@ -26,6 +28,16 @@ QString contextBefore(const QString& text, qsizetype start)
     if (from < start && text[from].isLowSurrogate())
         ++from;
     return from < start ? text.sliced(from, start - from) + QChar(QChar::LineSeparator) : QString();
+}
+
+QList<QTextLayout::FormatRange> formatsOf(const QString& text, const QFont& emojiFont)
+{
+    QTextCharFormat format;
+    format.setFont(emojiFont);
+    QList<QTextLayout::FormatRange> formats;
+    for (const auto& [start, length] : EmojiRuns::in(text))
+        formats.append({ static_cast<int>(start), static_cast<int>(length), format });
+    return formats;
 }
 
 } // namespace
@@ -70,6 +82,7 @@ PromptPiece::PromptPiece(
     m_layout.setFont(typography.font);
     m_layout.setTextOption(option);
     m_layout.setText(context + text.mid(start, m_length));
+    m_layout.setFormats(formatsOf(m_layout.text(), typography.emojiFont));
     m_layout.setCacheEnabled(true); // Saves shaping the text again for drawing.
     m_layout.beginLayout();
     for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {

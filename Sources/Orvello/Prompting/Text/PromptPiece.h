@@ -12,6 +12,7 @@ namespace Orvello {
 /// scaled down. Lengths are in points, before they are scaled.
 struct PromptTypography {
     QFont font;
+    QFont emojiFont; ///< For what asks for colour.
     double width = 0; ///< The width at which lines wrap.
     double lineSpacing = 0; ///< Added between two lines.
     double scale = 1;

@@ -11,6 +11,7 @@ Rectangle {
     required property string headingFamily
     required property ShortcutList shortcuts
     required property facts facts
+    required property VoiceActivityEngine voice
     required property bool hasCloseButton // Where the system draws none above the content.
 
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
@@ -75,6 +76,7 @@ Rectangle {
             headingFamily: root.headingFamily
             shortcuts: root.shortcuts
             facts: root.facts
+            voice: root.voice
         }
     }
 

@@ -9,10 +9,11 @@ TourPage {
     required property string headingFamily
     required property ShortcutList shortcuts
     required property facts facts
+    required property VoiceActivityEngine voice
 
     number: 2
     columnWidth: 600
-    spacing: 24
+    spacing: 8 // In some languages the page is full.
 
     ColumnLayout {
         Layout.fillWidth: true
@@ -90,5 +91,9 @@ TourPage {
                                             : qsTr("… and Scripts, where you write or import what you say, Settings, and this tour. Without a tray, right-click the prompter.")
             }
         }
+    }
+    TourVoiceTest {
+        Layout.fillWidth: true
+        voice: root.voice
     }
 }

@@ -60,11 +60,13 @@ SettingsSection {
             visible: root.voice.sensitivityTest.hasProposal
             text: qsTr("Use It")
             onClicked: root.voice.sensitivityTest.useProposal()
+            Accessible.name: text
         }
         Button {
             enabled: !root.voice.sensitivityTest.isRunning
             text: qsTr("Test")
             onClicked: root.voice.sensitivityTest.begin()
+            Accessible.name: text
             Accessible.description: qsTr("Speak normally for five seconds.")
         }
     }

@@ -7,6 +7,7 @@
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
+#include "Orvello/Platform/Desktop/Wakefulness.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
@@ -325,6 +326,24 @@ void AppDelegate::subscribe()
         });
     observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
         *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
+    if (Wakefulness* const wakefulness = m_platforms.desktop.wakefulness())
+        keepAwake(*wakefulness);
+}
+
+void AppDelegate::keepAwake(Wakefulness& wakefulness)
+{
+    const auto need = [this] {
+        if (m_engine.isRunning() || m_engine.isCountingDown())
+            return Wakefulness::Need::Display;
+        return m_voice.isListening() || m_presentation.isPresenting() ? Wakefulness::Need::Timers
+                                                                      : Wakefulness::Need::None;
+    };
+    observeCombined(
+        *this, need, [&wakefulness](Wakefulness::Need now) { wakefulness.hold(now); },
+        changeOf(m_engine, &ScrollEngine::isRunningChanged),
+        changeOf(m_engine, &ScrollEngine::countdownChanged),
+        changeOf(m_voice, &VoiceActivityEngine::isListeningChanged),
+        changeOf(m_presentation, &PresentationMonitor::isPresentingChanged));
 }
 
 /// Slide tracking is on exactly while the setting is and the active script has slides.

@@ -39,6 +39,7 @@ class PrompterWindow;
 class RightClickFilter;
 class SoundPlatform;
 class StatusItem;
+class Wakefulness;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -98,6 +99,7 @@ private:
     void registerHotKeys();
     void startUpdates();
     void subscribe();
+    void keepAwake(Wakefulness& wakefulness);
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);

@@ -7,6 +7,7 @@
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
 #include "Orvello/Shell/Windows/WindowPlacement.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <utility>
 
@@ -43,6 +44,7 @@ OnboardingWindowController::OnboardingWindowController(
             { u"headingFamily"_s, PromptFont::family() },
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
+            { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"hasCloseButton"_s, !hasSystemCloseButton },
         });
 

@@ -13,6 +13,7 @@ namespace Orvello {
 
 class AssignedKeys;
 class SettingsStore;
+class VoiceActivityEngine;
 class WindowChrome;
 class Workspace;
 
@@ -31,6 +32,7 @@ public:
         const Workspace& workspace;
         WindowChrome& chrome;
         HotKeys& hotKeys;
+        VoiceActivityEngine& voice;
         Facts facts; ///< What the tour may say about this machine.
     };
 

@@ -8,6 +8,8 @@
 
 #include <QQuickItem>
 
+#include <algorithm>
+
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -55,6 +57,11 @@ void PrompterWindow::connectText(const Services& services)
         [this, &settings = services.settings] { m_lines.setFontSize(settings.fontSize()); });
     follow(m_lines, &PromptLines::contentHeightChanged,
         [this, &engine = services.engine] { engine.setContentHeight(m_lines.contentHeight()); });
+    follow(services.engine, &ScrollEngine::offsetChanged,
+        [this, &engine = services.engine] { m_lines.setReadingTop(engine.offset()); });
+    connect(&m_lines, &PromptLines::readingTopMoved, this, [this, &engine = services.engine] {
+        engine.setOffset(std::min(m_lines.readingTop(), engine.endOffset()));
+    });
     m_lines.setText(services.deck.promptText());
     connect(&services.deck, &DeckController::promptTextChanged, this,
         [this, &deck = services.deck](

@@ -36,7 +36,7 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
 {
     return std::make_unique<OnboardingWindowController>(
         OnboardingWindowController::Services { m_services.settings, m_services.workspace,
-            m_services.windowChrome, m_services.hotKeys, m_services.facts },
+            m_services.windowChrome, m_services.hotKeys, m_services.voice, m_services.facts },
         std::move(onFinish));
 }
 

@@ -1,3 +1,4 @@
+#include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/KnownApplications.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
@@ -152,6 +153,22 @@ TEST_F(X11DesktopTest, findsNothingOnceTheDisplayIsGone)
     EXPECT_EQ(X11WindowServer(*windows).windowsOnScreen(), std::nullopt);
     EXPECT_TRUE(X11WindowServer(*windows).screenSizes().isEmpty());
     EXPECT_EQ(frontmost(), std::nullopt);
+}
+
+TEST(FormerImpressPermissionTest, isFoundInTheProfileAlone)
+{
+    const QTemporaryDir folder;
+    const QString profile = folder.filePath(u"registrymodifications.xcu"_s);
+    const auto write = [&](const QByteArray& content) {
+        QFile file(profile);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    };
+    EXPECT_FALSE(FormerImpressPermission::isIn(profile));
+    write("<item><value>pipe,name=other;urp;</value></item>");
+    EXPECT_FALSE(FormerImpressPermission::isIn(profile));
+    write("<item><value>pipe,name=orvello;urp;</value></item>");
+    EXPECT_TRUE(FormerImpressPermission::isIn(profile));
 }
 
 TEST(X11WindowsTest, findsNothingWithoutADisplay)

@@ -35,6 +35,7 @@ typedef NSUInteger NSEventModifierFlags;
 @property (readonly) NSTimeInterval timestamp;
 @property (readonly) NSPoint locationInWindow;
 @property (readonly) CGFloat scrollingDeltaY;
+@property (class, readonly) NSPoint mouseLocation;
 + (nullable NSEvent*)mouseEventWithType:(NSEventType)type
                                location:(NSPoint)location
                           modifierFlags:(NSEventModifierFlags)flags
@@ -117,12 +118,14 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 @property (null_resettable, copy) NSColor* backgroundColor;
 @property (getter=isOpaque) BOOL opaque;
 @property BOOL hasShadow;
+@property BOOL canHide;
 @property NSSize minSize;
 @property NSSize maxSize;
 @property (nullable, strong) __kindof NSView* contentView;
 @property (readonly) NSRect frame;
 @property (readonly, getter=isVisible) BOOL visible;
 @property (readonly) BOOL inLiveResize;
+@property (readonly) NSPoint mouseLocationOutsideOfEventStream;
 @property (readonly) BOOL canBecomeKeyWindow;
 @property (readonly) BOOL canBecomeMainWindow;
 @property (readonly) NSInteger windowNumber;
@@ -136,6 +139,7 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 - (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(nullable NSScreen*)screen;
 - (BOOL)setFrameUsingName:(NSWindowFrameAutosaveName)name force:(BOOL)force;
 - (BOOL)setFrameAutosaveName:(NSWindowFrameAutosaveName)name;
+- (void)invalidateShadow;
 - (void)orderFrontRegardless;
 - (void)orderOut:(nullable id)sender;
 - (void)close;
@@ -145,6 +149,7 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) { NSWindowTitleHidden = 1 };
 
 @interface NSPanel : NSWindow
 @property (getter=isFloatingPanel) BOOL floatingPanel;
+@property BOOL worksWhenModal;
 @end
 
 @interface NSImageRep : NSObject <NSCopying>
@@ -229,13 +234,24 @@ static const NSModalResponse NSModalResponseOK = 1;
 
 extern NSNotificationName const NSWindowDidResizeNotification;
 extern NSNotificationName const NSWindowDidEndLiveResizeNotification;
+extern NSNotificationName const NSApplicationDidResignActiveNotification;
 extern NSNotificationName const NSApplicationWillFinishLaunchingNotification;
 extern NSNotificationName const NSApplicationDidChangeScreenParametersNotification;
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
     NSApplicationActivationPolicyAccessory = 1,
 };
+typedef NS_ENUM(NSUInteger, NSApplicationTerminateReply) {
+    NSTerminateCancel = 0,
+    NSTerminateNow = 1,
+};
+@class NSApplication;
+@protocol NSApplicationDelegate <NSObject>
+@optional
+- (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)sender;
+@end
 @interface NSApplication : NSResponder
+@property (nullable, weak) id<NSApplicationDelegate> delegate;
 @property (class, readonly, strong) __kindof NSApplication* sharedApplication;
 @property (nullable, readonly, strong) NSEvent* currentEvent;
 @property (readonly, getter=isActive) BOOL active;

@@ -62,9 +62,7 @@ __attribute__((objc_root_class))
 @end
 
 @interface NSObject (NSDelayedPerforming)
-- (void)performSelector:(SEL)aSelector
-             withObject:(nullable id)anArgument
-             afterDelay:(double)delay;
+- (void)performSelector:(SEL)aSelector withObject:(nullable id)anArgument afterDelay:(double)delay;
 @end
 
 typedef NSUInteger NSKeyValueObservingOptions;
@@ -157,7 +155,14 @@ typedef void NSUncaughtExceptionHandler(NSException* exception);
 - (nullable id)objectForInfoDictionaryKey:(NSString*)key;
 @end
 
+typedef NS_OPTIONS(unsigned long long, NSActivityOptions) {
+    NSActivityIdleDisplaySleepDisabled = 1ULL << 40,
+    NSActivityUserInitiated = 0x00FFFFFFULL,
+    NSActivityUserInitiatedAllowingIdleSystemSleep = 0x00EFFFFFULL,
+};
 @interface NSProcessInfo : NSObject
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
+- (void)endActivity:(id<NSObject>)activity;
 @property (class, readonly, strong) NSProcessInfo* processInfo;
 @property (copy) NSString* processName;
 @property (readonly, copy) NSString* operatingSystemVersionString;
@@ -192,11 +197,15 @@ typedef NSString* NSNotificationName;
                         usingBlock:(void (^)(NSNotification* notification))block;
 @end
 
-typedef unsigned int FourCharCode;
 typedef FourCharCode AEEventClass;
 typedef FourCharCode AEEventID;
-@class NSAppleEventDescriptor;
+typedef FourCharCode AEKeyword;
+@interface NSAppleEventDescriptor : NSObject
+@property (readonly) OSType typeCodeValue;
+- (nullable NSAppleEventDescriptor*)attributeDescriptorForKeyword:(AEKeyword)keyword;
+@end
 @interface NSAppleEventManager : NSObject
+@property (nullable, readonly, retain) NSAppleEventDescriptor* currentAppleEvent;
 + (NSAppleEventManager*)sharedAppleEventManager;
 - (void)setEventHandler:(id)handler
             andSelector:(SEL)handleEventSelector

@@ -102,8 +102,8 @@ std::optional<QByteArray> PulseConnection::farEnd(qsizetype index) const
 {
     QList<QByteArray> farEnds = m_condition.facts.farEnds;
     // What the user made their microphone is no echo of it.
-    farEnds.removeAll(m_condition.heard ? m_condition.heard->source
-                                        : m_condition.facts.defaultSource);
+    farEnds.removeAll(
+        m_condition.heard ? m_condition.heard->source : m_condition.facts.defaultSource);
     return index < farEnds.size() ? std::optional(farEnds[index]) : std::nullopt;
 }
 

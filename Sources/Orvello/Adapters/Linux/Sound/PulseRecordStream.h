@@ -11,9 +11,9 @@
 
 namespace Orvello {
 
-/// Records 48 kHz mono from a microphone, or from what a sink plays, and keeps recording: it follows
-/// the user to another one and resumes when a lost device or server returns. A microphone that is
-/// away, or delivers nothing for whatever reason, is heard as silence.
+/// Records 48 kHz mono from a microphone, or from what a sink plays, and keeps recording: it
+/// follows the user to another one and resumes when a lost device or server returns. A microphone
+/// that is away, or delivers nothing for whatever reason, is heard as silence.
 class PulseRecordStream final : private PulseConnection::Client {
 public:
     enum class Role { Microphone, EchoReference };

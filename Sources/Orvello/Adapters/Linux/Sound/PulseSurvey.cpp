@@ -143,9 +143,9 @@ void PulseSurvey::take(const pa_server_info& server)
 void PulseSurvey::take(const pa_source_info& source)
 {
     const bool isMonitor = source.monitor_of_sink != PA_INVALID_INDEX;
-    m_draft.sources.append({ source.name, QString::fromUtf8(source.description),
-        source.sample_spec.rate, isMonitor,
-        source.mute != 0 || pa_cvolume_is_muted(&source.volume) != 0 });
+    m_draft.sources.append(
+        { source.name, QString::fromUtf8(source.description), source.sample_spec.rate, isMonitor,
+            source.mute != 0 || pa_cvolume_is_muted(&source.volume) != 0 });
     // The user may have made a monitor their microphone.
     if (isMonitor && m_draft.defaultSource != source.name)
         m_monitors.push_back(source.index);

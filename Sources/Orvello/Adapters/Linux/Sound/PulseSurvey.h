@@ -29,15 +29,15 @@ struct PulseFacts {
     QList<qint64> capturingProcesses; ///< Identifiers of the processes that record a microphone.
 
     /// The monitors of the sinks that people may hear: first the default sink's, then those of the
-    /// sinks on which something plays. A sink that the server itself records is a cable to somewhere
-    /// else, and no loudspeaker.
+    /// sinks on which something plays. A sink that the server itself records is a cable to
+    /// somewhere else, and no loudspeaker.
     QList<QByteArray> farEnds;
 
     /// Null when there is none of this name.
     const PulseSource* source(const QByteArray& name) const;
 
-    /// Whether anything but sinks can be heard. A server without microphones offers the monitor of a
-    /// sink as its default.
+    /// Whether anything but sinks can be heard. A server without microphones offers the monitor of
+    /// a sink as its default.
     bool haveMicrophone() const;
 
     friend bool operator==(const PulseFacts&, const PulseFacts&) = default;

@@ -3,6 +3,8 @@
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/NativePanel.h"
 
+#include <QTimer>
+
 #import <AppKit/AppKit.h>
 
 class QMouseEvent;
@@ -25,6 +27,8 @@ class Screens;
 ///   and leaves its style, level, key status and geometry alone;
 /// - the panel alone is moved and resized; the view follows it by autoresizing;
 /// - the Qt window is shown before the panel, because later Qt versions hide the view until then;
+/// - the shadow is made anew after what is drawn, because AppKit makes it once, of what the panel
+///   shows then: nothing;
 /// - hovering is reported by a tracking area of our own (PointerTracker);
 /// - a press that the view does not want starts a drag of the panel;
 /// - the sharing type is the panel's own, which Qt never touches. Windows that Qt opens beside it,
@@ -55,6 +59,7 @@ private:
     void embedView();
     void observePanel();
     void bringOntoScreen();
+    void renewShadow();
     bool pressed(QMouseEvent& event);
     void releaseInView(NSEvent* press);
 
@@ -63,6 +68,7 @@ private:
     PrompterPanel* m_panel;
     NSView* m_nativeView; ///< Qt's.
     PointerTracker* m_pointerTracker;
+    QTimer m_shadowDue;
 };
 
 } // namespace Orvello

@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaView.h"
 #include "Orvello/Adapters/macOS/Desktop/PointerTracker.h"
 #include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
@@ -10,17 +11,19 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QQuickWindow>
 #include <QWindow>
 
 namespace Orvello {
 
 namespace {
 
-NSView* nativeViewOf(QWindow& window)
+/// Before its view is made.
+QWindow& withoutFrame(QWindow& window)
 {
     window.setFlags(Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
     window.create();
-    return (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+    return window;
 }
 
 } // namespace
@@ -31,10 +34,11 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
     , m_panel([[PrompterPanel alloc] initWithSize:cgSize(PanelFrame::initial({}).size())
                                           minimum:cgSize(minimumSize)
                                           maximum:cgSize(maximumSize)])
-    , m_nativeView(nativeViewOf(view))
+    , m_nativeView(nativeViewOf(withoutFrame(view)))
 {
     embedView();
     observePanel();
+    renewShadow();
 }
 
 CocoaPanel::~CocoaPanel()
@@ -89,6 +93,23 @@ void CocoaPanel::saveFrameAs(const QString& name)
         [m_panel setFrameAutosaveName:autosaveName];
     });
     bringOntoScreen(); // The screen that the frame was saved on may be gone.
+}
+
+/// The shadow has the shape of the card and of the letters on it, of which an old one would shine
+/// through. Not for each frame: the window server would do little else while the text moves.
+void CocoaPanel::renewShadow()
+{
+    constexpr int milliseconds = 250;
+    m_shadowDue.setSingleShot(true);
+    m_shadowDue.setInterval(milliseconds);
+    connect(&m_shadowDue, &QTimer::timeout, this,
+        [this] { shielded([&] { [m_panel invalidateShadow]; }); });
+    if (const auto* const view = qobject_cast<QQuickWindow*>(&m_view)) {
+        connect(view, &QQuickWindow::frameSwapped, this, [this] {
+            if (!m_shadowDue.isActive())
+                m_shadowDue.start();
+        });
+    }
 }
 
 /// AppKit looks after titled windows only.

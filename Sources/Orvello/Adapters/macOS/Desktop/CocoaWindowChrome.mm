@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaGeometry.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaView.h"
 #include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 
 #include <QWindow>
@@ -17,8 +18,7 @@ bool CocoaWindowChrome::hideTitleBar(QWindow& window)
     window.setFlags(window.flags() | Qt::ExpandedClientAreaHint | Qt::NoTitleBarBackgroundHint);
 #endif
     window.create();
-    NSView* const view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
-    NSWindow* const nativeWindow = view.window;
+    NSWindow* const nativeWindow = nativeViewOf(window).window;
     shielded([&] {
         // Up to Qt 6.8, which keeps this bit when it sets the style for its own flags.
         nativeWindow.styleMask |= NSWindowStyleMaskFullSizeContentView;

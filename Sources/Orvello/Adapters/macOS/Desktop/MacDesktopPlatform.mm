@@ -3,8 +3,10 @@
 #include "Orvello/Adapters/macOS/Desktop/CocoaOpenPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaPanel.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaScreens.h"
+#include "Orvello/Adapters/macOS/Desktop/CocoaWakefulness.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWindowChrome.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaWorkspace.h"
+#include "Orvello/Adapters/macOS/Desktop/LogOut.h"
 #include "Orvello/Adapters/macOS/Desktop/MacUpdater.h"
 #include "Orvello/Adapters/macOS/Desktop/OrvelloApplication.h"
 #include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
@@ -72,6 +74,8 @@ public:
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
 
+    Wakefulness* wakefulness() override { return &m_wakefulness; }
+
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
 
@@ -93,6 +97,7 @@ private:
     CarbonHotKeys m_hotKeys;
     std::unique_ptr<Updater> m_updater;
     CocoaWindowChrome m_windowChrome;
+    CocoaWakefulness m_wakefulness;
 };
 
 } // namespace
@@ -100,6 +105,7 @@ private:
 QString DesktopPlatform::prepare()
 {
     makeApplicationObject();
+    agreeToLogOut();
     return {};
 }
 

@@ -5,11 +5,7 @@
 #include <QMouseEvent>
 #include <QWindow>
 
-@implementation PointerTracker {
-    NSView* _view;
-    QWindow* _window;
-    NSTrackingArea* _area;
-}
+@implementation PointerTracker
 
 - (instancetype)initWithView:(NSView*)view window:(QWindow*)window
 {
@@ -26,35 +22,62 @@
                                            owner:self
                                         userInfo:nil];
     [_view addTrackingArea:_area];
+    [NSNotificationCenter.defaultCenter addObserver:self
+                                           selector:@selector(applicationDidResignActive:)
+                                               name:NSApplicationDidResignActiveNotification
+                                             object:nil];
     return self;
 }
 
 - (void)stop
 {
+    [NSNotificationCenter.defaultCenter removeObserver:self];
     [_view removeTrackingArea:_area];
+    _window = nullptr; // What is still to come finds nobody.
 }
 
 /// Qt counts y from the top.
-- (QPointF)positionOf:(NSEvent*)event
+- (QPointF)positionOf:(NSPoint)inWindow
 {
-    const NSPoint point = [_view convertPoint:event.locationInWindow fromView:nil];
+    const NSPoint point = [_view convertPoint:inWindow fromView:nil];
     return { point.x, _view.bounds.size.height - point.y };
+}
+
+- (void)enterAt:(QPointF)position
+{
+    QEnterEvent enter(position, position, _window->mapToGlobal(position));
+    QCoreApplication::sendEvent(_window, &enter);
+}
+
+/// Qt then tells its window that the pointer has left, even where it rests.
+- (void)applicationDidResignActive:(NSNotification*)notification
+{
+    (void)notification;
+    [self performSelector:@selector(enterIfThere) withObject:nil afterDelay:0];
+}
+
+- (void)enterIfThere
+{
+    if (!_window || !_view.window.visible)
+        return;
+    const NSRect bounds = _view.bounds;
+    const QPointF position = [self positionOf:_view.window.mouseLocationOutsideOfEventStream];
+    if (QRectF(0, 0, bounds.size.width, bounds.size.height).contains(position))
+        [self enterAt:position];
 }
 
 - (void)mouseEntered:(NSEvent*)event
 {
     if (NSApp.active)
         return; // Qt's view reports it.
-    const QPointF position = [self positionOf:event];
-    QEnterEvent enter(position, position, _window->mapToGlobal(position));
-    QCoreApplication::sendEvent(_window, &enter);
+    [self enterAt:[self positionOf:event.locationInWindow]];
 }
 
 - (void)mouseMoved:(NSEvent*)event
 {
     if (NSApp.active)
         return;
-    const QPointF position = [self positionOf:event];
+    const QPointF position = [self positionOf:event.locationInWindow];
     QMouseEvent move(QEvent::MouseMove, position, position, _window->mapToGlobal(position),
         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(_window, &move);

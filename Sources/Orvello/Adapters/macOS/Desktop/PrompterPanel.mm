@@ -32,6 +32,8 @@ constexpr NSWindowLevel screenSaverLevel = 1000;
     self.backgroundColor = NSColor.clearColor;
     self.opaque = NO;
     self.hasShadow = YES;
+    self.canHide = NO; // "Hide Others" of the program that presents means this one, too.
+    self.worksWhenModal = YES; // While the panel of files is open.
     self.minSize = minimumSize;
     self.maxSize = maximumSize;
     // A plain view, so that Qt's own view is a subview of it: were Qt's view the content view, Qt

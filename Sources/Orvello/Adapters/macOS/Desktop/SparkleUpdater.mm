@@ -41,7 +41,10 @@ void SparkleUpdater::check()
 
 bool SparkleUpdater::isOn() const { return m_controller.updater.automaticallyChecksForUpdates; }
 
-void SparkleUpdater::setOn(bool isOn) { m_controller.updater.automaticallyChecksForUpdates = isOn; }
+void SparkleUpdater::setOn(bool isOn)
+{
+    shielded([&] { m_controller.updater.automaticallyChecksForUpdates = isOn; });
+}
 
 void SparkleUpdater::observe(std::function<void()> changed)
 {

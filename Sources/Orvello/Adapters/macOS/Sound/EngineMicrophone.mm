@@ -158,7 +158,8 @@ void EngineMicrophone::Engine::restart()
         return;
     renew();
     installTap();
-    static_cast<void>(start()); // Without a device there is nothing to hear until onDeviceChanged().
+    static_cast<void>(
+        start()); // Without a device there is nothing to hear until onDeviceChanged().
 }
 
 EngineMicrophone::EngineMicrophone()

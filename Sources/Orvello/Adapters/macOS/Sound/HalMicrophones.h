@@ -8,8 +8,8 @@
 
 namespace Orvello {
 
-/// The default input device, as the audio hardware layer knows it. Which one it is, the user decides
-/// in the system's settings, not here.
+/// The default input device, as the audio hardware layer knows it. Which one it is, the user
+/// decides in the system's settings, not here.
 class HalMicrophones final : public Microphones {
 public:
     HalMicrophones();
@@ -22,10 +22,7 @@ public:
     void setObserver(std::function<void()> changed) override { m_observer = std::move(changed); }
 
     /// `changed` is called on the main loop when another device is the default one, or none.
-    void setDeviceObserver(std::function<void()> changed)
-    {
-        m_deviceObserver = std::move(changed);
-    }
+    void setDeviceObserver(std::function<void()> changed) { m_deviceObserver = std::move(changed); }
 
 private:
     std::function<void()> m_observer;
