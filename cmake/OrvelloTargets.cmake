@@ -24,6 +24,15 @@ if(ORVELLO_SANITIZE)
     target_link_options(OrvelloBase INTERFACE -fsanitize=${ORVELLO_SANITIZE})
 endif()
 
+# What users run reads files that strangers wrote, so it notices overrun buffers and stacks before they do harm. Needs an
+# optimising build; tests and sanitizers do without.
+add_library(OrvelloHardening INTERFACE)
+if(NOT APPLE AND NOT ORVELLO_SANITIZE)
+    target_compile_options(
+        OrvelloHardening
+        INTERFACE "$<$<CONFIG:Release,RelWithDebInfo>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+endif()
+
 # The layer graph. A library sees the headers of those that its DEPENDS names and no others, not even those that these see in
 # turn: each has an include root of its own, build/include/<Name>, in which there is its folder alone. Linking is transitive.
 # The graph is also written to build/graph.txt, for the check that holds the tree against it (Tests/Structure).
@@ -105,7 +114,7 @@ function(orvello_add_library)
     add_library(Orvello${name} STATIC ${ARG_SOURCES})
     add_library(Orvello::${name} ALIAS Orvello${name})
     target_include_directories(Orvello${name} PRIVATE ${roots})
-    target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
+    target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings OrvelloHardening)
     if(NOT ARG_SOURCES MATCHES "[.]mm") # The first library has no header compiled for Objective-C++.
         orvello_precompile(Orvello${name} OrvelloFoundation)
     endif()

@@ -64,7 +64,7 @@ set(dependencies
 orvello_draw(Sources/Orvello/Shell/Views ShellViews ${dependencies})
 orvello_roots(roots Orvello::ShellViews ${dependencies})
 target_include_directories(OrvelloViews PRIVATE ${roots})
-target_link_libraries(OrvelloViews PUBLIC OrvelloBase ${dependencies} Qt6::Quick Qt6::Svg)
+target_link_libraries(OrvelloViews PUBLIC OrvelloBase ${dependencies} Qt6::Quick Qt6::Svg PRIVATE OrvelloHardening)
 
 # A static QML module needs its plugin linked as well.
 add_library(OrvelloViewsAndPlugin INTERFACE)

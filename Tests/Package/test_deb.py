@@ -42,6 +42,16 @@ class DebTest(unittest.TestCase):
 
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
 
+    def test_the_program_is_hardened(self):
+        program = self.files / "usr/bin/orvello"
+        names = output("readelf", "--dyn-syms", "--wide", program)
+
+        self.assertIn("__stack_chk_fail", names, "stacks are not guarded")
+        self.assertRegex(names, r"\b__\w+_chk@", "buffers are not guarded")
+        self.assertIn("DYN (Position-Independent Executable", output("readelf", "--file-header", program))
+        self.assertRegex(output("readelf", "--dynamic", program), r"FLAGS.*\bNOW\b")
+        self.assertIn("GNU_RELRO", output("readelf", "--program-headers", "--wide", program))
+
     def test_its_name_tells_version_and_architecture(self):
         architecture = output("dpkg", "--print-architecture").strip()
 
