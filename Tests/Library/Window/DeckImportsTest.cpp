@@ -74,11 +74,21 @@ TEST_F(DeckImportsTest, offersImpressOnlyWhereItIsFollowed)
     PresenterTable presenters;
     presenters.add(AppleScriptPresenters::keynote(services.scriptRunner));
     presenters.add(AppleScriptPresenters::powerPoint(services.scriptRunner));
-    const DeckImports two({ services.library, services.openDecks, presenters, services.openPanel });
+    const DeckImports two(
+        { services.library, services.openDecks, presenters, services.openPanel, services.facts });
 
     EXPECT_EQ(two.titles(),
         QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open PowerPoint presentation"_s,
             u"Open Keynote presentation"_s }));
+}
+
+TEST_F(DeckImportsTest, namesNoProgramThatTheMachineCannotHave)
+{
+    const DeckImports onLinux({ services.library, services.openDecks, services.presenters,
+        services.openPanel, Testing::factsOfALinuxDesktop() });
+
+    EXPECT_EQ(onLinux.titles(),
+        QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open Impress presentation"_s }));
 }
 
 TEST_F(DeckImportsTest, asksForOnePptxFile)
@@ -242,19 +252,28 @@ TEST_F(DeckImportsTest, importsEveryDroppedDeckInOrder)
         QUrl::fromLocalFile(file(u"notes.txt"_s, "text")),
         QUrl(u"https://example.org/Remote.pptx"_s),
         QUrl::fromLocalFile(deckFile(u"Second.PPTX"_s)) };
-    EXPECT_TRUE(imports.canImport(files));
+    EXPECT_TRUE(imports.canTake(files));
 
     imports.importFiles(files);
 
     EXPECT_EQ(titles(), QStringList({ u"Second"_s, u"First"_s, u"Old"_s }));
-    EXPECT_FALSE(imports.isShowingAlert());
+    EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
 }
 
-TEST_F(DeckImportsTest, refusesADropWithoutADeck)
+TEST_F(DeckImportsTest, saysWhichFilesAreNoDecks)
 {
-    EXPECT_FALSE(imports.canImport({}));
-    EXPECT_FALSE(imports.canImport({ QUrl::fromLocalFile(u"/tmp/a.txt"_s),
-        QUrl(u"https://example.org/Remote.pptx"_s), QUrl::fromLocalFile(u"/tmp/pptx"_s) }));
+    EXPECT_FALSE(imports.canTake({}));
+    EXPECT_FALSE(imports.canTake({ QUrl(u"https://example.org/Remote.pptx"_s) }));
+    const QList<QUrl> files { QUrl::fromLocalFile(u"/tmp/a.txt"_s),
+        QUrl::fromLocalFile(u"/tmp/pptx"_s) };
+    EXPECT_TRUE(imports.canTake(files));
+
+    imports.importFiles(files);
+
+    EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
+    EXPECT_EQ(imports.alertText(),
+        u"Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read a.txt, pptx."_s);
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
 }
 
 TEST_F(DeckImportsTest, showsTheAlertsOfSeveralFilesOneAfterTheOther)

@@ -29,6 +29,13 @@ bool isDeck(const QUrl& file)
         == 0;
 }
 
+/// Whether it can be on this machine at all. Keynote and PowerPoint are told by their bundles, and
+/// only Macs have those.
+bool isHere(const PresenterApp& app, const Facts& facts)
+{
+    return facts.hasKeynoteAndPowerPoint || !app.bundleIdentifier.startsWith("com."_L1);
+}
+
 bool hasNotes(const LibraryStore& library, QUuid id)
 {
     const auto script = std::ranges::find(library.scripts(), id, &Script::id);
@@ -42,8 +49,10 @@ bool hasNotes(const LibraryStore& library, QUuid id)
 DeckImports::DeckImports(const Services& services)
     : m_services(services)
 {
-    for (const PresenterApp& app : services.presenters.apps())
-        m_apps.push_back(&app);
+    for (const PresenterApp& app : services.presenters.apps()) {
+        if (isHere(app, services.facts))
+            m_apps.push_back(&app);
+    }
     // Shown beside the item for its files.
     std::stable_partition(
         m_apps.begin(), m_apps.end(), [](const PresenterApp* app) { return app->hasDeckFiles; });
@@ -78,20 +87,28 @@ void DeckImports::chooseFile()
     const auto path = m_services.openPanel.chooseFile(
         tr("Choose a PowerPoint presentation — Orvello imports its speaker notes."), deckFile);
     if (path)
-        importFile(*path);
+        importFiles({ QUrl::fromLocalFile(*path) });
 }
 
-bool DeckImports::canImport(const QList<QUrl>& files) const
+bool DeckImports::canTake(const QList<QUrl>& files) const
 {
-    return std::ranges::any_of(files, isDeck);
+    return std::ranges::any_of(files, &QUrl::isLocalFile);
 }
 
 void DeckImports::importFiles(const QList<QUrl>& files)
 {
+    QStringList others;
     for (const QUrl& file : files) {
         if (isDeck(file))
             importFile(file.toLocalFile());
+        else
+            others.append(file.fileName());
     }
+    if (!others.isEmpty())
+        showAlert(tr("Not a presentation"),
+            //: %1: the names of files.
+            tr("Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.")
+                .arg(others.join(u", "_s)));
 }
 
 void DeckImports::importFile(const QString& path)

@@ -10,8 +10,10 @@
 
 namespace Orvello {
 
-/// Keys and modifiers as macOS numbers them, on every platform. A key code names a place on the
-/// keyboard, not a letter: whatever the layout, 35 is the key right of O on an American keyboard.
+/// Keys and modifiers as macOS numbers them, on every platform: the code of a letter is that of its
+/// place on an American keyboard. What counts is the letter, which people read in the settings. On
+/// a layout that has it elsewhere, that key is meant, and the place only where there is no such
+/// letter.
 namespace HotKey {
 
 inline constexpr std::uint32_t keyH = 4;

@@ -40,6 +40,9 @@ public:
     /// The feed to read instead of the built-in one, if any.
     virtual std::optional<QString> feedURLString() const = 0;
 
+    /// Whether the user may be asked now whether to check regularly. If not, the next launch asks.
+    virtual bool mayAskPermission() const = 0;
+
     virtual void didFindValidUpdate(const UpdateItem& item) = 0;
     virtual void didNotFindUpdate(const UpdateError& error) = 0;
     virtual void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) = 0;

@@ -2,6 +2,8 @@
 
 #include "Orvello/Foundation/Facts.h"
 
+#include <QRectF>
+
 #include <functional>
 #include <memory>
 
@@ -20,6 +22,13 @@ class UpdateController;
 class VoiceActivityEngine;
 class WindowChrome;
 class Workspace;
+
+/// The prompter as other windows see it: something that is always in front of them.
+struct PanelSpace {
+    std::function<QRectF()> frame = [] { return QRectF(); }; ///< Empty while it is hidden.
+    std::function<void()> stepAside = [] {}; ///< Hides it.
+    std::function<void()> comeBack = [] {};
+};
 
 /// One window of the program that the user opens and closes, and that keeps its content while
 /// closed.
@@ -49,6 +58,7 @@ public:
         StatusBar& statusBar;
         HotKeys& hotKeys;
         Facts facts; ///< What the windows may say about this machine.
+        PanelSpace panel = {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

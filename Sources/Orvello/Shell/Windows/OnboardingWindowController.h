@@ -36,7 +36,8 @@ public:
 
     /// `onFinish` is called once, through the main event loop, whichever way the user leaves. It
     /// may destroy the window.
-    OnboardingWindowController(const Services& services, std::function<void()> onFinish);
+    OnboardingWindowController(
+        const Services& services, std::function<void()> onFinish, PanelSpace panel = {});
 
     void makeKeyAndOrderFront() override;
 
@@ -54,6 +55,7 @@ private:
     bool m_finished = false;
     WelcomeTour m_tour;
     ShortcutList m_shortcuts;
+    const PanelSpace m_panel;
     QQuickView m_view;
 };
 

@@ -21,6 +21,7 @@ class SettingsWindow final : public ShellWindow {
 public:
     static constexpr QSize contentSize { 500,
         780 }; ///< In points, where the screen has room for it.
+    static constexpr QSize smallestSize { 500, 260 }; ///< The form scrolls.
 
     /// All of them must outlive the window.
     struct Services {
@@ -31,7 +32,7 @@ public:
         Facts facts; ///< What the window may say about this machine.
     };
 
-    explicit SettingsWindow(const Services& services);
+    explicit SettingsWindow(const Services& services, PanelSpace panel = {});
 
     void makeKeyAndOrderFront() override;
 
@@ -40,6 +41,7 @@ public:
 private:
     SettingsForm m_form;
     ShortcutList m_shortcuts;
+    const PanelSpace m_panel;
     QQuickView m_view;
 };
 

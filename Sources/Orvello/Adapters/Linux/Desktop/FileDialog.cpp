@@ -1,8 +1,9 @@
 #include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
 
 #include <QFileDialog>
-#include <QFileInfo>
+#include <QGuiApplication>
 #include <QMimeDatabase>
+#include <QWindow>
 
 namespace Orvello {
 
@@ -29,13 +30,12 @@ std::optional<QString> FileDialog::chooseFile(const QString& message, const File
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilter(filterFor(kind.extension));
+    // In front of the window that asks for it, which is no widget.
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    const QString file = dialog.selectedFiles().first();
-    // A name can be typed past the filter.
-    if (QFileInfo(file).suffix().compare(kind.extension, Qt::CaseInsensitive) != 0)
-        return std::nullopt;
-    return file;
+    return dialog.selectedFiles().first(); // A name can be typed past the filter.
 }
 
 } // namespace Orvello

@@ -113,6 +113,9 @@ PortalHotKeys::PortalHotKeys(QDBusConnection bus, QString applicationID, HotKeys
     , m_portalWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
     , m_revivalsLeft(mostRevivals)
 {
+    const AssignedKeys& ofFallback = m_fallback.assignedKeys();
+    connect(&ofFallback, &AssignedKeys::troublesChanged, this,
+        [this, &ofFallback] { assignedKeys().setTroubles(ofFallback.troubles()); });
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
     // Qt looks the type up by name when it connects the slot, before it has met one on the bus.
@@ -417,8 +420,8 @@ void PortalHotKeys::grab(Shortcut& shortcut)
 {
     shortcut.isHeld = false;
     if (!shortcut.fallback)
-        shortcut.fallback
-            = m_fallback.registerHotKey(shortcut.name.keyCode, shortcut.modifiers, shortcut.id);
+        shortcut.fallback = m_fallback.registerHotKeyFor(
+            shortcut.purpose, shortcut.name.keyCode, shortcut.modifiers, shortcut.id);
 }
 
 void PortalHotKeys::activated(const QDBusObjectPath& session, const QString& shortcut)

@@ -23,8 +23,10 @@ enum class X11HotKeys::Holding { Own, NotOnKeyboard, OfAnotherProgram };
 
 /// One key with its modifiers, and what is grabbed for it now in the server's own terms.
 struct X11HotKeys::Grab final : Reference {
-    Grab(X11HotKeys& service, const HotKeyName& keyName, std::uint32_t keyModifiers, HotKeyID keyID)
+    Grab(X11HotKeys& service, QString purposeName, const HotKeyName& keyName,
+        std::uint32_t keyModifiers, HotKeyID keyID)
         : keys(service)
+        , purpose(std::move(purposeName))
         , name(keyName)
         , modifiers(keyModifiers)
         , id(keyID)
@@ -35,6 +37,7 @@ struct X11HotKeys::Grab final : Reference {
     std::string label() const { return hotKeyLabel(name, modifiers); }
 
     X11HotKeys& keys;
+    const QString purpose; ///< Its name; empty for none.
     const HotKeyName& name;
     const std::uint32_t modifiers;
     const HotKeyID id;
@@ -71,11 +74,18 @@ void X11HotKeys::installHandler(Handler handler) { m_handler = std::move(handler
 std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(
     std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
 {
+    return registerHotKeyFor({}, keyCode, modifiers, id);
+}
+
+std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKeyFor(
+    const HotKeyPurpose& purpose, std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
+{
     const HotKeyName* const name = hotKeyName(keyCode);
     if (!name || !m_keyboard)
         return nullptr;
-    auto grabbed = std::make_unique<Grab>(*this, *name, modifiers, id);
+    auto grabbed = std::make_unique<Grab>(*this, purpose.name, *name, modifiers, id);
     acquire(*grabbed);
+    tell(*grabbed);
     if (grabbed->holding == Holding::OfAnotherProgram)
         return nullptr;
     m_grabs.push_back(grabbed.get());
@@ -90,7 +100,8 @@ QString X11HotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
 /// Tries to get the key, and logs it when losing it is news.
 void X11HotKeys::acquire(Grab& grab)
 {
-    grab.serverKeyCode = m_keyboard->keyCode(grab.name.place);
+    const std::uint8_t ofLetter = m_keyboard->keyCodeOf(grab.name.symbol);
+    grab.serverKeyCode = ofLetter != 0 ? ofLetter : m_keyboard->keyCode(grab.name.place);
     grab.serverModifiers = static_cast<std::uint16_t>(
         (grab.modifiers & HotKey::optionKey ? m_keyboard->altMask() : 0)
         | (grab.modifiers & HotKey::commandKey ? m_keyboard->superMask() : 0));
@@ -107,6 +118,20 @@ void X11HotKeys::acquire(Grab& grab)
         AppLog::write("HOTKEY %@ is not available on this keyboard", grab.label());
     else if (holding == Holding::OfAnotherProgram)
         AppLog::write("HOTKEY %@ belongs to another program", grab.label());
+}
+
+/// Lets the windows say whether the key works.
+void X11HotKeys::tell(const Grab& grab)
+{
+    if (grab.purpose.isEmpty())
+        return;
+    auto troubles = assignedKeys().troubles();
+    troubles.remove(grab.purpose);
+    if (grab.holding == Holding::NotOnKeyboard)
+        troubles.insert(grab.purpose, AssignedKeys::Trouble::Absent);
+    else if (grab.holding == Holding::OfAnotherProgram)
+        troubles.insert(grab.purpose, AssignedKeys::Trouble::Taken);
+    assignedKeys().setTroubles(troubles);
 }
 
 /// A key code of 0 would grab every key, and a keyboard without Alt or Super the plain one.
@@ -200,8 +225,10 @@ void X11HotKeys::keyboardChanged()
     for (const Grab* const grab : m_grabs)
         release(*grab);
     m_keyboard->load();
-    for (Grab* const grab : m_grabs)
+    for (Grab* const grab : m_grabs) {
         acquire(*grab);
+        tell(*grab);
+    }
 }
 
 } // namespace Orvello
