@@ -2,6 +2,8 @@
 #
 #   make run [DECK=talk.pptx]   build and open the prompter, with that deck's notes
 #   make test                   build and run every test
+#   make faults                 everything that can go wrong with the sound, on both sound servers, in five minutes
+#   make soak [MINUTES=120]     the microphone for hours;  make speech: how well it tells speech from noise
 #   make bench                  print the measured speed and memory
 #   make gallery               every window in every state on one picture, build/gallery.png
 #   make kill-test N=1000       kill the program that often while it saves, and look for what is lost
@@ -12,7 +14,7 @@
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test kill-test bench gallery sanitize format tidy clean deb install uninstall
+.PHONY: run test kill-test faults soak speech bench gallery sanitize format tidy clean deb install uninstall
 
 # The program alone needs no test package. In a folder that is configured with the tests, they stay: to configure without
 # them would throw away what is built of them.
@@ -26,6 +28,27 @@ test:
 	@tools/setup test
 	@tools/build -DBUILD_TESTING=ON all
 	@ctest --preset release
+
+sound_test = PYTHONDONTWRITEBYTECODE=1 ORVELLO_VOICE_PROBE=build/Tests/EndToEnd/voice-probe /usr/bin/python3 Tests/EndToEnd
+servers := pulseaudio pipewire
+MINUTES := 120
+
+faults:
+	@tools/setup test
+	@tools/build -DBUILD_TESTING=ON voice-probe
+	@set -e; for server in $(servers); do \
+	    echo "On $$server:"; ORVELLO_FAULTS=all ORVELLO_SOUND_SERVER=$$server $(sound_test)/test_voice_faults.py; \
+	done
+
+soak:
+	@tools/setup test
+	@tools/build -DBUILD_TESTING=ON voice-probe
+	@set -e; for server in $(servers); do ORVELLO_SOUND_SERVER=$$server $(sound_test)/soak_voice.py $(MINUTES); done
+
+speech:
+	@tools/setup test
+	@tools/build -DBUILD_TESTING=ON speech-judge
+	@ORVELLO_SPEECH_JUDGE=build/Tests/EndToEnd/speech-judge $(sound_test)/report_speech.py
 
 bench:
 	@tools/setup test

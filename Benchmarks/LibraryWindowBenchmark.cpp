@@ -114,7 +114,7 @@ public:
         lines.setVisibleHeight(200);
         QObject::connect(&deck, &DeckController::promptTextChanged, &lines,
             [this](const TextEdit& edit) { lines.edit(deck.promptText(), edit); });
-        library.makeKeyAndOrderFront();
+        library.bringToFront();
         if (!QTest::qWaitForWindowExposed(&window()))
             static_cast<void>(std::fputs("The window is not to be seen.\n", stderr));
         runMainLoop(2000);

@@ -106,7 +106,9 @@ function(orvello_add_library)
     add_library(Orvello::${name} ALIAS Orvello${name})
     target_include_directories(Orvello${name} PRIVATE ${roots})
     target_link_libraries(Orvello${name} PUBLIC OrvelloBase ${ARG_DEPENDS} PRIVATE OrvelloWarnings)
-    orvello_precompile(Orvello${name} OrvelloFoundation)
+    if(NOT ARG_SOURCES MATCHES "[.]mm") # The first library has no header compiled for Objective-C++.
+        orvello_precompile(Orvello${name} OrvelloFoundation)
+    endif()
     if(ARG_VIEWED)
         qt_extract_metatypes(Orvello${name}) # qmllint sees the properties in them.
     endif()

@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>Prompter zeigen oder verbergen</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Unter die Kamera setzen</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>Unbekannter Fehler</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>Nicht alle Notizen wurden importiert</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>Die Datei enthält mehr, als Orvello liest: Die Notizen der Folien %1 konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>Präsentationsdatei (.pptx, .odp) …</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lese, was in %1 geöffnet ist …</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>Wählen Sie eine Präsentation – Orvello importiert ihre Notizen.</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>Keine Präsentation</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>Orvello importiert Vortragsnotizen aus PowerPoint-Dateien (.pptx). %1 kann es nicht lesen.</translation>
+        <translation>Orvello importiert Vortragsnotizen aus Präsentationen (.pptx, .odp). %1 kann es nicht lesen.</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>Darf Orvello Ihren Impress-Präsentationen folgen?</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>LibreOffice verrät anderen Programmen nichts über eine Präsentation, solange Sie es nicht erlauben. Orvello kann das für Sie tun: Es ändert eine Einstellung von LibreOffice, und Sie können es jederzeit zurücknehmen.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>Erlauben</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>Nicht jetzt</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>Orvello spricht mit LibreOffice …
-
-Das kann einige Sekunden dauern.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>Während eine Impress-Präsentation läuft und während Sie eine geöffnete Präsentation importieren, lässt Orvello LibreOffice auf einer Verbindung lauschen, die Kontrolle über ganz LibreOffice gibt, und liest darüber Foliennummern, Titel und Notizen. Nur Programme Ihres Benutzerkontos könnten sie erreichen, Orvello nimmt ihr den Namen, sobald es verbunden ist, und die Verbindung endet mit der Präsentation oder dem Import.</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>Orvello darf Impress jetzt folgen. Starten Sie die Präsentation oder den Import noch einmal.
+
+In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ Das kann einige Sekunden dauern.</translation>
         <translation>Notizen</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>Zugriff verweigert – LibreOffice antwortet anderen Programmen erst, wenn Sie es erlauben</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>Um Impress zu folgen, braucht Orvello das Paket python3-uno. Installieren Sie es und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>LibreOffice ist nicht installiert.</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>LibreOffice läuft nicht.</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>LibreOffice hat nicht geantwortet. Schließen Sie es und versuchen Sie es erneut.</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>LibreOffice hat nicht geantwortet.</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>LibreOffice hört bereits auf ein anderes Programm (%1).</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>Zugriff verweigert – Orvello fragt LibreOffice erst, wenn Sie es erlauben</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>Orvello darf Impress jetzt folgen. Starten Sie die Präsentation oder den Import noch einmal.
-
-So nehmen Sie das später zurück: %1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>Orvello darf Impress nicht mehr folgen.</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>Dieses LibreOffice läuft in einer Sandbox (%1), die Orvello nicht erreichen kann. Importieren Sie stattdessen die Datei der Präsentation und blättern Sie von Hand durch die Folien.</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ So nehmen Sie das später zurück: %1</translation>
         <translation>Unbekannte Option %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>Der Einstellung %1 fehlt der Wert</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 ist weder eine Option noch eine Einstellung mit Wert</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ So nehmen Sie das später zurück: %1</translation>
         <translation>Es gibt keine Datei „%1“</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1 ist keine PowerPoint-Präsentation (.pptx)</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>Siehe „orvello --help“.</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 ist keine Präsentation (.pptx oder .odp)</translation>
     </message>
 </context>
 <context>
@@ -626,6 +636,10 @@ So nehmen Sie das später zurück: %1</translation>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>Keine Folien gefunden – ist das eine .pptx-Präsentation?</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>Die Präsentation ist mit einem Kennwort geschützt. Speichern Sie in Ihrem Präsentationsprogramm eine Kopie ohne Kennwort und importieren Sie diese.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -688,6 +702,22 @@ So nehmen Sie das später zurück: %1</translation>
             <numerusform>%n Folie</numerusform>
             <numerusform>%n Folien</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Für Ihre Stimme passt hier eine Empfindlichkeit von %1 %.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Keine Stimme hob sich vom Raum ab. Gehen Sie näher ans Mikrofon, oder wählen Sie ein anderes.</translation>
     </message>
 </context>
 <context>
@@ -899,6 +929,60 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 ist geöffnet</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>Das Mikrofon darf nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>Das Tonsystem antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Es ist kein Mikrofon angeschlossen.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Es ist kein Mikrofon angeschlossen. Schließen Sie eines an, dann schalten Sie „Der Stimme folgen“ aus und ein.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Das Mikrofon „%1“ ist stummgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>Die Echounterdrückung ist an.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>Die Echounterdrückung ist pausiert: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>Die Echounterdrückung ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Wie im System</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>„%1“ wird gehört.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1036,6 +1120,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Suchen</translation>
     </message>
@@ -1161,9 +1249,24 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Steht dort „Kein Zugriff“: Systemeinstellungen → Datenschutz &amp; Sicherheit → Automation → Orvello → %1 erlauben, dann „Den Folien folgen“ aus- und einschalten.</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>Steht dort „Kein Zugriff“: LibreOffice antwortet anderen Programmen erst, wenn Sie es erlauben. Importieren Sie die geöffnete Präsentation (Skripte → Import-Knopf), wählen Sie „Erlauben“, wenn Orvello es anbietet, und starten Sie die Präsentation neu.</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>Orvello darf Impress nicht folgen</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>Orvello darf Impress folgen</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>Orvello darf Impress folgen, konnte es aber nicht</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1588,30 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>Der Ton wird nur auf dem Gerät und nur auf Lautstärke ausgewertet. Nichts wird aufgenommen, erkannt oder hochgeladen.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Die Empfindlichkeit für meine Stimme finden</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prüfen</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Echounterdrückung: nicht verfügbar. Über Lautsprecher können laute Gegenstellen den Prompter anstoßen – mit Kopfhörern nicht.</translation>
     </message>
 </context>
 </TS>

@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar u ocultar el prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Poner bajo la cámara</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>Error desconocido</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>No se importaron todas las notas</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>El archivo contiene más de lo que Orvello lee: no se pudieron leer las notas de las diapositivas %1.</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>Archivo de presentación (.pptx, .odp)…</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Leyendo lo que está abierto en %1…</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>Elija una presentación: Orvello importará sus notas del orador.</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>No es una presentación</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>Orvello importa las notas del orador de archivos de PowerPoint (.pptx). No puede leer %1.</translation>
+        <translation>Orvello importa las notas del orador de presentaciones (.pptx, .odp). No puede leer %1.</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>¿Permitir que Orvello siga tus presentaciones de Impress?</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>LibreOffice no cuenta nada de una presentación a otros programas hasta que lo permites. Orvello puede hacerlo por ti: cambia un ajuste de LibreOffice, y puedes deshacerlo en cualquier momento.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>Permitir</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>Ahora no</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>Orvello está hablando con LibreOffice…
-
-Puede tardar unos segundos.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>Mientras se ejecuta una presentación de Impress y mientras usted importa una presentación abierta, Orvello hace que LibreOffice escuche en una conexión que da control sobre todo LibreOffice y la usa para leer números de diapositiva, títulos y notas. Solo los programas de su cuenta de usuario podrían alcanzarla, Orvello le quita el nombre en cuanto está conectado, y la conexión termina con la presentación o la importación.</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>Orvello ya puede seguir a Impress. Inicie de nuevo la presentación o la importación.
+
+En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ Puede tardar unos segundos.</translation>
         <translation>notas</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>permiso denegado: LibreOffice solo responde a otros programas cuando lo permites</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>Para seguir a Impress, Orvello necesita el paquete python3-uno. Instálalo y vuelve a intentarlo.</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>LibreOffice no está instalado.</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>LibreOffice no está en ejecución.</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>LibreOffice no respondió. Ciérralo y vuelve a intentarlo.</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>LibreOffice no respondió.</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>LibreOffice ya escucha a otro programa (%1).</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>permiso denegado: Orvello solo consulta a LibreOffice cuando usted lo permite</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>Orvello ya puede seguir a Impress. Inicia de nuevo la presentación o la importación.
-
-Para deshacerlo más tarde: %1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>Orvello ya no puede seguir a Impress.</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>Este LibreOffice se ejecuta en un entorno aislado (%1) al que Orvello no puede llegar. Importe en su lugar el archivo de la presentación y avance por las diapositivas a mano.</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ Para deshacerlo más tarde: %1</translation>
         <translation>opción desconocida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>al ajuste %1 le falta su valor</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 no es una opción ni un ajuste con su valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ Para deshacerlo más tarde: %1</translation>
         <translation>no existe el archivo «%1»</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1 no es una presentación de PowerPoint (.pptx)</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>Prueba «orvello --help».</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 no es una presentación (.pptx u .odp)</translation>
     </message>
 </context>
 <context>
@@ -626,6 +636,10 @@ Para deshacerlo más tarde: %1</translation>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>No se encontraron diapositivas. ¿Es una presentación .pptx?</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>La presentación está protegida con una contraseña. Guarde una copia sin contraseña en su programa de presentaciones e impórtela.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -688,6 +702,22 @@ Para deshacerlo más tarde: %1</translation>
             <numerusform>%n diapositiva</numerusform>
             <numerusform>%n diapositivas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Para tu voz, aquí conviene una sensibilidad del %1 %.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Ninguna voz destacó sobre el ruido de la sala. Acércate al micrófono o elige otro.</translation>
     </message>
 </context>
 <context>
@@ -899,6 +929,60 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 está abierto</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>No está permitido usar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>El sistema de sonido no responde.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>No hay ningún micrófono conectado.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>No hay ningún micrófono conectado. Conecta uno y después desactiva y activa el seguimiento de la voz.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>El micrófono «%1» está silenciado.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>La cancelación de eco está activada.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>La cancelación de eco está en pausa: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>La cancelación de eco no está disponible.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>El del sistema</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (no conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Se escucha «%1».</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1036,6 +1120,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Eliminar</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Buscar</translation>
     </message>
@@ -1161,9 +1249,24 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Si aparece «Sin acceso»: Ajustes del Sistema → Privacidad y seguridad → Automatización → Orvello → permite %1, y después desactiva y activa el seguimiento de diapositivas.</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>Si aparece «Sin acceso»: LibreOffice solo responde a otros programas cuando lo permites. Importa la presentación abierta (Guiones → botón de importar), elige Permitir cuando Orvello lo ofrezca y vuelve a iniciar la presentación.</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>Orvello no puede seguir a Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>Orvello puede seguir a Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>Orvello puede seguir a Impress, pero no lo consiguió</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Revocar</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1588,30 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>El audio se analiza en el dispositivo y solo por su volumen. Nada se graba, se reconoce ni se envía.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Buscar la sensibilidad para mi voz</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelación de eco: no disponible. Con altavoces, un interlocutor ruidoso puede mover el prompter; con auriculares no.</translation>
     </message>
 </context>
 </TS>

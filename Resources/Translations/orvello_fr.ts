@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>Afficher ou masquer le prompteur</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Placer sous la caméra</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>Erreur inconnue</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>Toutes les notes n’ont pas été importées</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>Le fichier contient plus que ce qu’Orvello lit : les notes des diapositives %1 n’ont pas pu être lues.</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>Fichier de présentation (.pptx, .odp)…</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lecture de ce qui est ouvert dans %1…</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>Choisissez une présentation : Orvello importe ses notes.</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>Pas une présentation</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>Orvello importe les commentaires des fichiers PowerPoint (.pptx). Il ne peut pas lire %1.</translation>
+        <translation>Orvello importe les commentaires des présentations (.pptx, .odp). Il ne peut pas lire %1.</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>Autoriser Orvello à suivre vos présentations Impress ?</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>LibreOffice ne dit rien d’une présentation aux autres programmes tant que vous ne l’autorisez pas. Orvello peut le faire pour vous : il change un réglage de LibreOffice, et vous pouvez l’annuler à tout moment.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>Autoriser</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>Pas maintenant</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>Orvello dialogue avec LibreOffice…
-
-Cela peut prendre quelques secondes.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>Pendant qu’un diaporama Impress est en cours, et pendant que vous importez une présentation ouverte, Orvello met LibreOffice à l’écoute sur une connexion qui donne le contrôle de tout LibreOffice, et s’en sert pour lire les numéros de diapositive, les titres et les notes. Seuls les programmes de votre compte pourraient l’atteindre, Orvello lui retire son nom dès qu’il est connecté, et la connexion prend fin avec le diaporama ou l’importation.</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>Orvello peut maintenant suivre Impress. Relancez le diaporama ou l’importation.
+
+Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ Cela peut prendre quelques secondes.</translation>
         <translation>notes</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>accès refusé : LibreOffice ne répond aux autres programmes que si vous l’autorisez</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>Pour suivre Impress, Orvello a besoin du paquet python3-uno. Installez-le et réessayez.</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>LibreOffice n’est pas installé.</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>LibreOffice n’est pas en cours d’exécution.</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>LibreOffice n’a pas répondu. Fermez-le et réessayez.</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>LibreOffice n’a pas répondu.</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>LibreOffice écoute déjà un autre programme (%1).</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>accès refusé — Orvello n’interroge LibreOffice qu’avec votre autorisation</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>Orvello peut maintenant suivre Impress. Relancez le diaporama ou l’importation.
-
-Pour revenir en arrière plus tard : %1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>Orvello ne peut plus suivre Impress.</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>Ce LibreOffice s’exécute dans un bac à sable (%1) qu’Orvello ne peut pas atteindre. Importez plutôt le fichier de la présentation et faites défiler les diapositives à la main.</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ Pour revenir en arrière plus tard : %1</translation>
         <translation>option inconnue %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>il manque une valeur au réglage %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 n’est ni une option ni un réglage suivi de sa valeur</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ Pour revenir en arrière plus tard : %1</translation>
         <translation>il n’y a pas de fichier « %1 »</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1 n’est pas une présentation PowerPoint (.pptx)</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>Essayez « orvello --help ».</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 n’est pas une présentation (.pptx ou .odp)</translation>
     </message>
 </context>
 <context>
@@ -626,6 +636,10 @@ Pour revenir en arrière plus tard : %1</translation>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>Aucune diapositive trouvée. Est-ce une présentation .pptx ?</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>La présentation est protégée par un mot de passe. Enregistrez-en une copie sans mot de passe dans votre logiciel de présentation et importez-la.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -688,6 +702,22 @@ Pour revenir en arrière plus tard : %1</translation>
             <numerusform>%n diapositive</numerusform>
             <numerusform>%n diapositives</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Pour votre voix, une sensibilité de %1 % convient ici.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Aucune voix ne s’est détachée du bruit de la pièce. Rapprochez-vous du microphone ou choisissez-en un autre.</translation>
     </message>
 </context>
 <context>
@@ -899,6 +929,60 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 est ouvert</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>L’utilisation du microphone n’est pas autorisée.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>Le système audio ne répond pas.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Aucun microphone n’est connecté.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Aucun microphone n’est connecté. Connectez-en un, puis désactivez et réactivez le suivi de la voix.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Le microphone « %1 » est coupé.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>L’annulation de l’écho est active.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>L’annulation de l’écho est suspendue : %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>L’annulation de l’écho n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Celui du système</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (non connecté)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>À l’écoute de « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1036,6 +1120,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Supprimer</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Rechercher</translation>
     </message>
@@ -1161,9 +1249,24 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Si « Sans accès » s’affiche : Réglages Système → Confidentialité et sécurité → Automatisation → Orvello → autorisez %1, puis désactivez et réactivez le suivi des diapositives.</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>Si « Sans accès » s’affiche : LibreOffice ne répond aux autres programmes que si vous l’autorisez. Importez la présentation ouverte (Scripts → bouton d’importation), choisissez Autoriser quand Orvello le propose, puis relancez le diaporama.</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>Orvello ne peut pas suivre Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>Orvello peut suivre Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>Orvello a le droit de suivre Impress, mais n’a pas pu</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Autoriser</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1588,30 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>Le son est analysé sur l’appareil, pour son volume seulement. Rien n’est enregistré, reconnu ni envoyé.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Trouver la sensibilité pour ma voix</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Adopter</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Annulation de l’écho : indisponible. Sur haut-parleurs, un interlocuteur bruyant peut faire avancer le prompteur ; un casque l’évite.</translation>
     </message>
 </context>
 </TS>

@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>プロンプターを表示または隠す</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>カメラの下に置く</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>不明なエラー</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>一部のノートを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>ファイルの内容が Orvello の上限を超えています。スライド %1 のノートは読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>プレゼンテーションファイル (.pptx、.odp)…</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>%1 で開いている内容を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>プレゼンテーションを選んでください。Orvello が発表者ノートを読み込みます。</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>プレゼンテーションではありません</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>OrvelloはPowerPointファイル（.pptx）から発表者ノートを読み込みます。%1は読み込めません。</translation>
+        <translation>Orvelloはプレゼンテーション（.pptx、.odp）から発表者ノートを読み込みます。%1は読み込めません。</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>OrvelloがImpressのプレゼンテーションに追従することを許可しますか？</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>LibreOfficeは、許可されるまで、プレゼンテーションについてほかのプログラムに何も伝えません。Orvelloが代わりに設定できます。LibreOfficeの設定をひとつ変えるだけで、いつでも元に戻せます。</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>許可</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>あとで</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>OrvelloがLibreOfficeと通信しています…
-
-数秒かかることがあります。</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>Impress のスライドショーの実行中と、開いているプレゼンテーションの読み込み中、Orvello は LibreOffice 全体を操作できる接続を LibreOffice に待ち受けさせ、スライド番号、タイトル、ノートの読み取りに使います。この接続に届くのはあなたのユーザーアカウントのプログラムだけで、Orvello は接続するとすぐにその名前を取り除き、接続はスライドショーまたは読み込みとともに終了します。</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>Orvello が Impress に追従できるようになりました。スライドショーまたは読み込みをもう一度始めてください。
+
+設定のボタンで取り消せます。</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ This may take some seconds.</source>
         <translation>ノート</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>アクセスが拒否されました。LibreOfficeは許可されるまでほかのプログラムに応答しません</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>Impressに追従するには、python3-unoパッケージがOrvelloに必要です。インストールしてからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>LibreOfficeがインストールされていません。</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>LibreOffice が実行されていません。</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>LibreOfficeが応答しませんでした。LibreOfficeを閉じて、もう一度お試しください。</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>LibreOffice が応答しませんでした。</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>LibreOfficeはすでに別のプログラムにつながっています（%1）。</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>許可されていません — Orvello は許可されるまで LibreOffice に問い合わせません</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>OrvelloがImpressに追従できるようになりました。スライドショーか読み込みをもう一度始めてください。
-
-あとで取り消すには：%1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>OrvelloはImpressに追従しなくなりました。</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>この LibreOffice は Orvello から届かないサンドボックス (%1) で動いています。代わりにプレゼンテーションのファイルを読み込み、スライドは手動で送ってください。</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ To take this back later: %1</source>
         <translation>不明なオプション%1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>設定%1に値がありません</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1は、オプションでも、値の付いた設定でもありません</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ To take this back later: %1</source>
         <translation>ファイル「%1」がありません</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1はPowerPointのプレゼンテーション（.pptx）ではありません</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>「orvello --help」をお試しください。</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 はプレゼンテーション (.pptx または .odp) ではありません</translation>
     </message>
 </context>
 <context>
@@ -625,6 +635,10 @@ To take this back later: %1</source>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>スライドが見つかりません。.pptxのプレゼンテーションですか？</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>プレゼンテーションはパスワードで保護されています。プレゼンテーションソフトでパスワードなしのコピーを保存し、それを読み込んでください。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -685,6 +699,22 @@ To take this back later: %1</source>
         <translation>
             <numerusform>%n枚のスライド</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>ここでのあなたの声には、感度 %1% が合っています。</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>部屋の音より大きな声は聞こえませんでした。マイクに近づくか、別のマイクを選んでください。</translation>
     </message>
 </context>
 <context>
@@ -896,6 +926,60 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1が起動中</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>マイクの使用が許可されていません。</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>サウンドシステムが応答しません。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>マイクが接続されていません。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>マイクが接続されていません。接続してから、「音声に追従」をいったんオフにしてオンに戻してください。</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>マイク「%1」はミュートされています。</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>エコーキャンセルはオンです。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>エコーキャンセルは停止中：%1。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>エコーキャンセルは利用できません。</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>システムの設定どおり</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1（未接続）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>「%1」を聞いています。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1033,6 +1117,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>削除</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>検索</translation>
     </message>
@@ -1158,9 +1246,24 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>「許可なし」と表示されたら、「システム設定」→「プライバシーとセキュリティ」→「オートメーション」→ Orvello で%1を許可し、「スライドに追従」をいったんオフにしてオンに戻してください。</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>「許可なし」と表示されたら：LibreOfficeは許可されるまでほかのプログラムに応答しません。開いているプレゼンテーションを読み込み（「原稿」→ 読み込みボタン）、Orvelloが尋ねたら「許可」を選び、スライドショーをもう一度始めてください。</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>Orvello は Impress に追従できません</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>Orvello は Impress に追従できます</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>Orvello は Impress への追従を許可されていますが、できませんでした</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>許可</translation>
     </message>
 </context>
 <context>
@@ -1482,6 +1585,30 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>音声は機器の中で音量だけを調べます。録音も認識も送信もされません。</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>自分の声に合う感度を調べる</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>テスト</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>マイク</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>エコーキャンセル：利用できません。スピーカーでは相手の大きな声でプロンプターが動くことがありますが、ヘッドフォンなら動きません。</translation>
     </message>
 </context>
 </TS>

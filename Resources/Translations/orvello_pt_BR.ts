@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>Mostrar ou ocultar o prompter</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>Colocar sob a câmera</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>Erro desconhecido</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>Nem todas as anotações foram importadas</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>O arquivo contém mais do que o Orvello lê: as anotações dos slides %1 não puderam ser lidas.</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>Arquivo de apresentação (.pptx, .odp)…</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lendo o que está aberto no %1…</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>Escolha uma apresentação — o Orvello importa as anotações do apresentador.</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>Não é uma apresentação</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>O Orvello importa as anotações do apresentador de arquivos do PowerPoint (.pptx). Não consegue ler %1.</translation>
+        <translation>O Orvello importa as anotações do apresentador de apresentações (.pptx, .odp). Não consegue ler %1.</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>Permitir que o Orvello acompanhe suas apresentações do Impress?</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>O LibreOffice não diz nada sobre uma apresentação a outros programas até você permitir. O Orvello pode fazer isso por você: ele muda um ajuste do LibreOffice, e você pode desfazer quando quiser.</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>Permitir</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>Agora não</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>O Orvello está falando com o LibreOffice…
-
-Isso pode levar alguns segundos.</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Desfazer</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>Enquanto uma apresentação de slides do Impress está em andamento e enquanto você importa uma apresentação aberta, o Orvello faz o LibreOffice escutar em uma conexão que dá controle de todo o LibreOffice e a usa para ler números de slides, títulos e anotações. Só programas da sua conta de usuário poderiam alcançá-la, o Orvello remove o nome dela assim que se conecta, e a conexão termina com a apresentação ou a importação.</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>O Orvello agora pode seguir o Impress. Inicie a apresentação ou a importação novamente.
+
+Nas configurações há um botão que desfaz isso.</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ Isso pode levar alguns segundos.</translation>
         <translation>anotações</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>permissão negada: o LibreOffice só responde a outros programas quando você permite</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>Para acompanhar o Impress, o Orvello precisa do pacote python3-uno. Instale-o e tente de novo.</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>O LibreOffice não está instalado.</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>O LibreOffice não está em execução.</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>O LibreOffice não respondeu. Feche-o e tente de novo.</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>O LibreOffice não respondeu.</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>O LibreOffice já escuta outro programa (%1).</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>permissão negada — o Orvello só consulta o LibreOffice quando você permite</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>O Orvello já pode acompanhar o Impress. Inicie de novo a apresentação ou a importação.
-
-Para desfazer mais tarde: %1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>O Orvello não pode mais acompanhar o Impress.</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>Este LibreOffice é executado em um ambiente isolado (%1) que o Orvello não alcança. Importe o arquivo da apresentação e avance os slides manualmente.</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ Para desfazer mais tarde: %1</translation>
         <translation>opção desconhecida %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>falta o valor do ajuste %1</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 não é uma opção nem um ajuste com valor</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ Para desfazer mais tarde: %1</translation>
         <translation>não existe o arquivo “%1”</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1 não é uma apresentação do PowerPoint (.pptx)</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>Experimente “orvello --help”.</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 não é uma apresentação (.pptx ou .odp)</translation>
     </message>
 </context>
 <context>
@@ -626,6 +636,10 @@ Para desfazer mais tarde: %1</translation>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>Nenhum slide encontrado. É uma apresentação .pptx?</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>A apresentação está protegida por senha. Salve uma cópia sem senha no seu programa de apresentações e importe-a.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -688,6 +702,22 @@ Para desfazer mais tarde: %1</translation>
             <numerusform>%n slide</numerusform>
             <numerusform>%n slides</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Fale normalmente por cinco segundos.</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>Para a sua voz, uma sensibilidade de %1% é adequada aqui.</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>Nenhuma voz se destacou do ambiente. Aproxime-se do microfone ou escolha outro.</translation>
     </message>
 </context>
 <context>
@@ -899,6 +929,60 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 está aberto</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>O uso do microfone não é permitido.</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>O sistema de som não responde.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>Nenhum microfone está conectado.</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>Nenhum microfone está conectado. Conecte um, depois desative e ative “Seguir a voz”.</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>O microfone “%1” está sem som.</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>O cancelamento de eco está ativo.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>O cancelamento de eco está pausado: %1.</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>O cancelamento de eco não está disponível.</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>Padrão do sistema</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1 (não conectado)</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>Ouvindo “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1036,6 +1120,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Apagar</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>Buscar</translation>
     </message>
@@ -1161,9 +1249,24 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Se aparecer “Sem acesso”: Ajustes do Sistema → Privacidade e Segurança → Automação → Orvello → permita o %1, depois desative e ative “Acompanhar os slides”.</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>Se aparecer “Sem acesso”: o LibreOffice só responde a outros programas quando você permite. Importe a apresentação aberta (Roteiros → botão de importar), escolha Permitir quando o Orvello oferecer e inicie a apresentação de novo.</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>O Orvello não pode seguir o Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>O Orvello pode seguir o Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>O Orvello tem permissão para seguir o Impress, mas não conseguiu</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>Revogar</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Permitir</translation>
     </message>
 </context>
 <context>
@@ -1485,6 +1588,30 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>O áudio é analisado no aparelho, só pelo volume. Nada é gravado, reconhecido nem enviado.</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>Encontrar a sensibilidade para a minha voz</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>Fale normalmente por cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfone</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>Cancelamento de eco: não disponível. Com alto-falantes, uma voz alta do outro lado pode mover o prompter; com fones, não.</translation>
     </message>
 </context>
 </TS>

@@ -269,6 +269,11 @@
         <source>Show or hide the prompter</source>
         <translation>显示或隐藏提词器</translation>
     </message>
+    <message>
+        <source>Put Under the Camera</source>
+        <extracomment>In a menu: moves the prompter to the top of the screen that the pointer is on.</extracomment>
+        <translation>移到摄像头下方</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckController</name>
@@ -344,13 +349,35 @@
         <translation>未知错误</translation>
     </message>
     <message>
+        <source>Not all notes were imported</source>
+        <translation>并非所有备注都已导入</translation>
+    </message>
+    <message>
+        <source>The file holds more than Orvello reads: the notes of slides %1 could not be read.</source>
+        <extracomment>%1: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>该文件超出了 Orvello 的读取上限：无法读取幻灯片 %1 的备注。</translation>
+    </message>
+    <message>
+        <source>Presentation file (.pptx, .odp)…</source>
+        <translation>演示文稿文件 (.pptx、.odp)…</translation>
+    </message>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>正在读取 %1 中打开的内容…</translation>
+    </message>
+    <message>
+        <source>Choose a presentation — Orvello imports its speaker notes.</source>
+        <translation>选择一个演示文稿，Orvello 将导入其演讲者备注。</translation>
+    </message>
+    <message>
         <source>Not a presentation</source>
         <translation>不是演示文稿</translation>
     </message>
     <message>
-        <source>Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.</source>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
-        <translation>Orvello 可从 PowerPoint 文件（.pptx）导入演讲者备注，无法读取 %1。</translation>
+        <translation>Orvello 可从 演示文稿（.pptx、.odp）导入演讲者备注，无法读取 %1。</translation>
     </message>
 </context>
 <context>
@@ -400,10 +427,6 @@
         <translation>允许 Orvello 跟随你的 Impress 演示文稿吗？</translation>
     </message>
     <message>
-        <source>LibreOffice tells other programs nothing about a presentation until you allow it. Orvello can do that for you: it changes one setting of LibreOffice, and you can take it back at any time.</source>
-        <translation>在你允许之前，LibreOffice 不会向其他程序透露演示文稿的任何信息。Orvello 可以替你设置：它只更改 LibreOffice 的一项设置，你可以随时撤销。</translation>
-    </message>
-    <message>
         <source>Allow</source>
         <translation>允许</translation>
     </message>
@@ -412,20 +435,20 @@
         <translation>暂不</translation>
     </message>
     <message>
-        <source>Orvello is talking to LibreOffice…
-
-This may take some seconds.</source>
-        <translation>Orvello 正在与 LibreOffice 通信…
-
-可能需要几秒钟。</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>好</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
+        <source>While an Impress slideshow runs, and while you import an open presentation, Orvello has LibreOffice listen on a connection that gives control of all of LibreOffice, and uses it to read slide numbers, titles and notes. Only programs of your user account could reach it, Orvello takes its name away as soon as it is connected, and the connection ends with the slideshow or the import.</source>
+        <translation>在 Impress 幻灯片放映期间以及您导入已打开的演示文稿时，Orvello 会让 LibreOffice 监听一个可控制整个 LibreOffice 的连接，并用它读取幻灯片编号、标题和备注。只有您的用户帐户下的程序才能访问该连接，Orvello 连接后会立即移除其名称，连接随放映或导入的结束而结束。</translation>
+    </message>
+    <message>
+        <source>Orvello may now follow Impress. Start the slideshow or the import again.
+
+The settings have a button that takes this back.</source>
+        <translation>Orvello 现在可以跟随 Impress。请重新开始放映或导入。
+
+设置中有一个按钮可以收回此许可。</translation>
     </message>
 </context>
 <context>
@@ -436,39 +459,26 @@ This may take some seconds.</source>
         <translation>备注</translation>
     </message>
     <message>
-        <source>permission denied — LibreOffice answers other programs only once you allow it</source>
-        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
-        <translation>权限被拒绝——只有在你允许后，LibreOffice 才会回应其他程序</translation>
-    </message>
-    <message>
         <source>To follow Impress, Orvello needs the package python3-uno. Install it and try again.</source>
         <translation>要跟随 Impress，Orvello 需要软件包 python3-uno。请安装后重试。</translation>
     </message>
     <message>
-        <source>LibreOffice isn&apos;t installed.</source>
-        <translation>没有安装 LibreOffice。</translation>
+        <source>LibreOffice isn&apos;t running.</source>
+        <translation>LibreOffice 未在运行。</translation>
     </message>
     <message>
-        <source>LibreOffice did not answer. Close it and try again.</source>
-        <translation>LibreOffice 没有响应。请关闭它再试一次。</translation>
+        <source>LibreOffice did not answer.</source>
+        <translation>LibreOffice 没有响应。</translation>
     </message>
     <message>
-        <source>LibreOffice already listens to another program (%1).</source>
-        <extracomment>%1: how the other program is connected.</extracomment>
-        <translation>LibreOffice 已在监听另一个程序（%1）。</translation>
+        <source>permission denied — Orvello asks LibreOffice only once you allow it</source>
+        <extracomment>Follows &quot;Couldn&apos;t read the Impress presentation:&quot;.</extracomment>
+        <translation>权限被拒绝 — 只有在您允许后，Orvello 才会询问 LibreOffice</translation>
     </message>
     <message>
-        <source>Orvello may now follow Impress. Start the slideshow or the import again.
-
-To take this back later: %1</source>
-        <extracomment>Two paragraphs. %1: a command for a terminal.</extracomment>
-        <translation>Orvello 现在可以跟随 Impress 了。请重新开始放映或导入。
-
-以后要撤销：%1</translation>
-    </message>
-    <message>
-        <source>Orvello may no longer follow Impress.</source>
-        <translation>Orvello 不能再跟随 Impress 了。</translation>
+        <source>This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the presentation&apos;s file instead, and step through the slides by hand.</source>
+        <extracomment>%1: a kind of package, such as Flatpak or Snap.</extracomment>
+        <translation>此 LibreOffice 在 Orvello 无法访问的沙盒 (%1) 中运行。请改为导入演示文稿文件，并手动切换幻灯片。</translation>
     </message>
 </context>
 <context>
@@ -482,8 +492,8 @@ To take this back later: %1</source>
         <translation>未知选项 %1</translation>
     </message>
     <message>
-        <source>the preference %1 lacks its value</source>
-        <translation>偏好设置 %1 缺少值</translation>
+        <source>%1 is neither an option nor a preference with a value</source>
+        <translation>%1 既不是选项，也不是带值的偏好设置</translation>
     </message>
     <message>
         <source>%1 is no address that Orvello opens</source>
@@ -494,12 +504,12 @@ To take this back later: %1</source>
         <translation>没有文件“%1”</translation>
     </message>
     <message>
-        <source>%1 is not a PowerPoint deck (.pptx)</source>
-        <translation>%1 不是 PowerPoint 演示文稿 (.pptx)</translation>
-    </message>
-    <message>
         <source>Try &quot;orvello --help&quot;.</source>
         <translation>请试试“orvello --help”。</translation>
+    </message>
+    <message>
+        <source>%1 is not a deck (.pptx or .odp)</source>
+        <translation>%1 不是演示文稿（.pptx 或 .odp）</translation>
     </message>
 </context>
 <context>
@@ -625,6 +635,10 @@ To take this back later: %1</source>
         <source>No slides were found — is this a .pptx presentation?</source>
         <translation>没有找到幻灯片——这是 .pptx 演示文稿吗？</translation>
     </message>
+    <message>
+        <source>The presentation is protected by a password. Save a copy without one in your presentation program, and import that.</source>
+        <translation>该演示文稿受密码保护。请在演示程序中保存一份无密码的副本并导入该副本。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::PrompterStatus</name>
@@ -685,6 +699,22 @@ To take this back later: %1</source>
         <translation>
             <numerusform>%n 张幻灯片</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::SensitivityTest</name>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>A sensitivity of %1% suits your voice here.</source>
+        <extracomment>%1: a whole number.</extracomment>
+        <translation>%1% 的灵敏度适合你在这里的声音。</translation>
+    </message>
+    <message>
+        <source>No voice stood out from the room. Come closer to the microphone, or choose another one.</source>
+        <translation>没有听到明显高于环境的声音。请靠近麦克风，或选择另一个。</translation>
     </message>
 </context>
 <context>
@@ -896,6 +926,60 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <extracomment>Stands in brackets in the middle of a sentence. %1: a meeting program.</extracomment>
         <translation>%1 正在运行</translation>
     </message>
+    <message>
+        <source>The microphone may not be used.</source>
+        <translation>不允许使用麦克风。</translation>
+    </message>
+    <message>
+        <source>The sound system does not answer.</source>
+        <translation>声音系统没有响应。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected.</source>
+        <translation>没有连接麦克风。</translation>
+    </message>
+    <message>
+        <source>No microphone is connected. Connect one, then turn Voice-Follow off and on.</source>
+        <translation>没有连接麦克风。请连接一个，然后关闭再打开语音跟随。</translation>
+    </message>
+    <message>
+        <source>The microphone “%1” is muted.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>麦克风“%1”已静音。</translation>
+    </message>
+    <message>
+        <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is on.</source>
+        <translation>回声消除已开启。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is paused: %1.</source>
+        <extracomment>%1: why, such as &quot;Zoom is open&quot;.</extracomment>
+        <translation>回声消除已暂停：%1。</translation>
+    </message>
+    <message>
+        <source>Echo cancellation is not available.</source>
+        <translation>回声消除不可用。</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <extracomment>The microphone that the desktop&apos;s settings choose.</extracomment>
+        <translation>系统默认</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>%1（未连接）</translation>
+    </message>
+    <message>
+        <source>Listening to “%1”.</source>
+        <extracomment>%1: the name of a microphone.</extracomment>
+        <translation>正在聆听“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeScript</name>
@@ -1033,6 +1117,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>删除</translation>
     </message>
     <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
         <source>Search</source>
         <translation>搜索</translation>
     </message>
@@ -1158,9 +1246,24 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>如果显示“无权限”：“系统设置”→“隐私与安全性”→“自动化”→ Orvello → 允许 %1，然后关闭再打开“幻灯片跟踪”。</translation>
     </message>
     <message>
-        <source>If sync shows &quot;No access&quot;: LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.</source>
-        <extracomment>The words in quotation marks are those of the card; Scripts and Allow are names in the program.</extracomment>
-        <translation>如果显示“无权限”：在你允许之前，LibreOffice 不会回应其他程序。请导入打开的演示文稿（“讲稿”→ 导入按钮），在 Orvello 询问时选择“允许”，然后重新开始放映。</translation>
+        <source>Orvello may not follow Impress</source>
+        <translation>Orvello 不可跟随 Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress</source>
+        <translation>Orvello 可以跟随 Impress</translation>
+    </message>
+    <message>
+        <source>Orvello may follow Impress, but could not</source>
+        <translation>Orvello 可以跟随 Impress，但未能做到</translation>
+    </message>
+    <message>
+        <source>Take Back</source>
+        <translation>收回</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>允许</translation>
     </message>
 </context>
 <context>
@@ -1482,6 +1585,30 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.</source>
         <translation>声音只在设备上按响度分析。不会录制、识别或上传。</translation>
+    </message>
+    <message>
+        <source>Find the sensitivity for my voice</source>
+        <translation>为我的声音找到灵敏度</translation>
+    </message>
+    <message>
+        <source>Use It</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>Speak normally for five seconds.</source>
+        <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.</source>
+        <translation>回声消除：不可用。使用扬声器时，对方的大声可能会推动提词器——戴耳机可以避免。</translation>
     </message>
 </context>
 </TS>

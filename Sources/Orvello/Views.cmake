@@ -45,6 +45,7 @@ target_include_directories(OrvelloViews PRIVATE Shell/Views) # The generated reg
 orvello_name_folder(name Shell/Views)
 set(dependencies
     Orvello::PromptingView
+    Orvello::PresentationsSlideshow
     Orvello::ShellCommands
     Orvello::LibraryWindow
     Orvello::Voice
@@ -52,6 +53,7 @@ set(dependencies
     Orvello::PromptingEngine
     Orvello::ShellUpdates
     Orvello::SettingsStore
+    Orvello::PresentationsPresenters
     Orvello::PromptingText
     Orvello::PlatformDesktop
     Orvello::PlatformSound

@@ -178,20 +178,6 @@ TEST_F(LogFileTest, rotatesWithoutAnEarlierGeneration)
     EXPECT_FALSE(fs::exists(path + ".2")) << "The oldest generation goes at every rotation.";
 }
 
-TEST_F(LogFileTest, goesOnInTheSameFileWhereItCannotRotate)
-{
-    fs::create_directories(path + ".1/occupied");
-    fs::create_directories(path + ".2/occupied");
-    writeFile(path, textOfSize(1'000'000));
-    file.open(path);
-
-    file.append("one\n");
-    file.append("two\n");
-
-    EXPECT_EQ(readFile(path), textOfSize(1'000'000) + "one\ntwo\n");
-    EXPECT_GE(descriptor, 0);
-}
-
 TEST_F(LogFileTest, dropsLinesWhereThereIsNoFolder)
 {
     writeFile(path, "a file where a folder should be");
@@ -245,6 +231,35 @@ TEST_F(LogFileTest, writesEachLineWithOneCall)
     EXPECT_EQ(std::ranges::count(lines, std::string(400, 'a')), 1'000);
     EXPECT_EQ(std::ranges::count(lines, std::string(400, 'b')), 1'000);
     EXPECT_EQ(lines.size(), 2'000u);
+}
+
+TEST_F(LogFileTest, putsAFolderAsideThatIsInTheWayOfAnEarlierGeneration)
+{
+    fs::create_directory(path + ".1");
+    writeFile(path + ".1/kept", "kept");
+    file.open(path);
+
+    file.append(textOfSize(1'000'001));
+    file.append("next\n");
+
+    EXPECT_EQ(readFile(path), "next\n");
+    EXPECT_EQ(fs::file_size(path + ".1"), 1'000'001u);
+    EXPECT_EQ(readFile(path + ".2/kept"), "kept");
+}
+
+TEST_F(LogFileTest, staysWithinItsLimitWhateverIsInTheWay)
+{
+    for (const char* const inTheWay : { ".1", ".1.aside", ".2", ".2.aside" }) {
+        fs::create_directory(path + inTheWay);
+        writeFile(path + inTheWay + "/kept", "kept");
+    }
+    file.open(path);
+
+    file.append(textOfSize(1'000'001));
+    file.append("next\n");
+
+    EXPECT_EQ(readFile(path), "next\n");
+    EXPECT_EQ(readFile(path + ".1/kept"), "kept");
 }
 
 } // namespace

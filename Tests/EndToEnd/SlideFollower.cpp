@@ -1,6 +1,7 @@
 // The services that follow a slideshow, on the real adapters, without the prompter's window: prints
 // one line of JSON for everything that they publish. Arguments: the helper program, and the .pptx
-// file that is imported first. The input line "import" imports what is open in Impress.
+// file that is imported first. The input line "import" imports what is open in Impress, "allow" and
+// "disallow" say whether that is asked at all.
 
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
@@ -68,8 +69,9 @@ public:
             [this] { say(u"state"_s, stateName(m_sync.state())); });
         connect(&m_deck, &DeckController::slideChangeTokenChanged, this,
             [this] { say(u"text"_s, m_deck.promptText()); });
-        connect(&m_impress, &ImpressPresenter::adviceNeeded, this, [] { say(u"advice"_s, true); });
-        connect(&m_input, &QSocketNotifier::activated, this, &SlideFollower::obey);
+        connect(&m_impress, &ImpressPresenter::adviceNeeded, this,
+            [this] { say(u"advice"_s, m_impress.obstacle()); });
+        connect(&m_input, &QSocketNotifier::activated, this, [this] { obey(); });
     }
 
     void start(const QString& deckPath)
@@ -82,11 +84,20 @@ public:
     }
 
 private:
+    /// Several lines may have come at once.
     void obey()
     {
-        std::string command;
-        if (!std::getline(std::cin, command))
-            QCoreApplication::quit();
+        do {
+            std::string command;
+            if (std::getline(std::cin, command))
+                obey(command);
+            else
+                QCoreApplication::quit();
+        } while (std::cin && std::cin.rdbuf()->in_avail() > 0);
+    }
+
+    void obey(const std::string& command)
+    {
         if (command == "import")
             m_import.importFromOpenDeck(
                 m_impressRow, [this](const LiveDeckImport::Imported& imported) {
@@ -94,9 +105,8 @@ private:
                         imported ? QJsonValue(notesOf(*m_library.activeScript()))
                                  : QJsonValue(imported.error().description()));
                 });
-        else if (command == "allow")
-            m_impress.allow(
-                [](const ImpressPresenter::Change& change) { say(u"allowed"_s, change.message); });
+        else if (command == "allow" || command == "disallow")
+            m_impress.setAllowed(command == "allow");
     }
 
     QtTimeSource m_time;
@@ -114,7 +124,7 @@ private:
     LibraryStore m_library { m_defaults, m_folders, m_time, {} };
     PresentationMonitor m_monitor { { m_presenters, m_workspace, m_windowServer, m_microphone,
         m_time } };
-    ImpressPresenter m_impress { m_helper, m_monitor };
+    ImpressPresenter m_impress { m_helper, m_monitor, m_defaults };
     const PresenterApp& m_impressRow;
     SlideSyncService m_sync { m_monitor, m_presenters, m_time };
     DeckController m_deck { m_library, m_settings, m_sync };
@@ -127,6 +137,7 @@ private:
 
 int main(int argc, char** argv)
 {
+    std::ios::sync_with_stdio(false); // A stream with a buffer of its own says what is left in it.
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 3)

@@ -1,7 +1,8 @@
 // The voice engine on the platform's own sound, without a window: what it logs and publishes goes
 // to standard output with the monotonic time, and each line of standard input is a command:
-// "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "peak" (of the level since
-// the last time), "state", "quit".
+// "start", "stop", "sensitivity 0.8", "app us.zoom.xos Zoom", "noapp", "microphone NAME", "peak"
+// (of the level since the last time), "stall" (the longest time for which the main loop did not
+// turn, but for want of a processor, since the last time), "state", "quit".
 
 #include "Orvello/Adapters/Linux/Sound/PulseSound.h"
 #include "Orvello/Adapters/Portable/QtTimeSource.h"
@@ -15,11 +16,13 @@
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -43,6 +46,16 @@ private:
     const TimeSource& m_time;
 };
 
+/// For how long the main thread was ready to run and other programs had the processors.
+double secondsInRunQueue()
+{
+    std::ifstream statistics("/proc/self/schedstat"); // The main thread's.
+    double running = 0;
+    double waiting = 0;
+    statistics >> running >> waiting;
+    return waiting / 1e9;
+}
+
 class Probe final {
 public:
     explicit Probe(const QString& folder)
@@ -53,6 +66,11 @@ public:
         AppLog::start(session);
         QObject::connect(&m_engine, &VoiceActivityEngine::levelChanged, &m_engine,
             [this] { m_peak = std::max(m_peak, m_engine.level()); });
+        QObject::connect(&m_turn, &QTimer::timeout, &m_engine, [this] {
+            const double now = m_time.now() - secondsInRunQueue();
+            m_stall = std::max(m_stall, now - std::exchange(m_lastTurn, now));
+        });
+        m_turn.setTimerType(Qt::PreciseTimer);
     }
 
     /// False for the end.
@@ -79,10 +97,22 @@ public:
             m_workspace.running.clear();
         } else if (command == "peak") {
             m_journal.write("peak " + std::to_string(std::exchange(m_peak, 0.0f)));
+        } else if (command == "stall") {
+            m_journal.write("stall " + std::to_string(std::exchange(m_stall, 0.0)));
+            if (!m_turn.isActive())
+                m_lastTurn = m_time.now() - secondsInRunQueue();
+            m_turn.start(1);
+        } else if (command == "microphone") {
+            std::string name;
+            words >> name;
+            m_sound.microphones.choose(QString::fromStdString(name));
         } else if (command == "state") {
+            const Microphones::State heard = m_sound.microphones.state();
             std::ostringstream state;
             state << "state listening=" << m_engine.isListening() << " aec=" << m_engine.aecActive()
-                  << " speaking=" << m_engine.isSpeaking() << " level=" << m_engine.level();
+                  << " speaking=" << m_engine.isSpeaking()
+                  << " trouble=" << static_cast<int>(heard.trouble)
+                  << " heard=" << heard.heard.toStdString() << " level=" << m_engine.level();
             m_journal.write(state.str());
         }
         return command != "quit";
@@ -98,8 +128,11 @@ private:
     Testing::FakeWorkspace m_workspace;
     VoiceActivityEngine m_engine { m_settings,
         { m_time, m_sound.permission, m_sound.voiceProcessing, m_sound.microphone, m_micActivity,
-            m_workspace } };
+            m_sound.microphones, m_workspace } };
     float m_peak = 0;
+    QTimer m_turn;
+    double m_lastTurn = 0;
+    double m_stall = 0;
 };
 
 } // namespace

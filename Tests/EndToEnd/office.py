@@ -1,5 +1,7 @@
 """A private LibreOffice on a private desktop, driven through a connection that is not the one under test."""
 
+import contextlib
+
 import os
 import pathlib
 import signal
@@ -29,24 +31,21 @@ def value(name, content):
 
 
 class Office:
-    """LibreOffice with a profile of its own; `pipe` is the connection that Orvello's helper uses."""
+    """LibreOffice with a profile of its own. `interface` is one of those that it can have: gen, gtk3, kf5."""
 
-    def __init__(self, desktop, name="office"):
+    def __init__(self, desktop, name="office", interface="gen"):
         self.desktop = desktop
-        self.pipe = f"{desktop.scratch.name}-{name}"  # No test may meet the LibreOffice of another.
+        self.interface = interface
         self.profile = (desktop.scratch / f"{name}-profile").as_uri()
-        self.own_pipe = self.pipe + "-own"
+        self.own_pipe = f"{desktop.scratch.name}-{name}"  # No test may meet the LibreOffice of another.
         self.context = None
-
-    def environment(self):
-        """What makes the helper find this LibreOffice."""
-        return {"ORVELLO_IMPRESS_PIPE": self.pipe, "ORVELLO_IMPRESS_PROFILE": self.profile}
 
     def start(self, *arguments):
         self.desktop.start(
             ["soffice", f"-env:UserInstallation={self.profile}", "--norestore", "--nologo",
-             "--nofirststartwizard", f"--accept=pipe,name={self.own_pipe};urp;", *arguments])
-        self.context = wait_until(self._connect, 60, "LibreOffice")
+             "--nofirststartwizard", f"--accept=pipe,name={self.own_pipe};urp;", *arguments],
+            {"SAL_USE_VCLPLUGIN": self.interface})
+        self.context = wait_until(self._connect, 120, "LibreOffice")
 
     def _connect(self):
         local = uno.getComponentContext()
@@ -69,8 +68,31 @@ class Office:
         wait_until(lambda: not self.process_ids(), 30, "LibreOffice's end")
 
     def kill(self):
+        left = self.sockets()
         for process in self.process_ids():
             os.kill(process, signal.SIGKILL)
+        for path in left:  # LibreOffice would remove them.
+            with contextlib.suppress(FileNotFoundError):
+                os.unlink(path)
+
+    def signal(self, number):
+        for process in self.process_ids():
+            os.kill(process, number)
+
+    def sockets(self):
+        """The paths that this LibreOffice listens on."""
+        own = set()
+        for process in self.process_ids():
+            with contextlib.suppress(OSError):
+                own |= {os.readlink(descriptor) for descriptor in pathlib.Path(f"/proc/{process}/fd").iterdir()}
+        lines = [line.split(None, 7) for line in pathlib.Path("/proc/net/unix").read_text().splitlines()]
+        return [line[7] for line in lines if len(line) == 8 and f"socket:[{line[6]}]" in own and line[7][0] == "/"
+                and line[3] == "00010000"]
+
+    def settings(self):
+        """What its profile says, as it was written last."""
+        path = pathlib.Path(self.profile.removeprefix("file://")) / "user/registrymodifications.xcu"
+        return path.read_text() if path.exists() else ""
 
     def process_ids(self):
         """The processes of this LibreOffice alone, by its profile."""
@@ -111,14 +133,20 @@ class Office:
 
     def open(self, path):
         document = self._desktop().loadComponentFromURL(path.as_uri(), "_blank", 0, ())
-        return Slideshow(document)
+        return Slideshow(document, self.context)
 
 
 class Slideshow:
     """One open presentation."""
 
-    def __init__(self, document):
-        self.document = document
+    def __init__(self, document, context):
+        self.document, self.context = document, context
+
+    def dispatch(self, command):
+        """What a menu line of the editor does."""
+        self.context.ServiceManager.createInstanceWithContext(
+            "com.sun.star.frame.DispatchHelper", self.context).executeDispatch(
+                self.document.getCurrentController().getFrame(), command, "", 0, ())
 
     def start(self):
         self.document.getPresentation().start()

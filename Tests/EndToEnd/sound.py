@@ -6,6 +6,7 @@ import ctypes
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import tempfile
 import time
@@ -16,20 +17,25 @@ from waiting import wait_until
 RATE = 48000
 
 
-class SoundServer(contextlib.ExitStack):
-    """PulseAudio with a home of its own. Everything is started here and stopped here, by process id."""
+# The tests run on either: "pulseaudio", or "pipewire" with its stand-in for PulseAudio's protocol and its policy.
+KIND = os.environ.get("ORVELLO_SOUND_SERVER", "pulseaudio")
 
+
+class SoundServer(contextlib.ExitStack):
+    """A sound server with a home of its own. Everything is started here and stopped here, by process id."""
+
+    PROTOCOL = "module-native-protocol-unix"
     MODULES = [
-        "module-native-protocol-unix",
         "module-null-sink sink_name=speakers rate=48000 channels=2",
         "module-null-sink sink_name=air rate=48000 channels=1",
         "module-remap-source master=air.monitor source_name=microphone channels=1",
     ]
 
-    def __init__(self, modules=None, default_source="microphone", environment=None):
+    def __init__(self, modules=None, default_source="microphone", default_sink="speakers", environment=None):
         super().__init__()
         self.modules = self.MODULES if modules is None else modules
         self.default_source = default_source
+        self.default_sink = default_sink
         self.scratch = pathlib.Path(tempfile.mkdtemp(prefix="orvello-sound-"))
         self.callback(shutil.rmtree, self.scratch, ignore_errors=True)
         if environment is None:
@@ -38,36 +44,82 @@ class SoundServer(contextlib.ExitStack):
             environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": str(self.scratch),
                            "XDG_RUNTIME_DIR": str(runtime)}
         self.environment = environment
-        self.server = None
+        self.servers = []
         self.callback(self.stop_server)
 
     def start_server(self):
-        script = self.scratch / "server.pa"
-        lines = [f"load-module {module}" for module in self.modules]
+        if KIND == "pipewire":
+            self._start_pipewire()
+        else:
+            self._start_pulseaudio()
         if self.default_source:
-            lines += [f"set-default-source {self.default_source}", "set-default-sink speakers"]
-        script.write_text("\n".join(lines) + "\n")
-        self.server = self.start(
+            self.control("set-default-source", self.default_source)
+        if self.default_sink:
+            self.control("set-default-sink", self.default_sink)
+        # PipeWire's policy takes the new defaults in its own time, and where there is neither it still has its dummy.
+        for kind, name in (("Source", self.default_source), ("Sink", self.default_sink)):
+            if name:
+                wait_until(lambda: f"Default {kind}: {name}\n" in self.control("info"), what=f"{name} as the default")
+
+    def _start_pulseaudio(self):
+        script = self.scratch / "server.pa"
+        script.write_text("".join(f"load-module {module}\n" for module in [self.PROTOCOL, *self.modules]))
+        self.servers = [self.start(
             ["pulseaudio", "-n", "-F", str(script), "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
-             "--disable-shm=yes", "--log-target=stderr"])
+             "--disable-shm=yes", "--log-target=stderr"])]
         wait_until(self._answers, what="the sound server")
 
+    def _start_pipewire(self):
+        if "ORVELLO_SOUND_BUS" not in self.environment:
+            read_end, write_end = os.pipe()
+            self.start(["dbus-daemon", "--session", "--nofork", f"--print-address={write_end}"], pass_fds=(write_end,))
+            os.close(write_end)
+            with os.fdopen(read_end) as pipe:
+                self.environment["ORVELLO_SOUND_BUS"] = pipe.readline().strip()
+        bus = {"DBUS_SESSION_BUS_ADDRESS": self.environment["ORVELLO_SOUND_BUS"]}
+        self.servers = [self.start(["pipewire"], bus)]
+        socket = pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "pipewire-0"
+        wait_until(socket.exists, what="PipeWire")
+        self.servers += [self.start([name], bus) for name in ("wireplumber", "pipewire-pulse")]
+        wait_until(self._answers, what="the sound server")
+        for module in self.modules:
+            self.control("load-module", *module.split())
+
     def _answers(self):
-        if self.server.poll() is not None:
-            raise AssertionError((self.scratch / "pulseaudio.log").read_text())
+        for server in self.servers:
+            if server.poll() is not None:
+                raise AssertionError((self.scratch / f"{pathlib.Path(server.args[0]).name}.log").read_text())
         return subprocess.run(["pactl", "info"], env=self.environment, capture_output=True).returncode == 0
 
     def stop_server(self):
-        if self.server:
-            self.stop(self.server)
-        self.server = None
+        self.thaw()
+        for server in reversed(self.servers):
+            self.stop(server)
+        self.servers = []
 
-    def start(self, command, **options):
+    def kill_server(self):
+        """As a crash ends it."""
+        for server in self.servers:
+            server.kill()
+            server.wait()
+        self.servers = []
+
+    def freeze(self):
+        """Keeps the server from answering, until thaw()."""
+        for server in self.servers:
+            server.send_signal(signal.SIGSTOP)
+
+    def thaw(self):
+        for server in self.servers:
+            if server.poll() is None:
+                server.send_signal(signal.SIGCONT)
+
+    def start(self, command, environment=None, **options):
         """Starts a process that ends with the server at the latest."""
         log = open(self.scratch / f"{pathlib.Path(command[0]).name}.log", "ab")
         self.callback(log.close)
         options = {"stdout": log, "stderr": log, "stdin": subprocess.DEVNULL} | options
-        process = subprocess.Popen(command, env=self.environment, **options)
+        process = subprocess.Popen(command, env=self.environment | (environment or {}), **options)
         self.callback(self.stop, process)
         return process
 
@@ -141,6 +193,17 @@ class PausingRecorder:
 
     def _wait_until_ready(self, kind, thing):
         wait_until(lambda: self.call(f"pa_{kind}_get_state", thing) == self.READY[kind], what=f"the recorder's {kind}")
+
+
+class Recorders:
+    """A crowd of record streams of other programs, twenty for each connection; a server takes no more of those than 64."""
+
+    def __init__(self, sound, source, count):
+        program = pathlib.Path(__file__).with_name("crowd.py")
+        self.process = sound.start(["/usr/bin/python3", str(program), source, str(count)])
+        wait_until(lambda: sound.control("list", "source-outputs").count('application.name = "Crowd"') >= count, 60,
+                   "the crowd")
+        self.stop = lambda: sound.stop(self.process)
 
 
 class Probe:

@@ -3,6 +3,7 @@
 import http.server
 import json
 import os
+import pathlib
 import signal
 import subprocess
 import threading
@@ -37,10 +38,10 @@ class SwitchesTest(LaunchTest):
     def test_the_first_launch_shows_the_tour_and_finishing_it_the_prompter(self):
         App.set_defaults(self.desktop, onboardingSeenVersion=0)
         app = App(self.desktop)
-        tour = wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")[0]
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
         self.assertEqual(self.desktop.windows_titled("Orvello"), [])
 
-        self.desktop.run("xdotool", "windowactivate", "--sync", str(tour), "key", "alt+F4")
+        self.desktop.ask_window_manager_to_close("Welcome to Orvello")
 
         wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the prompter")
         self.assertEqual(self.desktop.windows_titled("Welcome to Orvello"), [])
@@ -69,13 +70,13 @@ class SwitchesTest(LaunchTest):
         App(self.desktop, "--no-stealth", "--onboarding", "--check-updates", "--voice", "--autostart",
             "-OrvelloAppcastURL", feed.url)
 
-        tour = wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")[0]
+        wait_until(lambda: self.desktop.windows_titled("Welcome to Orvello"), what="the tour")
         wait_until(lambda: "UPDATES found 1.1 (2)" in self.messages(), what="the check")
         wait_until(lambda: App.defaults(self.desktop).get("voiceFollow") is True, what="the setting")
         # The offer has the prompter's title, the prompter itself waits for the end of the tour.
         offer = wait_until(lambda: self.desktop.windows_titled("Orvello"), what="the offer")
         self.assertEqual(len(offer), 1)
-        self.desktop.run("xdotool", "windowactivate", "--sync", str(tour), "key", "alt+F4")
+        self.desktop.ask_window_manager_to_close("Welcome to Orvello")
         wait_until(lambda: len(self.desktop.windows_titled("Orvello")) == 2, what="the prompter")
         launch = [line for line in self.messages() if line.startswith(("PANEL_UP", "UPDATES"))]
         self.assertIn(" sharing=1 ", launch[0])
@@ -159,8 +160,8 @@ class FilesTest(LaunchTest):
         (self.desktop.scratch / "broken.pptx").write_text("x")
         for argument, complaint in (
                 ("--autostrat", "orvello: unknown option --autostrat; did you mean --autostart?"),
-                ("-fontSize", "orvello: the preference -fontSize lacks its value"),
-                ("notes.txt", "orvello: notes.txt is not a PowerPoint deck (.pptx)"),
+                ("-fontSize", "orvello: -fontSize is neither an option nor a preference with a value"),
+                ("notes.txt", "orvello: notes.txt is not a deck (.pptx or .odp)"),
                 ("gone.pptx", 'orvello: there is no file "gone.pptx"'),
                 ("https://example.com/talk.pptx", "orvello: https://example.com/talk.pptx is no address that Orvello opens"),
                 ("broken.pptx", "broken.pptx: The file could not be opened as a PowerPoint package.")):
@@ -212,8 +213,7 @@ class SignalsTest(LaunchTest):
         for renderer in ("software", "opengl"):
             with self.subTest(renderer):
                 server, display = self.desktop.start_x_server()
-                app = App(self.desktop, environment={"DISPLAY": display, "QT_QUICK_BACKEND": renderer}
-                          if renderer == "software" else {"DISPLAY": display, "QSG_RHI_BACKEND": renderer})
+                app = App(self.desktop, environment={"DISPLAY": display, "ORVELLO_RENDERER": renderer})
                 app.wait_for_log("PANEL_UP")
                 time.sleep(1.0)
 
@@ -244,6 +244,42 @@ class SignalsTest(LaunchTest):
         wait_until(lambda: not app.is_window_visible(), what="the prompter to go")
         app.signal(signal.SIGUSR2)
         wait_until(app.is_window_visible, what="the prompter to come back")
+
+
+class RenderersTest(LaunchTest):
+    def test_without_graphics_hardware_opengl_is_not_even_loaded(self):
+        app = App(self.desktop)
+        app.shown()
+
+        mapped = pathlib.Path(f"/proc/{app.process.pid}/maps").read_text()
+
+        self.assertNotIn("swrast", mapped)
+        self.assertNotIn("LLVM", mapped)
+
+    def test_a_renderer_that_cannot_start_makes_way_for_the_other(self):
+        app = App(self.desktop, "--autostart",
+                  environment={"ORVELLO_RENDERER": "opengl", "QT_XCB_GL_INTEGRATION": "none"})
+        app.wait_for_log("starting again with software")
+        wait_until(lambda: len([line for line in self.messages() if line.startswith("PANEL_UP")]) == 2,
+                   what="the second process's panel")
+
+        app.shown()
+
+        self.assertIsNone(app.process.poll())
+        messages = self.messages()
+        change = next(i for i, line in enumerate(messages) if line.startswith("RENDERER opengl failed: "))
+        self.assertEqual(messages[change + 1], "QUIT clean")
+        self.assertTrue(messages[change + 2].startswith("LAUNCH Orvello "))
+        self.assertEqual(app.quit(), 0)
+        self.assertEqual(self.messages()[-1], "QUIT clean")
+
+    def test_where_neither_renderer_can_start_it_says_so_and_leaves_no_marker(self):
+        status, said = App.run(self.desktop, environment={
+            "ORVELLO_RENDERER": "opengl", "ORVELLO_FAILED_RENDERER": "software", "QT_XCB_GL_INTEGRATION": "none"})
+
+        self.assertEqual(status, 1)
+        self.assertIn("LAUNCH failed: neither software nor opengl can draw here: ", said)
+        self.assertFalse(App.marker(self.desktop).exists())
 
 
 class SecondStartTest(LaunchTest):

@@ -89,6 +89,18 @@ class BusMenuTest(unittest.TestCase):
         self.item.choose("Show Prompter  (Alt+Super+H)")
         wait_until(self.app.is_window_visible, what="the prompter to come back")
 
+    def test_the_prompter_is_put_back_under_the_camera_and_stays_there(self):
+        self.start()
+        self.desktop.run("xdotool", "mousemove", "400", "100", "mousedown", "1", "mousemove", "300", "400",
+                         "mousemove", "200", "500", "mouseup", "1")
+        wait_until(lambda: self.app.geometry()[:2] == (160, 406), what="the end of the drag")
+
+        # Right click; the line is the second from below, above a separator.
+        self.desktop.run("xdotool", "mousemove", "400", "500", "click", "3", "sleep", "1", "key", "Up", "Up", "Return")
+        wait_until(lambda: self.app.geometry() == (360, 6, 720, 200), what="the prompter to go back")
+        self.app.quit()
+        self.assertEqual(App.defaults(self.desktop)["NSWindow Frame PrompterPanel"], "360 694 720 200 0 0 1440 900")
+
     def test_each_window_opens_once_and_comes_to_the_front_with_the_keyboard(self):
         self.start()
         for line, title in (("Scripts…", "Scripts"), ("Settings…", "Orvello Settings")):

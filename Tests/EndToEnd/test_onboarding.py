@@ -112,7 +112,7 @@ class OnboardingTest(unittest.TestCase):
     def test_closing_by_the_window_manager_is_finishing(self):
         self.start()
         self.assertEqual(self.page(), 0)
-        self.key("alt+F4")
+        self.desktop.ask_window_manager_to_close("Welcome to Orvello")
         self.expect_finished()
         self.expect_that_it_comes_no_more()
 

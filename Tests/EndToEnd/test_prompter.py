@@ -166,6 +166,29 @@ class PrompterTest(unittest.TestCase):
         self.assertEqual((width, height), (720, 200))
         self.assertLessEqual(x + width, 800)
 
+    def test_the_panel_follows_its_screen_when_that_goes_and_comes_back(self):
+        self.desktop.run("xrandr", "--setmonitor", "Left", "800/300x900/250+0+0", "screen")
+        self.desktop.run("xrandr", "--setmonitor", "Right", "640/300x900/250+800+0", "none")
+        app = App(self.desktop)
+        app.shown()
+        self.mouse("mousemove", 70, 106, "mousedown", 1, "mousemove", 400, 300, "mousemove", 950, 406,
+                   "mouseup", 1)
+        wait_until(lambda: app.geometry() == (920, 306, 720, 200), what="the end of the drag")
+        time.sleep(0.3)
+
+        self.desktop.run("xrandr", "--delmonitor", "Right")
+        wait_until(lambda: app.geometry() == (80, 306, 720, 200), what="the panel to come to the screen that is left")
+        self.desktop.run("xrandr", "--setmonitor", "Right", "640/300x900/250+800+0", "none")
+        wait_until(lambda: app.geometry() == (920, 306, 720, 200), what="the panel to go back")
+
+        app.signal(signal.SIGUSR2)
+        wait_until(lambda: not app.is_window_visible(), what="the panel to go")
+        self.desktop.run("xrandr", "--delmonitor", "Right")
+        app.signal(signal.SIGUSR2)
+        self.assertEqual(app.shown(), (80, 306, 720, 200))
+        app.quit()
+        self.assertEqual(App.defaults(self.desktop)["NSWindow Frame PrompterPanel"], "920 394 720 200 800 0 640 900")
+
     # Picture
 
     def test_the_text_dissolves_toward_the_top_and_the_bottom(self):
@@ -179,7 +202,7 @@ class PrompterTest(unittest.TestCase):
         picture = self.desktop.screenshot()
 
         lit = 0
-        for row in range(height - 30):  # The badge lies below.
+        for row in range(1, height - 30):  # Between the hair line at the edge and the badge.
             middle = (row + 0.5) / height
             visibility = max(0.0, min(middle / 0.1, (1 - middle) / 0.18, 1.0))
             value = picture.pixel(x + 200, y + row)[1]

@@ -49,16 +49,6 @@ class SettingsWindowTest(unittest.TestCase):
         self.focus = -1
         return x, y, width, height
 
-    def ask_window_manager_to_close(self):
-        """Openbox loses a key of its own now and then, when the machine is busy and a window has just moved."""
-        def is_gone():
-            if not self.desktop.windows_titled("Orvello Settings"):
-                return True
-            self.key("alt+F4")
-            time.sleep(1)
-            return False
-        wait_until(is_gone, what="it to go")
-
     def frame(self, window):
         """The (x, y, width, height) of the window's content on the screen, without its title bar."""
         text = self.desktop.run("xwininfo", "-id", str(window))
@@ -118,7 +108,7 @@ class SettingsWindowTest(unittest.TestCase):
     def test_closing_hides_it_and_the_menu_brings_it_back(self):
         self.start()
         self.open()
-        self.ask_window_manager_to_close()
+        self.desktop.ask_window_manager_to_close("Orvello Settings")
         self.assertIsNone(self.app.process.poll())
 
         self.open()

@@ -4,7 +4,7 @@ import subprocess
 import time
 import unittest
 
-from desktop import PROGRAM, SOURCES, App, Desktop, upward_shift, wait_until
+from desktop import SOURCES, App, Desktop, upward_shift, wait_until
 from office import HIDDEN, SLIDES, WITHOUT_NOTES, Office, notes
 
 # The dots of the slide chip.
@@ -26,18 +26,18 @@ class SlideshowTest(unittest.TestCase):
         self.addCleanup(self.desktop.close)
         self.addCleanup(self.office.kill)
         # On an opaque card only the prompter itself changes what is seen of it.
-        App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0)
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0,
+                         impressAllowed=True)
         self.deck = self.desktop.scratch / "Quarterly talk.pptx"
 
     def start(self, *arguments, notes_of=notes):
-        """LibreOffice that lets itself be asked, and the prompter with the deck's notes."""
-        self.office.start(f"--accept=pipe,name={self.office.pipe};urp;")
+        """LibreOffice, and the prompter with the deck's notes."""
+        self.office.start()
         self.office.make_deck(self.deck, notes_of)
         self.start_prompter(*arguments)
 
     def start_prompter(self, *arguments):
-        self.app = App(self.desktop, *arguments, environment=self.office.environment()
-                       | {"ORVELLO_IMPORT_PPTX": str(self.deck)})
+        self.app = App(self.desktop, *arguments, environment={"ORVELLO_IMPORT_PPTX": str(self.deck)})
         self.app.wait_for_log(f"IMPORT_PPTX ok slides={SLIDES}")
         self.app.wait_for_log("SYNC active=1")
         self.area = self.app.shown()
@@ -48,7 +48,7 @@ class SlideshowTest(unittest.TestCase):
         self.forget_news()
         slideshow.start()
         self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 2.0)
-        self.wait_for_news("SYNC slide=1", 3)
+        self.wait_for_news("SYNC slide=1", 15)  # LibreOffice has to listen first.
         return slideshow
 
     def wait_for_news(self, text, seconds):
@@ -199,47 +199,72 @@ class SlideshowTest(unittest.TestCase):
         self.assert_chip(None)
 
         # The next slideshow is followed again.
-        self.office.start(f"--accept=pipe,name={self.office.pipe};urp;")
+        self.office.start()
         slideshow = self.start_slideshow()
         self.change(lambda: slideshow.show(9), 9)
         self.assert_chip(GREEN)
         self.assertEqual(self.app.quit(), 0)
 
-    def test_a_refusal_is_told_as_one(self):
-        self.office.start()
-        self.office.make_deck(self.deck)
-        self.start_prompter()
+    def test_nothing_is_asked_without_consent(self):
+        App.set_defaults(self.desktop, impressAllowed=False)
+        self.start()
         slideshow = self.office.open(self.deck)
+        self.forget_news()
         slideshow.start()
         self.app.wait_for_log("SYNC denied (Automation permission for Impress)", 10)
         self.assert_chip(RED)
-        time.sleep(1.0)
+        # Nothing appears before the audience, whatever is in front.
+        self.desktop.start(["xmessage", "-geometry", "300x100+50+600", "Another window"])
+        other = wait_until(self.find_other_window, what="the other window")
+        self.desktop.run("xdotool", "windowactivate", other)
+        self.wait_for_news("PRESENTING=0 app=-", 5)
+        time.sleep(2.5)
         self.assertEqual(App.log_text(self.desktop).count("SYNC denied"), 1)
-        self.assertEqual(len(self.app.windows()), 1)  # Nothing appears before the audience.
+        self.assertEqual(len(self.app.windows()), 1)
 
-        # After the slideshow the prompter offers to set LibreOffice up.
+        # After the slideshow the prompter asks.
         slideshow.end()
         box = self.wait_for_box()
         self.desktop.run("xdotool", "windowactivate", "--sync", str(box), "key", "Return")  # Allow.
         wait_until(lambda: self.app.windows() and self.wait_for_box() != box, what="the next box")
-        wait_until(self.helper_can_ask, 30, "the allowance")
 
         self.forget_news()
         slideshow.start()
-        self.wait_for_news("SYNC slide=1", 5)
+        self.wait_for_news("SYNC slide=1", 15)
         self.assert_chip(GREEN)
         self.assertEqual(self.app.quit(), 0)
 
     def wait_for_box(self):
         return wait_until(lambda: set(self.app.windows()) - {self.panel}, what="the box").pop()
 
-    def helper_can_ask(self):
-        return self.ask_helper("deck").returncode == 0
+    def test_a_click_on_the_editor_does_not_end_it_and_a_dialog_does_not_begin_one(self):
+        self.start()
+        slideshow = self.office.open(self.deck)
+        editor = wait_until(lambda: self.desktop.run_any(
+            "xdotool", "search", "--onlyvisible", "--class", "libreoffice-impress").split(), what="the editor")[0]
+        self.forget_news()
+        slideshow.start()
+        self.wait_for_news("PRESENTING=1 app=LibreOffice Impress", 5)
+        self.wait_for_news("SYNC slide=1", 15)
 
-    def ask_helper(self, question):
-        return subprocess.run(
-            ["/usr/bin/python3", str(PROGRAM.parent / "impress-helper.py"), question], capture_output=True,
-            text=True, timeout=120, env=self.desktop.environment | self.office.environment())
+        self.desktop.run("xdotool", "windowactivate", editor)
+        time.sleep(2.5)
+        self.assertNotIn("PRESENTING=0", App.log_text(self.desktop))
+        self.change(lambda: slideshow.show(3), 3)
+        slideshow.end()
+        self.wait_for_news("PRESENTING=0 app=-", 5)
+
+        # The editor over the whole screen, and a window of LibreOffice that is none of a module's in front of it.
+        self.desktop.run("xdotool", "windowactivate", editor)
+        slideshow.dispatch(".uno:FullScreen")
+        wait_until(lambda: self.desktop.frame(int(editor))[2:] == (self.desktop.width, self.desktop.height), 10,
+                   "the editor to fill the screen")
+        slideshow.dispatch(".uno:SearchDialog")
+        wait_until(lambda: "libreoffice-impress" not in self.desktop.run(
+            "xprop", "-id", self.desktop.run("xdotool", "getactivewindow").strip(), "WM_CLASS"), 15, "the dialog")
+        time.sleep(2.5)
+        self.assertEqual(App.log_text(self.desktop).count("PRESENTING=1"), 1)
+        self.assertEqual(self.app.quit(), 0)
 
     def test_the_file_gives_the_deck_s_notes(self):
         self.start()

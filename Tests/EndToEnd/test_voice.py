@@ -134,11 +134,15 @@ class VoiceTest(unittest.TestCase):
         self.assert_follows(app, already=1)
         self.assertEqual(app.quit(), 0)
 
-    def test_without_a_sound_server_it_waits(self):
-        app = self.launch("VAD: no usable input device")
-
+    def test_a_sound_server_that_comes_after_the_login_is_waited_for(self):
+        app = self.launch()
         self.assertFalse(self.is_moving(app))
-        self.assertEqual(self.messages("VPIO"), ["VPIO: instantiate failed (6)"])
+        self.assertEqual(self.messages("VPIO"), [])
+
+        self.sound.start_server()
+        time.sleep(2)
+
+        self.assert_follows(app)
         self.assertEqual(app.quit(), 0)
 
 

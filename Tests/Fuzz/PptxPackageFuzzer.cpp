@@ -1,6 +1,7 @@
 /// Any bytes as a package: opening it, finding its slides, extracting and reading their parts.
 
 #include "Orvello/Presentations/Decks/DeckReader.h"
+#include "Orvello/Presentations/Decks/OdpReader.h"
 #include "Orvello/Presentations/Decks/ZipArchive.h"
 
 #include <QBuffer>
@@ -19,11 +20,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const auto archive = ZipArchive::open(device);
     if (!archive)
         return 0;
-    const auto slides = DeckReader(*archive).read();
-    if (!slides)
+    const auto deck = OdpReader::isOpenDocument(*archive) ? OdpReader::read(*archive)
+                                                          : DeckReader(*archive).read();
+    if (!deck)
         return 0;
     qint64 number = 0;
-    for (const Orvello::SlideNote& slide : *slides) {
+    for (const Orvello::SlideNote& slide : deck->slides) {
         if (slide.index != ++number || slide.notes != slide.notes.trimmed()
             || (slide.title && (slide.title->isEmpty() || *slide.title != slide.title->trimmed())))
             __builtin_trap();

@@ -1,5 +1,6 @@
 /// Any bytes as each kind of part that the importer reads.
 
+#include "Orvello/Presentations/Decks/OdpNotesParser.h"
 #include "Orvello/Presentations/Decks/PackagePath.h"
 #include "Orvello/Presentations/Decks/PlaceholderTextParser.h"
 #include "Orvello/Presentations/Decks/RelsParser.h"
@@ -22,6 +23,15 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 
     SlideOrderParser order;
     order.parse(document);
+
+    OdpNotesParser pages({ 3, maximumLength, 2 * maximumLength });
+    pages.parse(document);
+    qsizetype length = 0;
+    const auto slides = pages.takeSlides();
+    for (const Orvello::SlideNote& slide : slides)
+        length += slide.notes.size() + slide.title.value_or(QString()).size();
+    if (slides.size() > 3 || length > 2 * maximumLength)
+        __builtin_trap();
 
     RelsParser rels;
     rels.parse(document);

@@ -22,7 +22,7 @@ JsonUserDefaults open(const QTemporaryDir& folder) { return { folder.path(), u"f
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const QTemporaryDir folder(u"/dev/shm/orvello-fuzz-XXXXXX"_s); // A disk is slow.
-    QDir(folder.path()).removeRecursively(); // With what was moved aside.
+    QDir(folder.path()).removeRecursively(); // What was moved aside goes, too.
     QDir().mkpath(folder.filePath(u"Orvello"_s));
     QFile file(folder.filePath(u"Orvello/fuzz.json"_s));
     if (!file.open(QIODevice::WriteOnly)

@@ -19,7 +19,7 @@ constexpr int nameHeight = 24;
 
 struct Cell {
     QImage picture;
-    QRect area; ///< With the wallpaper around the picture, without the name.
+    QRect area; ///< The picture and the wallpaper around it; the name lies outside.
 };
 
 /// The cells in rows from left to right, as a page of words.

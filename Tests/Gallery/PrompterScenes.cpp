@@ -119,6 +119,10 @@ Scenes prompterScenes()
         prompter(u"capturable on purpose"_s, Wallpaper::Photo, [](PrompterStage&) {},
             { .forceCapturable = true }),
         prompter(u"slide chip, manual, first slide"_s, Wallpaper::Document, &openDeck),
+        prompter(u"a slide without notes"_s, Wallpaper::Night,
+            [](PrompterStage& stage) {
+                stage.services.openDeck({ { 1, u"Welcome"_s, {} } });
+            }),
         prompter(u"slide chip, live"_s, Wallpaper::Photo,
             [](PrompterStage& stage) {
                 openDeck(stage);

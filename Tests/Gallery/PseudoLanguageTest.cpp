@@ -4,15 +4,24 @@
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Shell/Commands/MainMenu.h"
 #include "Orvello/Shell/Commands/StatusMenu.h"
 #include "Orvello/Shell/Commands/Support.h"
+#include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
 #include "Tests/Gallery/Scenes.h"
+#include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeCommandTarget.h"
+#include "Tests/Support/FakeHelperProcess.h"
 #include "Tests/Support/FakeHotKeys.h"
+#include "Tests/Support/SlideshowStage.h"
 #include "Tests/Support/ViewItems.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QTest>
@@ -54,16 +63,26 @@ bool isNobodysToTranslate(const QString& text)
     static const QStringList written { u"Opening words"_s, u"Quarterly review"_s, u"All hands"_s,
         u"Toast for the wedding"_s, u"كلمة الافتتاح"_s, u"Questions"_s, u"What we learned"_s,
         u"Welcome"_s, u"Thank you all for coming"_s, u"— Slide 1"_s, u"Nothing has a name"_s,
-        u"Good morning"_s, u"We set out"_s, u"What would you like"_s, u"Deck"_s };
+        u"Good morning"_s, u"We set out"_s, u"What would you like"_s, u"Deck"_s, u"مرحبا"_s,
+        u"תודה"_s, u"感谢各位"_s, u"本日は"_s, u"Smile 😀"_s, u"Tiếng Việt"_s, u"abcdefghij"_s };
+    const QString composed = text.normalized(QString::NormalizationForm_C);
     return same.match(text).hasMatch()
         || std::ranges::any_of(
-            written, [&](const QString& beginning) { return text.startsWith(beginning); });
+            written, [&](const QString& beginning) { return composed.startsWith(beginning); });
 }
 
 bool isUsersText(const QQuickItem& item)
 {
-    return item.inherits("QQuickTextEdit") || item.inherits("QQuickTextInput")
-        || item.inherits("Orvello::PromptText");
+    return item.inherits("QQuickTextEdit") || item.inherits("QQuickTextInput");
+}
+
+/// The prompter's text, which is the user's as a rule; empty for any other item.
+QString promptedText(const QQuickItem& item)
+{
+    const auto* const lines = item.inherits("Orvello::PromptText")
+        ? item.property("lines").value<PromptLines*>()
+        : nullptr;
+    return lines ? lines->text() : QString();
 }
 
 std::unique_ptr<Stage> played(const Scene& scene)
@@ -102,6 +121,7 @@ QStringList unmarkedTexts(QQuickWindow& window)
     for (const QQuickItem* const item : visibleItems(window)) {
         if (isUsersText(*item))
             continue;
+        look(promptedText(*item));
         look(accessibleName(*item));
         look(item->property("text").toString());
         look(item->property("placeholderText").toString());
@@ -178,6 +198,27 @@ TEST_P(SceneInPseudoLanguage, cutsNoText)
 INSTANTIATE_TEST_SUITE_P(
     PseudoLanguageTest, SceneInPseudoLanguage, ::testing::ValuesIn(scenesWithWords()));
 
+/// The one box that is shown.
+QMessageBox& shownBox()
+{
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        auto* const box = qobject_cast<QMessageBox*>(widget);
+        if (box && box->isVisible())
+            return *box;
+    }
+    qFatal("no box is shown");
+}
+
+void expectMarked(const QMessageBox& box)
+{
+    // A message may be one text, of which the box shows the first paragraph in bold.
+    QStringList texts { box.text() + u"\n\n"_s + box.informativeText() };
+    for (const QAbstractButton* const button : box.buttons())
+        texts.append(button->text().remove(u'&'));
+    for (const QString& text : texts)
+        EXPECT_TRUE(isMarked(text)) << text.toStdString();
+}
+
 QStringList linesOf(const Menu& menu)
 {
     QStringList lines;
@@ -226,6 +267,26 @@ TEST(PseudoLanguageTest, isSpokenByErrorsAndLetters)
     EXPECT_TRUE(isMarked(letter.queryItemValue(u"subject"_s, QUrl::FullyDecoded)));
     EXPECT_TRUE(
         isMarked(letter.queryItemValue(u"body"_s, QUrl::FullyDecoded).section(u"—\n"_s, 1)));
+}
+
+TEST(PseudoLanguageTest, isSpokenByTheAdviceOnImpress)
+{
+    const PseudoLanguage language;
+    SlideshowStage stage;
+    FakeHelperProcess helper;
+    ImpressPresenter impress(helper, stage.monitor);
+    const ImpressAdviceDialog dialog(impress);
+
+    impress.row().askOpenDeck([](const ScriptResult&) {});
+    helper.questions.last().completion({ 1, {}, u"-1743"_s });
+    drainEvents();
+    expectMarked(shownBox());
+    for (QAbstractButton* const button : shownBox().buttons()) {
+        if (shownBox().buttonRole(button) == QMessageBox::AcceptRole)
+            button->click();
+    }
+    drainEvents();
+    expectMarked(shownBox());
 }
 
 } // namespace

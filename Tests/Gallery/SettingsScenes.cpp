@@ -11,6 +11,7 @@
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeUpdater.h"
 #include "Tests/Support/FakeUserDefaults.h"
@@ -83,6 +84,7 @@ public:
     Testing::FakeMicrophonePermission permission;
     Testing::FakeVoiceProcessing voiceProcessing { journal };
     Testing::FakeRawMicrophone microphone { journal };
+    Testing::FakeMicrophones microphones;
     Testing::FakeMicActivity micActivity;
     Testing::FakeWorkspace workspace;
     Testing::FakeUserDefaults defaults;
@@ -90,7 +92,7 @@ public:
     Testing::FakeHotKeys keys;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
-        { time, permission, voiceProcessing, microphone, micActivity, workspace } };
+        { time, permission, voiceProcessing, microphone, micActivity, microphones, workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
     AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;
@@ -152,8 +154,18 @@ Scene voice(const QString& name, Look look, const SettingsStage::Play& play)
     return settings(u"voice, "_s + name, look, Extent::Section, play, u"Voice-follow"_s);
 }
 
+Microphones::State twoMicrophones()
+{
+    Microphones::State state;
+    state.choices = { { u"alsa"_s, u"Built-in Audio Analog Stereo"_s },
+        { u"bluez"_s, u"Plantronics Voyager 5200"_s } };
+    state.heard = u"Plantronics Voyager 5200"_s;
+    return state;
+}
+
 void listen(SettingsStage& stage)
 {
+    stage.microphones.become(twoMicrophones());
     stage.settings.setVoiceFollow(true);
     stage.voice.requestPermissionAndStart();
     stage.hearVoice();
@@ -169,6 +181,26 @@ void listenForbidden(SettingsStage& stage)
 {
     stage.permission.currentStatus = MicrophonePermission::Status::Denied;
     listen(stage);
+}
+
+void listenToAMutedMicrophone(SettingsStage& stage)
+{
+    listen(stage);
+    Microphones::State state = twoMicrophones();
+    state.trouble = Microphones::Trouble::Muted;
+    stage.microphones.become(state);
+}
+
+/// Two thirds of five seconds are speech.
+void findTheSensitivity(SettingsStage& stage)
+{
+    listen(stage);
+    stage.voice.sensitivityTest()->begin();
+    for (int block = 0; block < 100; ++block) {
+        stage.voiceProcessing.hear(std::vector<float>(480, block % 3 == 0 ? 0.0005F : 0.03F));
+        Testing::drainEvents();
+    }
+    stage.time.advance(SensitivityTest::seconds);
 }
 
 void haveForeignValues(SettingsStage& stage)
@@ -193,6 +225,8 @@ Scenes settingsScenes()
         voice(u"listening"_s, Look::Light, listen),
         voice(u"during a call"_s, Look::Dark, listenDuringACall),
         voice(u"denied"_s, Look::Light, listenForbidden),
+        voice(u"muted"_s, Look::Dark, listenToAMutedMicrophone),
+        voice(u"tested"_s, Look::Light, findTheSensitivity),
         settings(
             u"foreign values"_s, Look::Light, Extent::Section, haveForeignValues, u"Prompter"_s),
         settings(u"checking"_s, Look::Light, Extent::Section, check, u"Updates"_s),

@@ -38,7 +38,7 @@ TEST_F(CarbonHotKeysTest, registersAKeyAsItIsToldWithoutOptions)
     CarbonHotKeys hotKeys;
 
     const auto reference = hotKeys.registerHotKey(
-        HotKey::keyP, HotKey::optionKey | HotKey::commandKey, { signature, 1 });
+        { { HotKey::keyP, HotKey::optionKey | HotKey::commandKey }, { signature, 1 } });
 
     EXPECT_TRUE(reference);
     EXPECT_THAT(events.calls, ElementsAre("register 35 2304 OVHK 1 on application options 0"));
@@ -48,7 +48,7 @@ TEST_F(CarbonHotKeysTest, registersAPlainKeyWithoutModifiers)
 {
     CarbonHotKeys hotKeys;
 
-    const auto reference = hotKeys.registerHotKey(HotKey::keyP, 0, { signature, 6 });
+    const auto reference = hotKeys.registerHotKey({ { HotKey::keyP, 0 }, { signature, 6 } });
 
     EXPECT_THAT(events.calls, ElementsAre("register 35 0 OVHK 6 on application options 0"));
 }
@@ -56,8 +56,8 @@ TEST_F(CarbonHotKeysTest, registersAPlainKeyWithoutModifiers)
 TEST_F(CarbonHotKeysTest, unregistersAKeyWithItsReference)
 {
     CarbonHotKeys hotKeys;
-    auto first = hotKeys.registerHotKey(HotKey::keyP, 0, { signature, 1 });
-    const auto second = hotKeys.registerHotKey(HotKey::keyR, 0, { signature, 2 });
+    auto first = hotKeys.registerHotKey({ { HotKey::keyP, 0 }, { signature, 1 } });
+    const auto second = hotKeys.registerHotKey({ { HotKey::keyR, 0 }, { signature, 2 } });
     events.calls.clear();
 
     first.reset();
@@ -70,7 +70,7 @@ TEST_F(CarbonHotKeysTest, givesNoReferenceToAKeyThatTheSystemRefuses)
     CarbonHotKeys hotKeys;
     events.refusesKeys = true;
 
-    EXPECT_FALSE(hotKeys.registerHotKey(HotKey::keyP, 0, { signature, 1 }));
+    EXPECT_FALSE(hotKeys.registerHotKey({ { HotKey::keyP, 0 }, { signature, 1 } }));
     EXPECT_EQ(events.calls.size(), 1); // And nothing is unregistered.
 }
 
@@ -110,11 +110,11 @@ TEST_F(CarbonHotKeysTest, callsAKeyWhatItsMenusCallIt)
     const CarbonHotKeys hotKeys;
     constexpr std::uint32_t modifiers = HotKey::optionKey | HotKey::commandKey;
 
-    EXPECT_EQ(hotKeys.label(HotKey::keyP, modifiers), QStringLiteral("⌥⌘P"));
-    EXPECT_EQ(hotKeys.label(HotKey::keyUp, modifiers), QStringLiteral("⌥⌘↑"));
-    EXPECT_EQ(hotKeys.label(HotKey::keyDown, modifiers), QStringLiteral("⌥⌘↓"));
-    EXPECT_EQ(hotKeys.label(HotKey::keyP, 0), QStringLiteral("P"));
-    EXPECT_EQ(hotKeys.label(99, modifiers), QString());
+    EXPECT_EQ(hotKeys.label({ HotKey::keyP, modifiers }), QStringLiteral("⌥⌘P"));
+    EXPECT_EQ(hotKeys.label({ HotKey::keyUp, modifiers }), QStringLiteral("⌥⌘↑"));
+    EXPECT_EQ(hotKeys.label({ HotKey::keyDown, modifiers }), QStringLiteral("⌥⌘↓"));
+    EXPECT_EQ(hotKeys.label({ HotKey::keyP, 0 }), QStringLiteral("P"));
+    EXPECT_EQ(hotKeys.label({ 99, modifiers }), QString());
 }
 
 TEST_F(CarbonHotKeysTest, removesItsHandlerInTheEnd)

@@ -1,6 +1,6 @@
 """The release scripts of tools/macos over stand-ins for Apple's tools, which record how they were called."""
 
-import os
+import hashlib
 import pathlib
 import shutil
 import subprocess
@@ -14,7 +14,15 @@ RECORD = 'printf "%s\\n" "$(basename "$0") $*" >> "$RECORD"\n'
 
 STAND_INS = {
     "codesign": 'case "$*" in *--verify*) exit "${UNSIGNED:-0}" ;; esac\n',
-    "xcrun": 'case "$*" in "stapler "*) exit "${REFUSED:-0}" ;; esac\n',
+    # A ticket may take its time: the first $LATE attempts to staple fail.
+    "xcrun": 'case "$*" in *"notarytool submit"*) echo "{\\"id\\":\\"7-e\\",\\"status\\":\\"${STATUS:-Accepted}\\"}" ;;\n'
+             '*"notarytool log"*) echo "the signature of libzip is invalid" ;;\n'
+             '"stapler "*) [ "$(grep -c "^xcrun stapler" "$RECORD")" -gt "${LATE:-0}" ] ;; esac\n',
+    "dsymutil": 'mkdir -p "${@: -1}"\n',
+    "sleep": "",
+    "curl": 'case "$*" in *--output*) while [ "$1" != --output ]; do shift; done; cp "$ARCHIVE" "$2" ;;\n'
+            '*) [ -n "${FEED:-}" ] && printf "%s\\n" "$FEED" ;; esac\n',
+    "shasum": 'sha256sum --check --quiet\n',
     "ditto": 'if [ "$1" = -c ]; then touch "${@: -1}"; else cp -R "$1" "$2"; fi\n',
     "hdiutil": 'touch "${@: -1}"\n',
     "spctl": "",
@@ -22,11 +30,13 @@ STAND_INS = {
     "macdeployqt": 'if [ $# -eq 0 ]; then echo "  -codesign=<ident> ${KNOWS}"; exit 1; fi\n',
     # Each file names a system library, itself, and what the test says.
     "otool": 'case $1 in -D) printf "%s:\\n/self/%s\\n" "$2" "${2##*/}" ;;\n'
+             '-l) printf "      cmd LC_BUILD_VERSION\\n  platform 1\\n    minos %s\\n" "${MINOS:-13.0}" ;;\n'
              '-L) printf "%s:\\n" "$2"; for needed in /usr/lib/libSystem.B.dylib @rpath/QtCore "/self/${2##*/}" $NEEDED; do\n'
              'printf "\\t%s (compatibility version 1.0.0, current version 1.0.0)\\n" "$needed"; done ;; esac\n',
     "sips": 'touch "${@: -1}"\n',
     "iconutil": 'ls "${@: -1}" > "$4"\n',
-    "plutil": 'sed -n "/<key>$2<.key>/{n;s/.*<string>\\(.*\\)<.string>.*/\\1/p;}" "${@: -1}"\n',
+    "plutil": 'grep -q "<key>$2<.key>" "${@: -1}" || { echo "Could not extract value"; exit 1; }\n'
+              'sed -n "/<key>$2<.key>/{n;s/.*<string>\\(.*\\)<.string>.*/\\1/p;}" "${@: -1}"\n',
 }
 SIGN_UPDATE = "echo 'sparkle:edSignature=\"c2lnbmF0dXJl\" length=\"1234\"'\n"
 
@@ -56,7 +66,7 @@ class ReleaseScriptsTest(unittest.TestCase):
         path.write_text("#!/bin/bash\n" + body)
         path.chmod(0o755)
 
-    def make_app(self, with_sparkle=True):
+    def make_app(self, with_sparkle=True, update_keys="SUFeedURL SUPublicEDKey"):
         names = ["MacOS/Orvello", "PlugIns/platforms/libqcocoa.dylib",
                  "Frameworks/QtCore.framework/Versions/A/QtCore", "Frameworks/libzip.5.dylib"]
         if with_sparkle:
@@ -74,7 +84,9 @@ class ReleaseScriptsTest(unittest.TestCase):
         link.symlink_to("../../../PlugIns/platforms/libqcocoa.dylib")
         plist = (ROOT / "Resources/macOS/Info.plist.in").read_text()
         for key, value in {"PROJECT_VERSION": "2.1", "ORVELLO_BUILD_NUMBER": "57",
-                           "CMAKE_OSX_DEPLOYMENT_TARGET": "13.0", "ORVELLO_UPDATE_KEYS": ""}.items():
+                           "CMAKE_OSX_DEPLOYMENT_TARGET": "13.0", "ORVELLO_UPDATE_KEYS":
+                           "".join(f"<key>{key}</key>\n<string>https://example.org/{key}</string>\n"
+                                   for key in update_keys.split())}.items():
             plist = plist.replace(f"@{key}@", value)
         (self.app / "Contents/Info.plist").write_text(plist)
 
@@ -222,15 +234,35 @@ class ReleaseScriptsTest(unittest.TestCase):
 
         self.assertEqual(result.returncode, 0, result.stderr)
         submit, staple = self.calls("xcrun")
-        self.assertRegex(submit, r"^xcrun notarytool submit .*/Orvello\.app\.zip --keychain-profile profile --wait$")
+        self.assertRegex(submit, r"^xcrun notarytool submit .*/Orvello\.app\.zip --keychain-profile profile --wait --output-format json$")
         self.assertEqual(staple, f"xcrun stapler staple {self.app}")
+
+    def test_notarising_fails_when_the_service_accepts_no_such_thing_and_shows_its_log(self):
+        self.make_app()
+
+        # The command itself succeeds.
+        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile", STATUS="Invalid")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("the signature of libzip is invalid", result.stderr)
+        self.assertIn("is not accepted: Invalid", result.stderr)
+        self.assertEqual(self.calls("xcrun")[1:], ["xcrun notarytool log 7-e --keychain-profile profile"])
+
+    def test_a_ticket_that_is_late_is_asked_for_again(self):
+        self.make_app()
+
+        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile", LATE="2")
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(len(self.calls("xcrun")), 1 + 3)
 
     def test_notarising_fails_when_there_is_no_ticket(self):
         self.make_app()
 
-        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile", REFUSED="65")
+        result = self.run_script("notarise", self.app, ORVELLO_NOTARY_PROFILE="profile", LATE="1000")
 
-        self.assertNotEqual(result.returncode, 0)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("there is no ticket", result.stderr)
 
     def test_notarising_says_that_it_needs_a_profile(self):
         self.make_app()
@@ -322,17 +354,96 @@ class ReleaseScriptsTest(unittest.TestCase):
         self.assertIn("ORVELLO_NOTARY_PROFILE", result.stderr)
         self.assertEqual(self.record.read_text(), "")
 
+    def release(self, **environment):
+        feed = "<sparkle:version>9</sparkle:version> <enclosure sparkle:version=\"56\"/>"
+        return self.run_script("release", **{"ORVELLO_SIGNING_IDENTITY": "Developer_ID", "ORVELLO_NOTARY_PROFILE": "profile",
+                                             "FEED": feed} | environment)
+
     def test_a_release_deploys_signs_notarises_and_packs_in_order(self):
         self.make_app()
 
-        result = self.run_script("release", ORVELLO_SIGNING_IDENTITY="Developer_ID", ORVELLO_NOTARY_PROFILE="profile")
+        result = self.release()
 
         self.assertEqual(result.returncode, 0, result.stderr)
-        steps = [line.split()[0] + (" " + line.split()[1] if line.startswith("xcrun") else "")
-                 for line in self.record.read_text().splitlines() if line.split()[0] in
-                 ("macdeployqt", "xcrun", "hdiutil", "spctl")]
-        self.assertEqual(steps, ["macdeployqt", "macdeployqt", "xcrun notarytool", "xcrun stapler", "hdiutil",
-                                 "xcrun notarytool", "xcrun stapler", "spctl"])
+        steps = []
+        for line in self.record.read_text().splitlines():
+            tool, *words = line.split()
+            step = {"codesign": "sign" if "--sign" in words else "verify", "xcrun": " ".join([tool, *words[:1]])}.get(tool, tool)
+            if step in ("curl", "dsymutil", "macdeployqt", "sign", "verify", "xcrun notarytool", "xcrun stapler", "hdiutil",
+                        "spctl") and steps[-1:] != [step]:
+                steps.append(step)
+        notarised = ["xcrun notarytool", "xcrun stapler"]
+        self.assertEqual(steps, ["curl", "dsymutil", "macdeployqt", "sign", "verify", *notarised, "verify", "hdiutil", "sign",
+                                 *notarised, "spctl"])
+
+    def test_a_release_keeps_the_symbols_that_its_crash_reports_need(self):
+        self.make_app()
+
+        result = self.release()
+
+        self.assertEqual(self.calls("dsymutil"),
+                         ["dsymutil build/Orvello.app/Contents/MacOS/Orvello -o build/Orvello-2.1-57.dSYM"], result.stderr)
+        self.assertTrue((self.folder / "build/Orvello-2.1-57.dSYM.zip").exists())
+
+    def refused(self, **environment):
+        """What a release complains of before it does anything."""
+        result = self.release(**environment)
+        self.assertEqual(result.returncode, 1, result.stdout)
+        self.assertEqual(self.calls("codesign") + self.calls("macdeployqt"), [])
+        return result.stderr
+
+    def test_a_release_without_a_feed_is_refused(self):
+        self.make_app(update_keys="SUPublicEDKey")
+        self.assertIn("no SUFeedURL", self.refused())
+
+    def test_a_release_without_a_public_key_is_refused(self):
+        self.make_app(update_keys="SUFeedURL")
+        self.assertIn("no SUPublicEDKey", self.refused())
+
+    def test_a_release_whose_build_number_the_feed_has_already_is_refused(self):
+        self.make_app()
+        for number in ("57", "58"):
+            self.assertIn(f"build {number}", self.refused(FEED=f'<enclosure sparkle:version="{number}"/>'))
+
+    def test_a_release_without_an_earlier_one_says_so(self):
+        self.make_app()
+        self.assertIn("ORVELLO_FIRST_RELEASE=1", self.refused(FEED=""))
+        result = self.release(FEED="", ORVELLO_FIRST_RELEASE="1")
+        self.assertEqual(result.returncode, 0, result.stderr)
+
+    def test_a_release_with_libraries_newer_than_the_oldest_system_is_refused(self):
+        self.make_app()
+
+        result = self.release(MINOS="14.0")
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("libqcocoa.dylib needs macOS 14.0", result.stderr)
+        self.assertEqual(self.calls("codesign"), [])
+
+    # fetch-sparkle
+
+    def sparkle_archive(self, name="Sparkle.framework"):
+        folder = self.folder / "archive"
+        (folder / name).mkdir(parents=True)
+        archive = self.folder / "archive.tar.xz"
+        subprocess.run(["tar", "-cJf", archive, "-C", folder, name], check=True)
+        return str(archive)
+
+    def test_an_archive_of_sparkle_with_another_checksum_is_refused(self):
+        result = self.run_script("fetch-sparkle", ARCHIVE=self.sparkle_archive())
+
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("is not the one that was checked", result.stderr)
+        self.assertFalse((self.folder / "third_party/Sparkle").exists())
+
+    def test_sparkle_is_unpacked_with_the_checksum_that_is_wanted(self):
+        archive = self.sparkle_archive()
+        checksum = hashlib.sha256(pathlib.Path(archive).read_bytes()).hexdigest()
+
+        result = self.run_script("fetch-sparkle", ARCHIVE=archive, SPARKLE_SHA256=checksum)
+
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertTrue((self.folder / "third_party/Sparkle/Sparkle.framework").is_dir())
 
 
 class PapersTest(unittest.TestCase):
@@ -367,6 +478,11 @@ class PapersTest(unittest.TestCase):
             info = plistlib.loads((pathlib.Path(folder) / "Info.plist").read_bytes())
         self.assertEqual(info["SUFeedURL"], feed)
         self.assertEqual(info["SUPublicEDKey"], "a2V5+/=")
+
+    def test_the_entitlements_have_no_comment(self):
+        for name in ("Orvello", "Orvello-adhoc"):
+            # What codesign puts into the signature is read by a parser that knows no comments.
+            self.assertNotIn("<!--", (ROOT / f"Resources/macOS/{name}.entitlements").read_text())
 
     def test_only_builds_without_a_certificate_let_other_libraries_in(self):
         import plistlib

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 namespace Orvello::Testing {
 
@@ -11,6 +11,7 @@ inline Facts factsOfAMac()
         .canHideWindows = true,
         .hasMenuBar = true,
         .isMac = true,
+        .hasQuickTime = true,
         .asksBeforeControl = true,
         .hasPrivacySettings = true,
         .installsUpdates = true,

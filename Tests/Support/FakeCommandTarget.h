@@ -14,6 +14,7 @@ public:
     void slowDown() override { note("slowDown"); }
     void backToTop() override { note("backToTop"); }
     void togglePanel() override { note("togglePanel"); }
+    void putUnderCamera() override { note("putUnderCamera"); }
     void toggleVoice() override { note("toggleVoice"); }
     void toggleSlideTracking() override { note("toggleSlideTracking"); }
     void toggleStealth() override { note("toggleStealth"); }

@@ -13,15 +13,18 @@ class FakeHelperProcess final : public HelperProcess {
 public:
     struct Question {
         QString text;
+        double seconds = 0.0;
         ScriptCompletion completion;
     };
 
-    void ask(const QString& question, ScriptCompletion completion) override
+    void ask(const QString& question, double seconds, ScriptCompletion completion) override
     {
-        questions.append({ question, std::move(completion) });
+        questions.append({ question, seconds, std::move(completion) });
     }
+    void end() override { ++ends; }
 
     QList<Question> questions;
+    int ends = 0; ///< How often the program was let go.
 };
 
 } // namespace Orvello::Testing

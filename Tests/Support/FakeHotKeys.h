@@ -12,45 +12,34 @@ namespace Orvello::Testing {
 /// A keyboard whose keys a test presses.
 class FakeHotKeys final : public HotKeys {
 public:
-    struct Key {
-        std::uint32_t keyCode = 0;
-        std::uint32_t modifiers = 0;
-        friend auto operator<=>(const Key&, const Key&) = default;
-    };
-
     void installHandler(Handler handler) override
     {
         m_handler = std::move(handler);
         ++installations;
     }
 
-    std::unique_ptr<Reference> registerHotKey(
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override
+    std::unique_ptr<Reference> registerHotKey(const HotKeyRequest& request) override
     {
+        const auto& [key, id, purpose] = request;
         note(journal,
-            "hot key " + std::to_string(keyCode) + " with " + std::to_string(modifiers) + " as "
-                + std::to_string(id.id));
-        registrations.push_back({ id, { keyCode, modifiers } });
+            "hot key " + std::to_string(key.keyCode) + " with " + std::to_string(key.modifiers)
+                + " as " + std::to_string(id.id));
+        registrations.push_back(request);
+        if (purpose)
+            purposes.push_back(*purpose);
         if (isOwnedByAnother)
             return nullptr;
-        registered.emplace(id.id, Key { keyCode, modifiers });
+        registered.emplace(id.id, key);
         return std::make_unique<FakeReference>(*this, id.id);
     }
 
-    std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override
-    {
-        purposes.push_back(purpose);
-        return registerHotKey(keyCode, modifiers, id);
-    }
-
     /// As a Mac calls them, unless a test says otherwise.
-    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override
+    QString label(const HotKey& key) const override
     {
         const std::map<std::uint32_t, QString> keys { { HotKey::keyP, QStringLiteral("P") },
             { HotKey::keyR, QStringLiteral("R") }, { HotKey::keyH, QStringLiteral("H") },
             { HotKey::keyUp, QStringLiteral("↑") }, { HotKey::keyDown, QStringLiteral("↓") } };
-        return (modifiers != 0 ? modifiersLabel : QString()) + keys.at(keyCode);
+        return (key.modifiers != 0 ? modifiersLabel : QString()) + keys.at(key.keyCode);
     }
     QString modifiersLabel = QStringLiteral("⌥⌘");
 
@@ -59,7 +48,7 @@ public:
     {
         const auto keys = registered;
         for (const auto& [id, key] : keys) {
-            if (key == Key { keyCode, modifiers })
+            if (key == HotKey { keyCode, modifiers })
                 deliver({ 0x4F56484B, id });
         }
     }
@@ -68,13 +57,9 @@ public:
 
     Journal* journal = nullptr;
 
-    struct Registration {
-        HotKeyID id;
-        Key key;
-    };
-    std::vector<Registration> registrations; ///< Every attempt, in order.
+    std::vector<HotKeyRequest> registrations; ///< Every attempt, in order.
     std::vector<HotKeyPurpose> purposes; ///< The purposes of the attempts that named one.
-    std::map<std::uint32_t, Key> registered; ///< What holds now, by id.
+    std::map<std::uint32_t, HotKey> registered; ///< What holds now, by id.
     int installations = 0;
     bool isOwnedByAnother = false;
 

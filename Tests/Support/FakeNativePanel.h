@@ -56,7 +56,7 @@ public:
     bool visible = false;
     qint64 number = 42;
     bool beingResized = false;
-    bool hidden = false; ///< From captures.
+    bool hidden = false; ///< Whether captures leave the panel out.
     bool canHide = true;
     QStringList calls;
     std::vector<bool> hiddenSet; ///< Each time it was set.

@@ -7,10 +7,10 @@ namespace Orvello::Testing {
 /// A panel in which the user has chosen already.
 class FakeOpenPanel final : public OpenPanel {
 public:
-    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override
+    std::optional<QString> chooseFile(const QString& message, const QList<FileKind>& kinds) override
     {
         shownMessage = message;
-        shownKind = kind;
+        shownKinds = kinds;
         ++timesShown;
         return choice;
     }
@@ -18,7 +18,7 @@ public:
     std::optional<QString> choice; ///< Nothing: the user cancels.
 
     QString shownMessage;
-    FileKind shownKind;
+    QList<FileKind> shownKinds;
     int timesShown = 0;
 };
 

@@ -12,6 +12,7 @@
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeHotKeys.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeNativePanel.h"
 #include "Tests/Support/FakeOpenPanel.h"
 #include "Tests/Support/FakeProcessSignals.h"
@@ -86,10 +87,12 @@ public:
     HotKeys& hotKeys() override { return hotKeysFake; }
     Updater& updater() override { return updaterFake; }
     HelperProcess* impressHelper() override { return nullptr; }
+    bool hasHardwareRenderer() override { return false; }
 
     MicrophonePermission& microphonePermission() override { return permission; }
     VoiceProcessing& voiceProcessing() override { return voiceProcessingFake; }
     RawMicrophone& rawMicrophone() override { return rawMicrophoneFake; }
+    Microphones& microphones() override { return microphonesFake; }
     AudioProcesses& audioProcesses() override { return audioProcessesFake; }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& window) override
@@ -126,6 +129,7 @@ public:
     Journal soundJournal;
     FakeVoiceProcessing voiceProcessingFake { soundJournal };
     FakeRawMicrophone rawMicrophoneFake { soundJournal };
+    FakeMicrophones microphonesFake;
     FakeAudioProcesses audioProcessesFake;
     FakeNativePanel* panel = nullptr; ///< The one that was made last.
     QWindow* panelView = nullptr; ///< Its content.

@@ -20,6 +20,7 @@ public:
         int openOnboardings = 0;
         Menu* statusMenu = nullptr;
         int openedMenus = 0;
+        Menu* poppedUp = nullptr;
     };
 
     explicit FakeShellWindows(State& state)
@@ -42,6 +43,7 @@ public:
         m_state.statusMenu = &menu;
         return std::make_unique<Item>(m_state);
     }
+    void popUp(Menu& menu) override { m_state.poppedUp = &menu; }
 
 private:
     class Window final : public ShellWindow {
@@ -58,7 +60,7 @@ private:
             if (m_count)
                 --*m_count;
         }
-        void makeKeyAndOrderFront() override { note(m_state.journal, m_name + " window in front"); }
+        void bringToFront() override { note(m_state.journal, m_name + " window in front"); }
 
     private:
         State& m_state;

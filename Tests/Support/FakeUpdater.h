@@ -10,10 +10,10 @@ namespace Orvello::Testing {
 /// An updater whose callbacks a test makes.
 class FakeUpdater final : public Updater, public UpdateSchedule {
 public:
-    void start(UpdaterDelegate& updaterDelegate) override
+    void start(UpdateListener& updateListener) override
     {
         note(journal, "updater started");
-        delegate = &updaterDelegate;
+        listener = &updateListener;
     }
     void check() override
     {
@@ -46,7 +46,7 @@ public:
     }
 
     Journal* journal = nullptr;
-    UpdaterDelegate* delegate = nullptr; ///< Null until started.
+    UpdateListener* listener = nullptr; ///< Null until started.
     int checks = 0;
     bool isAutomatic = false;
     std::optional<QString> feed;

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience = 20'000; ///< For a loaded machine, in milliseconds.
+constexpr int patience = 20'000; ///< A loaded machine takes its time; in milliseconds.
 
 /// An ordinary session bus, but for the programs that a desktop starts on demand: there are none.
 constexpr const char* configuration = R"(<busconfig>

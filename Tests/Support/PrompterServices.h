@@ -9,6 +9,7 @@
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeVoiceProcessing.h"
@@ -110,9 +111,10 @@ public:
     FakeVoiceProcessing voiceProcessing { journal };
     FakeRawMicrophone rawMicrophone { journal };
     FakeMicActivity otherMicrophoneUse;
+    FakeMicrophones microphones;
     FakeWorkspace quietWorkspace;
     VoiceActivityEngine voice { settings,
-        { stage.time, permission, voiceProcessing, rawMicrophone, otherMicrophoneUse,
+        { stage.time, permission, voiceProcessing, rawMicrophone, otherMicrophoneUse, microphones,
             quietWorkspace } };
 };
 

@@ -38,7 +38,7 @@ State& state();
 
 inline constexpr std::uint32_t connection = 7;
 
-/// Which of the calls can be found.
+/// Tells which of the calls can be found.
 struct Calls {
     bool connection = true;
     bool shape = true;

@@ -142,6 +142,63 @@ TEST_F(VoiceActivityEngineTest, startsAtOnceWhenAuthorized)
     EXPECT_THAT(permission.requests, IsEmpty());
 }
 
+// A microphone that is not there yet
+
+TEST_F(VoiceActivityEngineTest, choosesItsPathOnceTheSoundSystemHasAnswered)
+{
+    microphones.current.isReady = false;
+    engine->requestPermissionAndStart();
+    EXPECT_THAT(journal, IsEmpty());
+    EXPECT_THAT(log.lines(), IsEmpty());
+
+    micActivity.otherProcessCaptures = true;
+    microphones.become({});
+
+    EXPECT_TRUE(engine->isListening());
+    EXPECT_EQ(
+        log.lines().front(), "VAD: AEC held (another app is using the microphone) — raw mic tap");
+    EXPECT_EQ(time.pendingCalls(), 1u);
+}
+
+TEST_F(VoiceActivityEngineTest, startsWithoutAnAnswerWhenNoneComes)
+{
+    microphones.current.isReady = false;
+    engine->requestPermissionAndStart();
+
+    time.advance(2.9);
+    EXPECT_FALSE(engine->isListening());
+    time.advance(0.2);
+
+    EXPECT_TRUE(engine->isListening());
+    EXPECT_THAT(log.lines(), ElementsAre("VAD listening (VPIO, AEC on)"));
+}
+
+TEST_F(VoiceActivityEngineTest, startsOnceHoweverOftenItIsAskedWhileItWaits)
+{
+    microphones.current.isReady = false;
+    engine->requestPermissionAndStart();
+    engine->requestPermissionAndStart();
+    microphones.become({});
+    Microphones::State state;
+    state.heard = u"Headset"_s;
+    microphones.become(state);
+
+    EXPECT_THAT(log.lines(), ElementsAre("VAD listening (VPIO, AEC on)"));
+}
+
+TEST_F(VoiceActivityEngineTest, doesNotStartAfterAStopThatCameWhileItWaited)
+{
+    microphones.current.isReady = false;
+    engine->requestPermissionAndStart();
+    engine->stop();
+
+    microphones.become({});
+    time.advance(10);
+
+    EXPECT_FALSE(engine->isListening());
+    EXPECT_THAT(journal, IsEmpty());
+}
+
 TEST_F(VoiceActivityEngineTest, staysIdleWhenDeniedOrRestricted)
 {
     for (const Status status : { Status::Denied, Status::Restricted }) {
@@ -268,7 +325,7 @@ TEST_F(VoiceActivityEngineTest, startingWhileListeningChangesNothing)
 // Voice processing that fails
 
 struct FailingStep {
-    std::string name; ///< In the fake's journal.
+    std::string name; ///< What the fake's journal calls it.
     std::string line;
 
     friend void PrintTo(const FailingStep& step, std::ostream* stream) { *stream << step.name; }

@@ -5,6 +5,7 @@
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeMicActivity.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
+#include "Tests/Support/FakeMicrophones.h"
 #include "Tests/Support/FakeRawMicrophone.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/FakeVoiceProcessing.h"
@@ -60,13 +61,14 @@ protected:
     Testing::FakeVoiceProcessing voiceProcessing { journal };
     Testing::FakeRawMicrophone microphone { journal };
     Testing::FakeMicActivity micActivity;
+    Testing::FakeMicrophones microphones;
     Testing::FakeWorkspace workspace;
     Testing::FakeUserDefaults defaults;
     SettingsStore settings { defaults };
     Testing::LogCapture log;
     std::unique_ptr<VoiceActivityEngine> engine = std::make_unique<VoiceActivityEngine>(settings,
         VoiceActivityEngine::Ports {
-            time, permission, voiceProcessing, microphone, micActivity, workspace });
+            time, permission, voiceProcessing, microphone, micActivity, microphones, workspace });
 };
 
 } // namespace Orvello

@@ -214,8 +214,6 @@ TEST_F(VoiceGateTest, blocksHeardAfterARestartTakeEffectAfterTheReset)
 
 TEST_F(VoiceGateTest, stoppingWhileDeadOnlyEndsTheWatchdog)
 {
-    speak();
-    const float level = engine->level();
     microphone.rate = 0;
     runZoom();
     time.advance(1);
@@ -227,10 +225,48 @@ TEST_F(VoiceGateTest, stoppingWhileDeadOnlyEndsTheWatchdog)
     Testing::drainEvents();
 
     EXPECT_EQ(time.pendingCalls(), 0u);
-    EXPECT_TRUE(engine->isSpeaking());
-    EXPECT_EQ(engine->level(), level);
     EXPECT_TRUE(engine->aecActive());
     EXPECT_THAT(journal, IsEmpty());
+}
+
+TEST_F(VoiceGateTest, shutsWhenNothingIsCapturedAnyLonger)
+{
+    speak();
+    microphone.rate = 0;
+    runZoom();
+
+    time.advance(1);
+    Testing::drainEvents();
+
+    ASSERT_FALSE(engine->isListening());
+    EXPECT_FALSE(engine->isSpeaking());
+    EXPECT_EQ(engine->level(), 0.0f);
+}
+
+TEST_F(VoiceGateTest, shutsWhenTheMicrophoneFallsSilentInMidSentenceWithoutAWord)
+{
+    speak();
+
+    time.advance(1);
+    EXPECT_TRUE(engine->isSpeaking());
+    time.advance(1);
+
+    EXPECT_FALSE(engine->isSpeaking());
+    EXPECT_EQ(engine->level(), 0.0f);
+    EXPECT_EQ(log.lines().back(), "VAD speaking=0 rms=0.0000 thr=0.0063");
+}
+
+TEST_F(VoiceGateTest, staysOpenThroughAStallOfTheMainLoop)
+{
+    speak();
+    time.advance(1);
+    const std::vector<std::string> before = log.lines();
+
+    hearUnnoticed(loud);
+    time.advance(1);
+
+    EXPECT_TRUE(engine->isSpeaking());
+    EXPECT_EQ(log.lines(), before);
 }
 
 TEST_F(VoiceGateTest, aRestartWithinALoudRunSpeaksAtItsFirstBlock)

@@ -108,7 +108,8 @@ protected:
     ThreadedMicrophone threadedMicrophone;
     ThreadedVoiceProcessing threadedVoiceProcessing;
     VoiceActivityEngine threadedEngine { settings,
-        { time, permission, threadedVoiceProcessing, threadedMicrophone, micActivity, workspace } };
+        { time, permission, threadedVoiceProcessing, threadedMicrophone, micActivity, microphones,
+            workspace } };
 };
 
 TEST_F(VoiceThreadsTest, startsAndStopsUnderLoad)
@@ -140,8 +141,10 @@ TEST_F(VoiceThreadsTest, survivesAStalledMainLoop)
 {
     micActivity.otherProcessCaptures = true;
     threadedEngine.requestPermissionAndStart();
-    while (threadedMicrophone.blocksHeard < 5000)
-        time.advance(0.001);
+    // The clock waits for the blocks, or seconds would go by without any.
+    for (int heard = 0; heard < 5000; heard = threadedMicrophone.blocksHeard)
+        if (threadedMicrophone.blocksHeard != heard)
+            time.advance(0.001);
 
     workUntil([this] { return threadedEngine.isSpeaking(); });
 

@@ -2,6 +2,7 @@
 
 #include "Orvello/Diagnostics/LogFile.h"
 #include "Orvello/Diagnostics/LogFormat.h"
+#include "Orvello/Diagnostics/LossyOutput.h"
 #include "Orvello/Diagnostics/SessionMarker.h"
 #include "Orvello/Diagnostics/Timestamp.h"
 #include "Orvello/Foundation/PrivateFolder.h"
@@ -33,8 +34,11 @@ public:
     {
         std::string line(message);
         line += '\n';
-        [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, line.data(), line.size());
+        m_output.write(line);
     }
+
+private:
+    LossyOutput m_output { STDERR_FILENO };
 };
 
 struct Log {

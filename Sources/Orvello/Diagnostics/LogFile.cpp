@@ -19,11 +19,14 @@ std::optional<std::int64_t> sizeOfFile(const std::string& path)
     return status.st_size;
 }
 
-/// The old generation goes in any case, even when there is nothing to take its place.
+/// The old generation goes in any case, even when there is nothing to take its place. What is in
+/// the way and no file, such as somebody's folder, is put aside.
 void moveReplacing(const std::string& from, const std::string& to)
 {
-    static_cast<void>(::unlink(to.c_str()));
-    static_cast<void>(::rename(from.c_str(), to.c_str()));
+    if (::unlink(to.c_str()) != 0)
+        static_cast<void>(::rename(to.c_str(), (to + ".aside").c_str()));
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        static_cast<void>(::unlink(from.c_str())); // Rather lost than without a limit.
 }
 
 } // namespace

@@ -30,8 +30,9 @@ std::string_view conversionAtStartOf(std::string_view format)
 /// its place. (std::to_chars knows no locale, but macOS 13.0 has none for doubles.)
 void appendFixed(std::string& line, double number, std::size_t decimals)
 {
-    constexpr std::size_t mostDecimals = 9;
-    constexpr std::size_t longest = std::numeric_limits<double>::max_exponent10 + mostDecimals + 16;
+    constexpr std::size_t decimalsLimit = 9;
+    constexpr std::size_t longest
+        = std::numeric_limits<double>::max_exponent10 + decimalsLimit + 16;
     std::array<char, longest> buffer;
     const int length
         = std::snprintf(buffer.data(), buffer.size(), "%.*f", static_cast<int>(decimals), number);

@@ -70,4 +70,9 @@ float speechThreshold(double sensitivity) noexcept
     return std::pow(10.0f, (1.0f - static_cast<float>(sensitivity)) * 1.5f - 2.8f);
 }
 
+double sensitivityOf(float threshold) noexcept
+{
+    return 1.0 - (std::log10(static_cast<double>(threshold)) + 2.8) / 1.5;
+}
+
 } // namespace Orvello::Loudness

@@ -14,6 +14,9 @@ namespace Orvello::Loudness {
 /// thirty decibels from -26 dBFS, which takes the loudest speech, down to -56 dBFS.
 [[nodiscard]] float speechThreshold(double sensitivity) noexcept;
 
+/// The sensitivity at which speech must exceed this loudness: the other way round.
+[[nodiscard]] double sensitivityOf(float threshold) noexcept;
+
 /// What the level indicator shows for a loudness: 0 for silence, 1 from 0.04 of full scale on.
 [[nodiscard]] inline float levelTarget(float rootMeanSquare) noexcept
 {

@@ -5,6 +5,7 @@
 #include "Orvello/Platform/Sound/MicrophonePermission.h"
 #include "Orvello/Platform/Sound/RawMicrophone.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
+#include "Orvello/Voice/Loudness.h"
 #include "Orvello/Voice/MeetingApplications.h"
 #include "Orvello/Voice/MicActivity.h"
 
@@ -23,6 +24,9 @@ constexpr double watchdogSeconds = 1.0;
 constexpr int clearPollsBeforeAec = 5;
 constexpr int rawBlockFrames = 2048;
 
+/// How long a start waits for a microphone, in a session that is only just coming up.
+constexpr double startPatienceSeconds = 3.0;
+
 } // namespace
 
 VoiceActivityEngine::VoiceActivityEngine(
@@ -33,14 +37,34 @@ VoiceActivityEngine::VoiceActivityEngine(
     , m_voiceProcessing(ports.voiceProcessing, *this)
     , m_sensitivity(settings.voiceSensitivity())
     , m_reportsArrived([this] { applyPendingReports(); })
+    , m_sensitivityTest(*this, settings, ports.time)
 {
     static_assert(std::atomic<double>::is_always_lock_free);
     // Directly, not through the event loop: the very next block uses the new value.
     connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
         [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
+    connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
+        &VoiceActivityEngine::thresholdLevelChanged);
+    connect(&settings, &SettingsStore::microphoneChanged, this, [this] {
+        m_ports.microphones.choose(m_settings.microphone());
+        Q_EMIT choicesChanged();
+    });
+    ports.microphones.choose(settings.microphone());
+    m_sound = ports.microphones.state();
+    ports.microphones.setObserver([this] { onMicrophonesChanged(); });
+    for (const auto signal :
+        { &VoiceActivityEngine::micAuthorizedChanged, &VoiceActivityEngine::isListeningChanged,
+            &VoiceActivityEngine::aecActiveChanged, &VoiceActivityEngine::aecHoldReasonChanged })
+        connect(this, signal, this, &VoiceActivityEngine::statusChanged);
+    connect(
+        &settings, &SettingsStore::voiceFollowChanged, this, &VoiceActivityEngine::statusChanged);
 }
 
-VoiceActivityEngine::~VoiceActivityEngine() { stopCurrentCapture(); }
+VoiceActivityEngine::~VoiceActivityEngine()
+{
+    m_ports.microphones.setObserver({});
+    stopCurrentCapture();
+}
 
 QVariant VoiceActivityEngine::micAuthorizedOrNull() const
 {
@@ -98,8 +122,167 @@ void VoiceActivityEngine::requestPermission()
 
 void VoiceActivityEngine::start()
 {
-    if (m_isListening)
+    if (m_isListening || m_patience)
         return;
+    // Who else has the microphone is known once the sound system answers, and not before.
+    m_sound = m_ports.microphones.state();
+    if (m_sound.isReady)
+        choosePath();
+    else
+        m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+}
+
+void VoiceActivityEngine::onMicrophonesChanged()
+{
+    const Microphones::State before = std::exchange(m_sound, m_ports.microphones.state());
+    if (before != m_sound)
+        Q_EMIT statusChanged();
+    if (before.choices != m_sound.choices)
+        Q_EMIT choicesChanged();
+    if (m_patience && m_sound.isReady)
+        choosePath();
+}
+
+VoiceActivityEngine::Trouble VoiceActivityEngine::trouble() const
+{
+    if (m_micAuthorized == false)
+        return Trouble::PermissionDenied;
+    switch (m_sound.trouble) {
+    case Microphones::Trouble::None:
+        return Trouble::None;
+    case Microphones::Trouble::NoAnswer:
+        return Trouble::NoAnswer;
+    case Microphones::Trouble::Refused:
+        return Trouble::PermissionDenied;
+    case Microphones::Trouble::NoMicrophone:
+        return Trouble::NoMicrophone;
+    case Microphones::Trouble::Muted:
+        return Trouble::Muted;
+    case Microphones::Trouble::Withheld:
+        return Trouble::Withheld;
+    }
+    return Trouble::None;
+}
+
+VoiceActivityEngine::EchoCancellation VoiceActivityEngine::echoCancellation() const
+{
+    if (!m_isListening)
+        return EchoCancellation::Off;
+    if (m_aecActive)
+        return EchoCancellation::On;
+    if (!m_aecHoldReason)
+        return EchoCancellation::Unavailable;
+    return m_aecHoldReason->meetingApp.isEmpty() ? EchoCancellation::HeldForOtherProgram
+                                                 : EchoCancellation::HeldForMeeting;
+}
+
+QString VoiceActivityEngine::troubleForPeople() const
+{
+    switch (trouble()) {
+    case Trouble::None:
+        break;
+    case Trouble::PermissionDenied:
+        return tr("The microphone may not be used.");
+    case Trouble::NoAnswer:
+        return tr("The sound system does not answer.");
+    case Trouble::NoMicrophone:
+        return m_isListening || m_patience
+            ? tr("No microphone is connected.")
+            : tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+    case Trouble::Muted:
+        //: %1: the name of a microphone.
+        return tr("The microphone “%1” is muted.").arg(m_sound.heard);
+    case Trouble::Withheld:
+        //: %1: the name of a microphone.
+        return tr("Nothing comes from the microphone “%1”. Another program may keep it to "
+                  "itself.")
+            .arg(m_sound.heard);
+    }
+    return {};
+}
+
+QString VoiceActivityEngine::echoCancellationForPeople() const
+{
+    switch (echoCancellation()) {
+    case EchoCancellation::Off:
+        break;
+    case EchoCancellation::On:
+        return tr("Echo cancellation is on.");
+    case EchoCancellation::HeldForOtherProgram:
+    case EchoCancellation::HeldForMeeting:
+        //: %1: why, such as "Zoom is open".
+        return tr("Echo cancellation is paused: %1.").arg(aecHoldReasonForPeople());
+    case EchoCancellation::Unavailable:
+        return tr("Echo cancellation is not available.");
+    }
+    return {};
+}
+
+QString VoiceActivityEngine::hearing() const
+{
+    if (!m_settings.voiceFollow() && !m_isListening)
+        return {};
+    const QString trouble = troubleForPeople();
+    if (!trouble.isEmpty() || !m_isListening || m_sound.heard.isEmpty())
+        return trouble;
+    //: %1: the name of a microphone.
+    return tr("Listening to “%1”.").arg(m_sound.heard);
+}
+
+QString VoiceActivityEngine::status() const
+{
+    QStringList lines { hearing() };
+    if (trouble() == Trouble::None)
+        lines.append(echoCancellationForPeople());
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+QStringList VoiceActivityEngine::microphoneChoices() const
+{
+    if (m_sound.choices.isEmpty() && m_settings.microphone().isEmpty())
+        return {};
+    //: The microphone that the desktop's settings choose.
+    QStringList names { tr("System default") };
+    for (const Microphones::Microphone& microphone : m_sound.choices)
+        names.append(microphone.name);
+    const bool isGone = microphoneIndex() == names.size();
+    if (isGone)
+        //: %1: the name of a microphone.
+        names.append(tr("%1 (not connected)").arg(m_settings.microphoneName()));
+    return names;
+}
+
+int VoiceActivityEngine::microphoneIndex() const
+{
+    if (m_settings.microphone().isEmpty())
+        return 0;
+    int index = 1;
+    for (const Microphones::Microphone& microphone : m_sound.choices) {
+        if (microphone.identifier == m_settings.microphone())
+            break;
+        ++index;
+    }
+    return index; // One past the others while it is not connected.
+}
+
+void VoiceActivityEngine::chooseMicrophone(int index)
+{
+    if (index == 0)
+        m_settings.setMicrophone({}, {});
+    else if (index > 0 && index <= m_sound.choices.size())
+        m_settings.setMicrophone(
+            m_sound.choices[index - 1].identifier, m_sound.choices[index - 1].name);
+}
+
+float VoiceActivityEngine::thresholdLevel() const
+{
+    return Loudness::levelTarget(Loudness::speechThreshold(m_settings.voiceSensitivity()));
+}
+
+void VoiceActivityEngine::choosePath()
+{
+    m_patience.reset();
     if (const std::optional<HoldReason> reason = holdReason()) {
         AppLog::write("Orvello VAD: AEC held (%@) — raw mic tap", reason->logText());
         startFallback(RawPathCause::EnvironmentHoldsAec, reason);
@@ -117,6 +300,7 @@ void VoiceActivityEngine::start()
 
 void VoiceActivityEngine::stop()
 {
+    m_patience.reset();
     m_watchdog.reset();
     if (!m_isListening)
         return;
@@ -124,6 +308,12 @@ void VoiceActivityEngine::stop()
     publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
     publish(m_aecActive, false, &VoiceActivityEngine::aecActiveChanged);
     publish(m_aecHoldReason, {}, &VoiceActivityEngine::aecHoldReasonChanged);
+    fallSilent();
+}
+
+/// Once nothing is captured.
+void VoiceActivityEngine::fallSilent()
+{
     m_detector.stopSpeaking();
     // What the audio thread reported before it ended takes effect before the reset, and what a new
     // start reports takes effect after it.
@@ -186,6 +376,8 @@ void VoiceActivityEngine::watchdogTick()
 {
     if (!m_isListening)
         return;
+    noticeSilence();
+    onMicrophonesChanged(); // Where the system does not say when, it is seen here.
     const std::optional<HoldReason> reason = holdReason();
     if (m_aecActive && reason) {
         AppLog::write(
@@ -196,6 +388,17 @@ void VoiceActivityEngine::watchdogTick()
     } else if (m_usingFallback && m_fallbackIsEnvironmental) {
         reconsiderHold(reason);
     }
+}
+
+/// Nobody speaks into a microphone from which nothing comes, whatever it was that it said last.
+void VoiceActivityEngine::noticeSilence()
+{
+    applyPendingReports(); // After a stall of the main loop they are only late.
+    if (std::exchange(m_hasHeard, false) || !m_isSpeaking)
+        return;
+    apply({ .levelDecay = 0,
+        .isSpeaking = false,
+        .threshold = Loudness::speechThreshold(m_settings.voiceSensitivity()) });
 }
 
 void VoiceActivityEngine::reconsiderHold(const std::optional<HoldReason>& reason)
@@ -236,6 +439,7 @@ void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<
     if (!(microphone.sampleRate() > 0)) {
         AppLog::write("Orvello VAD: no usable input device");
         publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
+        fallSilent();
         return;
     }
     microphone.removeTap();
@@ -244,6 +448,7 @@ void VoiceActivityEngine::startFallback(RawPathCause cause, const std::optional<
         microphone.removeTap();
         publish(m_isListening, false, &VoiceActivityEngine::isListeningChanged);
         AppLog::write("Orvello VAD failed to start: %@", started.error());
+        fallSilent();
         return;
     }
     m_usingFallback = true;
@@ -270,13 +475,16 @@ void VoiceActivityEngine::process(std::span<const float> samples) noexcept
 
 void VoiceActivityEngine::applyPendingReports()
 {
-    while (const std::optional<BlockReport> report = m_reports.pop())
+    while (const std::optional<BlockReport> report = m_reports.pop()) {
+        m_hasHeard = true;
         apply(*report);
+    }
 }
 
 void VoiceActivityEngine::apply(const BlockReport& report)
 {
     publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
+    m_sensitivityTest.hear(report.rootMeanSquare);
     if (m_isSpeaking == report.isSpeaking)
         return;
     publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);

@@ -2,13 +2,16 @@
 
 #include "Orvello/Foundation/WakeUp.h"
 #include "Orvello/Platform/Early/TimeSource.h"
+#include "Orvello/Platform/Sound/Microphones.h"
 #include "Orvello/Platform/Sound/SampleListener.h"
 #include "Orvello/Voice/ReportQueue.h"
+#include "Orvello/Voice/SensitivityTest.h"
 #include "Orvello/Voice/VoiceActivityDetector.h"
 #include "Orvello/Voice/VoiceProcessingCapture.h"
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <atomic>
@@ -40,7 +43,35 @@ class VoiceActivityEngine final : public QObject, private SampleListener {
     // In the user's language; empty while echo cancellation is not held.
     Q_PROPERTY(QString aecHoldReason READ aecHoldReasonForPeople NOTIFY aecHoldReasonChanged FINAL)
 
+    // What is heard, or why nothing is.
+    Q_PROPERTY(Trouble trouble READ trouble NOTIFY statusChanged FINAL)
+    Q_PROPERTY(EchoCancellation echoCancellation READ echoCancellation NOTIFY statusChanged FINAL)
+    Q_PROPERTY(QString microphoneName READ microphoneName NOTIFY statusChanged FINAL)
+    // Which microphone is heard, or why none is, in the user's language, as a whole sentence; and
+    // the same with a line about echo cancellation. Empty while nothing is wanted.
+    Q_PROPERTY(QString hearing READ hearing NOTIFY statusChanged FINAL)
+    Q_PROPERTY(QString status READ status NOTIFY statusChanged FINAL)
+    // The choices of a microphone; the first is the system's own. Empty where there is no choice.
+    Q_PROPERTY(QStringList microphoneChoices READ microphoneChoices NOTIFY choicesChanged FINAL)
+    Q_PROPERTY(int microphoneIndex READ microphoneIndex NOTIFY choicesChanged FINAL)
+    // Where the threshold stands among the levels.
+    Q_PROPERTY(float thresholdLevel READ thresholdLevel NOTIFY thresholdLevelChanged FINAL)
+    Q_PROPERTY(Orvello::SensitivityTest* sensitivityTest READ sensitivityTest CONSTANT FINAL)
+
 public:
+    /// Why nothing can be heard although it is wanted.
+    enum class Trouble { None, PermissionDenied, NoAnswer, NoMicrophone, Muted, Withheld };
+    Q_ENUM(Trouble)
+
+    enum class EchoCancellation {
+        Off, ///< Nothing is captured.
+        On,
+        HeldForOtherProgram,
+        HeldForMeeting,
+        Unavailable, ///< The system could not begin it.
+    };
+    Q_ENUM(EchoCancellation)
+
     /// What the engine needs of the system. All must outlive it.
     struct Ports {
         TimeSource& time; ///< Its now() is also asked on the audio thread.
@@ -48,6 +79,7 @@ public:
         VoiceProcessing& voiceProcessing;
         RawMicrophone& rawMicrophone;
         MicActivity& micActivity;
+        Microphones& microphones;
         const Workspace& workspace;
     };
 
@@ -63,6 +95,17 @@ public:
     /// Why echo cancellation is held, as the log says it; none when it is not.
     std::optional<QString> aecHoldReason() const;
 
+    Trouble trouble() const;
+    EchoCancellation echoCancellation() const;
+    const QString& microphoneName() const { return m_sound.heard; }
+    QString hearing() const;
+    QString status() const;
+    QStringList microphoneChoices() const;
+    int microphoneIndex() const;
+    Q_INVOKABLE void chooseMicrophone(int index); ///< Of the choices; ignores any other.
+    float thresholdLevel() const;
+    SensitivityTest* sensitivityTest() { return &m_sensitivityTest; }
+
     void requestPermissionAndStart();
     void stop();
 
@@ -73,6 +116,9 @@ Q_SIGNALS:
     void isListeningChanged();
     void aecActiveChanged();
     void aecHoldReasonChanged();
+    void statusChanged();
+    void choicesChanged();
+    void thresholdLevelChanged();
 
 private:
     QVariant micAuthorizedOrNull() const;
@@ -92,6 +138,10 @@ private:
 
     void requestPermission();
     void start();
+    void choosePath();
+    void onMicrophonesChanged();
+    QString troubleForPeople() const;
+    QString echoCancellationForPeople() const;
     void startWatchdog();
     void watchdogTick();
     void reconsiderHold(const std::optional<HoldReason>& reason);
@@ -101,6 +151,8 @@ private:
     enum class RawPathCause { EnvironmentHoldsAec, VoiceProcessingFailed };
     void startFallback(RawPathCause cause, const std::optional<HoldReason>& reason);
     void stopCurrentCapture();
+    void fallSilent();
+    void noticeSilence();
 
     void onSamples(std::span<const float> samples) noexcept override;
     void process(std::span<const float> samples) noexcept; ///< The audio thread.
@@ -118,16 +170,22 @@ private:
     bool m_aecActive = false;
     std::optional<HoldReason> m_aecHoldReason;
 
+    Microphones::State m_sound; ///< As last seen.
+
     VoiceProcessingCapture m_voiceProcessing;
     bool m_usingFallback = false;
     bool m_fallbackIsEnvironmental = false;
     int m_clearPolls = 0;
+    std::unique_ptr<TimeSource::Ticket>
+        m_patience; ///< While it waits for a microphone to start on.
     std::unique_ptr<TimeSource::Ticket> m_watchdog;
+    bool m_hasHeard = false; ///< A block came since the watchdog last looked.
 
     VoiceActivityDetector m_detector; ///< The audio thread's, while one runs.
     std::atomic<double> m_sensitivity; ///< Mirrors the setting for the audio thread.
     ReportQueue m_reports;
     WakeUp m_reportsArrived;
+    SensitivityTest m_sensitivityTest;
 };
 
 } // namespace Orvello

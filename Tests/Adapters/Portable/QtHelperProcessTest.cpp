@@ -27,9 +27,10 @@ protected:
         helper = std::make_unique<QtHelperProcess>(u"/bin/sh"_s, QStringList { u"-c"_s, script });
     }
 
-    void ask(const QString& question)
+    void ask(const QString& question, double seconds = 60.0)
     {
-        helper->ask(question, [this](const ScriptResult& result) { results.push_back(result); });
+        helper->ask(
+            question, seconds, [this](const ScriptResult& result) { results.push_back(result); });
     }
 
     void waitForResults(std::size_t count)
@@ -48,7 +49,7 @@ protected:
 
     /// Answers each question with itself and the helper's process id.
     const QString echo
-        = u"while read -r q; do echo \"{\\\"status\\\":0,\\\"output\\\":\\\"$q $$\\\"}\"; done"_s;
+        = u"while read -r n q; do echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0,\\\"output\\\":\\\"$q $$\\\"}\"; done"_s;
     std::unique_ptr<QtHelperProcess> helper;
     std::vector<ScriptResult> results;
 };
@@ -72,7 +73,7 @@ TEST_F(QtHelperProcessTest, answersEveryQuestionInOrderFromOneProcess)
 TEST_F(QtHelperProcessTest, passesOnStatusAndError)
 {
     makeHelper(
-        u"read -r q; echo '{\"status\":1,\"output\":\"\",\"error\":\"NO_DOCUMENT ü\"}'; read -r q"_s);
+        u"read -r q; echo '{\"id\":\"1\",\"status\":1,\"output\":\"\",\"error\":\"NO_DOCUMENT ü\"}'; read -r q"_s);
     ask(u"deck"_s);
     waitForResults(1);
 
@@ -81,21 +82,73 @@ TEST_F(QtHelperProcessTest, passesOnStatusAndError)
     EXPECT_EQ(results[0].standardError, u"NO_DOCUMENT ü"_s);
 }
 
-TEST_F(QtHelperProcessTest, failsAnAnswerThatItCannotRead)
+TEST_F(QtHelperProcessTest, leavesLinesAsideThatAnswerNoOpenQuestion)
 {
-    makeHelper(u"read -r q; echo nonsense; read -r q; echo '[1]'; read -r q"_s);
+    makeHelper(u"read -r q; echo nonsense; echo '[1]'; echo '{\"status\":0,\"output\":\"stray\"}'; "
+               "echo '{\"id\":\"2\",\"status\":0,\"output\":\"early\"}'; "
+               "echo '{\"id\":\"1\",\"status\":0,\"output\":\"first\"}'; "
+               "echo '{\"id\":\"1\",\"status\":0,\"output\":\"again\"}'; "
+               "read -r q; echo '{\"id\":\"2\",\"status\":0,\"output\":\"second\"}'; read -r q"_s);
     ask(u"slide"_s);
+    waitForResults(1);
     ask(u"slide"_s);
     waitForResults(2);
 
-    EXPECT_EQ(results[0].status, -1);
-    EXPECT_EQ(results[1].status, -1);
+    EXPECT_THAT(outputs(), ElementsAre("first", "second"));
+}
+
+TEST_F(QtHelperProcessTest, asksAProgramAnewThatDoesNotAnswerInTime)
+{
+    makeHelper(
+        u"read -r n q; case $q in hang) exec sleep 1000;; esac; echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0,\\\"output\\\":\\\"$q\\\"}\"; read -r q"_s);
+    ask(u"hang"_s, 0.2);
+    ask(u"behind it"_s);
+    waitForResults(2);
+    EXPECT_EQ(results[0].status, ScriptResult::timedOut);
+    EXPECT_EQ(results[1].status, ScriptResult::timedOut);
+
+    ask(u"again"_s);
+    waitForResults(3);
+    EXPECT_EQ(results[2].standardOutput, u"again"_s);
+}
+
+TEST_F(QtHelperProcessTest, countsTheTimeFromTheAnswerBefore)
+{
+    makeHelper(
+        u"while read -r n q; do sleep 0.6; echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0}\"; done"_s);
+    ask(u"one"_s, 1.0);
+    ask(u"two"_s, 1.0);
+    waitForResults(2);
+
+    EXPECT_EQ(results[0].status, 0);
+    EXPECT_EQ(results[1].status, 0);
+}
+
+TEST_F(QtHelperProcessTest, letsTheProgramEndByItself)
+{
+    QTemporaryDir folder;
+    const QString note = folder.filePath(u"note"_s);
+    makeHelper(
+        u"while read -r n q; do echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0}\"; done; sleep 0.3; touch "_s
+        + note);
+    ask(u"one"_s);
+    waitForResults(1);
+
+    helper->end();
+    helper->end();
+    while (!QFile::exists(note))
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+
+    ask(u"two"_s);
+    waitForResults(2);
+    EXPECT_EQ(results[1].status, 0);
+    helper.reset(); // It touches the file as well.
 }
 
 TEST_F(QtHelperProcessTest, failsWhatAHelperThatEndsLeavesOpenAndStartsItAgain)
 {
     makeHelper(
-        u"read -r q; echo \"{\\\"status\\\":0,\\\"output\\\":\\\"$q\\\"}\"; read -r q; kill -KILL $$"_s);
+        u"read -r n q; echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0,\\\"output\\\":\\\"$q\\\"}\"; read -r q; kill -KILL $$"_s);
     ask(u"one"_s);
     ask(u"two"_s);
     ask(u"three"_s);
@@ -127,7 +180,7 @@ TEST_F(QtHelperProcessTest, failsWithoutAProgram)
 TEST_F(QtHelperProcessTest, readsALongAnswer)
 {
     makeHelper(
-        u"read -r q; printf '{\"status\":0,\"output\":\"'; head -c 5000000 /dev/zero | tr '\\0' x; echo '\"}'; read -r q"_s);
+        u"read -r q; printf '{\"id\":\"1\",\"status\":0,\"output\":\"'; head -c 5000000 /dev/zero | tr '\\0' x; echo '\"}'; read -r q"_s);
     ask(u"deck"_s);
     waitForResults(1);
 
@@ -137,7 +190,7 @@ TEST_F(QtHelperProcessTest, readsALongAnswer)
 TEST_F(QtHelperProcessTest, endsItsProgramAlsoWhenThatHangs)
 {
     makeHelper(
-        u"trap '' TERM; read -r q; echo \"{\\\"status\\\":0,\\\"output\\\":\\\"$$\\\"}\"; exec sleep 1000"_s);
+        u"trap '' TERM; read -r n q; echo \"{\\\"id\\\":\\\"$n\\\",\\\"status\\\":0,\\\"output\\\":\\\"$$\\\"}\"; exec sleep 1000"_s);
     ask(u"one"_s);
     waitForResults(1);
     const pid_t child = results[0].standardOutput.toInt();

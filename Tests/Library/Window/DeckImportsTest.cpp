@@ -3,6 +3,8 @@
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 
@@ -13,6 +15,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Testing::DeckBuilder;
+namespace Pptx = Testing::Pptx;
 
 class DeckImportsTest : public ::testing::Test {
 protected:
@@ -41,6 +44,22 @@ protected:
     {
         services.openPanel.choice = path;
         imports.run(0);
+        finishReading();
+    }
+
+    /// Files are read by another thread.
+    void finishReading()
+    {
+        for (const QElapsedTimer timer = startedTimer(); imports.isReadingFiles();) {
+            ASSERT_LT(timer.elapsed(), 60'000);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+    }
+    static QElapsedTimer startedTimer()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
     }
 
     QStringList titles() const
@@ -82,13 +101,47 @@ TEST_F(DeckImportsTest, offersImpressOnlyWhereItIsFollowed)
             u"Open Keynote presentation"_s }));
 }
 
-TEST_F(DeckImportsTest, namesNoProgramThatTheMachineCannotHave)
+TEST_F(DeckImportsTest, offersOnlyWhatThisSystemCanHave)
 {
-    const DeckImports onLinux({ services.library, services.openDecks, services.presenters,
-        services.openPanel, Testing::factsOfALinuxDesktop() });
+    PresenterTable presenters;
+    PresenterApp keynote = AppleScriptPresenters::keynote(services.scriptRunner);
+    keynote.isForThisSystem = false;
+    presenters.add(keynote);
+    presenters.add(services.impress.row());
+    const DeckImports one({ services.library, services.openDecks, presenters, services.openPanel });
 
-    EXPECT_EQ(onLinux.titles(),
-        QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open Impress presentation"_s }));
+    EXPECT_EQ(one.titles(),
+        QStringList({ u"Presentation file (.pptx, .odp)…"_s, u"Open Impress presentation"_s }));
+}
+
+TEST_F(DeckImportsTest, showsWhatIsBeingReadAndReadsOneAtATime)
+{
+    const QSignalSpy changes(&imports, &DeckImports::readingTextChanged);
+    EXPECT_EQ(imports.readingText(), QString());
+    imports.run(3);
+    EXPECT_EQ(imports.readingText(), u"Reading what is open in Impress…"_s);
+    imports.run(3);
+    imports.run(2);
+    EXPECT_EQ(services.impress.questions.size(), 1u);
+    EXPECT_TRUE(services.process.runs.empty());
+
+    services.impress.answer(u"Deck\x1eTitle\x1fNotes"_s);
+    EXPECT_EQ(imports.readingText(), QString());
+    EXPECT_EQ(titles(), QStringList({ u"Deck"_s, u"Old"_s }));
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(DeckImportsTest, dropsACancelledReading)
+{
+    imports.run(3);
+    imports.cancelReading();
+    EXPECT_EQ(imports.readingText(), QString());
+    imports.run(3);
+
+    services.impress.questions[0]({ 0, u"Late\x1eTitle\x1fNotes"_s, {} });
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
+    services.impress.questions[1]({ 0, u"Deck\x1eTitle\x1fNotes"_s, {} });
+    EXPECT_EQ(titles(), QStringList({ u"Deck"_s, u"Old"_s }));
 }
 
 TEST_F(DeckImportsTest, asksForOnePptxFile)
@@ -98,9 +151,49 @@ TEST_F(DeckImportsTest, asksForOnePptxFile)
     EXPECT_EQ(services.openPanel.timesShown, 1);
     EXPECT_EQ(services.openPanel.shownMessage,
         u"Choose a PowerPoint presentation — Orvello imports its speaker notes."_s);
-    EXPECT_EQ(services.openPanel.shownKind.extension, u"pptx"_s);
-    EXPECT_EQ(services.openPanel.shownKind.typeIdentifier,
+    ASSERT_EQ(services.openPanel.shownKinds.size(), 1);
+    EXPECT_EQ(services.openPanel.shownKinds[0].extension, u"pptx"_s);
+    EXPECT_EQ(services.openPanel.shownKinds[0].typeIdentifier,
         u"org.openxmlformats.presentationml.presentation"_s);
+}
+
+TEST_F(DeckImportsTest, asksForEitherFormatWhereImpressIsThePresenter)
+{
+    services.facts = Testing::factsOfALinuxDesktop();
+    DeckImports linux({ services.library, services.openDecks, services.presenters,
+        services.openPanel, services.facts });
+    linux.run(0);
+
+    EXPECT_EQ(linux.titles().first(), u"Presentation file (.pptx, .odp)…"_s);
+    ASSERT_EQ(services.openPanel.shownKinds.size(), 2);
+    EXPECT_EQ(services.openPanel.shownKinds[1].extension, u"odp"_s);
+}
+
+TEST_F(DeckImportsTest, readsFilesWhileTheProgramGoesOn)
+{
+    services.openPanel.choice = deckFile(u"Review.pptx"_s);
+    imports.run(0);
+    EXPECT_TRUE(imports.isReadingFiles());
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
+
+    finishReading();
+    EXPECT_EQ(titles(), QStringList({ u"Review"_s, u"Old"_s }));
+}
+
+TEST_F(DeckImportsTest, saysWhichNotesWereLeftOut)
+{
+    const QByteArray text(static_cast<qsizetype>(PptxImporter::Limits::partText) + 1, 'x');
+    choose(file(u"Large.pptx"_s,
+        DeckBuilder()
+            .slide("A", "a")
+            .slide("B", "b")
+            .part("ppt/notesSlides/notesSlide2.xml",
+                Pptx::notes(Pptx::shape("body", Pptx::paragraph(text))))
+            .build()));
+
+    expectAlert(u"Not all notes were imported"_s,
+        u"The file holds more than Orvello reads: the notes of slides 2 could not be read."_s);
+    EXPECT_EQ(titles(), QStringList({ u"Large"_s, u"Old"_s }));
 }
 
 TEST_F(DeckImportsTest, doesNothingWhenNoFileIsChosen)
@@ -255,6 +348,7 @@ TEST_F(DeckImportsTest, importsEveryDroppedDeckInOrder)
     EXPECT_TRUE(imports.canTake(files));
 
     imports.importFiles(files);
+    finishReading();
 
     EXPECT_EQ(titles(), QStringList({ u"Second"_s, u"First"_s, u"Old"_s }));
     EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
@@ -272,7 +366,7 @@ TEST_F(DeckImportsTest, saysWhichFilesAreNoDecks)
 
     EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
     EXPECT_EQ(imports.alertText(),
-        u"Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read a.txt, pptx."_s);
+        u"Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read a.txt, pptx."_s);
     EXPECT_EQ(titles(), QStringList { u"Old"_s });
 }
 
@@ -282,6 +376,7 @@ TEST_F(DeckImportsTest, showsTheAlertsOfSeveralFilesOneAfterTheOther)
 
     imports.importFiles(
         { QUrl::fromLocalFile(brokenFile()), QUrl::fromLocalFile(silentDeckFile()) });
+    finishReading();
 
     EXPECT_EQ(imports.alertTitle(), u"Import failed"_s);
     imports.dismissAlert();

@@ -108,6 +108,22 @@
 
 @end
 
+@interface RecordedButton : NSButton {
+    int clicks;
+}
+@property (readonly) int clicks;
+@end
+
+@implementation RecordedButton
+@synthesize clicks;
+
+- (void)performClick:(id)sender
+{
+    ++clicks;
+}
+
+@end
+
 @interface RecordedStatusItem : NSObject {
     CGFloat length;
     NSButton* button;
@@ -139,7 +155,7 @@
         items = [[NSMutableArray alloc] init];
     RecordedStatusItem* const item = [[[RecordedStatusItem alloc] init] autorelease];
     item.length = length;
-    item.button = [[[NSButton alloc] init] autorelease];
+    item.button = [[[RecordedButton alloc] init] autorelease];
     [items addObject:item];
     return item;
 }
@@ -402,7 +418,7 @@ protected:
 
     NSMenu* native() { return cocoaMenu.nativeMenu; }
 
-    /// As AppKit does right before it opens the menu.
+    /// Does what AppKit does right before it opens the menu.
     void open() { [native().delegate menuNeedsUpdate:native()]; }
 
     ChangingMenu menu;
@@ -487,6 +503,21 @@ TEST_F(MenusTest, putsASquareTemplateIntoTheBar)
     EXPECT_EQ([fine pixelsWide], 36);
     EXPECT_TRUE(NSEqualSizes([fine size], NSMakeSize(18, 18)));
     EXPECT_THAT(linesOf(shown.menu).size(), 5);
+}
+
+TEST_F(MenusTest, opensTheMenuByAClickOnTheItemWhenTheCallerIsDone)
+{
+    ChangingMenu menu;
+    CocoaMenuBar bar;
+    const auto item = bar.makeStatusItem(menu, QIcon(QPixmap(18, 18)), u"Orvello"_s);
+    RecordedStatusItem* const shown = [recordedStatusBar().items objectAtIndex:0];
+    auto* const button = static_cast<RecordedButton*>(shown.button);
+
+    item->openMenu();
+
+    EXPECT_EQ(button.clicks, 0) << "the menu would keep the caller";
+    [[NSRunLoop currentRunLoop] runUntilDate:[NSDate dateWithTimeIntervalSinceNow:0.05]];
+    EXPECT_EQ(button.clicks, 1);
 }
 
 TEST_F(MenusTest, takesTheItemAway)

@@ -1,7 +1,8 @@
-// rejects: incompatible block pointer types
-#include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
+// rejects: cannot initialize a parameter of type 'void (^
+#import <AVFoundation/AVFoundation.h>
 
-void listen(PrompterPanel* panel)
+void ask()
 {
-    panel.onScroll = ^(NSEvent*) {};
+    [AVCaptureDevice requestAccessForMediaType:AVMediaTypeAudio
+                             completionHandler:^(NSString*) {}];
 }

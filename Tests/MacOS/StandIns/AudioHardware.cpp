@@ -48,6 +48,8 @@ OSStatus AudioHardware::propertyData(
     calls.push_back("read " + described(object, address) + ' ' + std::to_string(bytes));
     if (address.mSelector == kAudioHardwarePropertyProcessObjectList)
         return listStatus == noErr ? readList(bytes, data) : listStatus;
+    if (address.mSelector == kAudioHardwarePropertyDefaultInputDevice)
+        return readValue(&defaultInput, sizeof defaultInput, bytes, data);
     const auto process = std::find_if(processes.begin(), processes.end(),
         [object](const Process& candidate) { return candidate.object == object; });
     if (process == processes.end())
@@ -70,6 +72,25 @@ OSStatus AudioHardware::readList(UInt32& bytes, void* data) const
     return noErr;
 }
 
+void AudioHardware::addListener(AudioObjectPropertyListenerProc listener, void* client)
+{
+    m_listeners.push_back({ listener, client });
+}
+
+void AudioHardware::removeListener(AudioObjectPropertyListenerProc listener, void* client)
+{
+    std::erase(m_listeners, Listener { listener, client });
+}
+
+void AudioHardware::changeDefaultInput(AudioObjectID device)
+{
+    constexpr AudioObjectPropertyAddress address { kAudioHardwarePropertyDefaultInputDevice,
+        kAudioObjectPropertyScopeGlobal, kAudioObjectPropertyElementMain };
+    defaultInput = device;
+    for (const Listener& listener : m_listeners)
+        listener.function(kAudioObjectSystemObject, 1, &address, listener.client);
+}
+
 } // namespace Orvello::Testing
 
 using Orvello::Testing::AudioHardware;
@@ -84,4 +105,18 @@ OSStatus AudioObjectGetPropertyData(AudioObjectID object, const AudioObjectPrope
     UInt32, const void*, UInt32* bytes, void* data)
 {
     return AudioHardware::current()->propertyData(object, *address, *bytes, data);
+}
+
+OSStatus AudioObjectAddPropertyListener(AudioObjectID, const AudioObjectPropertyAddress*,
+    AudioObjectPropertyListenerProc listener, void* client)
+{
+    AudioHardware::current()->addListener(listener, client);
+    return noErr;
+}
+
+OSStatus AudioObjectRemovePropertyListener(AudioObjectID, const AudioObjectPropertyAddress*,
+    AudioObjectPropertyListenerProc listener, void* client)
+{
+    AudioHardware::current()->removeListener(listener, client);
+    return noErr;
 }

@@ -32,13 +32,26 @@ public:
     OSStatus propertyData(
         AudioObjectID object, const AudioObjectPropertyAddress& address, UInt32& bytes, void* data);
 
+    void addListener(AudioObjectPropertyListenerProc listener, void* client);
+    void removeListener(AudioObjectPropertyListenerProc listener, void* client);
+    std::size_t listenerCount() const { return m_listeners.size(); }
+    void changeDefaultInput(AudioObjectID device);
+
     std::vector<Process> processes;
+    AudioObjectID defaultInput = 77;
     OSStatus sizeStatus = noErr;
     OSStatus listStatus = noErr;
     std::size_t processesGoneInBetween = 0; ///< How many end between the two reads of the list.
     CallRecord calls;
 
 private:
+    struct Listener {
+        AudioObjectPropertyListenerProc function;
+        void* client;
+        friend bool operator==(const Listener&, const Listener&) = default;
+    };
+
+    std::vector<Listener> m_listeners;
     OSStatus readList(UInt32& bytes, void* data) const;
 };
 

@@ -30,7 +30,7 @@ public:
     bool refusesKeys = false;
     CallRecord calls;
 
-    // As they were given last.
+    // What the adapter gave last.
     EventHandlerUPP handler = nullptr;
     void* userData = nullptr;
     int keys = 0; ///< How many keys have been registered; their numbers are the references.

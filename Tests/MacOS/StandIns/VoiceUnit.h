@@ -32,11 +32,12 @@ public:
 
     bool isPresent = true;
     bool givesNoInstance = false;
-    std::map<std::string, OSStatus> failures; ///< By the beginning of the call's record.
+    /// What a call returns when it fails, by the beginning of the call's record.
+    std::map<std::string, OSStatus> failures;
     std::vector<float> microphone; ///< What rendering delivers.
     CallRecord calls;
 
-    // As they were set last.
+    // What the adapter set last.
     AURenderCallbackStruct inputCallback {};
     AURenderCallbackStruct renderCallback {};
 };

@@ -75,6 +75,24 @@ TEST_F(PresentationMonitorTest, reportsTheSlideshowInFront)
     EXPECT_THAT(log.lines(), ElementsAre("PRESENTING=1 app=Microsoft PowerPoint"));
 }
 
+TEST_F(PresentationMonitorTest, seesAnAudienceUntilTheSlideshowsWindowsAreGone)
+{
+    const QSignalSpy changes(&monitor, &PresentationMonitor::isSlideshowOnScreenChanged);
+    stage.presentKeynote();
+    monitor.start();
+    EXPECT_TRUE(monitor.isSlideshowOnScreen());
+
+    stage.workspace.frontmost = Testing::FakeWorkspace::application(u"com.apple.Safari"_s);
+    stage.time.advance(2.0);
+    EXPECT_FALSE(monitor.isPresenting());
+    EXPECT_TRUE(monitor.isSlideshowOnScreen());
+
+    stage.endSlideshow();
+    stage.time.advance(1.0);
+    EXPECT_FALSE(monitor.isSlideshowOnScreen());
+    EXPECT_EQ(changes.count(), 2);
+}
+
 TEST_F(PresentationMonitorTest, ignoresASlideshowBehindAnotherApplication)
 {
     stage.presentKeynote();

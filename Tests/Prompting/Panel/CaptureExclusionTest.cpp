@@ -18,7 +18,7 @@ std::vector<Value> only(const Value& value, bool isThere)
     return isThere ? std::vector { value } : std::vector<Value> {};
 }
 
-/// With every combination of calls present and missing.
+/// Runs with every combination of calls present and missing.
 class CaptureExclusionTest : public ::testing::TestWithParam<Calls> {
 protected:
     void SetUp() override { state() = {}; }

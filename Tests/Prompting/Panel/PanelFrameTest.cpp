@@ -37,12 +37,30 @@ TEST(PanelFrameTest, isWrittenAsOriginAndSizeCountedFromTheBottomOfThePrimaryScr
 
 TEST(PanelFrameTest, comesBackFromItsText)
 {
-    const QRectF frame(-300.5, 688, 720, 200);
+    const PanelFrame::Home home { { -300.5, 688, 720, 200 }, mainScreen };
 
-    const QString text = PanelFrame::text(frame, screens);
+    const QString text = PanelFrame::text(home, screens);
 
     EXPECT_EQ(text, u"-300.5 12 720 200 0 0 1440 900"_s);
-    EXPECT_EQ(PanelFrame::parsed(text, screens), frame);
+    EXPECT_EQ(PanelFrame::parsed(text, screens), home);
+}
+
+TEST(PanelFrameTest, isWrittenWithTheScreenThatItIsOn)
+{
+    const PanelFrame::Home home { { -1000, 6, 720, 200 }, leftScreen };
+
+    const QString text = PanelFrame::text(home, screens);
+
+    EXPECT_EQ(text, u"-1000 694 720 200 -1920 -180 1920 1080"_s);
+    EXPECT_EQ(PanelFrame::parsed(text, screens), home);
+}
+
+TEST(PanelFrameTest, comesBackFromATextWithoutAScreen)
+{
+    EXPECT_EQ(PanelFrame::parsed(u"360 694 720 200"_s, screens),
+        (PanelFrame::Home { { 360, 6, 720, 200 }, {} }));
+    EXPECT_EQ(PanelFrame::parsed(u"360 694 720 200 0 0 x 900"_s, screens),
+        (PanelFrame::Home { { 360, 6, 720, 200 }, {} }));
 }
 
 TEST(PanelFrameTest, ignoresTextsThatHoldNoFrame)
@@ -52,25 +70,70 @@ TEST(PanelFrameTest, ignoresTextsThatHoldNoFrame)
         EXPECT_EQ(PanelFrame::parsed(text, screens), std::nullopt) << text.toStdString();
 }
 
-TEST(PanelFrameTest, staysWhereEnoughOfItLiesOnAScreen)
+TEST(PanelFrameTest, standsUnderTheTopOfABiggerScreenAsUnderThatWhereItWasSaved)
 {
-    const QRectF frame(1390, 860, 720, 200);
+    const QRectF big { 0, 0, 2560, 1440 };
+    const auto home = PanelFrame::parsed(u"360 694 720 200 0 0 1440 900"_s, { big });
+    ASSERT_TRUE(home.has_value());
 
-    EXPECT_EQ(PanelFrame::onScreen(frame, { mainScreen }), frame);
-    EXPECT_EQ(PanelFrame::onScreen(frame, {}), frame);
+    EXPECT_EQ(PanelFrame::placeOf(*home, { big }), QRectF(920, 6, 720, 200));
+    EXPECT_EQ(PanelFrame::placeOf(*home, { mainScreen }), QRectF(360, 6, 720, 200));
 }
 
-TEST(PanelFrameTest, comesBackOntoTheNearestScreen)
+TEST(PanelFrameTest, staysWhereEnoughOfItLiesOnAScreen)
 {
-    EXPECT_EQ(PanelFrame::onScreen({ 3000, 6, 720, 200 }, screens), QRectF(720, 6, 720, 200));
+    const PanelFrame::Home home { { 1390, 860, 720, 200 }, mainScreen };
+
+    EXPECT_EQ(PanelFrame::placeOf(home, screens), home.frame);
+    EXPECT_EQ(PanelFrame::placeOf(home, {}), home.frame);
+    EXPECT_EQ(PanelFrame::placeOf({ home.frame, {} }, screens), home.frame);
+}
+
+TEST(PanelFrameTest, comesBackOntoTheNearestScreenFromNowhere)
+{
     EXPECT_EQ(
-        PanelFrame::onScreen({ -4000, 5000, 720, 200 }, screens), QRectF(-1920, 880, 720, 200));
+        PanelFrame::placeOf({ { 3000, 6, 720, 200 }, {} }, screens), QRectF(720, 6, 720, 200));
+    EXPECT_EQ(PanelFrame::placeOf({ { -4000, 5000, 720, 200 }, leftScreen }, screens),
+        QRectF(-1920, 880, 720, 200));
+}
+
+TEST(PanelFrameTest, movesToTheScreenThatIsLeftAndBackAgain)
+{
+    const PanelFrame::Home home { { -1220, 40, 720, 200 }, leftScreen };
+
+    EXPECT_EQ(PanelFrame::placeOf(home, { mainScreen }), QRectF(460, 40, 720, 200));
+    EXPECT_EQ(PanelFrame::placeOf(home, screens), home.frame);
+}
+
+TEST(PanelFrameTest, movesOntoItsScreenWhenThatShrinks)
+{
+    const PanelFrame::Home home { { 700, 650, 720, 200 }, mainScreen };
+
+    EXPECT_EQ(PanelFrame::placeOf(home, { { 0, 0, 1024, 768 } }), QRectF(304, 568, 720, 200));
 }
 
 TEST(PanelFrameTest, shrinksToAScreenThatIsSmallerThanIt)
 {
-    EXPECT_EQ(PanelFrame::onScreen({ 9000, 0, 1600, 900 }, { { 0, 0, 800, 480 } }),
+    EXPECT_EQ(PanelFrame::placeOf({ { 9000, 0, 1600, 900 }, {} }, { { 0, 0, 800, 480 } }),
         QRectF(0, 0, 800, 480));
+}
+
+TEST(PanelFrameTest, isAtHomeOnTheScreenThatMostOfItIsOn)
+{
+    EXPECT_EQ(PanelFrame::homeAt({ -400, 0, 720, 200 }, screens).screen, leftScreen);
+    EXPECT_EQ(PanelFrame::homeAt({ -300, 0, 720, 200 }, screens).screen, mainScreen);
+    EXPECT_EQ(PanelFrame::homeAt({ 9000, 0, 720, 200 }, screens).screen, mainScreen);
+    EXPECT_EQ(PanelFrame::homeAt({ 9000, 0, 720, 200 }, {}).screen, QRectF());
+}
+
+TEST(PanelFrameTest, isPutUnderTheCameraOfTheScreenThatThePointerIsOn)
+{
+    const QSizeF size { 800, 300 };
+
+    EXPECT_EQ(PanelFrame::underCamera(size, { -5, 800 }, screens), QRectF(-1360, 6, 800, 300));
+    EXPECT_EQ(PanelFrame::underCamera(size, { 20, 20 }, screens), QRectF(320, 6, 800, 300));
+    EXPECT_EQ(
+        PanelFrame::underCamera(size, { 20, 20 }, { { 0, 0, 640, 480 } }), QRectF(0, 6, 640, 300));
 }
 
 TEST(PanelFrameTest, keepsItsTopLeftCornerWhenItsSizeIsLimited)

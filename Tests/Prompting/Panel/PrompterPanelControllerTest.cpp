@@ -122,6 +122,18 @@ TEST_F(PrompterPanelControllerTest, placesThePanelOnAnAssumedScreenWithoutAny)
     EXPECT_EQ(panel.frameNow, QRectF(360, 6, 720, 200));
 }
 
+TEST_F(PrompterPanelControllerTest, putsThePanelUnderTheCameraOfTheScreenThatThePointerIsOn)
+{
+    screens.connected = { { 0, 0, 1440, 900 }, { 1440, 0, 2560, 1440 } };
+    build();
+    panel.frameNow = { 100, 500, 800, 300 };
+    screens.pointerNow = { 1500, 1000 };
+
+    controller->putUnderCamera();
+
+    EXPECT_EQ(panel.frameNow, QRectF(2320, 6, 800, 300));
+}
+
 TEST_F(PrompterPanelControllerTest, logsWhatItBuiltLast)
 {
     panel.savedFrame = { 10, 580, 800, 300 };

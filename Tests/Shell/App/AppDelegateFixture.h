@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace Orvello {
 
@@ -28,16 +29,16 @@ protected:
     }
     ~AppDelegateFixture() override { Testing::LogCapture::noteIn(nullptr); }
 
-    void construct(const QStringList& arguments = {})
+    void construct(const QStringList& arguments = {}, AppDelegate::ReadDecks decks = {})
     {
         delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Platforms { platform, platform, platform },
+            AppDelegate::Platforms { platform, platform, platform, CaptureExclusion(findCall) },
             [this](const ShellWindows::Services& services) {
                 m_settings = &services.settings;
                 m_library = &services.library;
                 return std::make_unique<Testing::FakeShellWindows>(windows);
             },
-            LaunchOptions::of(LaunchOptions::thisStart(arguments)));
+            LaunchOptions::of(LaunchOptions::thisStart(arguments)), std::move(decks));
         platform.journal.clear();
     }
 
@@ -108,6 +109,8 @@ protected:
 
     Testing::LogCapture log;
     Testing::FakePlatform platform;
+    /// The window server's private calls: none, although this process may have them.
+    CaptureExclusion::LookUp findCall = [](const char*) -> void* { return nullptr; };
     Testing::FakeShellWindows::State windows;
     std::unique_ptr<AppDelegate> delegate;
 

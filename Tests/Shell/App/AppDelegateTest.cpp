@@ -1,5 +1,6 @@
 #include "Tests/Shell/App/AppDelegateFixture.h"
 #include "Tests/Support/DeckBuilder.h"
+#include "Tests/Support/WindowServerStandIn.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -380,6 +381,19 @@ TEST_F(AppDelegateTest, importsTheDecksOfTheCommandLine)
     EXPECT_EQ(library().activeScript()->title, u"talk");
 }
 
+TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"talk.pptx"_s);
+    ASSERT_TRUE(QFile(path).open(QIODevice::WriteOnly)); // Empty by now.
+    construct({ path }, { { path, { { 1, u"Intro"_s, u"Hello all"_s } } } });
+
+    delegate->applicationDidFinishLaunching();
+
+    EXPECT_EQ(library().activeScript()->title, u"talk");
+    EXPECT_EQ(logged("IMPORT_PPTX ok slides=1 file=talk.pptx"), 1);
+}
+
 TEST_F(AppDelegateTest, opensTheWindowsOfTheCommandLine)
 {
     platform.userDefaultsFake.stored.insert(u"countdownSeconds"_s, 0.0);
@@ -666,6 +680,17 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
 }
 
+TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)
+{
+    Testing::WindowServerStandIn::state() = {};
+    findCall = Testing::WindowServerStandIn::lookUp();
+
+    launchAndSettle();
+
+    EXPECT_EQ(Testing::WindowServerStandIn::state().shapeCalls.front().window, 42U);
+    EXPECT_EQ(logged("STEALTH ON wid=42 fresh=1 mode=both sckExcludeApplied=1"), 1);
+}
+
 // Hot keys
 
 TEST_F(AppDelegateTest, runsEachHotKey)
@@ -757,7 +782,7 @@ TEST_F(AppDelegateTest, armsUnderANewIdEachTime)
     ASSERT_EQ(platform.hotKeysFake.registrations.size(), 7u);
     EXPECT_EQ(platform.hotKeysFake.registrations[5].id.id, 6u);
     EXPECT_EQ(platform.hotKeysFake.registrations[6].id.id, 7u);
-    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (Testing::FakeHotKeys::Key { 35, 0 }));
+    EXPECT_EQ(platform.hotKeysFake.registrations[6].key, (HotKey { 35, 0 }));
 }
 
 TEST_F(AppDelegateTest, armsAtOnceForASlideshowThatRunsAtTheLaunch)
@@ -882,9 +907,12 @@ TEST_F(AppDelegateTest, opensItsMenuAtARightClickOnThePrompter)
     };
 
     click(Qt::LeftButton);
-    EXPECT_EQ(windows.openedMenus, 0);
+    EXPECT_EQ(windows.poppedUp, nullptr);
     click(Qt::RightButton);
-    EXPECT_EQ(windows.openedMenus, 1);
+    ASSERT_NE(windows.poppedUp, nullptr);
+    const auto& lines = windows.poppedUp->items();
+    EXPECT_EQ(lines.size(), windows.statusMenu->items().size() + 2);
+    EXPECT_EQ(lines.at(lines.size() - 3)->title, u"Put Under the Camera");
 }
 
 TEST_F(AppDelegateTest, endsTheSessionOnce)

@@ -34,9 +34,9 @@ TEST(CommandTest, doesWhatItIsCalled)
 
     EXPECT_THAT(target.calls,
         ElementsAre(u"toggleScroll"_s, u"speedUp"_s, u"slowDown"_s, u"backToTop"_s,
-            u"togglePanel"_s, u"toggleVoice"_s, u"toggleSlideTracking"_s, u"toggleStealth"_s,
-            u"openLibrary"_s, u"openSettings"_s, u"openTour"_s, u"checkForUpdates"_s,
-            u"contactSupport"_s, u"revealLogs"_s, u"terminate"_s));
+            u"togglePanel"_s, u"putUnderCamera"_s, u"toggleVoice"_s, u"toggleSlideTracking"_s,
+            u"toggleStealth"_s, u"openLibrary"_s, u"openSettings"_s, u"openTour"_s,
+            u"checkForUpdates"_s, u"contactSupport"_s, u"revealLogs"_s, u"terminate"_s));
 }
 
 TEST(CommandTest, saysWhatEachKeyDoes)

@@ -38,6 +38,18 @@ TEST_F(StatusMenuTest, hasEveryLineInItsPlace)
             u"Check for Updates…"_s, u"Help"_s, u"-"_s, u"Quit Orvello"_s));
 }
 
+TEST_F(StatusMenuTest, putsThePrompterUnderTheCameraOnlyWhereItIsThePrompters)
+{
+    StatusMenu prompters { target, keys, u"2.1 (57)"_s, StatusMenu::Owner::Prompter };
+
+    auto expected = titles(menu);
+    expected.insert(expected.size() - 2, u"-"_s);
+    expected.insert(expected.size() - 2, u"Put Under the Camera"_s);
+    EXPECT_EQ(titles(prompters), expected);
+    prompters.items().at(prompters.items().size() - 3)->action();
+    EXPECT_THAT(target.calls, ElementsAre(u"putUnderCamera"_s));
+}
+
 TEST_F(StatusMenuTest, hasAHelpSubmenuWhoseVersionCannotBeChosen)
 {
     const Menu& help = *item(13).submenu;

@@ -13,14 +13,15 @@ TEST(CommandLineTableTest, tellsOfEachOptionVariableSignalAndStatusInTheHelp)
 {
     const QString help = CommandLineTable::helpText();
 
-    for (const QString& line : { u"\n  FILE  a PowerPoint deck"_s,
-             u"\n  --autostart      start scrolling after the countdown\n"_s,
-             u"\n  --check-updates  "_s, u"\n  --no-stealth "_s, u"\n  --onboarding "_s,
-             u"\n  --scripts "_s, u"\n  --settings "_s, u"\n  --toggle "_s, u"\n  --voice "_s,
-             u"\n  --help "_s, u"\n  --version "_s, u"\n  -Key value "_s,
-             u"\n  ORVELLO_IMPORT_PPTX "_s, u"\n  ORVELLO_ONBOARDING_PAGE "_s,
-             u"\n  ORVELLO_STEALTH "_s, u"\n  SIGUSR1 "_s, u"\n  SIGUSR2 "_s,
-             u"\n  SIGTERM, SIGINT, SIGHUP "_s, u"\nExit status:\n  0  "_s, u"\n  3  "_s })
+    for (const QString& line :
+        { u"\n  FILE  a deck"_s, u"\n  --autostart      start scrolling after the countdown\n"_s,
+            u"\n  --check-updates  "_s, u"\n  --no-stealth "_s, u"\n  --onboarding "_s,
+            u"\n  --scripts "_s, u"\n  --settings "_s, u"\n  --toggle "_s, u"\n  --voice "_s,
+            u"\n  --help "_s, u"\n  --version "_s, u"\n  -Key value "_s,
+            u"\n  ORVELLO_IMPORT_PPTX "_s, u"\n  ORVELLO_ONBOARDING_PAGE "_s,
+            u"\n  ORVELLO_RENDERER "_s, u"\n  ORVELLO_STEALTH "_s, u"\n  SIGUSR1 "_s,
+            u"\n  SIGUSR2 "_s, u"\n  SIGTERM, SIGINT, SIGHUP "_s, u"\nExit status:\n  0  "_s,
+            u"\n  3  "_s })
         EXPECT_TRUE(help.contains(line)) << qPrintable(line);
 }
 

@@ -70,7 +70,7 @@ TEST_F(LaunchOptionsTest, findsFaultWithAnUnknownOptionAndSuggestsTheNearest)
 TEST_F(LaunchOptionsTest, findsFaultWithAPreferenceWithoutAValue)
 {
     EXPECT_THAT(of({ u"-fontSize"_s, u"--voice"_s }).mistakes,
-        ElementsAre(u"the preference -fontSize lacks its value"_s));
+        ElementsAre(u"-fontSize is neither an option nor a preference with a value"_s));
 }
 
 TEST_F(LaunchOptionsTest, takesPairsForPreferences)
@@ -118,7 +118,7 @@ TEST_F(LaunchOptionsTest, findsFaultWithWhatIsNoDeck)
 
     EXPECT_THAT(options.files, IsEmpty());
     EXPECT_THAT(options.mistakes,
-        ElementsAre(u"notes.txt is not a PowerPoint deck (.pptx)"_s,
+        ElementsAre(u"notes.txt is not a deck (.pptx or .odp)"_s,
             u"there is no file \"gone.pptx\""_s, u"there is no file \"\""_s,
             u"there is no file \"-\""_s, u"there is no file \"12:30\""_s,
             u"https://example.com/talk.pptx is no address that Orvello opens"_s,

@@ -33,7 +33,7 @@ protected:
 
 TEST_F(UpdateControllerTest, doesNotTouchTheUpdaterBeforeItIsStarted)
 {
-    EXPECT_EQ(updater.delegate, nullptr);
+    EXPECT_EQ(updater.listener, nullptr);
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
@@ -41,7 +41,7 @@ TEST_F(UpdateControllerTest, logsThatThereIsNoFeed)
 {
     controller.start();
 
-    EXPECT_NE(updater.delegate, nullptr);
+    EXPECT_NE(updater.listener, nullptr);
     EXPECT_THAT(log.lines(), ElementsAre("UPDATES started auto=0 feed=?"));
 }
 
@@ -54,7 +54,7 @@ TEST_F(UpdateControllerTest, logsTheFeedThatIsBuiltIn)
 
     EXPECT_THAT(
         log.lines(), ElementsAre("UPDATES started auto=1 feed=https://example.com/appcast.xml"));
-    EXPECT_EQ(updater.delegate->feedURLString(), std::nullopt);
+    EXPECT_EQ(updater.listener->feedAddress(), std::nullopt);
 }
 
 TEST_F(UpdateControllerTest, letsTheDefaultsOverrideTheFeed)
@@ -66,7 +66,7 @@ TEST_F(UpdateControllerTest, letsTheDefaultsOverrideTheFeed)
 
     EXPECT_THAT(
         log.lines(), ElementsAre("UPDATES started auto=0 feed=https://example.org/other.xml"));
-    EXPECT_EQ(updater.delegate->feedURLString(), u"https://example.org/other.xml"_s);
+    EXPECT_EQ(updater.listener->feedAddress(), u"https://example.org/other.xml"_s);
 }
 
 TEST_F(UpdateControllerTest, ignoresAnOverrideThatIsNoString)
@@ -155,11 +155,11 @@ TEST_F(UpdateControllerTest, logsEveryStep)
     controller.start();
     log.clear();
 
-    updater.delegate->didFindValidUpdate(item);
-    updater.delegate->didNotFindUpdate({ u"You are up to date."_s, 1001 });
-    updater.delegate->willInstallUpdate(item);
-    updater.delegate->failedToDownloadUpdate(item, { u"No space."_s, 2001 });
-    updater.delegate->didAbortWithError({ u"Cannot reach it."_s, 2001 });
+    updater.listener->updateFound(item);
+    updater.listener->noUpdateFound({ u"You are up to date."_s, 1001 });
+    updater.listener->installing(item);
+    updater.listener->downloadFailed(item, { u"No space."_s, 2001 });
+    updater.listener->checkFailed({ u"Cannot reach it."_s, 2001 });
 
     EXPECT_THAT(log.lines(),
         ElementsAre("UPDATES found 2.1 (57)", "UPDATES up to date (You are up to date.)",
@@ -173,7 +173,7 @@ TEST_F(UpdateControllerTest, logsTheUsersChoices)
     log.clear();
 
     for (const int choice : { 0, 1, 2, 3, -1 })
-        updater.delegate->userDidMakeChoice(static_cast<UpdateChoice>(choice), item);
+        updater.listener->userChose(static_cast<UpdateChoice>(choice), item);
 
     EXPECT_THAT(log.lines(),
         ElementsAre("UPDATES user chose skip for 2.1", "UPDATES user chose install for 2.1",
@@ -186,8 +186,8 @@ TEST_F(UpdateControllerTest, doesNotLogAnAbortThatIsNoFailure)
     controller.start();
     log.clear();
 
-    updater.delegate->didAbortWithError({ u"You are up to date."_s, 1001 });
-    updater.delegate->didAbortWithError({ u"Cancelled."_s, 4007 });
+    updater.listener->checkFailed({ u"You are up to date."_s, 1001 });
+    updater.listener->checkFailed({ u"Cancelled."_s, 4007 });
 
     EXPECT_THAT(log.lines(), IsEmpty());
 }
@@ -197,9 +197,9 @@ TEST_F(UpdateControllerTest, logsTheNextCheckInWholeHours)
     controller.start();
     log.clear();
 
-    updater.delegate->willScheduleUpdateCheckAfterDelay(86400);
-    updater.delegate->willScheduleUpdateCheckAfterDelay(5399);
-    updater.delegate->willScheduleUpdateCheckAfterDelay(5401);
+    updater.listener->checkScheduled(86400);
+    updater.listener->checkScheduled(5399);
+    updater.listener->checkScheduled(5401);
 
     EXPECT_THAT(log.lines(),
         ElementsAre(

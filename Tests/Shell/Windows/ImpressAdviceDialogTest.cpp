@@ -3,6 +3,7 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeHelperProcess.h"
+#include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/SlideshowStage.h"
 
 #include <QApplication>
@@ -26,15 +27,9 @@ protected:
         Testing::drainEvents();
     }
 
-    void refuseImport()
+    void import()
     {
         impress.row().askOpenDeck([](const ScriptResult&) {});
-        answer({ 1, {}, u"-1743"_s });
-    }
-
-    void answer(const ScriptResult& result)
-    {
-        helper.questions.last().completion(result);
         Testing::drainEvents();
     }
 
@@ -80,95 +75,89 @@ protected:
     }
 
     Testing::FakeHelperProcess helper;
+    Testing::FakeUserDefaults defaults;
     Testing::SlideshowStage stage;
-    ImpressPresenter impress { helper, stage.monitor };
+    ImpressPresenter impress { helper, stage.monitor, defaults };
     std::unique_ptr<ImpressAdviceDialog> dialog = std::make_unique<ImpressAdviceDialog>(impress);
 };
 
 TEST_F(ImpressAdviceDialogTest, showsNothingUninvited) { EXPECT_TRUE(boxes().isEmpty()); }
 
-TEST_F(ImpressAdviceDialogTest, offersToSetLibreOfficeUp)
+TEST_F(ImpressAdviceDialogTest, asksForConsentInTwoSentences)
 {
-    refuseImport();
+    import();
 
     EXPECT_EQ(box().text(), u"Let Orvello follow your Impress presentations?"_s);
-    EXPECT_FALSE(box().informativeText().isEmpty());
+    EXPECT_EQ(box().informativeText(), ImpressAdviceDialog::consentText());
+    EXPECT_EQ(box().informativeText().count(u'.'), 2);
     EXPECT_FALSE(box().isModal());
     EXPECT_EQ(buttons(), QStringList({ u"Allow"_s, u"Not Now"_s }));
 }
 
 TEST_F(ImpressAdviceDialogTest, doesNothingWhenTheUserDoesNotWantIt)
 {
-    refuseImport();
+    import();
     press(u"Not Now"_s);
 
     EXPECT_TRUE(boxes().isEmpty());
-    EXPECT_EQ(helper.questions.size(), 1);
+    EXPECT_FALSE(impress.isAllowed());
 }
 
-TEST_F(ImpressAdviceDialogTest, allowsAndTakesBack)
+TEST_F(ImpressAdviceDialogTest, takesTheConsentAndStartsNothing)
 {
-    refuseImport();
+    import();
     press(u"Allow"_s);
-    EXPECT_EQ(helper.questions.last().text, u"allow"_s);
-    EXPECT_EQ(box().text(), u"Orvello is talking to LibreOffice…"_s);
 
-    answer({ 0, u"Orvello may now follow Impress.\n\nTo take this back later: helper\n"_s, {} });
-    EXPECT_EQ(box().text(), u"Orvello may now follow Impress."_s);
-    EXPECT_EQ(box().informativeText(), u"To take this back later: helper"_s);
-    EXPECT_EQ(buttons(), QStringList({ u"OK"_s, u"Undo"_s }));
-
-    press(u"Undo"_s);
-    EXPECT_EQ(helper.questions.last().text, u"disallow"_s);
-    answer({ 0, u"Orvello may no longer follow Impress.\n"_s, {} });
-    EXPECT_EQ(box().text(), u"Orvello may no longer follow Impress."_s);
-    EXPECT_EQ(buttons(), QStringList({ u"OK"_s }));
-
+    EXPECT_TRUE(impress.isAllowed());
+    EXPECT_TRUE(helper.questions.isEmpty());
+    EXPECT_EQ(box().text(),
+        u"Orvello may now follow Impress. Start the slideshow or the import again."_s);
+    EXPECT_EQ(buttons(), QStringList { u"OK"_s });
     press(u"OK"_s);
     EXPECT_TRUE(boxes().isEmpty());
-    EXPECT_EQ(helper.questions.size(), 3);
 }
 
-TEST_F(ImpressAdviceDialogTest, letsEveryBoxBeClosed)
+TEST_F(ImpressAdviceDialogTest, saysWhatIsInTheWay)
 {
-    refuseImport();
-    EXPECT_TRUE(box().close());
+    impress.setAllowed(true);
+    import();
+    helper.questions.last().completion({ 1, {}, u"It is closed. (-1743)"_s });
+    Testing::drainEvents();
 
-    refuseImport();
-    press(u"Allow"_s);
-    EXPECT_TRUE(box().close());
-
-    answer({ 0, u"Orvello may now follow Impress."_s, {} });
+    EXPECT_EQ(box().text(), u"It is closed."_s);
+    EXPECT_EQ(buttons(), QStringList { u"OK"_s });
     EXPECT_EQ(box().defaultButton()->text(), u"OK"_s);
     EXPECT_TRUE(box().close());
-    Testing::drainEvents();
-    EXPECT_EQ(helper.questions.last().text, u"allow"_s);
-}
-
-TEST_F(ImpressAdviceDialogTest, saysWhyLibreOfficeCouldNotBeSetUp)
-{
-    refuseImport();
-    press(u"Allow"_s);
-    answer({ 1, {}, u"LibreOffice isn't installed.\n"_s });
-
-    EXPECT_EQ(box().text(), u"LibreOffice isn't installed."_s);
-    EXPECT_EQ(buttons(), QStringList({ u"OK"_s }));
 }
 
 TEST_F(ImpressAdviceDialogTest, showsOneBoxAtATime)
 {
-    refuseImport();
-    refuseImport();
+    import();
+    import();
+
+    EXPECT_EQ(boxes().size(), 1);
+}
+
+TEST_F(ImpressAdviceDialogTest, leavesNoBoxBeforeTheAudience)
+{
+    stage.monitor.start();
+    import();
     EXPECT_EQ(boxes().size(), 1);
 
-    press(u"Allow"_s);
-    refuseImport();
-    EXPECT_EQ(box().text(), u"Orvello is talking to LibreOffice…"_s);
+    stage.presentKeynote();
+    stage.time.advance(1.0);
+    EXPECT_TRUE(boxes().isEmpty());
+    import();
+    EXPECT_TRUE(boxes().isEmpty());
+
+    stage.endSlideshow();
+    stage.time.advance(1.0);
+    EXPECT_EQ(buttons(), QStringList({ u"Allow"_s, u"Not Now"_s }));
 }
 
 TEST_F(ImpressAdviceDialogTest, takesItsBoxAlong)
 {
-    refuseImport();
+    import();
     dialog.reset();
 
     EXPECT_TRUE(boxes().isEmpty());

@@ -39,7 +39,7 @@ protected:
         window.reset();
         services.emplace(scripts);
         window.emplace(services->ofWindow());
-        window->makeKeyAndOrderFront();
+        window->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
         settle();
     }
@@ -117,6 +117,24 @@ TEST_F(LibraryWindowTest, comesUpInTheMiddleOfTheScreen)
     EXPECT_LE((view().geometry().center() - middle).manhattanLength(), 2);
 }
 
+TEST_F(LibraryWindowTest, beginsWithTheListWhereReadingBegins)
+{
+    const auto places = [this] {
+        return std::pair(Testing::placeInWindow(*named(u"Scripts"_s)).center().x(),
+            Testing::placeInWindow(*named(u"Script text"_s)).center().x());
+    };
+    const auto [list, text] = places();
+    EXPECT_LT(list, text);
+
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    SetUp();
+    const auto [mirroredList, mirroredText] = places();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+
+    EXPECT_DOUBLE_EQ(mirroredList, view().width() - list);
+    EXPECT_LT(mirroredText, mirroredList);
+}
+
 TEST_F(LibraryWindowTest, isHiddenWhenClosedAndComesBackAsItWas)
 {
     view().resize(700, 500);
@@ -125,7 +143,7 @@ TEST_F(LibraryWindowTest, isHiddenWhenClosedAndComesBackAsItWas)
     view().close();
     EXPECT_FALSE(view().isVisible());
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_EQ(view().size(), QSize(700, 500));
@@ -470,7 +488,7 @@ TEST_F(LibraryWindowTest, staysMaximizedWhenItIsBroughtToTheFront)
     view().showMaximized();
     settle();
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().windowStates().testFlag(Qt::WindowMaximized));
 }
@@ -480,7 +498,7 @@ TEST_F(LibraryWindowTest, comesBackWhenItWasMinimized)
     view().showMinimized();
     settle();
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_FALSE(view().windowStates().testFlag(Qt::WindowMinimized));

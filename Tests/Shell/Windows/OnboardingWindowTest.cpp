@@ -32,7 +32,7 @@ protected:
         controller = std::make_unique<OnboardingWindowController>(
             OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
             [this] { ++finishes; });
-        controller->makeKeyAndOrderFront();
+        controller->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
     }
 
@@ -339,7 +339,7 @@ TEST_F(OnboardingWindowTest, recordsThatItWasSeenBeforeItTellsAnyone)
     controller = std::make_unique<OnboardingWindowController>(
         OnboardingWindowController::Services { settings, workspace, chrome, keys, facts },
         [&] { seen = settings.onboardingSeenVersion(); });
-    controller->makeKeyAndOrderFront();
+    controller->bringToFront();
 
     controller->tour().skip();
     drainEvents();
@@ -354,7 +354,7 @@ TEST_F(OnboardingWindowTest, mayBeDestroyedByWhoeverHearsThatItIsFinished)
             ++finishes;
             controller.reset();
         });
-    controller->makeKeyAndOrderFront();
+    controller->bringToFront();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
 
     pressButton(u"Skip tour"_s);

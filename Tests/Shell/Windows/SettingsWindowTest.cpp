@@ -121,7 +121,7 @@ protected:
 TEST_F(SettingsWindowTest, isAFixedWindowOfItsOwn)
 {
     view().hide();
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_EQ(view().title(), u"Orvello Settings"_s);
     EXPECT_EQ(view().minimumSize(), view().maximumSize());
@@ -136,7 +136,7 @@ TEST_F(SettingsWindowTest, isHiddenByClosingAndComesBack)
     view().close();
     EXPECT_FALSE(view().isVisible());
 
-    window->makeKeyAndOrderFront();
+    window->bringToFront();
 
     EXPECT_TRUE(view().isVisible());
     EXPECT_NE(controlNamed(view(), u"Font size — 44"_s), nullptr);
@@ -505,6 +505,26 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
     open(factsOfALinuxDesktop());
 
     EXPECT_TRUE(showsText(view(), warning));
+}
+
+TEST_F(SettingsWindowTest, namesTheSystemsSettingsWhereTheyGrantPermissions)
+{
+    Facts facts = factsOfALinuxDesktop();
+    const auto mentions = [&](const QString& words) {
+        open(facts);
+        return std::ranges::any_of(
+            visibleTexts(view()), [&](const QString& text) { return text.contains(words); });
+    };
+    facts.asksBeforeControl = true;
+    facts.isMac = true;
+    facts.canHideWindows = true;
+    EXPECT_FALSE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_FALSE(mentions(u"QuickTime"_s));
+
+    facts.hasPrivacySettings = true;
+    facts.hasQuickTime = true;
+    EXPECT_TRUE(mentions(u"Privacy & Security → Automation"_s));
+    EXPECT_TRUE(mentions(u"QuickTime"_s));
 }
 
 TEST_F(SettingsWindowTest, saysNothingOfAMacOnALinuxDesktop)

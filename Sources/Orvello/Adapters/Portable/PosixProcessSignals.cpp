@@ -47,7 +47,7 @@ public:
         struct sigaction action { };
         action.sa_handler = noteSignal;
         action.sa_flags = SA_RESTART;
-        ::sigemptyset(&action.sa_mask);
+        sigemptyset(&action.sa_mask); // Unqualified: some systems have a macro of this name.
         ::sigaction(signal, &action, nullptr);
     }
 

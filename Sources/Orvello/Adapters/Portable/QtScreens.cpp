@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Portable/QtScreens.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -17,5 +18,7 @@ QList<QRectF> QtScreens::frames() const
     }
     return frames;
 }
+
+QPointF QtScreens::pointer() const { return QCursor::pos(); }
 
 } // namespace Orvello

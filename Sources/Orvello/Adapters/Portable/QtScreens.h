@@ -8,6 +8,7 @@ namespace Orvello {
 class QtScreens final : public Screens {
 public:
     QList<QRectF> frames() const override;
+    QPointF pointer() const override;
 };
 
 } // namespace Orvello

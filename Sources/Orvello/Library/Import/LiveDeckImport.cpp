@@ -45,16 +45,39 @@ LiveDeckImport::LiveDeckImport(LibraryStore& library, const Workspace& workspace
 {
 }
 
+quint64 LiveDeckImport::begin(const PresenterApp& app)
+{
+    m_source = app.logName;
+    Q_EMIT sourceChanged();
+    return ++m_number;
+}
+
+void LiveDeckImport::end()
+{
+    m_source.clear();
+    Q_EMIT sourceChanged();
+}
+
+void LiveDeckImport::cancel()
+{
+    if (!m_source.isEmpty())
+        end();
+}
+
 void LiveDeckImport::importFromOpenDeck(const PresenterApp& app, Completion completion)
 {
+    if (!m_source.isEmpty())
+        return;
     if (!isRunning(app)) {
         completion(Failure { DeckImportError { Reason::NotRunning, &app, {} } });
         return;
     }
-    app.askOpenDeck([self = QPointer(this), &app, completion = std::move(completion)](
+    const quint64 number = begin(app);
+    app.askOpenDeck([self = QPointer(this), number, &app, completion = std::move(completion)](
                         const ScriptResult& result) {
-        if (!self)
+        if (!self || !self->isUnderWay(number))
             return;
+        self->end();
         const QString tag = u"IMPORT_"_s + app.logName.toUpper();
         //: The title of a deck without a name. %1: a presentation program, such as Keynote.
         const QString fallbackName = tr("%1 deck").arg(app.logName);
@@ -65,37 +88,44 @@ void LiveDeckImport::importFromOpenDeck(const PresenterApp& app, Completion comp
 void LiveDeckImport::importFromOpenPowerPointDeck(
     const PresenterApp& powerPoint, PowerPointCompletion completion)
 {
+    if (!m_source.isEmpty())
+        return;
     if (!isRunning(powerPoint)) {
         completion(Failure { DeckImportError { Reason::NotRunning, &powerPoint, {} } });
         return;
     }
-    const auto locate = [self = QPointer(this), &powerPoint, completion = std::move(completion)](
-                            const ScriptResult& result) {
-        if (!self)
+    const quint64 number = begin(powerPoint);
+    const auto locate = [self = QPointer(this), number, &powerPoint,
+                            completion = std::move(completion)](const ScriptResult& result) {
+        if (!self || !self->isUnderWay(number))
             return;
-        if (result.status != 0)
-            completion(Failure { DeckImportError::of(powerPoint, result) });
-        else
+        if (result.status == 0) {
             self->importLocatedDeck(
-                powerPoint, DeckLocation::parse(result.standardOutput), completion);
+                powerPoint, DeckLocation::parse(result.standardOutput), number, completion);
+            return;
+        }
+        self->end();
+        completion(Failure { DeckImportError::of(powerPoint, result) });
     };
     m_appleScript.run(locateScript.toString(), locate);
 }
 
 void LiveDeckImport::importLocatedDeck(const PresenterApp& powerPoint, const DeckLocation& location,
-    const PowerPointCompletion& completion)
+    quint64 number, const PowerPointCompletion& completion)
 {
     const std::optional<QString> file = location.localDeck();
     AppLog::write("Orvello IMPORT_PPT locate saved=%d file=%@", location.isSaved ? 1 : 0,
         file ? QFileInfo(*file).fileName() : u"-"_s);
     if (location.isSaved && file) {
+        end();
         completion(importSavedFile(powerPoint, *file));
         return;
     }
-    powerPoint.askOpenDeck([self = QPointer(this), &powerPoint, name = location.name, file,
+    powerPoint.askOpenDeck([self = QPointer(this), number, &powerPoint, name = location.name, file,
                                completion](const ScriptResult& result) {
-        if (!self)
+        if (!self || !self->isUnderWay(number))
             return;
+        self->end();
         const Imported live
             = self->importRecord(powerPoint, u"IMPORT_PPT ok (live)"_s, name, result);
         if (live)

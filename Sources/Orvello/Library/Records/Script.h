@@ -28,8 +28,8 @@ struct Script {
     QString body;
     Date createdAt;
     Date updatedAt;
-    std::optional<QList<SlideNote>>
-        slides; ///< Present only for a deck script; never changes after the import.
+    /// Present only for a deck script; never changes after the import.
+    std::optional<QList<SlideNote>> slides;
     std::optional<QString> deckSource; ///< The deck's file name or the open document's name.
 
     /// A script with a fresh id, made and last edited at `now`.

@@ -1,6 +1,6 @@
 #include "Orvello/Library/Records/WelcomeScript.h"
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -211,8 +211,8 @@ void LibraryStore::remove(QUuid id)
         keepDeleted({ *script, m_time.date(), row });
         m_scripts.removeAt(row);
         publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
-        script = std::ranges::find_if(
-            std::as_const(m_scripts), hasID); // A file may hold the id twice.
+        // A file may hold the id twice.
+        script = std::ranges::find_if(std::as_const(m_scripts), hasID);
     }
 
     if (isAnotherActive)
@@ -340,14 +340,24 @@ void LibraryStore::edit(Script& script, LibraryChange change)
 Result<QUuid, PptxImporter::ImportError> LibraryStore::importPptx(
     const QString& path, const std::optional<QString>& source)
 {
-    const auto slides = PptxImporter::importNotes(path);
-    if (!slides)
-        return Failure { slides.error() };
+    const auto deck = PptxImporter::importDeck(path);
+    if (!deck)
+        return Failure { deck.error() };
+    return addReadDeck(path, *deck, source);
+}
 
+QUuid LibraryStore::addReadDeck(
+    const QString& path, const PptxImporter::Deck& deck, const std::optional<QString>& source)
+{
     const QString fileName = QFileInfo(path).fileName();
-    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", slides->size(), fileName);
-
-    return addDeck(withoutExtension(fileName), *slides, source.value_or(fileName));
+    AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", deck.slides.size(), fileName);
+    const QUuid id = addDeck(withoutExtension(fileName), deck.slides, source.value_or(fileName));
+    if (!deck.unread.isEmpty()) {
+        const QString slides = PptxImporter::slideRanges(deck.unread);
+        AppLog::write("Orvello IMPORT_PPTX limit: notes of slides %@ could not be read", slides);
+        Q_EMIT notesLeftOut(slides);
+    }
+    return id;
 }
 
 QUuid LibraryStore::addDeck(

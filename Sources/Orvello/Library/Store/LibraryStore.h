@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
 #include "Orvello/Library/Store/DeletedScripts.h"
 #include "Orvello/Library/Store/LibraryFile.h"
 #include "Orvello/Library/Store/LibraryLock.h"
 #include "Orvello/Library/Store/LibraryRescue.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Platform/Early/TimeSource.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 
@@ -73,6 +73,10 @@ public:
     Result<QUuid, PptxImporter::ImportError> importPptx(
         const QString& path, const std::optional<QString>& source = {});
 
+    /// Adds what importPptx() would have read from that file.
+    QUuid addReadDeck(const QString& path, const PptxImporter::Deck& deck,
+        const std::optional<QString>& source = {});
+
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
@@ -98,6 +102,10 @@ Q_SIGNALS:
     void rescueChanged();
     void scriptsChanged(const Orvello::LibraryChange& change);
     void activeScriptIDChanged();
+
+    /// The file that was imported holds more than the importer's limits allow: the notes of these
+    /// slides ("3, 257–300") are missing or not whole.
+    void notesLeftOut(const QString& slides);
 
 private:
     void makeFirstScript(const Facts& facts);

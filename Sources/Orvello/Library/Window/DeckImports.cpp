@@ -1,12 +1,12 @@
 #include "Orvello/Library/Window/DeckImports.h"
 
+#include "Orvello/Library/Import/DeckFileImport.h"
 #include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Platform/Desktop/OpenPanel.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -22,18 +22,14 @@ const OpenPanel::FileKind deckFile {
     .extension = u"pptx"_s,
 };
 
+const OpenPanel::FileKind openDocumentFile {
+    .typeIdentifier = u"org.oasis-open.opendocument.presentation"_s,
+    .extension = u"odp"_s,
+};
+
 bool isDeck(const QUrl& file)
 {
-    return file.isLocalFile()
-        && QFileInfo(file.toLocalFile()).suffix().compare(deckFile.extension, Qt::CaseInsensitive)
-        == 0;
-}
-
-/// Whether it can be on this machine at all. Keynote and PowerPoint are told by their bundles, and
-/// only Macs have those.
-bool isHere(const PresenterApp& app, const Facts& facts)
-{
-    return facts.hasKeynoteAndPowerPoint || !app.bundleIdentifier.startsWith("com."_L1);
+    return file.isLocalFile() && PptxImporter::isDeckFile(file.toLocalFile());
 }
 
 bool hasNotes(const LibraryStore& library, QUuid id)
@@ -48,11 +44,20 @@ bool hasNotes(const LibraryStore& library, QUuid id)
 
 DeckImports::DeckImports(const Services& services)
     : m_services(services)
+    , m_files(std::make_unique<DeckFileImport>(services.library))
 {
     for (const PresenterApp& app : services.presenters.apps()) {
-        if (isHere(app, services.facts))
+        if (app.isForThisSystem)
             m_apps.push_back(&app);
     }
+    connect(&services.openDecks, &LiveDeckImport::sourceChanged, this,
+        &DeckImports::readingTextChanged);
+    connect(&services.library, &LibraryStore::notesLeftOut, this, [this](const QString& slides) {
+        showAlert(tr("Not all notes were imported"),
+            //: %1: numbers of slides, as in "3, 257–300".
+            tr("The file holds more than Orvello reads: the notes of slides %1 could not be read.")
+                .arg(slides));
+    });
     // Shown beside the item for its files.
     std::stable_partition(
         m_apps.begin(), m_apps.end(), [](const PresenterApp* app) { return app->hasDeckFiles; });
@@ -62,12 +67,23 @@ DeckImports::~DeckImports() = default;
 
 QStringList DeckImports::titles() const
 {
-    QStringList titles { tr("PowerPoint file (.pptx)…") };
+    QStringList titles { m_services.facts.hasKeynoteAndPowerPoint
+            ? tr("PowerPoint file (.pptx)…")
+            : tr("Presentation file (.pptx, .odp)…") };
     for (const PresenterApp* app : m_apps)
         //: An item of a menu. %1: a presentation program, such as Keynote.
         titles.append(tr("Open %1 presentation").arg(app->logName));
     return titles;
 }
+
+QString DeckImports::readingText() const
+{
+    const QString source = m_services.openDecks.source();
+    //: %1: a presentation program, such as Keynote.
+    return source.isEmpty() ? QString() : tr("Reading what is open in %1…").arg(source);
+}
+
+void DeckImports::cancelReading() { m_services.openDecks.cancel(); }
 
 void DeckImports::run(int item)
 {
@@ -84,8 +100,13 @@ void DeckImports::run(int item)
 
 void DeckImports::chooseFile()
 {
-    const auto path = m_services.openPanel.chooseFile(
-        tr("Choose a PowerPoint presentation — Orvello imports its speaker notes."), deckFile);
+    const auto path = m_services.facts.hasKeynoteAndPowerPoint
+        ? m_services.openPanel.chooseFile(
+            tr("Choose a PowerPoint presentation — Orvello imports its speaker notes."),
+            { deckFile })
+        : m_services.openPanel.chooseFile(
+            tr("Choose a presentation — Orvello imports its speaker notes."),
+            { deckFile, openDocumentFile });
     if (path)
         importFiles({ QUrl::fromLocalFile(*path) });
 }
@@ -107,16 +128,25 @@ void DeckImports::importFiles(const QList<QUrl>& files)
     if (!others.isEmpty())
         showAlert(tr("Not a presentation"),
             //: %1: the names of files.
-            tr("Orvello imports speaker notes from PowerPoint files (.pptx). It cannot read %1.")
+            tr("Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.")
                 .arg(others.join(u", "_s)));
 }
 
 void DeckImports::importFile(const QString& path)
 {
-    const auto imported = m_services.library.importPptx(path);
-    if (!imported)
-        showAlert(tr("Import failed"), PptxImporter::description(imported.error()));
-    else if (!hasNotes(m_services.library, *imported))
+    m_files->import(path, [this](const DeckFileImport::Imported& imported) {
+        if (imported)
+            finishFile(*imported);
+        else
+            showAlert(tr("Import failed"), PptxImporter::description(imported.error()));
+    });
+}
+
+bool DeckImports::isReadingFiles() const { return m_files->isBusy(); }
+
+void DeckImports::finishFile(const QUuid& imported)
+{
+    if (!hasNotes(m_services.library, imported))
         showAlert(tr("No speaker notes"),
             m_services.facts.hasKeynoteAndPowerPoint
                 ? tr("The deck was imported, but no slide has speaker notes. Add notes in "

@@ -1,16 +1,19 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
+#include <QUuid>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace Orvello {
 
+class DeckFileImport;
 class LibraryStore;
 class LiveDeckImport;
 class OpenPanel;
@@ -22,6 +25,7 @@ struct PresenterApp;
 class DeckImports final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QStringList titles READ titles CONSTANT FINAL)
+    Q_PROPERTY(QString readingText READ readingText NOTIFY readingTextChanged FINAL)
     Q_PROPERTY(bool isShowingAlert READ isShowingAlert NOTIFY alertChanged FINAL)
     Q_PROPERTY(QString alertTitle READ alertTitle NOTIFY alertChanged FINAL)
     Q_PROPERTY(QString alertText READ alertText NOTIFY alertChanged FINAL)
@@ -45,6 +49,14 @@ public:
     /// Runs the item at that place in the menu.
     Q_INVOKABLE void run(int item);
 
+    /// Whether a file is still to be read.
+    bool isReadingFiles() const;
+
+    /// What the window says while an open deck is being read, which can take a while; else empty.
+    /// No other open deck is read meanwhile.
+    QString readingText() const;
+    Q_INVOKABLE void cancelReading();
+
     Q_INVOKABLE void chooseFile();
 
     /// Whether there are files of this machine among these.
@@ -63,6 +75,7 @@ public:
     QString alertText() const;
 
 Q_SIGNALS:
+    void readingTextChanged();
     void alertChanged();
 
 private:
@@ -72,11 +85,13 @@ private:
     };
 
     void importFile(const QString& path);
+    void finishFile(const QUuid& imported);
     void importOpenDeck(const PresenterApp& app);
     void importOpenPowerPointDeck(const PresenterApp& powerPoint);
     void showFailure(const DeckImportError& error);
 
     Services m_services;
+    std::unique_ptr<DeckFileImport> m_files;
     std::vector<const PresenterApp*> m_apps; ///< In the menu's order.
     QList<Alert> m_alerts; ///< The first one is showing.
 };

@@ -34,6 +34,8 @@ ToolbarButton {
                 required property int index
 
                 text: modelData
+                // A file can be read at any time, one open deck after the other.
+                enabled: index === 0 || root.imports.readingText === ""
                 onTriggered: root.imports.run(index)
             }
             onObjectAdded: (index, object) => menu.insertItem(index, object as MenuItem)

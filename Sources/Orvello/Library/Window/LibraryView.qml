@@ -4,7 +4,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Orvello
 
-// The scripts on the left, the active one with its editor on the right.
+// The scripts where reading begins, and beside them the active one with its editor.
 Pane {
     id: root
 
@@ -63,6 +63,10 @@ Pane {
 
         SplitView {
             id: split
+
+            // It does not mirror by itself.
+            Component.onCompleted: if (root.mirrored)
+                moveItem(0, 1)
 
             Layout.fillWidth: true
             Layout.fillHeight: true

@@ -42,8 +42,9 @@ void OpenScripts::followScripts(const LibraryChange& change)
     }
     followActiveScript(); // Before one is closed, because it may be the one in sight.
     const auto open = find(change.id);
+    // The file may hold a second script with that id.
     const bool isGone = change.kind == LibraryChange::Kind::Removed && open != m_open.end()
-        && open->editor.get() != m_active; // The file may hold a second script with that id.
+        && open->editor.get() != m_active;
     if (isGone)
         close(static_cast<std::size_t>(open - m_open.begin()));
 }
@@ -58,8 +59,8 @@ void OpenScripts::followActiveScript()
     if (before == active)
         return;
     Q_EMIT activeChanged();
-    before->setEditable(
-        false); // Only now that it is out of sight, because a text field shows the difference.
+    // Only now that it is out of sight, because a text field shows the difference.
+    before->setEditable(false);
     closeBeyondBounds();
 }
 

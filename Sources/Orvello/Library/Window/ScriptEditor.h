@@ -79,8 +79,8 @@ private:
     bool m_isAsInLibrary = true; ///< The body matches the library's, except for the unstored edit.
     std::optional<TextEdit> m_unstored; ///< The user's edits that the library does not have yet.
     bool m_isStoring = false; ///< The library is taking over the user's edit.
-    bool m_isUpdating
-        = false; ///< The document is following the library, which is no edit by the user.
+    /// The document is following the library, which is no edit by the user.
+    bool m_isUpdating = false;
     QPointer<QTextDocument> m_document;
 };
 

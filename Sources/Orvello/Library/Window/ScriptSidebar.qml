@@ -179,6 +179,27 @@ ColumnLayout {
         }
     }
 
+    RowLayout {
+        visible: root.library.imports.readingText !== ""
+        Layout.fillWidth: true
+        Layout.margins: 8
+        spacing: 8
+
+        Label {
+            Layout.fillWidth: true
+            text: root.library.imports.readingText
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
+        }
+        Button {
+            text: qsTr("Cancel")
+            Accessible.name: text
+            onClicked: root.library.imports.cancelReading()
+        }
+    }
+
     Divider {
         Layout.fillWidth: true
     }

@@ -48,6 +48,10 @@ public:
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     virtual HelperProcess* impressHelper() = 0;
 
+    /// Whether graphics hardware draws the windows, and not the processor in its place. May take as
+    /// long as loading the hardware's driver.
+    virtual bool hasHardwareRenderer() = 0;
+
     /// The prompter's window around the window that shows its view, which must not have been shown
     /// and must outlive it.
     virtual std::unique_ptr<NativePanel> makePanel(QWindow& view) = 0;

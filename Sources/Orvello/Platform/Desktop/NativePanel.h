@@ -45,8 +45,8 @@ public:
 Q_SIGNALS:
     void resized();
     void resizeEnded(); ///< The user let go.
-    void scrolled(double
-            delta); ///< The precise vertical delta of one wheel or trackpad event, upward positive.
+    /// The precise vertical delta of one wheel or trackpad event, upward positive.
+    void scrolled(double delta);
 };
 
 } // namespace Orvello

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -17,9 +18,10 @@ public:
 
     virtual ~OpenPanel() = default;
 
-    /// Lets the user choose one existing file of this kind, under a message that says what for.
-    /// Returns its path, or nothing when the user cancels. Runs the event loop meanwhile.
-    virtual std::optional<QString> chooseFile(const QString& message, const FileKind& kind) = 0;
+    /// Lets the user choose one existing file of one of these kinds, under a message that says what
+    /// for. Returns its path, or nothing when the user cancels. Runs the event loop meanwhile.
+    virtual std::optional<QString> chooseFile(const QString& message, const QList<FileKind>& kinds)
+        = 0;
 };
 
 } // namespace Orvello

@@ -14,6 +14,9 @@ public:
     /// corner of the primary screen, y downward, like every place on the screen in any port; the
     /// primary screen is the main one, unless the user works on another.
     virtual QList<QRectF> frames() const = 0;
+
+    /// Where the pointer is, in the same coordinates.
+    virtual QPointF pointer() const = 0;
 };
 
 } // namespace Orvello

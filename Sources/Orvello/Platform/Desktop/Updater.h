@@ -33,23 +33,23 @@ struct UpdateError {
 enum class UpdateChoice { Skip = 0, Install = 1, Later = 2 };
 
 /// Hears of every step of the update cycle. Main thread.
-class UpdaterDelegate {
+class UpdateListener {
 public:
-    virtual ~UpdaterDelegate() = default;
+    virtual ~UpdateListener() = default;
 
     /// The feed to read instead of the built-in one, if any.
-    virtual std::optional<QString> feedURLString() const = 0;
+    virtual std::optional<QString> feedAddress() const = 0;
 
     /// Whether the user may be asked now whether to check regularly. If not, the next launch asks.
     virtual bool mayAskPermission() const = 0;
 
-    virtual void didFindValidUpdate(const UpdateItem& item) = 0;
-    virtual void didNotFindUpdate(const UpdateError& error) = 0;
-    virtual void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) = 0;
-    virtual void willInstallUpdate(const UpdateItem& item) = 0;
-    virtual void failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error) = 0;
-    virtual void didAbortWithError(const UpdateError& error) = 0;
-    virtual void willScheduleUpdateCheckAfterDelay(double seconds) = 0;
+    virtual void updateFound(const UpdateItem& item) = 0;
+    virtual void noUpdateFound(const UpdateError& error) = 0;
+    virtual void userChose(UpdateChoice choice, const UpdateItem& item) = 0;
+    virtual void installing(const UpdateItem& item) = 0;
+    virtual void downloadFailed(const UpdateItem& item, const UpdateError& error) = 0;
+    virtual void checkFailed(const UpdateError& error) = 0;
+    virtual void checkScheduled(double seconds) = 0;
 };
 
 /// Whether updates are looked for regularly. The updater stores it. Main thread.
@@ -71,8 +71,8 @@ public:
     virtual ~Updater() = default;
 
     /// Begins the schedule, after asking the user whether there may be one if that has never been
-    /// asked. `delegate` must outlive the updater. Called once.
-    virtual void start(UpdaterDelegate& delegate) = 0;
+    /// asked. `listener` must outlive the updater. Called once.
+    virtual void start(UpdateListener& listener) = 0;
 
     /// Checks now and shows the user whatever comes of it.
     virtual void check() = 0;

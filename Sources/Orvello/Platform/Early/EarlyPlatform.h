@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 #include <QString>
 #include <QStringList>

@@ -6,6 +6,7 @@ namespace Orvello {
 
 class AudioProcesses;
 class MicrophonePermission;
+class Microphones;
 class RawMicrophone;
 class VoiceProcessing;
 
@@ -21,6 +22,7 @@ public:
     virtual VoiceProcessing& voiceProcessing() = 0;
     virtual RawMicrophone& rawMicrophone() = 0;
     virtual AudioProcesses& audioProcesses() = 0;
+    virtual Microphones& microphones() = 0;
 };
 
 } // namespace Orvello

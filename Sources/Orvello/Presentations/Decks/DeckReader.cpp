@@ -30,7 +30,7 @@ DeckReader::DeckReader(ZipArchive& archive)
 {
 }
 
-Result<QList<SlideNote>, ImportError> DeckReader::read()
+Result<Deck, ImportError> DeckReader::read()
 {
     const std::optional<QByteArrayView> presentation = m_archive.data(u"ppt/presentation.xml"_s);
     if (!presentation)
@@ -41,11 +41,23 @@ Result<QList<SlideNote>, ImportError> DeckReader::read()
     if (paths.isEmpty())
         return Failure { ImportError::NotAPresentation };
 
-    QList<SlideNote> slides;
-    slides.reserve(paths.size());
-    for (const QString& path : paths)
-        slides.append(readSlide(slides.size() + 1, path));
-    return slides;
+    static const std::set<std::string_view> titleTypes { "title", "ctrTitle" };
+    Deck deck;
+    deck.slides.reserve(paths.size());
+    for (const QString& path : paths) {
+        bool isCut = false;
+        deck.slides.append({ deck.slides.size() + 1, std::nullopt, notesOf(path, isCut) });
+        if (isCut)
+            deck.unread.append(deck.slides.size());
+    }
+    // After all notes, so that what a slide holds besides its title takes nothing away from them.
+    for (qsizetype index = 0; index < paths.size(); ++index) {
+        bool isCut = false;
+        QString title = placeholderText(paths[index], titleTypes, isCut);
+        if (!title.isEmpty())
+            deck.slides[index].title = std::move(title);
+    }
+    return deck;
 }
 
 QStringList DeckReader::slidePaths(const QStringList& slideRelIds)
@@ -65,16 +77,12 @@ QStringList DeckReader::slidePaths(const QStringList& slideRelIds)
     return paths;
 }
 
-SlideNote DeckReader::readSlide(qint64 number, const QString& path)
+QString DeckReader::notesOf(const QString& path, bool& isCut)
 {
-    static const std::set<std::string_view> titleTypes { "title", "ctrTitle" };
     static const std::set<std::string_view> notesTypes { "body" };
-
-    QString title = placeholderText(path, titleTypes);
     const std::optional<QString> notes = notesPath(fileName(path));
-    return { .index = number,
-        .title = title.isEmpty() ? std::nullopt : std::optional(std::move(title)),
-        .notes = notes ? placeholderText(*notes, notesTypes) : QString() };
+    isCut = m_archive.hasHitLimit();
+    return notes ? placeholderText(*notes, notesTypes, isCut) : QString();
 }
 
 std::optional<QString> DeckReader::notesPath(const QString& slideFileName)
@@ -97,13 +105,16 @@ QList<Rel> DeckReader::relationships(const QString& path)
 }
 
 /// Empty when the part is missing.
-QString DeckReader::placeholderText(const QString& path, const std::set<std::string_view>& types)
+QString DeckReader::placeholderText(
+    const QString& path, const std::set<std::string_view>& types, bool& isCut)
 {
     const auto part = m_archive.data(path);
+    isCut = isCut || m_archive.hasHitLimit();
     if (!part)
         return {};
     PlaceholderTextParser parser(types, std::min(Limits::partText, m_textLeft));
     parser.parse(view(*part));
+    isCut = isCut || parser.isCut;
     QString text = parser.collected.join(u'\n').trimmed();
     m_textLeft -= text.size();
     return text;

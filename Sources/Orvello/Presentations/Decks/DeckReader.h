@@ -23,14 +23,15 @@ public:
     /// `archive` must outlive the reader.
     explicit DeckReader(ZipArchive& archive);
 
-    [[nodiscard]] Result<QList<SlideNote>, ImportError> read();
+    [[nodiscard]] Result<Deck, ImportError> read();
 
 private:
     QStringList slidePaths(const QStringList& slideRelIds);
-    SlideNote readSlide(qint64 number, const QString& path);
+    QString notesOf(const QString& path, bool& isCut);
     std::optional<QString> notesPath(const QString& slideFileName);
     QList<Rel> relationships(const QString& path);
-    QString placeholderText(const QString& path, const std::set<std::string_view>& types);
+    QString placeholderText(
+        const QString& path, const std::set<std::string_view>& types, bool& isCut);
 
     ZipArchive& m_archive;
     qsizetype m_textLeft = Limits::totalText;

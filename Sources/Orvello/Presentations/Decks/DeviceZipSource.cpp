@@ -49,7 +49,8 @@ zip_int64_t DeviceZipSource::serve(
 
 zip_int64_t DeviceZipSource::read(void* data, zip_uint64_t length)
 {
-    if (m_allowance.reads <= 0 || length > static_cast<zip_uint64_t>(m_allowance.bytes))
+    m_isSpent = m_allowance.reads <= 0 || length > static_cast<zip_uint64_t>(m_allowance.bytes);
+    if (m_isSpent)
         return fail(ZIP_ER_READ);
     const qint64 count = m_device.read(static_cast<char*>(data), static_cast<qint64>(length));
     if (count < 0)

@@ -28,6 +28,9 @@ public:
 
     void setAllowance(Allowance allowance) { m_allowance = allowance; }
 
+    /// Whether a read has failed for want of allowance.
+    bool isSpent() const { return m_isSpent; }
+
 private:
     static zip_int64_t serve(
         void* context, void* data, zip_uint64_t length, zip_source_cmd_t command);
@@ -38,6 +41,7 @@ private:
 
     QIODevice& m_device;
     Allowance m_allowance;
+    bool m_isSpent = false;
     zip_error_t m_error;
     zip_source_t* m_source = nullptr;
 };

@@ -52,7 +52,7 @@ void PlaceholderTextParser::endElement(std::string_view name)
 void PlaceholderTextParser::append(const QString& text)
 {
     if (m_collectedLength + m_shapeText.size() + text.size() > m_maximumLength)
-        stop();
+        cut();
     else
         m_shapeText += text;
 }
@@ -64,9 +64,15 @@ void PlaceholderTextParser::collect()
     const QString text = m_shapeText.trimmed();
     m_collectedLength += text.size() + 1;
     if (m_collectedLength > m_maximumLength)
-        stop();
+        cut();
     else
         collected.append(text);
+}
+
+void PlaceholderTextParser::cut()
+{
+    isCut = true;
+    stop();
 }
 
 } // namespace Orvello::PptxImporter

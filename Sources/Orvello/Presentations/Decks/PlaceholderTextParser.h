@@ -20,6 +20,7 @@ public:
     PlaceholderTextParser(std::set<std::string_view> acceptedTypes, qsizetype maximumLength);
 
     QStringList collected;
+    bool isCut = false; ///< Reading ended for the length of the text.
 
 private:
     void startElement(std::string_view name, const XmlAttributes& attributes) override;
@@ -28,6 +29,7 @@ private:
 
     void append(const QString& text);
     void collect();
+    void cut();
 
     std::set<std::string_view> m_acceptedTypes;
     bool m_insideShape = false;

@@ -6,12 +6,22 @@
 #include <QList>
 #include <QString>
 
-/// Reads the speaker notes of a PowerPoint Open XML package (`.pptx`).
+#include <atomic>
+
+/// Reads the speaker notes of a PowerPoint Open XML package (`.pptx`), or of an OpenDocument
+/// presentation (`.odp`). Which of them a file is, its content says.
 namespace Orvello::PptxImporter {
 
 enum class ImportError {
     Unreadable, ///< Not a file that opens as a package.
     NotAPresentation, ///< A package without slides.
+    Protected, ///< Encrypted with a password.
+};
+
+/// What a package holds.
+struct Deck {
+    QList<SlideNote> slides;
+    QList<qint64> unread; ///< The numbers of the slides whose notes were lost to a limit, in order.
 };
 
 /// What the user is told.
@@ -23,6 +33,17 @@ QString description(ImportError error);
 ///
 /// Synchronous, on the caller's thread; calls on different threads are independent.
 [[nodiscard]] Result<QList<SlideNote>, ImportError> importNotes(const QString& path);
+
+/// The same, with what the limits took away. It ends early, with whatever error, once another
+/// thread sets `isCancelled`.
+[[nodiscard]] Result<Deck, ImportError> importDeck(
+    const QString& path, const std::atomic<bool>* isCancelled = nullptr);
+
+/// Whether the file's name is that of a deck.
+[[nodiscard]] bool isDeckFile(const QString& path);
+
+/// Numbers of slides as people write them: "3, 257–300".
+[[nodiscard]] QString slideRanges(const QList<qint64>& numbers);
 
 /// Far above any deck that people make, these limits bound the cost of a package made to do harm:
 /// at worst a minute or two, and 400 MB beyond the result itself. An ordinary one takes, beyond the

@@ -43,12 +43,14 @@ bool isSupported(const zip_stat_t& entry)
 
 } // namespace
 
-std::unique_ptr<ZipArchive> ZipArchive::open(QIODevice& device)
+std::unique_ptr<ZipArchive> ZipArchive::open(
+    QIODevice& device, const std::atomic<bool>* isCancelled)
 {
     // libzip takes an empty file as an empty archive.
     if (device.size() == 0 || zip64EntryCount(device) > static_cast<quint64>(Limits::entries))
         return nullptr;
     std::unique_ptr<ZipArchive> archive(new ZipArchive(device));
+    archive->m_isCancelled = isCancelled;
     return archive->open() ? std::move(archive) : nullptr;
 }
 
@@ -103,6 +105,7 @@ std::optional<quint32> ZipArchive::entryAt(const QByteArray& name) const
 
 std::optional<QByteArrayView> ZipArchive::data(const QString& path)
 {
+    m_hasHitLimit = false;
     const std::optional<quint32> entry = entryAt(path.toUtf8());
     if (!entry || !extract(*entry))
         return std::nullopt;
@@ -112,8 +115,11 @@ std::optional<QByteArrayView> ZipArchive::data(const QString& path)
 bool ZipArchive::extract(quint32 index)
 {
     zip_stat_t entry;
-    if (zip_stat_index(m_archive.get(), index, 0, &entry) != 0 || !isSupported(entry)
-        || entry.size > static_cast<zip_uint64_t>(Limits::entrySize))
+    if (zip_stat_index(m_archive.get(), index, 0, &entry) != 0 || !isSupported(entry))
+        return false;
+    m_hasHitLimit = entry.size > static_cast<zip_uint64_t>(Limits::entrySize)
+        || m_totalSize > Limits::totalSize || m_source.isSpent();
+    if (m_hasHitLimit)
         return false;
     const std::unique_ptr<zip_file_t, CloseFile> file(zip_fopen_index(m_archive.get(), index, 0));
     if (!file)
@@ -125,11 +131,14 @@ bool ZipArchive::extract(quint32 index)
     zip_int64_t count = 0;
     do {
         m_content.resize(size + chunkSize);
-        count = m_totalSize <= Limits::totalSize && size <= Limits::entrySize
-            ? zip_fread(file.get(), m_content.data() + size, chunkSize)
-            : -1;
-        if (count < 0)
+        m_hasHitLimit = m_totalSize > Limits::totalSize || size > Limits::entrySize;
+        count = m_hasHitLimit || (m_isCancelled && *m_isCancelled)
+            ? -1
+            : zip_fread(file.get(), m_content.data() + size, chunkSize);
+        if (count < 0) {
+            m_hasHitLimit = m_hasHitLimit || m_source.isSpent();
             return false;
+        }
         size += count;
         m_totalSize += count;
     } while (count > 0); // libzip compares the checksum once it has reached the end.

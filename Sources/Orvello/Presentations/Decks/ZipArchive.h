@@ -8,6 +8,7 @@
 
 #include <zip.h>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -21,13 +22,18 @@ namespace Orvello::PptxImporter {
 class ZipArchive {
 public:
     /// Null when the device does not hold a ZIP archive. `device` is open for reading, can seek,
-    /// and must outlive the archive.
-    [[nodiscard]] static std::unique_ptr<ZipArchive> open(QIODevice& device);
+    /// and must outlive the archive. Nothing is extracted any more once another thread sets
+    /// `isCancelled`.
+    [[nodiscard]] static std::unique_ptr<ZipArchive> open(
+        QIODevice& device, const std::atomic<bool>* isCancelled = nullptr);
 
     /// The whole content of the entry whose name is exactly this path in UTF-8 (of several, the
     /// first), or none when there is no such entry or it cannot be extracted whole and with the
     /// right checksum. Valid until the next call.
     [[nodiscard]] std::optional<QByteArrayView> data(const QString& path);
+
+    /// Whether that call gave nothing because of one of the importer's limits.
+    bool hasHitLimit() const { return m_hasHitLimit; }
 
 private:
     struct Discard {
@@ -46,6 +52,8 @@ private:
     std::vector<quint32> m_entries; ///< In the order of their names, then of the directory.
     QByteArray m_content; ///< The entry that was extracted last.
     qint64 m_totalSize = 0; ///< Bytes extracted so far.
+    bool m_hasHitLimit = false;
+    const std::atomic<bool>* m_isCancelled = nullptr;
 };
 
 } // namespace Orvello::PptxImporter

@@ -23,6 +23,7 @@ struct PresenterApp {
     Query askCurrentSlide; ///< Prints the number of the slide on screen, 1-based.
     Query askOpenDeck; ///< Prints the deck record of the front document, or fails with NO_DOCUMENT.
     bool hasDeckFiles = false; ///< Its decks are files that the importer reads by itself.
+    bool isForThisSystem = true; ///< Somebody could have it here.
 };
 
 /// The presentation applications of this edition, in the order in which names are tried. Rows are

@@ -30,24 +30,20 @@ public:
     const QString& promptText() const { return m_promptText; }
     /// Goes up by 1 whenever another unit is shown, which then starts at its top.
     qint64 slideChangeToken() const { return m_slideChangeToken; }
-    bool trackingActive() const
-    {
-        return m_trackingActive;
-    } ///< Whether one slide's notes are shown.
+    /// Whether one slide's notes are shown.
+    bool trackingActive() const { return m_trackingActive; }
     qint64 displayIndex() const { return m_displayIndex; } ///< 0-based; 0 without slides.
     qint64 slideCount() const { return m_slideCount; } ///< How many slides the active script has.
-    const std::optional<QString>& slideTitle() const
-    {
-        return m_slideTitle;
-    } ///< The title of the slide shown, if any.
+    /// The title of the slide shown, if any.
+    const std::optional<QString>& slideTitle() const { return m_slideTitle; }
     SlideSyncService::State syncState() const { return m_syncState; }
 
     void showPreviousSlide();
     void showNextSlide();
 
 Q_SIGNALS:
-    void promptTextChanged(
-        const Orvello::TextEdit& edit); ///< The edit leads from the text before to the new one.
+    /// The edit leads from the text before to the new one.
+    void promptTextChanged(const Orvello::TextEdit& edit);
     void slideChangeTokenChanged();
     void trackingActiveChanged();
     void displayIndexChanged();
@@ -83,8 +79,8 @@ private:
     std::optional<QString> m_slideTitle;
     SlideSyncService::State m_syncState = SlideSyncService::State::Idle;
     qint64 m_manualIndex = 0; ///< Follows the live slide, so that it stays when the slideshow ends.
-    std::optional<TextEdit>
-        m_edit; ///< What has changed in the last script's body since the text was published.
+    /// What has changed in the last script's body since the text was published.
+    std::optional<TextEdit> m_edit;
     QString m_lastUnitKey;
     std::optional<QUuid> m_lastScriptID;
 };

@@ -1,5 +1,8 @@
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 
+#include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 
 #include <QPointer>
@@ -13,62 +16,76 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString allowedKey = u"impressAllowed"_s;
+
 /// The error number that stands for a refusal, as with the other presenters.
 constexpr QStringView notAuthorised = u"-1743";
 
+/// A slide that comes later than this is no longer the one on screen.
+constexpr double slideSeconds = 2.0;
+constexpr double deckSeconds = 20.0;
+constexpr double openSeconds = 20.0;
+
 bool isRefused(const ScriptResult& result)
 {
-    return result.status != 0 && result.status != ScriptResult::notStarted
-        && result.standardError.contains(notAuthorised);
+    return result.status > 0 && result.standardError.contains(notAuthorised);
 }
 
-/// What the helper says, in English, about a change, with a placeholder where it varies.
+/// What the helper says, in English, with a placeholder where it varies.
 constexpr std::array answers {
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
         "To follow Impress, Orvello needs the package python3-uno. Install it and try again."),
-    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "LibreOffice isn't installed."),
-    QT_TRANSLATE_NOOP(
-        "Orvello::ImpressPresenter", "LibreOffice did not answer. Close it and try again."),
-    //: %1: how the other program is connected.
-    QT_TRANSLATE_NOOP(
-        "Orvello::ImpressPresenter", "LibreOffice already listens to another program (%1)."),
-    //: Two paragraphs. %1: a command for a terminal.
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "LibreOffice isn't running."),
+    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "LibreOffice did not answer."),
+    //: %1: a kind of package, such as Flatpak or Snap.
     QT_TRANSLATE_NOOP("Orvello::ImpressPresenter",
-        "Orvello may now follow Impress. Start the slideshow or the import again.\n\nTo take this "
-        "back later: %1"),
-    QT_TRANSLATE_NOOP("Orvello::ImpressPresenter", "Orvello may no longer follow Impress."),
+        "This LibreOffice runs in a sandbox (%1) that Orvello cannot reach. Import the "
+        "presentation's file instead, and step through the slides by hand."),
 };
 
-/// An answer that is not among them, such as one from the system, stays as it is.
+/// An answer that is not among them, such as one from the system, stays as it is, and so does an
+/// error number.
 QString inUsersLanguage(const QString& answer)
 {
     for (const char* const source : answers) {
         const QString text = QString::fromUtf8(source);
         const qsizetype hole = text.indexOf(u"%1"_s);
         if (hole < 0) {
-            if (answer == text)
-                return ImpressPresenter::tr(source);
+            if (answer.startsWith(text))
+                return ImpressPresenter::tr(source) + answer.sliced(text.size());
             continue;
         }
-        const QString before = text.first(hole);
         const QString after = text.sliced(hole + 2);
-        if (answer.startsWith(before) && answer.endsWith(after))
-            return ImpressPresenter::tr(source).arg(
-                answer.sliced(before.size()).chopped(after.size()));
+        const qsizetype end = answer.indexOf(after);
+        if (answer.startsWith(QStringView(text).first(hole)) && end >= hole)
+            return ImpressPresenter::tr(source).arg(answer.sliced(hole, end - hole))
+                + answer.sliced(end + after.size());
     }
     return answer;
 }
 
+/// Without the error number in brackets at its end.
+QString withoutNumber(const QString& error)
+{
+    const qsizetype bracket = error.lastIndexOf(u" (-"_s);
+    return bracket < 0 ? error : error.first(bracket);
+}
+
 } // namespace
 
-ImpressPresenter::ImpressPresenter(
-    HelperProcess& helper, const PresentationMonitor& presentation, QObject* parent)
+ImpressPresenter::ImpressPresenter(HelperProcess& helper, const PresentationMonitor& presentation,
+    UserDefaults& defaults, QObject* parent)
     : QObject(parent)
     , m_helper(helper)
     , m_presentation(presentation)
+    , m_defaults(defaults)
+    , m_isAllowed(DefaultsValue::asBoolean(defaults.value(allowedKey)).value_or(false))
 {
-    connect(&presentation, &PresentationMonitor::isPresentingChanged, this,
-        &ImpressPresenter::adviseAfterSlideshow);
+    connect(&presentation, &PresentationMonitor::isSlideshowOnScreenChanged, this, [this] {
+        Q_EMIT audienceChanged();
+        closeWhenIdle();
+        advise();
+    });
 }
 
 PresenterApp ImpressPresenter::row()
@@ -81,73 +98,130 @@ PresenterApp ImpressPresenter::row()
         .notesName = tr("notes"),
         .permissionAdvice
         //: Follows "Couldn't read the Impress presentation:".
-        = tr("permission denied — LibreOffice answers other programs only once you allow it"),
-        .askCurrentSlide =
-            [this](ScriptCompletion completion) {
-                ask(u"slide"_s, std::move(completion), &ImpressPresenter::slideRefused);
-            },
-        .askOpenDeck =
-            [this](ScriptCompletion completion) {
-                ask(u"deck"_s, std::move(completion), &ImpressPresenter::importRefused);
-            },
+        = tr("permission denied — Orvello asks LibreOffice only once you allow it"),
+        .askCurrentSlide
+        = [this](ScriptCompletion completion) { ask(Purpose::Slide, std::move(completion)); },
+        .askOpenDeck
+        = [this](ScriptCompletion completion) { ask(Purpose::Deck, std::move(completion)); },
     };
 }
 
-void ImpressPresenter::ask(
-    const QString& question, ScriptCompletion completion, void (ImpressPresenter::*refused)())
+void ImpressPresenter::setAllowed(bool isAllowed)
 {
-    const auto receive = [self = QPointer(this), refused, completion = std::move(completion)](
+    if (!assign(m_isAllowed, isAllowed))
+        return;
+    m_defaults.setValue(allowedKey, isAllowed);
+    m_isAdviceDue = false; // The user knows how to allow it by now.
+    if (!isAllowed) {
+        m_isOpen = false;
+        m_helper.end();
+    }
+    setObstacle({});
+    Q_EMIT isAllowedChanged();
+}
+
+bool ImpressPresenter::hasAudience() const { return m_presentation.isSlideshowOnScreen(); }
+
+void ImpressPresenter::ask(Purpose purpose, ScriptCompletion completion)
+{
+    ++m_questions;
+    const auto receive = [self = QPointer(this), purpose, completion = std::move(completion)](
                              const ScriptResult& result) {
-        completion(result);
-        if (self && isRefused(result))
-            (self->*refused)();
+        if (self)
+            self->conclude(purpose, result, completion);
+        else
+            completion(result);
     };
-    m_helper.ask(question, receive);
+    if (!m_isAllowed)
+        QMetaObject::invokeMethod(
+            this,
+            [receive] {
+                receive({ 1, {}, u"Orvello may not ask LibreOffice. (%1)"_s.arg(notAuthorised) });
+            },
+            Qt::QueuedConnection);
+    else if (m_isOpen)
+        askOpened(purpose, receive);
+    else
+        open(purpose, receive);
 }
 
-void ImpressPresenter::slideRefused()
+/// Has LibreOffice listen first, which takes longer than a slide may.
+void ImpressPresenter::open(Purpose purpose, ScriptCompletion completion)
 {
-    m_isAdviceDue = !m_hasAdvised;
-    adviseAfterSlideshow();
+    m_helper.ask(u"open"_s, openSeconds,
+        [self = QPointer(this), purpose, completion = std::move(completion)](
+            const ScriptResult& result) {
+            if (!self || result.status != 0) {
+                completion(result);
+                return;
+            }
+            self->m_isOpen = true;
+            self->askOpened(purpose, completion);
+        });
 }
 
-void ImpressPresenter::adviseAfterSlideshow()
+void ImpressPresenter::askOpened(Purpose purpose, ScriptCompletion completion)
 {
-    if (!m_isAdviceDue || m_presentation.isPresenting())
+    if (purpose == Purpose::Slide)
+        m_helper.ask(u"slide"_s, slideSeconds, std::move(completion));
+    else
+        m_helper.ask(u"deck"_s, deckSeconds, std::move(completion));
+}
+
+void ImpressPresenter::conclude(
+    Purpose purpose, const ScriptResult& result, const ScriptCompletion& completion)
+{
+    --m_questions;
+    // Any failure may mean that LibreOffice has gone or another one come, and opening again is
+    // cheap.
+    if (result.status != 0)
+        m_isOpen = false;
+    const bool isRefusal = isRefused(result);
+    if (m_isAllowed)
+        setObstacle(
+            isRefusal ? withoutNumber(inUsersLanguage(result.standardError.trimmed())) : QString());
+
+    ScriptResult told = result;
+    told.standardError = result.status == ScriptResult::timedOut
+        ? tr("LibreOffice did not answer.")
+        : inUsersLanguage(result.standardError);
+    const QPointer<ImpressPresenter> self(this);
+    completion(told);
+    if (!self)
+        return;
+    if (isRefusal)
+        refused(purpose);
+    closeWhenIdle();
+}
+
+void ImpressPresenter::setObstacle(const QString& obstacle)
+{
+    if (assign(m_obstacle, obstacle))
+        Q_EMIT obstacleChanged();
+}
+
+void ImpressPresenter::refused(Purpose purpose)
+{
+    if (purpose == Purpose::Deck || !m_hasAdvised)
+        m_isAdviceDue = true;
+    advise();
+}
+
+void ImpressPresenter::advise()
+{
+    if (!m_isAdviceDue || hasAudience())
         return;
     m_isAdviceDue = false;
     m_hasAdvised = true;
     Q_EMIT adviceNeeded();
 }
 
-void ImpressPresenter::importRefused()
+void ImpressPresenter::closeWhenIdle()
 {
-    m_isAdviceDue = false;
-    m_hasAdvised = true;
-    Q_EMIT adviceNeeded();
-}
-
-void ImpressPresenter::allow(Completion completion) { change(u"allow"_s, std::move(completion)); }
-
-void ImpressPresenter::disallow(Completion completion)
-{
-    change(u"disallow"_s, std::move(completion));
-}
-
-void ImpressPresenter::change(const QString& question, Completion completion)
-{
-    m_isAdviceDue = false; // The user knows how to allow it by now.
-    m_isChanging = true;
-    m_helper.ask(question,
-        [self = QPointer(this), completion = std::move(completion)](const ScriptResult& result) {
-            if (!self)
-                return;
-            self->m_isChanging = false;
-            const bool isDone = result.status == 0;
-            completion({ isDone,
-                inUsersLanguage(
-                    (isDone ? result.standardOutput : result.standardError).trimmed()) });
-        });
+    if (m_questions > 0 || hasAudience())
+        return;
+    m_isOpen = false;
+    m_helper.end();
 }
 
 } // namespace Orvello

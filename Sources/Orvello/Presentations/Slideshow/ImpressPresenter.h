@@ -6,57 +6,64 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 namespace Orvello {
 
 class PresentationMonitor;
+class UserDefaults;
 
-/// LibreOffice Impress, which is asked through a helper program. It answers the helper like the
-/// other presenters answer their scripts, but only once the user has set LibreOffice up for that.
+/// LibreOffice Impress, which is asked through a helper program. The helper has LibreOffice listen
+/// to it, once the user has agreed, and only while a slideshow is on screen or a deck is being
+/// imported: for the rest of the time there is no helper.
 class ImpressPresenter final : public QObject {
     Q_OBJECT
+    /// Whether the user lets Orvello ask LibreOffice. Stored.
+    Q_PROPERTY(bool isAllowed READ isAllowed WRITE setAllowed NOTIFY isAllowedChanged FINAL)
+    /// Why LibreOffice could not be asked all the same, for the user; empty while it could.
+    Q_PROPERTY(QString obstacle READ obstacle NOTIFY obstacleChanged FINAL)
 
 public:
-    /// How LibreOffice's setting was changed.
-    struct Change {
-        bool isDone = false;
-        QString message; ///< What to tell the user about it.
-    };
-    using Completion = std::function<void(const Change&)>;
-
     /// Everything must outlive the presenter.
-    ImpressPresenter(
-        HelperProcess& helper, const PresentationMonitor& presentation, QObject* parent = nullptr);
+    ImpressPresenter(HelperProcess& helper, const PresentationMonitor& presentation,
+        UserDefaults& defaults, QObject* parent = nullptr);
 
     PresenterApp row(); ///< Its row of the presenter table.
 
-    /// Permanently sets LibreOffice up to be asked, in the user's profile; that may mean starting
-    /// it. The completion is called on the main loop, unless the presenter is destroyed first.
-    void allow(Completion completion);
-    /// Undoes allow().
-    void disallow(Completion completion);
+    bool isAllowed() const { return m_isAllowed; }
+    void setAllowed(bool isAllowed);
+    const QString& obstacle() const { return m_obstacle; }
 
-    /// A change is under way, which may take some seconds.
-    bool isChanging() const { return m_isChanging; }
+    /// Whether a slideshow is on a screen, so that nothing may appear before its audience.
+    bool hasAudience() const;
 
 Q_SIGNALS:
-    /// LibreOffice refuses to be asked: tell the user how to allow it. Once per run for slideshows,
-    /// so that a user who does not want it is left alone, and only after the slideshow, so that
-    /// nothing appears before the audience; at once for each import, which the user asked for.
+    void isAllowedChanged();
+    void obstacleChanged();
+    void audienceChanged();
+
+    /// LibreOffice was not asked, for want of the user's consent, or could not be: tell the user.
+    /// Once per run for slideshows, so that a user who does not want it is left alone; for each
+    /// import, which the user asked for. Never before an audience.
     void adviceNeeded();
 
 private:
-    void ask(
-        const QString& question, ScriptCompletion completion, void (ImpressPresenter::*refused)());
-    void slideRefused();
-    void importRefused();
-    void adviseAfterSlideshow();
-    void change(const QString& question, Completion completion);
+    enum class Purpose { Slide, Deck };
+
+    void ask(Purpose purpose, ScriptCompletion completion);
+    void open(Purpose purpose, ScriptCompletion completion);
+    void askOpened(Purpose purpose, ScriptCompletion completion);
+    void conclude(Purpose purpose, const ScriptResult& result, const ScriptCompletion& completion);
+    void setObstacle(const QString& obstacle);
+    void refused(Purpose purpose);
+    void advise();
+    void closeWhenIdle();
 
     HelperProcess& m_helper;
     const PresentationMonitor& m_presentation;
-    bool m_isChanging = false;
+    UserDefaults& m_defaults;
+    bool m_isAllowed = false;
+    QString m_obstacle;
+    bool m_isOpen = false; ///< LibreOffice listens.
+    int m_questions = 0; ///< How many are open.
     bool m_isAdviceDue = false;
     bool m_hasAdvised = false;
 };

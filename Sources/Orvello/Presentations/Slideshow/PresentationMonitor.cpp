@@ -60,7 +60,12 @@ void PresentationMonitor::poll()
 
 void PresentationMonitor::pollPresentingApp()
 {
-    const std::optional<QString> app = detectPresentingApp();
+    const bool isFrontmost = isPresenterFrontmost();
+    // Nobody's windows are of interest before a presenter was frontmost once.
+    const std::optional<QString> slideshow
+        = isFrontmost || m_isSlideshowOnScreen ? slideshowOnScreen() : std::nullopt;
+    const std::optional<QString> app = isFrontmost ? slideshow : std::nullopt;
+    const bool comesOrGoes = assign(m_isSlideshowOnScreen, slideshow.has_value());
     m_presentingApp = app;
     const bool isTransition = assign(m_isPresenting, app.has_value());
     if (isTransition) {
@@ -68,6 +73,8 @@ void PresentationMonitor::pollPresentingApp()
             "Orvello PRESENTING=%d app=%@", app ? 1 : 0, app ? *app : QStringLiteral("-"));
         Q_EMIT isPresentingChanged();
     }
+    if (comesOrGoes)
+        Q_EMIT isSlideshowOnScreenChanged();
 }
 
 void PresentationMonitor::pollMeetingApps()
@@ -90,11 +97,15 @@ void PresentationMonitor::pollMicrophone()
     Q_EMIT inCallChanged();
 }
 
-std::optional<QString> PresentationMonitor::detectPresentingApp() const
+bool PresentationMonitor::isPresenterFrontmost() const
 {
     const auto frontmost = m_sources.workspace.frontmostApplication();
-    if (!frontmost || !m_sources.presenters.identifiedBy(frontmost->bundleIdentifier))
-        return std::nullopt;
+    return frontmost && m_sources.presenters.identifiedBy(frontmost->bundleIdentifier);
+}
+
+/// The owner of a presenter's window over a whole screen.
+std::optional<QString> PresentationMonitor::slideshowOnScreen() const
+{
     const auto windows = m_sources.windowServer.windowsOnScreen();
     if (!windows)
         return std::nullopt;

@@ -40,12 +40,16 @@ public:
     bool isPresenting() const { return m_isPresenting; }
     /// The owner name of the slideshow's window.
     const std::optional<QString>& presentingApp() const { return m_presentingApp; }
+    /// Whether a slideshow that was in front is still on a screen, whatever is frontmost now. Until
+    /// its windows are gone there is an audience.
+    bool isSlideshowOnScreen() const { return m_isSlideshowOnScreen; }
     bool meetingAppRunning() const { return m_meetingAppRunning; }
     /// Whether another process is capturing audio input.
     bool inCall() const { return m_inCall; }
 
 Q_SIGNALS:
     void isPresentingChanged();
+    void isSlideshowOnScreenChanged();
     void meetingAppRunningChanged();
     void inCallChanged();
 
@@ -54,11 +58,13 @@ private:
     void pollPresentingApp();
     void pollMeetingApps();
     void pollMicrophone();
-    std::optional<QString> detectPresentingApp() const;
+    bool isPresenterFrontmost() const;
+    std::optional<QString> slideshowOnScreen() const;
 
     const Sources m_sources;
     bool m_isPresenting = false;
     std::optional<QString> m_presentingApp;
+    bool m_isSlideshowOnScreen = false;
     bool m_meetingAppRunning = false;
     bool m_inCall = false;
     std::unique_ptr<TimeSource::Ticket> m_timer;

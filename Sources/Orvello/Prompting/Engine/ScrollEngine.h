@@ -17,15 +17,10 @@ class SettingsStore;
 /// thread.
 class ScrollEngine final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(double offset READ offset WRITE setOffset NOTIFY offsetChanged FINAL)
-    Q_PROPERTY(bool isRunning READ isRunning NOTIFY isRunningChanged FINAL)
     Q_PROPERTY(
         bool hoverPaused READ hoverPaused WRITE setHoverPaused NOTIFY hoverPausedChanged FINAL)
     Q_PROPERTY(bool isCountingDown READ isCountingDown NOTIFY countdownChanged FINAL)
     Q_PROPERTY(QString countdownText READ countdownText NOTIFY countdownChanged FINAL)
-    Q_PROPERTY(bool voiceFollowActive READ voiceFollowActive WRITE setVoiceFollowActive NOTIFY
-            voiceFollowActiveChanged FINAL)
-    Q_PROPERTY(bool voiceGate READ voiceGate WRITE setVoiceGate NOTIFY voiceGateChanged FINAL)
 
 public:
     /// Both must outlive the engine.

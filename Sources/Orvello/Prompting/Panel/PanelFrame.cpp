@@ -36,13 +36,44 @@ const QRectF& mainScreen(const QList<QRectF>& screens)
     return screens.isEmpty() ? assumedScreen : screens.first();
 }
 
-/// The frame with its y axis reversed. Its own inverse.
-QRectF flippedVertically(const QRectF& frame, const QList<QRectF>& screens)
+double primaryHeight(const QList<QRectF>& screens)
 {
     const auto isPrimary = [](const QRectF& screen) { return screen.topLeft().isNull(); };
     const auto primary = std::ranges::find_if(screens, isPrimary);
-    const double height = (primary == screens.end() ? mainScreen(screens) : *primary).height();
+    return (primary == screens.end() ? mainScreen(screens) : *primary).height();
+}
+
+/// The frame with its y axis reversed on a primary screen of that height. Its own inverse.
+QRectF flippedVertically(const QRectF& frame, double height)
+{
     return { frame.x(), height - frame.y() - frame.height(), frame.width(), frame.height() };
+}
+
+const QRectF& nearest(const QRectF& frame, const QList<QRectF>& screens)
+{
+    return *std::ranges::min_element(
+        screens, {}, [&](const QRectF& screen) { return distance(frame, screen); });
+}
+
+/// Moved, and shrunk if it must be, until all of it is on the screen.
+QRectF inside(const QRectF& frame, const QRectF& screen)
+{
+    const double width = std::min(frame.width(), screen.width());
+    const double height = std::min(frame.height(), screen.height());
+    return { std::clamp(frame.x(), screen.left(), screen.right() - width),
+        std::clamp(frame.y(), screen.top(), screen.bottom() - height), width, height };
+}
+
+QRectF atTopCentre(QSizeF size, const QRectF& screen)
+{
+    return { screen.center().x() - size.width() / 2, screen.top() + gapBelowScreenTop, size.width(),
+        size.height() };
+}
+
+/// The same place as seen from the top centre of another screen.
+QRectF carriedOver(const QRectF& frame, const QRectF& from, const QRectF& to)
+{
+    return frame.translated(to.center().x() - from.center().x(), to.top() - from.top());
 }
 
 QString number(double value) { return QString::number(value, 'g', 12); }
@@ -51,22 +82,45 @@ QString number(double value) { return QString::number(value, 'g', 12); }
 
 QRectF initial(const QList<QRectF>& screens)
 {
-    const QRectF screen = mainScreen(screens);
-    return { screen.center().x() - panelWidth / 2, screen.top() + gapBelowScreenTop, panelWidth,
-        panelHeight };
+    return atTopCentre({ panelWidth, panelHeight }, mainScreen(screens));
 }
 
-QRectF onScreen(const QRectF& frame, const QList<QRectF>& screens)
+QRectF underCamera(QSizeF size, QPointF point, const QList<QRectF>& screens)
 {
-    const auto holds = [&](const QRectF& screen) { return isGrabbable(frame, screen); };
-    if (screens.isEmpty() || std::ranges::any_of(screens, holds))
+    const auto under = std::ranges::find_if(
+        screens, [&](const QRectF& screen) { return screen.contains(point); });
+    const QRectF& screen = under == screens.end() ? mainScreen(screens) : *under;
+    return inside(atTopCentre(size, screen), screen);
+}
+
+Home homeAt(const QRectF& frame, const QList<QRectF>& screens)
+{
+    if (screens.isEmpty())
+        return { frame, {} };
+    const auto seen = [&](const QRectF& screen) {
+        const QRectF part = frame.intersected(screen);
+        return part.width() * part.height();
+    };
+    const QRectF& most = *std::ranges::max_element(screens, {}, seen);
+    return { frame, seen(most) > 0 ? most : nearest(frame, screens) };
+}
+
+QRectF placeOf(const Home& home, const QList<QRectF>& screens)
+{
+    const QRectF& frame = home.frame;
+    if (screens.isEmpty())
         return frame;
-    const QRectF screen = *std::ranges::min_element(
-        screens, {}, [&](const QRectF& candidate) { return distance(frame, candidate); });
-    const double width = std::min(frame.width(), screen.width());
-    const double height = std::min(frame.height(), screen.height());
-    return { std::clamp(frame.x(), screen.left(), screen.right() - width),
-        std::clamp(frame.y(), screen.top(), screen.bottom() - height), width, height };
+    if (home.screen.isEmpty() || screens.contains(home.screen)) {
+        const auto holds = [&](const QRectF& screen) { return isGrabbable(frame, screen); };
+        return std::ranges::any_of(screens, holds) ? frame : inside(frame, nearest(frame, screens));
+    }
+    // The primary screen stays what it is, however large; another one may have gone.
+    const bool wasPrimary = home.screen.topLeft().isNull();
+    const auto primary = std::ranges::find_if(
+        screens, [](const QRectF& screen) { return screen.topLeft().isNull(); });
+    const QRectF& screen
+        = wasPrimary && primary != screens.end() ? *primary : nearest(home.screen, screens);
+    return inside(carriedOver(frame, home.screen, screen), screen);
 }
 
 QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest)
@@ -78,39 +132,51 @@ QRectF withSizeBetween(const QRectF& frame, QSizeF smallest, QSizeF largest)
 
 QString description(const QRectF& frame, const QList<QRectF>& screens)
 {
-    const QRectF counted = flippedVertically(frame, screens);
+    const QRectF counted = flippedVertically(frame, primaryHeight(screens));
     return u"{{%1, %2}, {%3, %4}}"_s.arg(number(counted.x()), number(counted.y()),
         number(counted.width()), number(counted.height()));
 }
 
-QString text(const QRectF& frame, const QList<QRectF>& screens)
+QString text(const Home& home, const QList<QRectF>& screens)
 {
+    const double height = primaryHeight(screens);
+    const QRectF screen = home.screen.isEmpty() ? mainScreen(screens) : home.screen;
     QStringList numbers;
     for (const QRectF& part :
-        { flippedVertically(frame, screens), flippedVertically(mainScreen(screens), screens) }) {
+        { flippedVertically(home.frame, height), flippedVertically(screen, height) }) {
         for (const double value : { part.x(), part.y(), part.width(), part.height() })
             numbers.append(number(value));
     }
     return numbers.join(u' ');
 }
 
-std::optional<QRectF> parsed(const QString& text, const QList<QRectF>& screens)
+std::optional<Home> parsed(const QString& text, const QList<QRectF>& screens)
 {
     constexpr double farthest = 1e6; // Points; no desktop is larger.
+    constexpr qsizetype partSize = 4;
     const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
-    std::array<double, 4> values {};
-    if (words.size() < qsizetype(values.size()))
-        return std::nullopt;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        bool isNumber = false;
-        values[i] = words[qsizetype(i)].toDouble(&isNumber);
-        if (!isNumber || !(std::abs(values[i]) <= farthest))
+    const auto partFrom = [&](qsizetype first) -> std::optional<QRectF> {
+        std::array<double, partSize> values {};
+        if (words.size() < first + partSize)
             return std::nullopt;
-    }
-    const QRectF frame(values[0], values[1], values[2], values[3]);
-    if (frame.width() <= 0 || frame.height() <= 0)
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            bool isNumber = false;
+            values[i] = words[first + qsizetype(i)].toDouble(&isNumber);
+            if (!isNumber || !(std::abs(values[i]) <= farthest))
+                return std::nullopt;
+        }
+        const QRectF part(values[0], values[1], values[2], values[3]);
+        return part.width() > 0 && part.height() > 0 ? std::optional(part) : std::nullopt;
+    };
+    const std::optional<QRectF> frame = partFrom(0);
+    if (!frame)
         return std::nullopt;
-    return flippedVertically(frame, screens);
+    const std::optional<QRectF> screen = partFrom(partSize);
+    // Heights were counted on the primary screen of then. If this was it, its height is known.
+    const bool wasPrimary = screen && screen->topLeft().isNull();
+    const double height = wasPrimary ? screen->height() : primaryHeight(screens);
+    return Home { flippedVertically(*frame, height),
+        screen ? flippedVertically(*screen, height) : QRectF() };
 }
 
 } // namespace Orvello::PanelFrame

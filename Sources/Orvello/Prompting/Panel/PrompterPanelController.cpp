@@ -69,6 +69,12 @@ void PrompterPanelController::placePanel()
     m_panel.saveFrameAs(u"PrompterPanel"_s);
 }
 
+void PrompterPanelController::putUnderCamera()
+{
+    m_panel.setFrame(
+        PanelFrame::underCamera(m_panel.frame().size(), m_screens.pointer(), m_screens.frames()));
+}
+
 void PrompterPanelController::applyStealthMode(bool on)
 {
     const bool wasVisibleInRecordings = isVisibleInRecordings();

@@ -47,6 +47,9 @@ public:
 
     NativePanel& panel() { return m_panel; }
 
+    /// Moves the panel, as large as it is, to the top of the screen that the pointer is on.
+    void putUnderCamera();
+
     /// Whether Stealth Mode is in effect: wanted, and not forced off.
     bool stealthOn() const { return m_stealthOn; }
 

@@ -159,8 +159,9 @@ void PromptLines::updateContentHeight()
 void PromptLines::showVisibleLines()
 {
     const double scale = m_shown.typography().scale;
-    const auto range = m_shown.linesBetween(
-        (m_visibleTop - margin) / scale, (m_visibleTop + m_visibleHeight + margin) / scale);
+    const double nextLine = m_shown.smallestPitch();
+    const auto range = m_shown.linesBetween((m_visibleTop - margin) / scale,
+        (m_visibleTop + m_visibleHeight + margin) / scale + nextLine);
     const auto before = std::exchange(m_visibleRange, range);
     if (before == range)
         return;

@@ -20,8 +20,8 @@ class PromptLines final : public QObject {
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
 
 public:
-    explicit PromptLines(
-        TimeSource& time, QObject* parent = nullptr); ///< `time` must outlive the lines.
+    /// `time` must outlive the lines.
+    explicit PromptLines(TimeSource& time, QObject* parent = nullptr);
     ~PromptLines() override;
 
     const QString& text() const { return m_text; }
@@ -41,8 +41,8 @@ public:
     /// change.
     const PromptTypography& shownTypography() const { return m_shown.typography(); }
 
-    /// The lines at least partly in the visible part, from the top down, and at most one that is
-    /// just outside it.
+    /// The lines at least partly in the visible part, from the top down, with at most one that is
+    /// just above it, and the one that is the next to come from below.
     const std::vector<PromptLine>& visibleLines() const { return m_visibleLines; }
 
     double visibleTop() const { return m_visibleTop; }

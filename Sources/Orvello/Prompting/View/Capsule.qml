@@ -2,7 +2,7 @@ import QtQuick
 import Orvello
 
 // A dark pill that keeps small things readable above moving text and over any wallpaper.
-Rectangle {
+RoundedBox {
     id: root
 
     default property alias content: row.data

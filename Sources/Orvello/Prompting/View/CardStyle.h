@@ -22,6 +22,7 @@ class CardStyle : public QObject {
     Q_PROPERTY(QColor unlit MEMBER unlit CONSTANT FINAL)
     Q_PROPERTY(QColor capsule MEMBER capsule CONSTANT FINAL)
     Q_PROPERTY(QColor veil MEMBER veil CONSTANT FINAL)
+    Q_PROPERTY(QColor hairLine MEMBER hairLine CONSTANT FINAL)
     Q_PROPERTY(double cornerRadius MEMBER cornerRadius CONSTANT FINAL)
     Q_PROPERTY(double edge MEMBER edge CONSTANT FINAL)
     Q_PROPERTY(double capsuleHeight MEMBER capsuleHeight CONSTANT FINAL)
@@ -43,6 +44,9 @@ public:
     static constexpr QColor unlit { 255, 255, 255, 38 }; // 15 %
     static constexpr QColor capsule { 0, 0, 0, 224 }; ///< Readable above moving text.
     static constexpr QColor veil { 0, 0, 0, 153 }; ///< Over the text during a countdown.
+
+    /// Parts the card from a black window below.
+    static constexpr QColor hairLine { 255, 255, 255, 46 }; // 18 %
 
     static constexpr double cornerRadius = 16;
     static constexpr double edge = 6; ///< Between the card's edge and what stands beside it.

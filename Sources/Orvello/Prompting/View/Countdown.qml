@@ -2,7 +2,7 @@ import QtQuick
 import Orvello
 
 // The seconds until the text starts, above a text that steps back for as long.
-Rectangle {
+RoundedBox {
     id: root
 
     required property string number
@@ -20,6 +20,7 @@ Rectangle {
         Accessible.ignored: true
         text: root.number
         textFormat: Text.PlainText
+        renderType: Text.NativeRendering
         color: CardStyle.text
         font.family: root.fontFamily
         font.pixelSize: CardStyle.countdownSize

@@ -16,8 +16,8 @@ class LevelMeter final : public QObject {
 public:
     static constexpr int bars = 5;
 
-    explicit LevelMeter(const VoiceActivityEngine& voice,
-        QObject* parent = nullptr); ///< `voice` must outlive it.
+    /// `voice` must outlive it.
+    explicit LevelMeter(const VoiceActivityEngine& voice, QObject* parent = nullptr);
 
     int litBars() const { return m_litBars; } ///< From the left.
     static int barCount() { return bars; }

@@ -1,9 +1,10 @@
 #include "Orvello/Prompting/View/PromptText.h"
 
 #include "Orvello/Foundation/Assign.h"
-#include "Orvello/Prompting/View/FadingTextNode.h"
+#include "Orvello/Prompting/View/FadingLinesNode.h"
 
 #include <QQuickWindow>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 #include <algorithm>
@@ -36,7 +37,7 @@ PromptText::PromptText(QQuickItem* parent)
     setFlag(ItemHasContents);
     m_pacing.setSingleShot(true);
     m_pacing.setTimerType(Qt::PreciseTimer);
-    connect(&m_pacing, &QTimer::timeout, this, &QQuickItem::polish);
+    connect(&m_pacing, &QTimer::timeout, this, &PromptText::requestFrame);
 }
 
 PromptText::~PromptText() = default;
@@ -58,7 +59,7 @@ void PromptText::setLines(PromptLines* lines)
     m_lines = lines;
     connect(lines, &PromptLines::visibleLinesChanged, this, [this] {
         m_areLinesNew = true;
-        polish();
+        requestFrame();
     });
     connect(lines, &PromptLines::shownTypographyChanged, this, &PromptText::redrawAllLines);
     Q_EMIT linesChanged();
@@ -88,7 +89,7 @@ void PromptText::tellSize()
     m_engine->setViewportHeight(height());
     m_lines->setVisibleHeight(height());
     m_lines->setTextWidth(std::max(width() - 2 * sideMargin, smallestTextWidth));
-    polish();
+    requestFrame();
 }
 
 void PromptText::itemChange(ItemChange change, const ItemChangeData& data)
@@ -106,7 +107,16 @@ void PromptText::itemChange(ItemChange change, const ItemChangeData& data)
 void PromptText::follow()
 {
     if (!m_isFollowing)
-        polish();
+        requestFrame();
+}
+
+/// What is asked for while a frame is being prepared would be a further frame to Qt.
+void PromptText::requestFrame()
+{
+    if (m_isPreparingFrame)
+        return;
+    polish();
+    update();
 }
 
 void PromptText::frameWasShown()
@@ -116,6 +126,10 @@ void PromptText::frameWasShown()
     m_isFollowing = m_scroll->isMoving();
     if (!m_isFollowing)
         return;
+    const auto next
+        = std::ranges::find_if(m_shown, [](const ShownLine& shown) { return !shown.image; });
+    if (next != m_shown.end())
+        draw(*next);
     // Where showing a frame waits for the display, it is time for the next one. Where it does not,
     // wait here.
     const std::chrono::duration<double> wait(m_nextFrame - m_engine->now() - requestLatency);
@@ -127,37 +141,41 @@ void PromptText::updatePolish()
 {
     if (!m_scroll || !m_lines)
         return;
+    const QScopedValueRollback preparing(m_isPreparingFrame, true);
     const double now = m_engine->now();
     const double offset = m_scroll->offsetAt(now, frameInterval());
     m_lines->setVisibleTop(offset - firstLineTop * height());
     if (std::exchange(m_areLinesNew, false))
-        drawVisibleLines();
+        takeOverLines();
+    for (ShownLine& shown : m_shown) {
+        if (!shown.image && isInSight(shown))
+            draw(shown);
+    }
 
     m_isFollowing = m_scroll->isMoving();
     const double interval = frameInterval() > 0 ? frameInterval() : usualFrameInterval;
     // On the beat of the last frames, if this one is; a frame may be prepared more than once.
     const bool isOnBeat = std::abs(now - m_nextFrame) < interval / 2;
     m_nextFrame = (isOnBeat ? m_nextFrame : now) + interval;
-    update();
 }
 
 void PromptText::redrawAllLines()
 {
     m_shown.clear();
     m_areLinesNew = true;
-    polish();
+    requestFrame();
 }
 
-void PromptText::drawVisibleLines()
+/// The lines that are in sight get their pictures now. One that is about to come gets its picture
+/// when a frame has been shown, and there is time.
+void PromptText::takeOverLines()
 {
     std::vector<ShownLine> before = std::exchange(m_shown, {});
     for (const PromptLine& line : m_lines->visibleLines()) {
         const auto same = std::ranges::find_if(
             before, [&](const ShownLine& shown) { return shown.line.looksLike(line); });
         if (same == before.end()) {
-            const double scale = window() ? window()->effectiveDevicePixelRatio() : 1;
-            m_shown.push_back(
-                { line, LineImage::of(line, m_lines->shownTypography(), m_color, scale) });
+            m_shown.push_back({ line, std::nullopt });
             continue;
         }
         m_shown.push_back(std::move(*same));
@@ -166,37 +184,31 @@ void PromptText::drawVisibleLines()
     }
 }
 
-QSGNode* PromptText::updatePaintNode(QSGNode* root, UpdatePaintNodeData* /*data*/)
+void PromptText::draw(ShownLine& shown)
 {
-    if (!root) {
-        root = new QSGNode;
-        for (ShownLine& shown : m_shown)
-            shown.node = nullptr; // Gone with the scene graph that it was in.
-    }
-    for (QSGNode* node = root->firstChild(); node;) {
-        QSGNode* const next = node->nextSibling();
-        if (std::ranges::find(m_shown, node, &ShownLine::node) == m_shown.end())
-            delete node;
-        node = next;
-    }
-    addMissingNodes(*root);
-    for (const ShownLine& shown : m_shown) {
-        if (shown.node)
-            shown.node->place(placeOf(shown), height());
-    }
-    return root;
+    const double scale = window() ? window()->effectiveDevicePixelRatio() : 1;
+    shown.image = LineImage::of(shown.line, m_lines->shownTypography(), m_color, scale);
+    shown.imageId = ++m_lastImageId;
 }
 
-void PromptText::addMissingNodes(QSGNode& root)
+/// Whether some of its ink can be on the card. Stacked accents may leave the line's box.
+bool PromptText::isInSight(const ShownLine& shown) const
 {
-    for (ShownLine& shown : m_shown) {
-        if (shown.node || shown.image.pixels.isNull())
-            continue;
-        std::unique_ptr<QSGTexture> texture(window()->createTextureFromImage(
-            shown.image.pixels, QQuickWindow::TextureHasAlphaChannel));
-        shown.node = new FadingTextNode(std::move(texture));
-        root.appendChildNode(shown.node);
+    const QTextLine line = shown.line.inPiece();
+    const double top = shown.line.baseline - line.ascent() - line.height() / 2;
+    return top * m_lines->shownTypography().scale - m_lines->visibleTop() < height();
+}
+
+QSGNode* PromptText::updatePaintNode(QSGNode* root, UpdatePaintNodeData* /*data*/)
+{
+    auto* const node = root ? static_cast<FadingLinesNode*>(root) : new FadingLinesNode(*window());
+    std::vector<FadingLinesNode::Picture> pictures;
+    for (const ShownLine& shown : m_shown) {
+        if (shown.image && !shown.image->pixels.isNull())
+            pictures.push_back({ shown.imageId, shown.image->pixels, placeOf(shown) });
     }
+    node->show(pictures, height(), window()->effectiveDevicePixelRatio());
+    return node;
 }
 
 QRectF PromptText::placeOf(const ShownLine& shown) const
@@ -205,7 +217,7 @@ QRectF PromptText::placeOf(const ShownLine& shown) const
     const double scale = window()->effectiveDevicePixelRatio();
     const PromptTypography& typography = m_lines->shownTypography();
     const double frameLeft = (width() - typography.width * typography.scale) / 2;
-    return shown.image.place.translated(std::round(frameLeft * scale) / scale,
+    return shown.image->place.translated(std::round(frameLeft * scale) / scale,
         shown.line.baseline * typography.scale - m_lines->visibleTop());
 }
 

@@ -14,8 +14,6 @@
 
 namespace Orvello {
 
-class FadingTextNode;
-
 /// The prompter's text on its card: the visible lines where the scroll engine has moved them,
 /// dissolving toward the top and the bottom edge. While the text moves, it asks for a frame for
 /// each that the display shows, and otherwise for none.
@@ -52,19 +50,21 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
-    /// A visible line and its picture, with the node that shows it once there is one.
+    /// A visible line and its picture, once that is drawn.
     struct ShownLine {
         PromptLine line;
-        LineImage image;
-        FadingTextNode* node = nullptr; ///< Owned by the scene graph.
+        std::optional<LineImage> image;
+        quint64 imageId = 0;
     };
 
     void tellSize();
     void follow();
+    void requestFrame();
     void frameWasShown();
     void redrawAllLines();
-    void drawVisibleLines();
-    void addMissingNodes(QSGNode& root);
+    void takeOverLines();
+    void draw(ShownLine& shown);
+    bool isInSight(const ShownLine& shown) const;
     QRectF placeOf(const ShownLine& shown) const;
     double frameInterval() const;
 
@@ -73,7 +73,9 @@ private:
     QColor m_color = Qt::white;
     std::optional<SmoothScroll> m_scroll;
     std::vector<ShownLine> m_shown;
+    quint64 m_lastImageId = 0;
     bool m_areLinesNew = false; ///< Whether the lines changed since they were drawn.
+    bool m_isPreparingFrame = false;
     bool m_isFollowing = false; ///< A frame is on its way after which the next one is asked for.
     double m_nextFrame = 0; ///< The earliest moment for that frame, on the engine's clock.
     QTimer m_pacing;

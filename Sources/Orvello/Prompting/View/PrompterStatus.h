@@ -19,8 +19,8 @@ class PrompterStatus final : public QObject {
             visibleInRecordingsChanged FINAL)
 
 public:
-    explicit PrompterStatus(
-        const ScrollEngine& engine, QObject* parent = nullptr); ///< `engine` must outlive it.
+    /// `engine` must outlive it.
+    explicit PrompterStatus(const ScrollEngine& engine, QObject* parent = nullptr);
 
     QString label() const;
     QColor color() const;

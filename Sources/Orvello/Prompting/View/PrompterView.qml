@@ -29,9 +29,11 @@ Item {
         id: hover
     }
 
-    Card {
+    RoundedBox {
         anchors.fill: parent
+        radius: CardStyle.cornerRadius
         color: Qt.rgba(0, 0, 0, root.settings.backgroundOpacity)
+        lineColor: CardStyle.hairLine
     }
 
     PromptText {

@@ -2,7 +2,7 @@ import QtQuick
 import Orvello
 
 // Says that others can see the prompter, so plainly that nobody takes it for hidden.
-Rectangle {
+RoundedBox {
     property alias message: label.text
 
     Accessible.role: Accessible.AlertMessage

@@ -2,7 +2,7 @@ import QtQuick
 import Orvello
 
 // Warns of switching Stealth Mode while others see the screen.
-Rectangle {
+RoundedBox {
     id: root
 
     required property ShareWarning warning

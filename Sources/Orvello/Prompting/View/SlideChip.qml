@@ -33,7 +33,7 @@ Capsule {
         maximumLineCount: 1
     }
 
-    Rectangle {
+    RoundedBox {
         id: dot
         anchors.verticalCenter: parent.verticalCenter
         width: 6

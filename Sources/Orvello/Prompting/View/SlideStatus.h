@@ -23,8 +23,8 @@ class SlideStatus final : public QObject {
     Q_PROPERTY(QStringList stateLabels READ stateLabels CONSTANT FINAL)
 
 public:
-    explicit SlideStatus(
-        DeckController& deck, QObject* parent = nullptr); ///< `deck` must outlive it.
+    /// `deck` must outlive it.
+    explicit SlideStatus(DeckController& deck, QObject* parent = nullptr);
 
     bool isShown() const; ///< True while one slide's notes are shown.
     QString position() const; ///< "2 / 14": counted from 1, as people count slides.

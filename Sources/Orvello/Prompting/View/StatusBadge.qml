@@ -12,7 +12,7 @@ Capsule {
     Accessible.name: status.label
     Accessible.description: qsTr("Status")
 
-    Rectangle {
+    RoundedBox {
         anchors.verticalCenter: parent.verticalCenter
         width: 8
         height: 8

@@ -34,6 +34,9 @@ SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     , m_stealthMode(booleanOr(true, defaults, u"stealthMode"_s))
     , m_voiceFollow(booleanOr(false, defaults, u"voiceFollow"_s))
     , m_voiceSensitivity(numberOr(0.6, defaults, u"voiceSensitivity"_s))
+    , m_microphone(DefaultsValue::asString(defaults.value(u"microphone"_s)).value_or(QString()))
+    , m_microphoneName(
+          DefaultsValue::asString(defaults.value(u"microphoneName"_s)).value_or(QString()))
     , m_countdownSeconds(numberOr(3.0, defaults, u"countdownSeconds"_s))
     , m_slideshowPauseKey(booleanOr(true, defaults, u"slideshowPauseKey"_s))
     , m_slideSync(booleanOr(true, defaults, u"slideSync"_s))
@@ -112,6 +115,13 @@ void SettingsStore::setVoiceSensitivity(double sensitivity)
 {
     assign(m_voiceSensitivity, sensitivity, u"voiceSensitivity"_s,
         &SettingsStore::voiceSensitivityChanged);
+}
+
+void SettingsStore::setMicrophone(const QString& identifier, const QString& name)
+{
+    m_microphoneName = name;
+    m_defaults.setValue(u"microphoneName"_s, name);
+    assign(m_microphone, identifier, u"microphone"_s, &SettingsStore::microphoneChanged);
 }
 
 void SettingsStore::setCountdownSeconds(double seconds)

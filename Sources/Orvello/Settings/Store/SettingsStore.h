@@ -28,6 +28,7 @@ class SettingsStore final : public QObject {
         bool voiceFollow READ voiceFollow WRITE setVoiceFollow NOTIFY voiceFollowChanged FINAL)
     Q_PROPERTY(double voiceSensitivity READ voiceSensitivity WRITE setVoiceSensitivity NOTIFY
             voiceSensitivityChanged FINAL)
+    Q_PROPERTY(QString microphone READ microphone NOTIFY microphoneChanged FINAL)
     Q_PROPERTY(double countdownSeconds READ countdownSeconds WRITE setCountdownSeconds NOTIFY
             countdownSecondsChanged FINAL)
     Q_PROPERTY(bool slideshowPauseKey READ slideshowPauseKey WRITE setSlideshowPauseKey NOTIFY
@@ -69,6 +70,13 @@ public:
     double voiceSensitivity() const { return m_voiceSensitivity; } ///< Higher hears quieter speech.
     void setVoiceSensitivity(double sensitivity);
 
+    /// Which microphone is heard, by the identifier that the system gives it; empty for the
+    /// system's choice.
+    const QString& microphone() const { return m_microphone; }
+    /// Its name for people, for the time when it is not connected.
+    const QString& microphoneName() const { return m_microphoneName; }
+    void setMicrophone(const QString& identifier, const QString& name);
+
     double countdownSeconds() const { return m_countdownSeconds; }
     void setCountdownSeconds(double seconds);
 
@@ -92,6 +100,7 @@ Q_SIGNALS:
     void stealthModeChanged();
     void voiceFollowChanged();
     void voiceSensitivityChanged();
+    void microphoneChanged();
     void countdownSecondsChanged();
     void slideshowPauseKeyChanged();
     void slideSyncChanged();
@@ -110,6 +119,8 @@ private:
     bool m_stealthMode;
     bool m_voiceFollow;
     double m_voiceSensitivity;
+    QString m_microphone;
+    QString m_microphoneName;
     double m_countdownSeconds;
     bool m_slideshowPauseKey;
     bool m_slideSync;

@@ -16,6 +16,8 @@ Pane {
     required property string version
     required property ShortcutList shortcuts
     required property facts facts
+    property ImpressPresenter impress
+    property string impressConsent
 
     readonly property Item focusedItem: Window.activeFocusItem
 
@@ -86,6 +88,8 @@ Pane {
             SlidesSettings {
                 settings: root.settings
                 facts: root.facts
+                impress: root.impress
+                consent: root.impressConsent
             }
             PrivacySettings {
                 settings: root.settings

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import Orvello
 
 SettingsSection {
@@ -6,6 +7,8 @@ SettingsSection {
 
     required property SettingsStore settings
     required property facts facts
+    required property ImpressPresenter impress // Null where there is none.
+    required property string consent // What is agreed to by allowing it.
 
     title: qsTr("Slides")
 
@@ -22,10 +25,32 @@ SettingsSection {
                : qsTr("With a deck imported (Scripts → import button) and Slide Tracking on, the prompter shows the current slide's speaker notes and flips automatically as you advance in %1. Turn Slide Tracking off to scroll the whole deck as one normal script instead.")).arg(root.facts.presenters)
     }
     SettingsNote {
+        visible: root.facts.hasPrivacySettings
         //: The words in quotation marks are those of the card. %1: presentation programs.
-        text: root.facts.asksBeforeControl
-              ? qsTr("If sync shows \"No access\": System Settings → Privacy & Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.").arg(root.facts.presentersInFull)
-              //: The words in quotation marks are those of the card; Scripts and Allow are names in the program.
-              : qsTr("If sync shows \"No access\": LibreOffice does not answer other programs until you allow it. Import the open presentation (Scripts → import button), choose Allow when Orvello offers it, then start the slideshow again.")
+        text: qsTr("If sync shows \"No access\": System Settings → Privacy & Security → Automation → Orvello → allow %1, then toggle Slide Tracking off and on.").arg(root.facts.presentersInFull)
+    }
+    SettingsRow {
+        visible: root.impress !== null
+        labelShare: 0.7
+        label: !root.impress?.isAllowed ? qsTr("Orvello may not follow Impress")
+               : root.impress.obstacle === "" ? qsTr("Orvello may follow Impress")
+               : qsTr("Orvello may follow Impress, but could not")
+        Accessible.role: Accessible.StaticText
+        Accessible.name: label
+
+        Button {
+            text: root.impress?.isAllowed ? qsTr("Take Back") : qsTr("Allow")
+            Accessible.name: text
+            onClicked: root.impress.isAllowed = !root.impress.isAllowed
+        }
+    }
+    SettingsNote {
+        visible: root.impress !== null && root.impress.obstacle !== ""
+        isWarning: true
+        text: root.impress?.obstacle ?? ""
+    }
+    SettingsNote {
+        visible: root.impress !== null
+        text: root.consent
     }
 }

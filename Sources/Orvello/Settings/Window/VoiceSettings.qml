@@ -30,6 +30,8 @@ SettingsSection {
         label: qsTr("Mic level")
 
         ProgressBar {
+            id: level
+
             Layout.preferredWidth: 180
             Layout.minimumWidth: 180
             Layout.preferredHeight: 14
@@ -37,7 +39,46 @@ SettingsSection {
             to: 1
             value: root.voice.level
             Accessible.name: qsTr("Mic level")
+
+            // What is louder than this counts as speech.
+            Rectangle {
+                x: Math.round((level.mirrored ? 1 - root.voice.thresholdLevel : root.voice.thresholdLevel) * (level.width - width))
+                y: -2
+                z: 1
+                width: 2
+                height: level.height + 4
+                color: root.palette.windowText
+            }
         }
+    }
+    SettingsRow {
+        readonly property SensitivityTest test: root.voice.sensitivityTest
+
+        label: test.message !== "" ? test.message : qsTr("Find the sensitivity for my voice")
+
+        Button {
+            visible: root.voice.sensitivityTest.hasProposal
+            text: qsTr("Use It")
+            onClicked: root.voice.sensitivityTest.useProposal()
+        }
+        Button {
+            enabled: !root.voice.sensitivityTest.isRunning
+            text: qsTr("Test")
+            onClicked: root.voice.sensitivityTest.begin()
+            Accessible.description: qsTr("Speak normally for five seconds.")
+        }
+    }
+    SettingsPicker {
+        visible: root.voice.microphoneChoices.length > 0
+        label: qsTr("Microphone")
+        choices: root.voice.microphoneChoices
+        index: root.voice.microphoneIndex
+        onPicked: index => root.voice.chooseMicrophone(index)
+    }
+    SettingsNote {
+        visible: root.voice.micAuthorized !== false && text !== ""
+        isWarning: root.voice.trouble !== VoiceActivityEngine.None
+        text: root.voice.hearing
     }
     SettingsNote {
         visible: root.voice.micAuthorized === false
@@ -45,6 +86,10 @@ SettingsSection {
         text: !root.facts.hasPrivacySettings
               ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
               : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
+    }
+    SettingsNote {
+        visible: root.voice.echoCancellation === VoiceActivityEngine.Unavailable
+        text: qsTr("Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.")
     }
     // Neither is true once nothing is being captured.
     SettingsNote {

@@ -31,11 +31,12 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-AppDelegate::AppDelegate(
-    const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options)
+AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+    LaunchOptions options, ReadDecks decks)
     : m_platforms(platforms)
     , m_makeWindows(std::move(makeWindows))
     , m_options(std::move(options))
+    , m_readDecks(std::move(decks))
     , m_settings(platforms.early.userDefaults())
     , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
           platforms.early.facts())
@@ -45,7 +46,8 @@ AppDelegate::AppDelegate(
     , m_voice(m_settings,
           VoiceActivityEngine::Ports { platforms.early.time(),
               platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
-              platforms.sound.rawMicrophone(), m_micActivity, platforms.desktop.workspace() })
+              platforms.sound.rawMicrophone(), m_micActivity, platforms.sound.microphones(),
+              platforms.desktop.workspace() })
     , m_presentation({ m_presenters, platforms.desktop.workspace(),
           platforms.desktop.windowServer(), m_micActivity, platforms.early.time() })
     , m_slideSync(m_presentation, m_presenters, platforms.early.time())
@@ -63,10 +65,15 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::addPresenters()
 {
-    m_presenters.add(AppleScriptPresenters::keynote(m_scriptRunner));
-    m_presenters.add(AppleScriptPresenters::powerPoint(m_scriptRunner));
+    const auto add = [this](PresenterApp app) {
+        app.isForThisSystem = m_platforms.early.facts().hasKeynoteAndPowerPoint;
+        m_presenters.add(std::move(app));
+    };
+    add(AppleScriptPresenters::keynote(m_scriptRunner));
+    add(AppleScriptPresenters::powerPoint(m_scriptRunner));
     if (HelperProcess* helper = m_platforms.desktop.impressHelper()) {
-        m_impress = std::make_unique<ImpressPresenter>(*helper, m_presentation);
+        m_impress = std::make_unique<ImpressPresenter>(
+            *helper, m_presentation, m_platforms.early.userDefaults());
         m_presenters.add(m_impress->row());
         m_impressAdvice = std::make_unique<ImpressAdviceDialog>(*m_impress);
     }
@@ -209,7 +216,7 @@ void AppDelegate::makePanel()
             .time = m_platforms.early.time(),
             .screens = m_platforms.desktop.screens(),
             .folders = m_platforms.early.folders() },
-        m_options.noStealth);
+        m_options.noStealth, m_platforms.captureExclusion);
 }
 
 void AppDelegate::makeWindows()
@@ -217,7 +224,7 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.early.facts(),
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get(),
         PanelSpace {
             .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
             .stepAside = [this] { m_panel->hide(); },
@@ -228,6 +235,7 @@ void AppDelegate::makeWindows()
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
         AppCommands::Delegate {
             .togglePanel = [this] { togglePanel(); },
+            .putUnderCamera = [this] { putUnderCamera(); },
             .isPanelVisible = [this] { return m_panel->isVisible(); },
             .showOnboarding = [this] { showOnboarding(); },
         });
@@ -255,12 +263,18 @@ void AppDelegate::togglePanel()
         showPanel();
 }
 
+void AppDelegate::putUnderCamera()
+{
+    m_panelController->putUnderCamera();
+    showPanel();
+}
+
 void AppDelegate::showOnboarding()
 {
     if (!m_onboarding)
         m_onboarding = m_windows->makeOnboarding([this] { onboardingFinished(); });
     m_platforms.desktop.desktopServices().activateApplication();
-    m_onboarding->makeKeyAndOrderFront();
+    m_onboarding->bringToFront();
 }
 
 void AppDelegate::onboardingFinished()
@@ -276,17 +290,20 @@ void AppDelegate::setupStatusItem()
     m_statusMenu = std::make_unique<StatusMenu>(
         *m_commands, m_platforms.desktop.hotKeys(), AppCommands::versionText());
     m_statusItem = m_windows->makeStatusItem(*m_statusMenu);
+    m_prompterMenu = std::make_unique<StatusMenu>(*m_commands, m_platforms.desktop.hotKeys(),
+        AppCommands::versionText(), StatusMenu::Owner::Prompter);
     // The prompter is always at hand, a status bar is not.
     m_rightClicks = std::make_unique<RightClickFilter>(
-        m_prompterWindow->window(), [this] { m_statusItem->openMenu(); });
+        m_prompterWindow->window(), [this] { m_windows->popUp(*m_prompterMenu); });
 }
 
 void AppDelegate::registerHotKeys()
 {
     for (const Command& command : Commands::all()) {
         if (command.key)
-            m_hotKeys.registerHotKeyFor(Commands::purpose(command), command.key->code,
-                command.key->modifiers, [this, run = command.run] { (m_commands.get()->*run)(); });
+            m_hotKeys.registerHotKey(
+                *command.key, [this, run = command.run] { (m_commands.get()->*run)(); },
+                Commands::purpose(command));
     }
 }
 
@@ -328,14 +345,28 @@ void AppDelegate::followSlideTracking()
         changeOf(m_settings, &SettingsStore::slideSyncChanged),
         changeOf(m_library, &LibraryStore::activeScriptIDChanged),
         changeOf(m_library, &LibraryStore::scriptsChanged));
+    if (!m_impress)
+        return;
+    // A consent given while a slideshow runs counts at once.
+    connect(m_impress.get(), &ImpressPresenter::isAllowedChanged, this, [this] {
+        if (m_slideSync.state() != SlideSyncService::State::Denied || !m_impress->isAllowed())
+            return;
+        m_slideSync.setActive(false);
+        m_slideSync.setActive(true);
+    });
 }
 
 void AppDelegate::importDecks()
 {
     if (!m_options.importedPath.isEmpty())
         importDeck(m_options.importedPath);
-    for (const QString& file : m_options.files)
-        importDeck(file);
+    for (const QString& file : m_options.files) {
+        if (const auto deck = m_readDecks.find(file); deck != m_readDecks.end())
+            m_library.addReadDeck(file, deck->second);
+        else
+            importDeck(file);
+    }
+    m_readDecks.clear();
 }
 
 /// Returns why it could not be imported, in words for the user.

@@ -23,6 +23,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -50,10 +51,16 @@ public:
         EarlyPlatform& early;
         DesktopPlatform& desktop;
         SoundPlatform& sound;
+        /// Found in this process, where nobody gives another.
+        CaptureExclusion captureExclusion {};
     };
 
-    AppDelegate(
-        const Platforms& platforms, ShellWindows::Factory makeWindows, LaunchOptions options);
+    /// What is in decks, by their paths.
+    using ReadDecks = std::map<QString, PptxImporter::Deck>;
+
+    /// `decks` are those among the options' files that have been read already.
+    AppDelegate(const Platforms& platforms, ShellWindows::Factory makeWindows,
+        LaunchOptions options, ReadDecks decks = {});
     ~AppDelegate() override;
 
     /// Once, when the event loop is about to run.
@@ -76,6 +83,9 @@ public:
 
     /// Shows the prompter panel if it is hidden, hides it if it is shown.
     void togglePanel();
+
+    /// Moves the panel to the top of the screen that the pointer is on, and shows it.
+    void putUnderCamera();
 
 private:
     void addPresenters();
@@ -103,6 +113,7 @@ private:
     const Platforms m_platforms;
     const ShellWindows::Factory m_makeWindows;
     const LaunchOptions m_options;
+    ReadDecks m_readDecks; ///< Until they are imported.
     SettingsStore m_settings;
     LibraryStore m_library;
     AppleScriptRunner m_scriptRunner;
@@ -125,6 +136,7 @@ private:
     std::unique_ptr<ShellWindow> m_onboarding; ///< While the tour is open.
     std::unique_ptr<AppCommands> m_commands;
     std::unique_ptr<StatusMenu> m_statusMenu;
+    std::unique_ptr<StatusMenu> m_prompterMenu;
     std::unique_ptr<StatusItem> m_statusItem;
     std::unique_ptr<RightClickFilter> m_rightClicks;
     std::unique_ptr<PlainPKey> m_plainPKey;

@@ -1,5 +1,6 @@
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Diagnostics/CrashGuard.h"
+#include "Orvello/Diagnostics/LossyOutput.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
@@ -18,6 +19,7 @@
 #include "Orvello/Shell/Launch/CommandLineTable.h"
 #include "Orvello/Shell/Launch/LaunchOptions.h"
 #include "Orvello/Shell/Windows/QtShellWindows.h"
+#include "Orvello/Shell/Windows/Renderer.h"
 
 #include "Version.h"
 
@@ -27,6 +29,10 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
+#include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -66,15 +72,22 @@ void migrate(EarlyPlatform& platform)
         WelcomeScript::body(platform.facts()) });
 }
 
-/// What keeps a file from being imported, for each of the files that are no decks.
-QStringList unreadableDecks(const QStringList& files)
+/// The decks on the command line, and what is wrong with the files that are none.
+struct Decks {
+    AppDelegate::ReadDecks read;
+    std::map<QString, PptxImporter::ImportError> refused;
+};
+
+Decks readDecks(const QStringList& files)
 {
-    QStringList problems;
+    Decks decks;
     for (const QString& file : files) {
-        if (const auto notes = PptxImporter::importNotes(file); !notes)
-            problems.append(file + u": "_s + PptxImporter::description(notes.error()));
+        if (auto deck = PptxImporter::importDeck(file))
+            decks.read.emplace(file, std::move(*deck));
+        else
+            decks.refused.emplace(file, deck.error());
     }
-    return problems;
+    return decks;
 }
 
 /// Tells the user, a line each, in the terminal or the log of whoever started the program.
@@ -112,8 +125,46 @@ void guardSession(RunningInstance& instance)
 {
     runningInstance = &instance;
     static_cast<void>(std::atexit(endSessionAtExit));
-    // The log goes to standard error too, and whoever read that may be gone before the program is.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+}
+
+/// Set for a process that replaced one whose renderer could not start, to that renderer's name.
+constexpr auto failedRendererVariable = "ORVELLO_FAILED_RENDERER";
+
+/// The renderer cannot be changed in a process that has used one, so the other one gets a process
+/// of its own, in the place of this one. Returns only when that is not possible.
+void startAgainWith(Renderer::Kind other, Renderer::Kind failed, char** arguments)
+{
+    qputenv("ORVELLO_RENDERER", Renderer::nameOf(other).toLatin1());
+    qputenv(failedRendererVariable, Renderer::nameOf(failed).toLatin1());
+    const QByteArray program = QFile::encodeName(QCoreApplication::applicationFilePath());
+    AppLog::endSession();
+    runningInstance->release();
+    ::execv(program.constData(), arguments);
+}
+
+Renderer::Kind rendererOf(const LaunchOptions& options, DesktopPlatform& desktop)
+{
+    const QString wish = options.environment.value(u"ORVELLO_RENDERER"_s).toString();
+    if (const std::optional<Renderer::Kind> wanted = Renderer::named(wish))
+        return *wanted;
+    return desktop.hasHardwareRenderer() ? Renderer::Kind::Hardware : Renderer::Kind::Software;
+}
+
+/// Settles what draws the windows, and what happens when it cannot.
+void useRenderer(Renderer::Kind kind, const QString& failedBefore, char** arguments)
+{
+    Renderer::use(kind);
+    Renderer::onFailure([=](const QString& reason) {
+        const Renderer::Kind other = Renderer::otherThan(kind);
+        if (failedBefore.isEmpty()) {
+            AppLog::write("RENDERER %@ failed: %@; starting again with %@", Renderer::nameOf(kind),
+                reason, Renderer::nameOf(other));
+            startAgainWith(other, kind, arguments);
+        }
+        AppLog::write("LAUNCH failed: neither %@ nor %@ can draw here: %@", Renderer::nameOf(other),
+            Renderer::nameOf(kind), reason);
+        std::exit(ExitStatus::cannotRun); // Which ends the session.
+    });
 }
 
 /// From now on the delegate hears what the system and later starts ask for.
@@ -131,20 +182,27 @@ void listen(RunningInstance& instance, AppDelegate& delegate)
 
 int main(int argc, char** argv)
 {
+    LossyOutput::fillStandardStreams();
+    // Whoever reads standard error, where the log goes too, may be gone before the program is.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     const QStringList arguments = argumentsWithoutProgram(argc, argv);
     const ProgramStart start = LaunchOptions::thisStart(arguments);
-    const LaunchOptions options = LaunchOptions::of(start);
+    LaunchOptions options = LaunchOptions::of(start);
     if (options.help || options.version) {
         print(stdout,
             options.help ? CommandLineTable::helpText()
                          : u"Orvello %1\n"_s.arg(AppCommands::versionText()));
         return EXIT_SUCCESS;
     }
-    if (!options.mistakes.isEmpty() || !unreadableDecks(options.files).isEmpty()) {
+    Decks decks = readDecks(options.files);
+    if (!options.mistakes.isEmpty() || !decks.refused.empty()) {
         // Asked again, in the user's language, which needs an application object.
         QCoreApplication application(argc, argv);
         installTranslation(application);
-        complain(LaunchOptions::of(start).mistakes + unreadableDecks(options.files));
+        QStringList problems = LaunchOptions::of(start).mistakes;
+        for (const auto& [file, error] : decks.refused)
+            problems.append(file + u": "_s + PptxImporter::description(error));
+        complain(problems);
         print(stderr, LaunchOptions::tr("Try \"orvello --help\".") + u'\n');
         return ExitStatus::mistaken;
     }
@@ -161,10 +219,20 @@ int main(int argc, char** argv)
         AppLog::endSession();
         return ExitStatus::cannotRun;
     }
+    // The toolkit takes its own options out of the list.
+    std::vector<char*> allArguments(argv, argv + argc + 1);
+    const QString failedRenderer = qEnvironmentVariable(failedRendererVariable);
+    qunsetenv(failedRendererVariable);
+    if (!failedRenderer.isEmpty()) {
+        // The process before this one has imported them.
+        options.files.clear();
+        options.importedPath.clear();
+    }
     OrvelloApplication application(argc, argv);
     installTranslation(application);
     const std::unique_ptr<EarlyPlatform> early = std::move(firstStep); // Ends before it.
     const std::unique_ptr<DesktopPlatform> desktop = DesktopPlatform::create(*early);
+    useRenderer(rendererOf(options, *desktop), failedRenderer, allArguments.data());
     if (MenuBar* const menuBar = desktop->statusBar().menuBar())
         menuBar->setMainMenu(makeMainMenu(&sendToFocusObject));
     migrate(*early);
@@ -175,7 +243,7 @@ int main(int argc, char** argv)
         [](const ShellWindows::Services& services) {
             return std::make_unique<QtShellWindows>(services);
         },
-        options);
+        options, std::move(decks.read));
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate,
         &AppDelegate::applicationWillTerminate);
     delegate.applicationOpen(options.urls);

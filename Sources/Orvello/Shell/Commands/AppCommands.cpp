@@ -70,6 +70,8 @@ void AppCommands::toggleStealth()
 
 void AppCommands::togglePanel() { m_delegate.togglePanel(); }
 
+void AppCommands::putUnderCamera() { m_delegate.putUnderCamera(); }
+
 void AppCommands::openLibrary()
 {
     if (!m_libraryWindow)
@@ -87,7 +89,7 @@ void AppCommands::openSettings()
 void AppCommands::show(ShellWindow& window)
 {
     m_services.desktop.activateApplication();
-    window.makeKeyAndOrderFront();
+    window.bringToFront();
 }
 
 void AppCommands::openTour() { m_delegate.showOnboarding(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Shell/Commands/Command.h"
 
 #include <QUrl>
@@ -33,6 +33,7 @@ public:
     /// What the application delegate does itself.
     struct Delegate {
         std::function<void()> togglePanel;
+        std::function<void()> putUnderCamera;
         std::function<bool()> isPanelVisible;
         std::function<void()> showOnboarding;
     };
@@ -51,6 +52,7 @@ public:
     void toggleSlideTracking() override;
     void toggleStealth() override;
     void togglePanel() override;
+    void putUnderCamera() override;
     void openLibrary() override;
     void openSettings() override;
     void openTour() override;

@@ -29,7 +29,7 @@ constexpr std::array table {
         //: What a key does, in a narrow list of keys: at most about 20 characters.
         .shortDescription = QT_TRANSLATE_NOOP("Orvello::Commands", "Start / pause"),
         .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Start or pause scrolling"),
-        .key = Command::Key { HotKey::keyP, optionCommand },
+        .key = HotKey { HotKey::keyP, optionCommand },
         .titleHasKey = true,
         .run = &CommandTarget::toggleScroll,
         .isOn = &CommandTarget::isScrolling,
@@ -38,14 +38,14 @@ constexpr std::array table {
         .name = "faster",
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Faster"),
         .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll faster"),
-        .key = Command::Key { HotKey::keyUp, optionCommand },
+        .key = HotKey { HotKey::keyUp, optionCommand },
         .run = &CommandTarget::speedUp,
     },
     Command {
         .name = "slower",
         .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Slower"),
         .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Scroll more slowly"),
-        .key = Command::Key { HotKey::keyDown, optionCommand },
+        .key = HotKey { HotKey::keyDown, optionCommand },
         .run = &CommandTarget::slowDown,
     },
     Command {
@@ -55,7 +55,7 @@ constexpr std::array table {
         //: What a key does: it scrolls back to the beginning of the script.
         .description = QT_TRANSLATE_NOOP("Orvello::Commands", "Back to top"),
         .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Go back to the top of the script"),
-        .key = Command::Key { HotKey::keyR, optionCommand },
+        .key = HotKey { HotKey::keyR, optionCommand },
         .run = &CommandTarget::backToTop,
     },
     Command {
@@ -67,10 +67,16 @@ constexpr std::array table {
         //: What a key does, in a narrow list of keys: at most about 20 characters.
         .shortDescription = QT_TRANSLATE_NOOP("Orvello::Commands", "Show / hide"),
         .purpose = QT_TRANSLATE_NOOP("Orvello::Commands", "Show or hide the prompter"),
-        .key = Command::Key { HotKey::keyH, optionCommand },
+        .key = HotKey { HotKey::keyH, optionCommand },
         .titleHasKey = true,
         .run = &CommandTarget::togglePanel,
         .isOn = &CommandTarget::isPanelVisible,
+    },
+    Command {
+        .name = "camera",
+        //: In a menu: moves the prompter to the top of the screen that the pointer is on.
+        .title = QT_TRANSLATE_NOOP("Orvello::Commands", "Put Under the Camera"),
+        .run = &CommandTarget::putUnderCamera,
     },
     Command {
         .name = "voice",
@@ -175,8 +181,7 @@ QString keyLabel(const Command& command, const HotKeys& keys)
     if (!command.key)
         return {};
     const QVariant assigned = keys.assignedKeys().triggers().value(purpose(command).name);
-    return assigned.isValid() ? assigned.toString()
-                              : keys.label(command.key->code, command.key->modifiers);
+    return assigned.isValid() ? assigned.toString() : keys.label(*command.key);
 }
 
 } // namespace Orvello::Commands

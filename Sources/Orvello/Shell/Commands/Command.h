@@ -20,6 +20,7 @@ public:
     virtual void slowDown() = 0;
     virtual void backToTop() = 0;
     virtual void togglePanel() = 0;
+    virtual void putUnderCamera() = 0;
     virtual void toggleVoice() = 0;
     virtual void toggleSlideTracking() = 0;
     virtual void toggleStealth() = 0;
@@ -41,23 +42,17 @@ public:
 
 /// One command of the program. Its texts are untranslated here.
 struct Command {
-    /// A key of the keyboard with its modifiers, as the port HotKeys numbers them.
-    struct Key {
-        std::uint32_t code = 0;
-        std::uint32_t modifiers = 0;
-    };
-
     std::string_view name; ///< For machines, and never changed: a switch, a shortcut's id.
     const char* title; ///< In a menu.
-    const char* titleWhileOn
-        = nullptr; ///< In a menu while it is on, for a command with two titles.
+    /// In a menu while it is on, for a command with two titles.
+    const char* titleWhileOn = nullptr;
     const char* description = nullptr; ///< What its key does.
     const char* shortDescription = nullptr; ///< The same where there is less room.
     const char* purpose = nullptr; ///< The same in the desktop's list of keys.
-    std::optional<Key> key {}; ///< Its hot key.
+    std::optional<HotKey> key {};
     bool titleHasKey = false; ///< Whether the title in the menu names the hot key.
-    char16_t menuKey
-        = 0; ///< The letter that, with the command key, stands for it in the open menu.
+    /// The letter that, with the command key, stands for it in the open menu.
+    char16_t menuKey = 0;
     void (CommandTarget::*run)() = nullptr;
     bool (CommandTarget::*isOn)() const = nullptr; ///< For a switch, or a command with two titles.
     bool (CommandTarget::*isPossible)() const = nullptr; ///< Null when it always is.

@@ -14,30 +14,18 @@ HotKeyCenter::HotKeyCenter(HotKeys& system, std::uint32_t firstID)
 }
 
 std::uint32_t HotKeyCenter::registerHotKey(
-    std::uint32_t keyCode, std::uint32_t modifiers, Action action)
-{
-    return add(std::move(action),
-        [&](HotKeyID key) { return m_system.registerHotKey(keyCode, modifiers, key); });
-}
-
-std::uint32_t HotKeyCenter::registerHotKeyFor(
-    const HotKeyPurpose& purpose, std::uint32_t keyCode, std::uint32_t modifiers, Action action)
-{
-    return add(std::move(action),
-        [&](HotKeyID key) { return m_system.registerHotKeyFor(purpose, keyCode, modifiers, key); });
-}
-
-std::uint32_t HotKeyCenter::add(Action action, const Registration& registration)
+    const HotKey& key, Action action, std::optional<HotKeyPurpose> purpose)
 {
     if (!m_installed) {
         m_installed = true;
-        m_system.installHandler([this](HotKeyID key) { pressed(key); });
+        m_system.installHandler([this](HotKeyID pressedID) { pressed(pressedID); });
     }
     if (m_nextID == std::numeric_limits<std::uint32_t>::max())
         qFatal("HotKeyCenter: no hot-key id is left");
     const std::uint32_t id = m_nextID++;
     m_actions.emplace(id, std::move(action));
-    if (auto reference = registration({ signature, id }))
+    if (auto reference = m_system.registerHotKey(
+            { .key = key, .id = { signature, id }, .purpose = std::move(purpose) }))
         m_refs.emplace(id, std::move(reference));
     return id;
 }

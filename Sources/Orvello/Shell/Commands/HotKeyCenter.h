@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace Orvello {
 
@@ -23,21 +24,15 @@ public:
     HotKeyCenter(const HotKeyCenter&) = delete;
     HotKeyCenter& operator=(const HotKeyCenter&) = delete;
 
-    /// Runs `action` at each press of the key with exactly these modifiers (HotKey, both). Returns
-    /// the id to unregister it by, even when the system refuses the key, which then never fires.
-    /// Ids are never reused; running out of them ends the process.
-    std::uint32_t registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers, Action action);
-
-    /// The same for a key that the desktop may list and assign by its purpose.
-    std::uint32_t registerHotKeyFor(const HotKeyPurpose& purpose, std::uint32_t keyCode,
-        std::uint32_t modifiers, Action action);
+    /// Runs `action` at each press of the key, which the desktop may list and assign by its
+    /// purpose, if it has one. Returns the id to unregister it by, even when the system refuses the
+    /// key, which then never fires. Ids are never reused; running out of them ends the process.
+    std::uint32_t registerHotKey(
+        const HotKey& key, Action action, std::optional<HotKeyPurpose> purpose = std::nullopt);
 
     void unregister(std::uint32_t id); ///< An unknown id is ignored.
 
 private:
-    using Registration = std::function<std::unique_ptr<HotKeys::Reference>(HotKeyID)>;
-
-    std::uint32_t add(Action action, const Registration& registration);
     void pressed(HotKeyID key) const;
 
     HotKeys& m_system;

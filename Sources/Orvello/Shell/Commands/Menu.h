@@ -16,18 +16,16 @@ struct MenuItem {
     QString title; ///< Empty for a separator.
     std::function<void()> action; ///< Null for a line that only informs.
     QByteArray command; ///< The editing command that the action sends, if it sends one.
-    QString
-        keyEquivalent; ///< The letter that is pressed with the command key; upper case: and shift.
+    /// The letter that is pressed with the command key; upper case: and shift.
+    QString keyEquivalent;
     bool isCheckable = false;
     bool isChecked = false;
     bool isPossible = true; ///< Whether it can be chosen at present.
     std::unique_ptr<Menu> submenu;
 
     bool isSeparator() const { return title.isEmpty() && !action && !submenu; }
-    bool isEnabled() const
-    {
-        return (action && isPossible) || submenu;
-    } ///< Whether it can be chosen.
+    /// Whether it can be chosen.
+    bool isEnabled() const { return (action && isPossible) || submenu; }
 };
 
 /// A menu as a list of lines, apart from the toolkit that draws it. Lines stay where they are, so

@@ -46,7 +46,7 @@ void PlainPKey::arm()
 {
     if (isArmed())
         return;
-    m_plainPHotKeyID = m_services.hotKeys.registerHotKey(HotKey::keyP, 0, m_pressed);
+    m_plainPHotKeyID = m_services.hotKeys.registerHotKey({ .keyCode = HotKey::keyP }, m_pressed);
     AppLog::write("Orvello plain-P armed (slideshow)");
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 #include <QRectF>
 
@@ -11,6 +11,7 @@ namespace Orvello {
 
 class AppleScriptRunner;
 class HotKeys;
+class ImpressPresenter;
 class LibraryStore;
 class Menu;
 class OpenPanel;
@@ -37,7 +38,7 @@ public:
     virtual ~ShellWindow() = default;
 
     /// Shows the window, in front of all others and with the keyboard. Centred the first time.
-    virtual void makeKeyAndOrderFront() = 0;
+    virtual void bringToFront() = 0;
 };
 
 /// Makes the windows that menus and the launch open, so that the code that decides when they open
@@ -58,6 +59,7 @@ public:
         StatusBar& statusBar;
         HotKeys& hotKeys;
         Facts facts; ///< What the windows may say about this machine.
+        ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
         PanelSpace panel = {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
@@ -73,6 +75,9 @@ public:
 
     /// The item in the status bar that opens `menu`, which must outlive it.
     virtual std::unique_ptr<StatusItem> makeStatusItem(Menu& menu) = 0;
+
+    /// Opens `menu`, which must outlive this, at the pointer.
+    virtual void popUp(Menu& menu) = 0;
 };
 
 } // namespace Orvello

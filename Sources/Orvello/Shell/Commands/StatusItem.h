@@ -7,8 +7,8 @@ class StatusItem {
 public:
     virtual ~StatusItem() = default;
 
-    /// Opens the menu at the pointer, wherever that is, for desktops whose bar shows no item. Does
-    /// nothing where the bar always does.
+    /// Opens the menu at the pointer, wherever that is, for desktops whose bar shows no item; below
+    /// the item where the bar always does.
     virtual void openMenu() = 0;
 };
 

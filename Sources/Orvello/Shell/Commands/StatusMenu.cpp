@@ -11,10 +11,12 @@ namespace {
 constexpr std::string_view separator;
 constexpr auto lines = std::to_array<std::string_view>({ "toggle", "restart", separator, "voice",
     "tracking", "stealth", "hide", separator, "scripts", "settings", "tour", "check-updates" });
+constexpr auto prompterLines = std::to_array<std::string_view>({ "camera" });
 
 } // namespace
 
-StatusMenu::StatusMenu(CommandTarget& target, const HotKeys& keys, const QString& versionText)
+StatusMenu::StatusMenu(
+    CommandTarget& target, const HotKeys& keys, const QString& versionText, Owner owner)
     : m_target(target)
     , m_keys(keys)
 {
@@ -25,6 +27,11 @@ StatusMenu::StatusMenu(CommandTarget& target, const HotKeys& keys, const QString
             add(*this, name);
     }
     addHelp(versionText);
+    if (owner == Owner::Prompter) {
+        addSeparator();
+        for (const std::string_view name : prompterLines)
+            add(*this, name);
+    }
     addSeparator();
     add(*this, "quit");
     needsUpdate();

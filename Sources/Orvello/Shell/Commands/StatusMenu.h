@@ -15,14 +15,19 @@ class CommandTarget;
 class HotKeys;
 struct Command;
 
-/// The menu of the status item, which the prompter opens too: every command except those that are
-/// only keys. Titles and check marks are those of the last opening.
+/// The menu of the status item: every command except those that are only keys, and those about the
+/// prompter's own place, which the prompter's menu has as well. Titles and check marks are those of
+/// the last opening.
 class StatusMenu final : public Menu {
     Q_DECLARE_TR_FUNCTIONS(Orvello::StatusMenu)
 
 public:
-    /// Both must outlive the menu.
-    StatusMenu(CommandTarget& target, const HotKeys& keys, const QString& versionText);
+    /// What the user opens it on.
+    enum class Owner { StatusItem, Prompter };
+
+    /// `target` and `keys` must outlive the menu.
+    StatusMenu(CommandTarget& target, const HotKeys& keys, const QString& versionText,
+        Owner owner = Owner::StatusItem);
 
     void needsUpdate() override;
 

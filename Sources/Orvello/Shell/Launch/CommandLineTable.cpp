@@ -15,7 +15,7 @@ namespace {
 using enum Section;
 
 constexpr std::array table {
-    Entry { Files, "FILE", "", "a PowerPoint deck (.pptx): its notes become the active script" },
+    Entry { Files, "FILE", "", "a deck (.pptx or .odp): its notes become the active script" },
 
     Entry { Options, "--autostart", "", "start scrolling after the countdown" },
     Entry { Options, "--check-updates", "", "look for a newer version" },
@@ -34,6 +34,7 @@ constexpr std::array table {
         Environment, "ORVELLO_IMPORT_PPTX", "", "import the .pptx file at this path at launch" },
     Entry {
         Environment, "ORVELLO_ONBOARDING_PAGE", "", "open the welcome tour on this page, 0 to 2" },
+    Entry { Environment, "ORVELLO_RENDERER", "", "draw with \"software\" or with \"opengl\"" },
     Entry { Environment, "ORVELLO_STEALTH", "",
         "hide by \"flag\" or by \"shape\" alone, for experiments" },
 

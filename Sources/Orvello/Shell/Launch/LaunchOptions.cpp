@@ -39,6 +39,13 @@ bool isAddress(const QString& operand)
     return scheme.match(operand).hasMatch() && QUrl(operand, QUrl::StrictMode).isValid();
 }
 
+/// Which of the two it is, its content says later.
+bool isDeck(const QString& extension)
+{
+    return extension.compare(u"pptx"_s, Qt::CaseInsensitive) == 0
+        || extension.compare(u"odp"_s, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 LaunchOptions LaunchOptions::of(const ProgramStart& start)
@@ -90,7 +97,7 @@ void LaunchOptions::takeOption(const QString& option)
     else if (option.startsWith(u"--"_s))
         mistakes.append(tr("unknown option %1").arg(option));
     else
-        mistakes.append(tr("the preference %1 lacks its value").arg(option));
+        mistakes.append(tr("%1 is neither an option nor a preference with a value").arg(option));
 }
 
 /// A file that exists is a file, even if its name looks like an address.
@@ -119,8 +126,8 @@ void LaunchOptions::takeFile(const QString& name, const QDir& directory)
     const QFileInfo file(directory.absoluteFilePath(name));
     if (name.isEmpty() || !file.exists())
         mistakes.append(tr("there is no file \"%1\"").arg(name));
-    else if (file.suffix().compare(u"pptx"_s, Qt::CaseInsensitive) != 0)
-        mistakes.append(tr("%1 is not a PowerPoint deck (.pptx)").arg(name));
+    else if (!isDeck(file.suffix()))
+        mistakes.append(tr("%1 is not a deck (.pptx or .odp)").arg(name));
     else
         files.append(QDir::cleanPath(file.filePath()));
 }

@@ -30,9 +30,9 @@ AppcastUpdater::AppcastUpdater(const Services& services, QString version, QStrin
 {
 }
 
-void AppcastUpdater::start(UpdaterDelegate& delegate)
+void AppcastUpdater::start(UpdateListener& listener)
 {
-    m_delegate = &delegate;
+    m_listener = &listener;
     announceChecks();
     // On the next turn of the main loop, once the code that starts the updater has logged it. A
     // user who asks for a check before that is not asked whether to check.
@@ -42,7 +42,7 @@ void AppcastUpdater::start(UpdaterDelegate& delegate)
     });
 }
 
-QString AppcastUpdater::feed() const { return m_delegate->feedURLString().value_or(m_builtInFeed); }
+QString AppcastUpdater::feed() const { return m_listener->feedAddress().value_or(m_builtInFeed); }
 
 std::optional<QString> AppcastUpdater::builtInFeed() const
 {
@@ -52,7 +52,7 @@ std::optional<QString> AppcastUpdater::builtInFeed() const
 void AppcastUpdater::askPermissionOnce()
 {
     const bool isAnswered = m_services.defaults.value(automaticKey).isValid();
-    if (!hasFeed() || isAnswered || !m_delegate->mayAskPermission())
+    if (!hasFeed() || isAnswered || !m_listener->mayAskPermission())
         return;
     m_services.user.askPermission([this](bool isAllowed) {
         // The settings window may have answered meanwhile.
@@ -119,7 +119,7 @@ void AppcastUpdater::scheduleNextCheck()
         return;
     const double delay = secondsUntilNextCheck();
     if (delay > 0)
-        m_delegate->willScheduleUpdateCheckAfterDelay(delay);
+        m_listener->checkScheduled(delay);
     m_nextCheck = m_services.time.callAfter(delay, [this] { check(Origin::Schedule); });
 }
 
@@ -189,7 +189,7 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
 void AppcastUpdater::offer(const AppcastItem& item)
 {
     enter(Phase::Asking);
-    m_delegate->didFindValidUpdate(updateItem(item));
+    m_listener->updateFound(updateItem(item));
     m_services.user.showUpdate(
         updateItem(item), [this, item](UpdateChoice choice) { chosen(choice, item); });
     if (m_origin == Origin::User)
@@ -199,7 +199,7 @@ void AppcastUpdater::offer(const AppcastItem& item)
 void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
 {
     const UpdateItem update = updateItem(item);
-    m_delegate->userDidMakeChoice(choice, update);
+    m_listener->userChose(choice, update);
     if (choice == UpdateChoice::Skip)
         m_services.defaults.setValue(skippedKey, item.version);
     const QString problem
@@ -213,11 +213,11 @@ void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
 QString AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem& update)
 {
     m_services.defaults.remove(skippedKey);
-    m_delegate->willInstallUpdate(update);
+    m_listener->installing(update);
     if (m_services.desktop.open(item.page))
         return {};
     const QString problem = tr("The download page cannot be opened.");
-    m_delegate->failedToDownloadUpdate(update, { problem, UpdateError::download });
+    m_listener->downloadFailed(update, { problem, UpdateError::download });
     return problem;
 }
 
@@ -231,13 +231,13 @@ void AppcastUpdater::noteSuccess()
 void AppcastUpdater::upToDate()
 {
     const UpdateError error { tr("Orvello is up to date."), UpdateError::noUpdate };
-    m_delegate->didNotFindUpdate(error);
+    m_listener->noUpdateFound(error);
     abort(error);
 }
 
 void AppcastUpdater::abort(const UpdateError& error)
 {
-    m_delegate->didAbortWithError(error);
+    m_listener->checkFailed(error);
     finish(error.description);
 }
 

@@ -37,7 +37,7 @@ public:
     /// Looks in `feed` for updates of a program of that version; an empty feed is none.
     AppcastUpdater(const Services& services, QString version, QString feed);
 
-    void start(UpdaterDelegate& delegate) override;
+    void start(UpdateListener& listener) override;
     void check() override;
     UpdateSchedule& schedule() override { return *this; }
     bool canCheck() const override;
@@ -64,7 +64,7 @@ private:
     void offer(const AppcastItem& item);
     void chosen(UpdateChoice choice, const AppcastItem& item);
     QString openDownloadPage(const AppcastItem& item, const UpdateItem& update);
-    bool hasFeed() const { return m_delegate && !feed().isEmpty(); }
+    bool hasFeed() const { return m_listener && !feed().isEmpty(); }
     void noteSuccess();
     void upToDate();
     void abort(const UpdateError& error);
@@ -74,7 +74,7 @@ private:
     const QString m_version;
     const QString m_builtInFeed;
     FeedLoader m_loader;
-    UpdaterDelegate* m_delegate = nullptr; ///< Null until started.
+    UpdateListener* m_listener = nullptr; ///< Null until started.
     std::vector<std::function<void()>> m_observers;
     std::vector<std::function<void()>> m_checkObservers;
     std::unique_ptr<TimeSource::Ticket> m_nextCheck; ///< Or the moment to schedule it.

@@ -43,8 +43,7 @@ void UpdateController::start()
         onMainThread(&UpdateController::checksAutomaticallyChanged));
     m_services.updater.observeChecks(onMainThread(&UpdateController::checksChanged));
     Q_EMIT checksChanged(); // The updater has begun to answer.
-    const QString feed
-        = feedURLString().value_or(m_services.updater.builtInFeed().value_or(u"?"_s));
+    const QString feed = feedAddress().value_or(m_services.updater.builtInFeed().value_or(u"?"_s));
     AppLog::write("UPDATES started auto=%d feed=%@", static_cast<int>(checksAutomatically()), feed);
 }
 
@@ -72,9 +71,7 @@ bool UpdateController::canCheckForUpdates() const { return m_services.updater.ca
 
 bool UpdateController::hasFeed() const
 {
-    return !feedURLString()
-                .value_or(m_services.updater.builtInFeed().value_or(QString()))
-                .isEmpty();
+    return !feedAddress().value_or(m_services.updater.builtInFeed().value_or(QString())).isEmpty();
 }
 
 bool UpdateController::mayAskPermission() const
@@ -93,37 +90,37 @@ QString UpdateController::lastCheckText() const
     return QLocale::system().toString(moment, QLocale::ShortFormat);
 }
 
-std::optional<QString> UpdateController::feedURLString() const
+std::optional<QString> UpdateController::feedAddress() const
 {
     return DefaultsValue::asString(m_services.defaults.value(u"OrvelloAppcastURL"_s));
 }
 
-void UpdateController::didFindValidUpdate(const UpdateItem& item)
+void UpdateController::updateFound(const UpdateItem& item)
 {
     AppLog::write("UPDATES found %@ (%@)", item.displayVersion, item.version);
 }
 
-void UpdateController::didNotFindUpdate(const UpdateError& error)
+void UpdateController::noUpdateFound(const UpdateError& error)
 {
     AppLog::write("UPDATES up to date (%@)", error.description);
 }
 
-void UpdateController::userDidMakeChoice(UpdateChoice choice, const UpdateItem& item)
+void UpdateController::userChose(UpdateChoice choice, const UpdateItem& item)
 {
     AppLog::write("UPDATES user chose %@ for %@", word(choice), item.displayVersion);
 }
 
-void UpdateController::willInstallUpdate(const UpdateItem& item)
+void UpdateController::installing(const UpdateItem& item)
 {
     AppLog::write("UPDATES installing %@ (%@)", item.displayVersion, item.version);
 }
 
-void UpdateController::failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error)
+void UpdateController::downloadFailed(const UpdateItem& item, const UpdateError& error)
 {
     AppLog::write("UPDATES download failed for %@: %@", item.displayVersion, error.description);
 }
 
-void UpdateController::didAbortWithError(const UpdateError& error)
+void UpdateController::checkFailed(const UpdateError& error)
 {
     // These two are no failures: the one is logged as "up to date", the other is the user's wish.
     if (error.code == UpdateError::noUpdate || error.code == UpdateError::installationCanceled)
@@ -131,7 +128,7 @@ void UpdateController::didAbortWithError(const UpdateError& error)
     AppLog::write("UPDATES aborted: %@ (%d)", error.description, error.code);
 }
 
-void UpdateController::willScheduleUpdateCheckAfterDelay(double seconds)
+void UpdateController::checkScheduled(double seconds)
 {
     constexpr double secondsPerHour = 3600;
     AppLog::write("UPDATES next check in %.0fh", seconds / secondsPerHour);

@@ -12,7 +12,7 @@ class UserDefaults;
 
 /// Starts the system's updater, forwards the user's wishes to it, and logs every step of the update
 /// cycle. Main thread.
-class UpdateController final : public QObject, private UpdaterDelegate {
+class UpdateController final : public QObject, private UpdateListener {
     Q_OBJECT
     Q_PROPERTY(bool checksAutomatically READ checksAutomatically WRITE setChecksAutomatically NOTIFY
             checksAutomaticallyChanged FINAL)
@@ -51,15 +51,15 @@ Q_SIGNALS:
 private:
     std::function<void()> onMainThread(void (UpdateController::*signal)());
 
-    std::optional<QString> feedURLString() const override;
+    std::optional<QString> feedAddress() const override;
     bool mayAskPermission() const override;
-    void didFindValidUpdate(const UpdateItem& item) override;
-    void didNotFindUpdate(const UpdateError& error) override;
-    void userDidMakeChoice(UpdateChoice choice, const UpdateItem& item) override;
-    void willInstallUpdate(const UpdateItem& item) override;
-    void failedToDownloadUpdate(const UpdateItem& item, const UpdateError& error) override;
-    void didAbortWithError(const UpdateError& error) override;
-    void willScheduleUpdateCheckAfterDelay(double seconds) override;
+    void updateFound(const UpdateItem& item) override;
+    void noUpdateFound(const UpdateError& error) override;
+    void userChose(UpdateChoice choice, const UpdateItem& item) override;
+    void installing(const UpdateItem& item) override;
+    void downloadFailed(const UpdateItem& item, const UpdateError& error) override;
+    void checkFailed(const UpdateError& error) override;
+    void checkScheduled(double seconds) override;
 
     const Services m_services;
 };

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "Orvello/Foundation/Facts.h"
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Early/Facts.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
-#include "Orvello/Prompting/View/Card.h"
 #include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
+#include "Orvello/Prompting/View/RoundedBox.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -17,6 +18,7 @@
 #include "Orvello/Settings/Window/SettingsForm.h"
 #include "Orvello/Shell/Commands/ShortcutList.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Voice/SensitivityTest.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QtQml/qqml.h>
@@ -44,10 +46,10 @@ struct AssignedKeysType {
     QML_UNCREATABLE("The program makes it.")
 };
 
-struct CardType {
+struct RoundedBoxType {
     Q_GADGET
-    QML_FOREIGN(Orvello::Card)
-    QML_NAMED_ELEMENT(Card)
+    QML_FOREIGN(Orvello::RoundedBox)
+    QML_NAMED_ELEMENT(RoundedBox)
 };
 
 struct CardStyleType {
@@ -105,11 +107,25 @@ struct SettingsFormType {
     QML_UNCREATABLE("The program makes it.")
 };
 
+struct ImpressPresenterType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ImpressPresenter)
+    QML_NAMED_ELEMENT(ImpressPresenter)
+    QML_UNCREATABLE("The program makes it.")
+};
+
 struct UpdateControllerType {
     Q_GADGET
     QML_FOREIGN(Orvello::UpdateController)
     QML_NAMED_ELEMENT(UpdateController)
     QML_UNCREATABLE("The program makes it.")
+};
+
+struct SensitivityTestType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::SensitivityTest)
+    QML_NAMED_ELEMENT(SensitivityTest)
+    QML_UNCREATABLE("The voice engine has one.")
 };
 
 struct VoiceActivityEngineType {

@@ -11,28 +11,29 @@ namespace Orvello {
 
 class ImpressPresenter;
 
-/// Offers to set LibreOffice up when it refuses to be asked about its presentation, says how that
-/// went, and takes it back at once if the user wants. One box at a time, and none is modal.
+/// Asks the user to let Orvello follow Impress when that was wanted, or says why it is not
+/// possible. One box at a time, none is modal, and none stands before an audience.
 class ImpressAdviceDialog final : public QObject {
     Q_OBJECT
 
 public:
-    explicit ImpressAdviceDialog(
-        ImpressPresenter& impress, QObject* parent = nullptr); ///< `impress` must outlive it.
+    /// `impress` must outlive it.
+    explicit ImpressAdviceDialog(ImpressPresenter& impress, QObject* parent = nullptr);
     ~ImpressAdviceDialog() override;
 
-private:
-    enum class Undo { Offered, NotOffered };
+    /// What the user agrees to: what is opened, for whom and until when.
+    static QString consentText();
 
+private:
     void advise();
-    void allow();
-    void disallow();
-    void tellChanging();
-    void tell(const QString& message, Undo undo);
+    void askConsent();
+    void tell(const QString& message);
+    void hideBeforeAudience();
     QMessageBox& open(const QString& text, const QString& explanation);
 
     ImpressPresenter& m_impress;
     std::unique_ptr<QMessageBox> m_box; ///< The latest one, or none.
+    bool m_isHeldBack = false; ///< The box waits for the audience to go.
 };
 
 } // namespace Orvello

@@ -24,15 +24,15 @@ LibraryWindow::LibraryWindow(const Services& services, PanelSpace panel)
     m_view.setTitle(tr("Scripts"));
     m_view.setFlags(ViewWindow::titledAndClosable | Qt::WindowMaximizeButtonHint);
     m_view.setMinimumSize(smallestSize);
-    followSystemPalette(m_view);
     ViewWindow::load(
         m_view, u"LibraryView"_s, { { u"library"_s, QVariant::fromValue(&m_library) } });
+    followSystemPalette(m_view);
     m_view.resize(firstSize);
 }
 
 LibraryWindow::~LibraryWindow() = default;
 
-void LibraryWindow::makeKeyAndOrderFront()
+void LibraryWindow::bringToFront()
 {
     WindowPlacement::bringToFront(m_view, { m_view.size(), smallestSize }, m_panel);
 }

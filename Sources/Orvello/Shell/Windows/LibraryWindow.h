@@ -18,7 +18,7 @@ public:
     explicit LibraryWindow(const Services& services, PanelSpace panel = {});
     ~LibraryWindow() override;
 
-    void makeKeyAndOrderFront() override;
+    void bringToFront() override;
 
     QQuickView& view() { return m_view; }
 

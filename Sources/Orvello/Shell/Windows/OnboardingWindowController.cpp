@@ -54,7 +54,7 @@ OnboardingWindowController::OnboardingWindowController(
     m_view.installEventFilter(this);
 }
 
-void OnboardingWindowController::makeKeyAndOrderFront()
+void OnboardingWindowController::bringToFront()
 {
     WindowPlacement::bringToFrontFixed(m_view, { contentSize, contentSize }, m_panel);
 }

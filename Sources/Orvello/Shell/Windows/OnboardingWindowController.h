@@ -22,8 +22,8 @@ class OnboardingWindowController final : public QObject, public ShellWindow {
 
 public:
     static constexpr QSize contentSize { 680, 580 }; ///< In points.
-    static constexpr qint64 version
-        = 1; ///< The tour's version, which is remembered once the user has seen it.
+    /// The tour's version, which is remembered once the user has seen it.
+    static constexpr qint64 version = 1;
 
     /// All of them must outlive the window.
     struct Services {
@@ -39,7 +39,7 @@ public:
     OnboardingWindowController(
         const Services& services, std::function<void()> onFinish, PanelSpace panel = {});
 
-    void makeKeyAndOrderFront() override;
+    void bringToFront() override;
 
     QQuickView& view() { return m_view; }
     WelcomeTour& tour() { return m_tour; }

@@ -7,6 +7,8 @@
 
 #include <utility>
 
+#include <QCursor>
+
 namespace Orvello {
 
 QtShellWindows::QtShellWindows(const Services& services)
@@ -29,7 +31,7 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
     return std::make_unique<SettingsWindow>(
         SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
-            m_services.hotKeys, m_services.facts },
+            m_services.hotKeys, m_services.facts, m_services.impress },
         m_services.panel);
 }
 
@@ -44,6 +46,12 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
 std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
 {
     return statusItemIn(m_services.statusBar, menu);
+}
+
+void QtShellWindows::popUp(Menu& menu)
+{
+    m_popUp = std::make_unique<QtMenu>(menu);
+    m_popUp->popup(QCursor::pos());
 }
 
 } // namespace Orvello

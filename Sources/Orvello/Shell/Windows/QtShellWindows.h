@@ -2,6 +2,9 @@
 
 #include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
+#include "Orvello/Shell/Windows/QtMenu.h"
+
+#include <memory>
 
 namespace Orvello {
 
@@ -15,10 +18,12 @@ public:
     std::unique_ptr<ShellWindow> makeSettings() override;
     std::unique_ptr<ShellWindow> makeOnboarding(std::function<void()> onFinish) override;
     std::unique_ptr<StatusItem> makeStatusItem(Menu& menu) override;
+    void popUp(Menu& menu) override;
 
 private:
     const Services m_services;
     LiveDeckImport m_openDecks;
+    std::unique_ptr<QtMenu> m_popUp; ///< The one that was opened last.
 };
 
 } // namespace Orvello

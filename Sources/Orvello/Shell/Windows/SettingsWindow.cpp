@@ -1,8 +1,10 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
+#include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
 #include "Orvello/Shell/Windows/SystemPalette.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
 #include "Orvello/Shell/Windows/WindowPlacement.h"
@@ -24,7 +26,6 @@ SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
     m_view.resize(contentSize);
-    followSystemPalette(m_view);
     ViewWindow::load(m_view, u"SettingsView"_s,
         {
             { u"settings"_s, QVariant::fromValue(&services.settings) },
@@ -34,10 +35,13 @@ SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
             { u"version"_s, QString::fromLatin1(version) },
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
+            { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
+    followSystemPalette(m_view);
 }
 
-void SettingsWindow::makeKeyAndOrderFront()
+void SettingsWindow::bringToFront()
 {
     WindowPlacement::bringToFrontFixed(m_view, { contentSize, smallestSize }, m_panel);
 }

@@ -10,6 +10,7 @@
 namespace Orvello {
 
 class AssignedKeys;
+class ImpressPresenter;
 class SettingsStore;
 class UpdateController;
 class VoiceActivityEngine;
@@ -19,8 +20,8 @@ class SettingsWindow final : public ShellWindow {
     Q_DECLARE_TR_FUNCTIONS(Orvello::SettingsWindow)
 
 public:
-    static constexpr QSize contentSize { 500,
-        780 }; ///< In points, where the screen has room for it.
+    /// In points, where the screen has room for it.
+    static constexpr QSize contentSize { 500, 780 };
     static constexpr QSize smallestSize { 500, 260 }; ///< The form scrolls.
 
     /// All of them must outlive the window.
@@ -30,11 +31,12 @@ public:
         UpdateController& updates;
         HotKeys& hotKeys;
         Facts facts; ///< What the window may say about this machine.
+        ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
 
     explicit SettingsWindow(const Services& services, PanelSpace panel = {});
 
-    void makeKeyAndOrderFront() override;
+    void bringToFront() override;
 
     QQuickView& view() { return m_view; }
 

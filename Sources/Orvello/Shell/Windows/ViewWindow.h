@@ -12,6 +12,7 @@ inline constexpr Qt::WindowFlags titledAndClosable = Qt::Window | Qt::CustomizeW
     | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
 
 /// Fills the window with the view of that name ("PrompterView"), which is given its properties.
+/// Where it cannot be loaded, the process says so and ends.
 void load(QQuickView& window, const QString& view, const QVariantMap& properties);
 
 } // namespace Orvello::ViewWindow

@@ -110,15 +110,27 @@ TEST_F(X11DesktopTest, survivesWindowsThatSayNothingOrNonsense)
     EXPECT_EQ(owners(), QStringList({ u"LibreOffice Impress"_s, QString() }));
 }
 
-TEST_F(X11DesktopTest, takesImpressForFrontmostOnlyByItsSlideshow)
+TEST_F(X11DesktopTest, tellsASlideshowFromADeckThatIsEdited)
+{
+    const auto editor = server.addWindow(0, 0, 1280, 800, impressClass);
+    const auto slideshow = server.addWindow(0, 0, 1280, 800, slideshowClass);
+    server.publishStacking({ editor, slideshow });
+
+    EXPECT_EQ(owners(), QStringList({ u"LibreOffice Impress"_s, u"libreoffice-impress"_s }));
+}
+
+TEST_F(X11DesktopTest, takesImpressForFrontmostByAnyOfItsWindows)
 {
     const auto slideshow = server.addWindow(0, 0, 1280, 800, slideshowClass);
     const auto editor = server.addWindow(0, 0, 100, 100, impressClass);
+    const auto writer = server.addWindow(0, 0, 100, 100, writerClass);
     const auto browser = server.addWindow(0, 0, 100, 100, browserClass);
 
     server.publishActive(slideshow);
     EXPECT_EQ(frontmost()->bundleIdentifier, u"libreoffice-impress"_s);
     server.publishActive(editor);
+    EXPECT_EQ(frontmost()->bundleIdentifier, u"libreoffice-impress"_s);
+    server.publishActive(writer);
     EXPECT_EQ(frontmost()->bundleIdentifier, std::nullopt);
     server.publishActive(browser);
     EXPECT_EQ(frontmost()->bundleIdentifier, std::nullopt);

@@ -123,15 +123,15 @@ public:
     enum class Choice { TakePreferred, GiveNoKeys, LeaveOut };
 
     QDBusConnection bus;
-    bool hasRegistry = true; ///< Not before 1.19.4.
+    bool hasRegistry = true; ///< Portals have had it since 1.19.4.
     bool isInstalled = true; ///< The program, with its desktop file.
-    bool demandsApplicationID = true; ///< Not before 1.21.
+    bool demandsApplicationID = true; ///< Portals have done so since 1.21.
     uint version = 1; ///< The version of the shortcuts' interface.
     uint answer = 0; ///< 1 is the user's refusal.
     bool makesSessions = true;
     bool tellsWhatIsBound = true;
     bool closesEachSession = false;
-    QMap<QString, Choice> choices; ///< By the shortcut; without one it gets its keys.
+    QMap<QString, Choice> choices; ///< A shortcut without a choice gets the keys it asks for.
     QStringList calls;
     QStringList triggers; ///< What was bound.
     QStringList descriptions;
@@ -253,7 +253,8 @@ private:
         bus.send(signal);
     }
 
-    QMap<QString, QString> applications; ///< By the caller; empty for one that did not say.
+    /// The application that each caller says it is; empty for one that did not say.
+    QMap<QString, QString> applications;
     QMap<QString, QString> sessions; ///< Their callers, by their paths.
     QList<WiredShortcut> bound;
 };
@@ -268,18 +269,18 @@ protected:
 
     std::unique_ptr<HotKeys::Reference> toggle()
     {
-        return keys->registerHotKeyFor(
-            { u"toggle"_s, u"Start or pause"_s }, HotKey::keyP, optionCommand, { 0, 1 });
+        return keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 },
+            HotKeyPurpose { u"toggle"_s, u"Start or pause"_s } });
     }
     std::unique_ptr<HotKeys::Reference> faster()
     {
-        return keys->registerHotKeyFor(
-            { u"faster"_s, u"Scroll faster"_s }, HotKey::keyUp, optionCommand, { 0, 2 });
+        return keys->registerHotKey({ { HotKey::keyUp, optionCommand }, { 0, 2 },
+            HotKeyPurpose { u"faster"_s, u"Scroll faster"_s } });
     }
     std::unique_ptr<HotKeys::Reference> slower()
     {
-        return keys->registerHotKeyFor(
-            { u"slower"_s, u"Scroll more slowly"_s }, HotKey::keyDown, optionCommand, { 0, 3 });
+        return keys->registerHotKey({ { HotKey::keyDown, optionCommand }, { 0, 3 },
+            HotKeyPurpose { u"slower"_s, u"Scroll more slowly"_s } });
     }
 
     template <typename Condition>
@@ -493,7 +494,7 @@ TEST_F(PortalHotKeysTest, leavesTheKeyWithoutAPurposeToTheGrabs)
     FakePortal portal(bus.connect());
     start();
 
-    auto reference = keys->registerHotKey(HotKey::keyP, 0, { 0, 6 });
+    auto reference = keys->registerHotKey({ { HotKey::keyP, 0 }, { 0, 6 } });
     grabs.press(HotKey::keyP, 0);
 
     EXPECT_THAT(pressed, ElementsAre(6));

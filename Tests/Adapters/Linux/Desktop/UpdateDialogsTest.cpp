@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QMessageBox>
+#include <QTranslator>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,6 +16,16 @@ namespace Orvello {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+/// Marks every text that is translated.
+class Marks final : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        return u'«' + QString::fromUtf8(text) + u'»';
+    }
+};
 
 class UpdateDialogsTest : public ::testing::Test {
 protected:
@@ -131,6 +143,28 @@ TEST_F(UpdateDialogsTest, goesWithoutAnAnswerWhenTheProgramEnds)
     EXPECT_TRUE(open().isEmpty());
     EXPECT_EQ(choice, std::nullopt);
     EXPECT_EQ(isAllowed, std::nullopt);
+}
+
+TEST_F(UpdateDialogsTest, translatesEveryText)
+{
+    Marks marks;
+    QCoreApplication::installTranslator(&marks);
+    const auto expectMarked = [](const QMessageBox& box) {
+        QStringList texts { box.text(), box.informativeText() };
+        for (const QAbstractButton* const button : box.buttons())
+            texts.append(button->text());
+        for (const QString& text : texts)
+            EXPECT_TRUE(text.startsWith(u'«') && text.endsWith(u'»')) << text.toStdString();
+    };
+
+    dialogs.askPermission([](bool) {});
+    expectMarked(*open().constFirst());
+    open().constFirst()->close();
+    Testing::drainEvents();
+    offer();
+    expectMarked(*open().constFirst());
+
+    QCoreApplication::removeTranslator(&marks);
 }
 
 } // namespace

@@ -174,7 +174,7 @@ TEST_F(X11HotKeysTest, firesForEachKeyWhileAnotherProgramHasTheKeyboard)
     std::uint32_t id = 0;
     for (const std::uint32_t key :
         { HotKey::keyP, HotKey::keyUp, HotKey::keyDown, HotKey::keyR, HotKey::keyH })
-        references.push_back(keys->registerHotKey(key, optionCommand, { 0, ++id }));
+        references.push_back(keys->registerHotKey({ { key, optionCommand }, { 0, ++id } }));
 
     for (const int place : { Place::p, Place::up, Place::down, Place::r, Place::h })
         type({ Place::alt, Place::super, place });
@@ -187,7 +187,7 @@ TEST_F(X11HotKeysTest, firesForEachKeyWhileAnotherProgramHasTheKeyboard)
 
 TEST_F(X11HotKeysTest, firesWithAnyCombinationOfLocks)
 {
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     for (const int lock : { Place::numLock, Place::capsLock, Place::numLock, Place::capsLock }) {
         type({ lock });
@@ -200,7 +200,7 @@ TEST_F(X11HotKeysTest, firesWithAnyCombinationOfLocks)
 TEST_F(X11HotKeysTest, needsExactlyItsModifiers)
 {
     OtherProgram other;
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     type({ Place::p });
     type({ Place::alt, Place::p });
@@ -220,7 +220,7 @@ TEST_F(X11HotKeysTest, takesThePlainKeyOnlyWhileItIsRegistered)
     type({ Place::p });
     EXPECT_EQ(other.typed(Place::p), 1);
 
-    auto reference = keys->registerHotKey(HotKey::keyP, 0, { 0, 6 });
+    auto reference = keys->registerHotKey({ { HotKey::keyP, 0 }, { 0, 6 } });
     type({ Place::p });
     EXPECT_TRUE(waitForPresses(1));
     EXPECT_EQ(other.typed(Place::p), 0);
@@ -234,7 +234,7 @@ TEST_F(X11HotKeysTest, takesThePlainKeyOnlyWhileItIsRegistered)
 
 TEST_F(X11HotKeysTest, firesOnceHoweverLongTheKeyIsHeld)
 {
-    const auto reference = keys->registerHotKey(HotKey::keyP, 0, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, 0 }, { 0, 1 } });
 
     hold(u"keydown"_s, { Place::p });
     QTest::qWait(1200); // Auto-repeat starts after 660 ms.
@@ -248,7 +248,7 @@ TEST_F(X11HotKeysTest, firesOnceHoweverLongTheKeyIsHeld)
 
 TEST_F(X11HotKeysTest, goesWithItsLetterOnOtherLayouts)
 {
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     std::size_t count = 0;
     for (const auto& [layout, place] : { std::pair(u"fr"_s, Place::p), // AZERTY has it there, too,
@@ -270,12 +270,12 @@ TEST_F(X11HotKeysTest, tellsWhichKeysDoNotWork)
     {
         OtherProgram other;
         other.grabKey(Place::p);
-        const auto lost
-            = keys->registerHotKeyFor({ u"toggle"_s, {} }, HotKey::keyP, optionCommand, { 0, 1 });
+        const auto lost = keys->registerHotKey(
+            { { HotKey::keyP, optionCommand }, { 0, 1 }, HotKeyPurpose { u"toggle"_s, {} } });
         EXPECT_EQ(keys->assignedKeys().troubles(), (Troubles { { u"toggle"_s, Trouble::Taken } }));
     }
-    const auto own
-        = keys->registerHotKeyFor({ u"toggle"_s, {} }, HotKey::keyP, optionCommand, { 0, 1 });
+    const auto own = keys->registerHotKey(
+        { { HotKey::keyP, optionCommand }, { 0, 1 }, HotKeyPurpose { u"toggle"_s, {} } });
     EXPECT_EQ(keys->assignedKeys().troubles(), Troubles());
 
     run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
@@ -285,7 +285,7 @@ TEST_F(X11HotKeysTest, tellsWhichKeysDoNotWork)
 
 TEST_F(X11HotKeysTest, followsAModifierThatMovesToAnotherBit)
 {
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     run(u"xmodmap"_s,
         { u"-e"_s, u"clear mod4"_s, u"-e"_s, u"clear mod3"_s, u"-e"_s, u"add mod3 = Super_L"_s });
@@ -297,11 +297,11 @@ TEST_F(X11HotKeysTest, followsAModifierThatMovesToAnotherBit)
 
 TEST_F(X11HotKeysTest, callsTheKeysWhatIsOnThem)
 {
-    EXPECT_EQ(keys->label(HotKey::keyP, optionCommand), QStringLiteral("Alt+Super+P"));
-    EXPECT_EQ(keys->label(HotKey::keyUp, optionCommand), QStringLiteral("Alt+Super+↑"));
-    EXPECT_EQ(keys->label(HotKey::keyDown, HotKey::commandKey), QStringLiteral("Super+↓"));
-    EXPECT_EQ(keys->label(HotKey::keyP, 0), QStringLiteral("P"));
-    EXPECT_EQ(keys->label(99, optionCommand), QString());
+    EXPECT_EQ(keys->label({ HotKey::keyP, optionCommand }), QStringLiteral("Alt+Super+P"));
+    EXPECT_EQ(keys->label({ HotKey::keyUp, optionCommand }), QStringLiteral("Alt+Super+↑"));
+    EXPECT_EQ(keys->label({ HotKey::keyDown, HotKey::commandKey }), QStringLiteral("Super+↓"));
+    EXPECT_EQ(keys->label({ HotKey::keyP, 0 }), QStringLiteral("P"));
+    EXPECT_EQ(keys->label({ 99, optionCommand }), QString());
 }
 
 TEST_F(X11HotKeysTest, waitsForAModifierThatTheKeyboardLacks)
@@ -309,8 +309,8 @@ TEST_F(X11HotKeysTest, waitsForAModifierThatTheKeyboardLacks)
     run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
     settle();
 
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
-    const auto plain = keys->registerHotKey(HotKey::keyR, 0, { 0, 2 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
+    const auto plain = keys->registerHotKey({ { HotKey::keyR, 0 }, { 0, 2 } });
 
     EXPECT_NE(reference, nullptr);
     EXPECT_THAT(log.lines(), ElementsAre("HOTKEY Alt+Super+P is not available on this keyboard"));
@@ -331,7 +331,7 @@ TEST_F(X11HotKeysTest, waitsForAModifierThatTheKeyboardLacks)
 
 TEST_F(X11HotKeysTest, tellsAgainWhenTheKeyboardLosesAModifier)
 {
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
     settle();
@@ -343,7 +343,7 @@ TEST_F(X11HotKeysTest, tellsThatAnotherProgramTookTheKeyAfterALayoutChange)
 {
     run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
     settle();
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
     OtherProgram other;
     other.grabKey(Place::p);
     log.clear();
@@ -358,7 +358,7 @@ TEST_F(X11HotKeysTest, firesWhileScrollLockIsOnAModifier)
 {
     run(u"xmodmap"_s, { u"-e"_s, u"add mod3 = Scroll_Lock"_s });
     settle();
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     for (std::size_t count = 1; count <= 2; ++count) {
         type({ Place::scrollLock });
@@ -373,7 +373,7 @@ TEST_F(X11HotKeysTest, firesInTheSecondLayoutOfTheKeyboard)
     run(u"setxkbmap"_s, { u"us,ru"_s });
     settle();
     OtherProgram other;
-    const auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     std::size_t count = 0;
     for (const auto layout : std::vector<std::uint8_t> { 0, 1, 0 }) {
@@ -392,8 +392,8 @@ TEST_F(X11HotKeysTest, survivesAKeyThatAnotherProgramOwns)
     OtherProgram other;
     other.grabKey(Place::p);
 
-    const auto lost = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
-    const auto own = keys->registerHotKey(HotKey::keyR, optionCommand, { 0, 2 });
+    const auto lost = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
+    const auto own = keys->registerHotKey({ { HotKey::keyR, optionCommand }, { 0, 2 } });
     type({ Place::alt, Place::super, Place::p });
     type({ Place::alt, Place::super, Place::r });
 
@@ -407,7 +407,7 @@ TEST_F(X11HotKeysTest, survivesAKeyThatAnotherProgramOwns)
 TEST_F(X11HotKeysTest, leavesNoGrabBehind)
 {
     OtherProgram other;
-    auto reference = keys->registerHotKey(HotKey::keyP, optionCommand, { 0, 1 });
+    auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
     reference.reset();
 
     for (const int lock : { Place::numLock, Place::capsLock, Place::numLock, Place::capsLock }) {
@@ -420,14 +420,14 @@ TEST_F(X11HotKeysTest, leavesNoGrabBehind)
 
 TEST_F(X11HotKeysTest, refusesAKeyThatItDoesNotKnow)
 {
-    EXPECT_EQ(keys->registerHotKey(999, optionCommand, { 0, 1 }), nullptr);
+    EXPECT_EQ(keys->registerHotKey({ { 999, optionCommand }, { 0, 1 } }), nullptr);
 }
 
 TEST(X11HotKeysWithoutDisplayTest, refusesEveryKey)
 {
     X11HotKeys keys(":65432");
 
-    EXPECT_EQ(keys.registerHotKey(HotKey::keyP, 0, { 0, 1 }), nullptr);
+    EXPECT_EQ(keys.registerHotKey({ { HotKey::keyP, 0 }, { 0, 1 } }), nullptr);
 }
 
 } // namespace

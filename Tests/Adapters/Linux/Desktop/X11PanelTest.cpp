@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
+#include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 #include "Tests/Support/FakeUserDefaults.h"
 #include "Tests/Support/PrivateXServer.h"
@@ -13,8 +14,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
+#include <xcb/xcb.h>
 
 namespace Orvello {
 namespace {
@@ -95,7 +99,8 @@ protected:
 
     std::optional<QRectF> saved() const
     {
-        return PanelFrame::parsed(defaults.stored.value(savedKey).toString(), screens);
+        const auto home = PanelFrame::parsed(defaults.stored.value(savedKey).toString(), screens);
+        return home ? std::optional(home->frame) : std::nullopt;
     }
 
     inline static const QList<QRectF> screens { { 0, 0, 1280, 800 } };
@@ -258,6 +263,144 @@ TEST_F(X11PanelTest, endsItsDragWhenItIsHidden)
     EXPECT_THAT(news, IsEmpty());
 }
 
+// The stack
+
+/// Windows of other programs, on a connection of their own.
+class X11PanelStackTest : public X11PanelTest {
+protected:
+    ~X11PanelStackTest() override { xcb_disconnect(connection); }
+
+    enum class Kind { Managed, Unmanaged };
+
+    xcb_window_t add(Kind kind, QRect area = { 100, 300, 720, 200 })
+    {
+        const xcb_window_t window = xcb_generate_id(connection);
+        const std::uint32_t isUnmanaged = kind == Kind::Unmanaged;
+        xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, root(),
+            static_cast<std::int16_t>(area.x()), static_cast<std::int16_t>(area.y()),
+            static_cast<std::uint16_t>(area.width()), static_cast<std::uint16_t>(area.height()), 0,
+            XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
+            &isUnmanaged);
+        if (kind == Kind::Managed) {
+            const std::uint32_t normal = 1;
+            const xcb_atom_t state = Xcb::atomNamed(connection, "WM_STATE");
+            xcb_change_property(
+                connection, XCB_PROP_MODE_REPLACE, window, state, state, 32, 1, &normal);
+        }
+        xcb_map_window(connection, window);
+        xcb_flush(connection);
+        settle();
+        return window;
+    }
+
+    void raise(xcb_window_t window)
+    {
+        const std::uint32_t mode = XCB_STACK_MODE_ABOVE;
+        xcb_configure_window(connection, window, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
+        xcb_flush(connection);
+        settle();
+    }
+
+    /// From bottom to top, those among these that there are.
+    std::vector<xcb_window_t> stack(std::vector<xcb_window_t> windows) const
+    {
+        const auto tree = Xcb::owned(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, root()), nullptr));
+        const xcb_window_t* const first = xcb_query_tree_children(tree.get());
+        const auto place = [&](xcb_window_t window) {
+            return std::find(first, first + tree->children_len, window);
+        };
+        std::ranges::sort(windows, {}, place);
+        return windows;
+    }
+
+    xcb_window_t root() const
+    {
+        return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    }
+    xcb_window_t own() const { return static_cast<xcb_window_t>(view.winId()); }
+
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+};
+
+TEST_F(X11PanelStackTest, comesJustAboveAManagedWindowThatCoversIt)
+{
+    const xcb_window_t document = add(Kind::Managed);
+
+    EXPECT_THAT(stack({ document, own() }), ElementsAre(document, own()));
+}
+
+TEST_F(X11PanelStackTest, staysBelowAMenuWhenAManagedWindowComesBetween)
+{
+    const xcb_window_t document = add(Kind::Managed);
+    const xcb_window_t menu = add(Kind::Unmanaged);
+    const xcb_window_t dialog = add(Kind::Managed);
+    raise(menu); // As lockers do when something covers them.
+
+    raise(own());
+    ASSERT_THAT(
+        stack({ document, menu, dialog, own() }), ElementsAre(document, dialog, menu, own()));
+    panel.hide();
+    panel.show();
+    settle();
+    EXPECT_THAT(
+        stack({ document, menu, dialog, own() }), ElementsAre(document, dialog, own(), menu));
+
+    const std::array<std::uint32_t, 2> belowTheMenu { menu, XCB_STACK_MODE_BELOW };
+    xcb_configure_window(connection, document,
+        XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, belowTheMenu.data());
+    xcb_flush(connection);
+    settle();
+    EXPECT_THAT(
+        stack({ document, menu, dialog, own() }), ElementsAre(dialog, document, own(), menu));
+}
+
+TEST_F(X11PanelStackTest, staysBelowALockerThatComesBackOverAManagedWindow)
+{
+    const xcb_window_t locker = add(Kind::Unmanaged, { 0, 0, 1280, 800 });
+    const xcb_window_t notice = add(Kind::Managed, { 0, 0, 1280, 800 });
+    raise(locker);
+
+    EXPECT_THAT(stack({ locker, notice, own() }), ElementsAre(notice, own(), locker));
+}
+
+// The pointer
+
+TEST_F(X11PanelTest, endsItsDragAtTheNextMotionWhenTheReleaseIsLost)
+{
+    press(middle);
+    move(middle + QPoint(30, 40));
+
+    QMouseEvent motion(QEvent::MouseMove, middle + QPoint(90, 90), middle + QPoint(90, 90),
+        Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &motion);
+    move(middle + QPoint(120, 120));
+    settle();
+
+    EXPECT_EQ(panel.frame(), initial.translated(30, 40));
+    EXPECT_FALSE(panel.isBeingResized());
+}
+
+TEST_F(X11PanelTest, isDraggedByOnePointerAtATime)
+{
+    const QPointingDevice other(u"other"_s, 4711, QInputDevice::DeviceType::Mouse,
+        QPointingDevice::PointerType::Generic, QInputDevice::Capability::Position, 1, 3);
+    press(middle);
+    move(middle + QPoint(30, 40));
+
+    for (const auto type : { QEvent::MouseMove, QEvent::MouseButtonRelease }) {
+        const QPoint place(600, 600);
+        QMouseEvent event(type, place - view.position(), place,
+            type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, Qt::NoButton, Qt::NoModifier,
+            &other);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+    move(middle + QPoint(50, 60));
+    settle();
+
+    EXPECT_EQ(panel.frame(), initial.translated(50, 60));
+}
+
 // The frame
 
 TEST_F(X11PanelTest, tellsOfASizeThatItIsGiven)
@@ -288,10 +431,32 @@ TEST_F(X11PanelTest, savesWhereADragEndsAndNothingBefore)
     EXPECT_EQ(defaults.writes, 1);
 }
 
+TEST_F(X11PanelTest, savesTheFrameThatItIsGivenLater)
+{
+    panel.saveFrameAs(u"PrompterPanel"_s);
+
+    panel.setFrame({ 280, 6, 720, 200 });
+    settle();
+
+    EXPECT_EQ(saved(), QRectF(280, 6, 720, 200));
+    EXPECT_EQ(defaults.writes, 1);
+}
+
+TEST_F(X11PanelTest, takesTheSavedPlaceUnderTheTopOfAnotherScreen)
+{
+    defaults.stored.insert(savedKey, u"600 1234 720 200 0 0 1920 1440"_s);
+
+    panel.saveFrameAs(u"PrompterPanel"_s);
+    settle();
+
+    EXPECT_EQ(panel.frame(), QRectF(280, 6, 720, 200));
+    EXPECT_EQ(defaults.writes, 0);
+}
+
 TEST_F(X11PanelTest, takesTheSavedFrame)
 {
     const QRectF frame(20, 30, 640, 250);
-    defaults.stored.insert(savedKey, PanelFrame::text(frame, screens));
+    defaults.stored.insert(savedKey, PanelFrame::text({ frame, screens.first() }, screens));
 
     panel.saveFrameAs(u"PrompterPanel"_s);
     settle();
@@ -302,8 +467,7 @@ TEST_F(X11PanelTest, takesTheSavedFrame)
 
 TEST_F(X11PanelTest, bringsASavedFrameBackOntoTheScreen)
 {
-    defaults.stored.insert(
-        savedKey, PanelFrame::text({ 5000, 3000, 9000, 10 }, { { 0, 0, 2560, 1440 } }));
+    defaults.stored.insert(savedKey, u"5000 -1570 9000 10 0 0 2560 1440"_s);
 
     panel.saveFrameAs(u"PrompterPanel"_s);
     settle();

@@ -53,6 +53,7 @@ typedef void (^AVAudioNodeTapBlock)(AVAudioPCMBuffer* buffer, AVAudioTime* when)
 
 @interface AVAudioEngine : NSObject
 @property (nonatomic, readonly) AVAudioInputNode* inputNode;
+@property (nonatomic, readonly, getter=isRunning) BOOL running;
 - (instancetype)init;
 - (BOOL)startAndReturnError:(NSError**)outError;
 - (void)stop;

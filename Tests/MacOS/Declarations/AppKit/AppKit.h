@@ -196,6 +196,7 @@ static const NSControlStateValue NSControlStateValueOn = 1;
 @property (nullable, strong) NSImage* image;
 @end
 @interface NSStatusBarButton : NSButton
+- (void)performClick:(nullable id)sender;
 @end
 
 static const CGFloat NSSquareStatusItemLength = -2.0;
@@ -228,6 +229,8 @@ static const NSModalResponse NSModalResponseOK = 1;
 
 extern NSNotificationName const NSWindowDidResizeNotification;
 extern NSNotificationName const NSWindowDidEndLiveResizeNotification;
+extern NSNotificationName const NSApplicationWillFinishLaunchingNotification;
+extern NSNotificationName const NSApplicationDidChangeScreenParametersNotification;
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
     NSApplicationActivationPolicyAccessory = 1,

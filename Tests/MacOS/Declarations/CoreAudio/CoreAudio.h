@@ -12,16 +12,20 @@ struct AudioObjectPropertyAddress {
     AudioObjectPropertyElement mElement;
 };
 
-enum : AudioObjectID { kAudioObjectSystemObject = 1 };
+enum : AudioObjectID { kAudioObjectUnknown = 0, kAudioObjectSystemObject = 1 };
 enum : AudioObjectPropertyScope { kAudioObjectPropertyScopeGlobal = 'glob' };
 enum : AudioObjectPropertyElement { kAudioObjectPropertyElementMain = 0 };
 // In the SDK since that of macOS 14, without an availability mark.
 enum : AudioObjectPropertySelector {
+    kAudioHardwarePropertyDefaultInputDevice = 'dIn ',
     kAudioHardwarePropertyProcessObjectList = 'prs#',
     kAudioProcessPropertyPID = 'ppid',
     kAudioProcessPropertyIsRunningInput = 'piri',
 };
 
+typedef OSStatus (*AudioObjectPropertyListenerProc)(AudioObjectID inObjectID,
+    UInt32 inNumberAddresses, const AudioObjectPropertyAddress* _Nonnull inAddresses,
+    void* _Nullable inClientData);
 extern "C" {
 OSStatus AudioObjectGetPropertyDataSize(AudioObjectID inObjectID,
     const AudioObjectPropertyAddress* _Nonnull inAddress, UInt32 inQualifierDataSize,
@@ -29,6 +33,12 @@ OSStatus AudioObjectGetPropertyDataSize(AudioObjectID inObjectID,
 OSStatus AudioObjectGetPropertyData(AudioObjectID inObjectID,
     const AudioObjectPropertyAddress* _Nonnull inAddress, UInt32 inQualifierDataSize,
     const void* _Nullable inQualifierData, UInt32* _Nonnull ioDataSize, void* _Nonnull outData);
+OSStatus AudioObjectAddPropertyListener(AudioObjectID inObjectID,
+    const AudioObjectPropertyAddress* _Nonnull inAddress,
+    AudioObjectPropertyListenerProc _Nonnull inListener, void* _Nullable inClientData);
+OSStatus AudioObjectRemovePropertyListener(AudioObjectID inObjectID,
+    const AudioObjectPropertyAddress* _Nonnull inAddress,
+    AudioObjectPropertyListenerProc _Nonnull inListener, void* _Nullable inClientData);
 }
 
 typedef UInt32 AudioFormatID;

@@ -61,6 +61,10 @@ __attribute__((objc_root_class))
 - (void)dealloc;
 @end
 
+@interface NSObject (NSDelayedPerforming)
+- (void)performSelector:(SEL)aSelector withObject:(nullable id)anArgument afterDelay:(double)delay;
+@end
+
 typedef NSUInteger NSKeyValueObservingOptions;
 @interface NSObject (NSKeyValueObserving)
 - (void)observeValueForKeyPath:(nullable NSString*)keyPath
@@ -176,10 +180,27 @@ typedef NSString* NSNotificationName;
 @interface NSNotificationCenter : NSObject
 @property (class, readonly, strong) NSNotificationCenter* defaultCenter;
 - (void)removeObserver:(id)observer;
+- (void)addObserver:(id)observer
+           selector:(SEL)selector
+               name:(nullable NSNotificationName)name
+             object:(nullable id)object;
 - (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
                             object:(nullable id)obj
                              queue:(nullable NSOperationQueue*)queue
                         usingBlock:(void (^)(NSNotification* notification))block;
+@end
+
+typedef unsigned int FourCharCode;
+typedef FourCharCode AEEventClass;
+typedef FourCharCode AEEventID;
+@class NSAppleEventDescriptor;
+@interface NSAppleEventManager : NSObject
++ (NSAppleEventManager*)sharedAppleEventManager;
+- (void)setEventHandler:(id)handler
+            andSelector:(SEL)handleEventSelector
+          forEventClass:(AEEventClass)eventClass
+             andEventID:(AEEventID)eventID;
+- (void)removeEventHandlerForEventClass:(AEEventClass)eventClass andEventID:(AEEventID)eventID;
 @end
 
 typedef NS_ENUM(NSUInteger, NSSearchPathDirectory) { NSApplicationSupportDirectory = 14 };

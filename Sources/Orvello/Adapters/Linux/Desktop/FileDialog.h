@@ -7,7 +7,8 @@ namespace Orvello {
 /// The desktop's own file dialog, where its platform theme or portal has one, else Qt's.
 class FileDialog final : public OpenPanel {
 public:
-    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override;
+    std::optional<QString> chooseFile(
+        const QString& message, const QList<FileKind>& kinds) override;
 };
 
 } // namespace Orvello

@@ -41,10 +41,10 @@ std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers)
     return joined(modifiers, "ALT+", "LOGO+") + name.symbol;
 }
 
-QString hotKeyText(std::uint32_t keyCode, std::uint32_t modifiers)
+QString hotKeyText(const HotKey& key)
 {
-    const HotKeyName* const name = hotKeyName(keyCode);
-    return name ? QString::fromStdString(joined(modifiers, "Alt+", "Super+") + name->sign)
+    const HotKeyName* const name = hotKeyName(key.keyCode);
+    return name ? QString::fromStdString(joined(key.modifiers, "Alt+", "Super+") + name->sign)
                 : QString();
 }
 

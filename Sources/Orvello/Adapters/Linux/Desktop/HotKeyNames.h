@@ -28,6 +28,6 @@ std::string hotKeyLabel(const HotKeyName& name, std::uint32_t modifiers);
 std::string hotKeyTrigger(const HotKeyName& name, std::uint32_t modifiers);
 
 /// The same for people, such as "Alt+Super+↑"; empty for a key that the product never asks for.
-QString hotKeyText(std::uint32_t keyCode, std::uint32_t modifiers);
+QString hotKeyText(const HotKey& key);
 
 } // namespace Orvello

@@ -66,14 +66,14 @@ QStringList desktopEntries(const QString& bundleIdentifier)
 
 QString ownerName(const X11WindowClass& windowClass)
 {
-    const bool isImpress = isLibreOffice(windowClass)
-        && (!isModule(windowClass) || windowClass.name == impressIdentifier);
-    return isImpress ? impressName.toString() : windowClass.name;
+    const bool isSlideshow = isLibreOffice(windowClass) && !isModule(windowClass);
+    return isSlideshow ? impressName.toString() : windowClass.name;
 }
 
 RunningApplication frontmost(const X11WindowClass& windowClass)
 {
-    if (isLibreOffice(windowClass) && !isModule(windowClass))
+    if (isLibreOffice(windowClass)
+        && (!isModule(windowClass) || windowClass.name == impressIdentifier))
         return { impressIdentifier.toString(), impressName.toString() };
     return { std::nullopt, ownerName(windowClass) };
 }

@@ -19,12 +19,13 @@ namespace Orvello::KnownApplications {
 /// known ones.
 [[nodiscard]] QStringList desktopEntries(const QString& bundleIdentifier);
 
-/// The application that owns the window; the window's class for an unknown application.
+/// The application that owns the window; the window's class for an unknown application. Only
+/// the windows of a slideshow are LibreOffice Impress's: one in which a deck is edited may fill the
+/// screen, too.
 [[nodiscard]] QString ownerName(const X11WindowClass& windowClass);
 
-/// The application as the frontmost one when a window of this class is active. LibreOffice Impress
-/// counts only when one of its slideshow's windows is active: nobody presents from a document
-/// window.
+/// The application as the frontmost one when a window of this class is active: for LibreOffice
+/// Impress that is any of its windows.
 [[nodiscard]] RunningApplication frontmost(const X11WindowClass& windowClass);
 
 } // namespace Orvello::KnownApplications

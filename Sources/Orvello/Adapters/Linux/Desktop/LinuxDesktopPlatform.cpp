@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
 #include "Orvello/Adapters/Linux/Desktop/FramelessChrome.h"
+#include "Orvello/Adapters/Linux/Desktop/HardwareRenderer.h"
 #include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxDesktopServices.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxStatusBar.h"
@@ -102,6 +103,7 @@ public:
     Updater& updater() override { return m_updates.updater; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
     HelperProcess* impressHelper() override { return m_impressHelper.get(); }
+    bool hasHardwareRenderer() override { return HardwareRenderer::isThere(); }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
@@ -116,6 +118,7 @@ private:
     FramelessChrome m_windowChrome;
     Updates m_updates { m_early.time(), m_early.userDefaults(), m_session.services };
     std::unique_ptr<HelperProcess> m_impressHelper = makeImpressHelper();
+    std::unique_ptr<HelperProcess> m_formerPermission = FormerImpressPermission::takeBack();
 };
 
 } // namespace

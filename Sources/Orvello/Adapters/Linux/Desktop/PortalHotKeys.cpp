@@ -57,7 +57,7 @@ constexpr uint declinedByUser = 1; // In the answer to a request; 0 is success, 
 constexpr uint configurableVersion = 2; // The first interface version that can configure.
 
 /// Enough for every restart of a long session; a portal that fails each time is left alone.
-constexpr int mostRevivals = 5;
+constexpr int revivalLimit = 5;
 
 /// The shortcuts of a list as the portal sends it; none if it is no such list.
 QList<PortalShortcut> shortcutsIn(const QVariant& value)
@@ -78,30 +78,30 @@ bool isUnknown(const QDBusError& error)
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
-    Shortcut(PortalHotKeys& portal, HotKeyPurpose keyPurpose, const HotKeyName& keyName,
-        std::uint32_t keyModifiers, HotKeyID keyID)
+    Shortcut(PortalHotKeys& portal, const HotKeyName& keyName, const HotKeyRequest& keyRequest)
         : keys(portal)
-        , purpose(std::move(keyPurpose))
         , name(keyName)
-        , modifiers(keyModifiers)
-        , id(keyID)
+        , request(keyRequest)
+        , purpose(*request.purpose)
     {
     }
     ~Shortcut() override { keys.forget(*this); }
 
-    QString label() const { return QString::fromStdString(hotKeyLabel(name, modifiers)); }
+    QString label() const
+    {
+        return QString::fromStdString(hotKeyLabel(name, request.key.modifiers));
+    }
     PortalShortcut offer() const
     {
-        const QString trigger = QString::fromStdString(hotKeyTrigger(name, modifiers));
+        const QString trigger = QString::fromStdString(hotKeyTrigger(name, request.key.modifiers));
         return { purpose.name,
             { { u"description"_s, purpose.description }, { u"preferred_trigger"_s, trigger } } };
     }
 
     PortalHotKeys& keys;
-    const HotKeyPurpose purpose;
     const HotKeyName& name;
-    const std::uint32_t modifiers;
-    const HotKeyID id;
+    const HotKeyRequest request;
+    const HotKeyPurpose& purpose;
     bool isHeld = false; ///< Whether the portal holds the key.
     std::unique_ptr<Reference> fallback; ///< What holds the key otherwise, if it can.
 };
@@ -111,7 +111,7 @@ PortalHotKeys::PortalHotKeys(QDBusConnection bus, QString applicationID, HotKeys
     , m_applicationID(std::move(applicationID))
     , m_fallback(fallback)
     , m_portalWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
-    , m_revivalsLeft(mostRevivals)
+    , m_revivalsLeft(revivalLimit)
 {
     const AssignedKeys& ofFallback = m_fallback.assignedKeys();
     connect(&ofFallback, &AssignedKeys::troublesChanged, this,
@@ -140,20 +140,13 @@ void PortalHotKeys::installHandler(Handler handler)
     m_fallback.installHandler(std::move(handler));
 }
 
-std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKey(
-    std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
+std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKey(const HotKeyRequest& request)
 {
-    return m_fallback.registerHotKey(keyCode, modifiers, id);
-}
-
-std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKeyFor(
-    const HotKeyPurpose& purpose, std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
-{
-    const HotKeyName* const name = hotKeyName(keyCode);
+    const HotKeyName* const name = hotKeyName(request.key.keyCode);
     // A session takes its shortcuts in one go.
-    if (!name || !m_session.isEmpty())
-        return m_fallback.registerHotKey(keyCode, modifiers, id);
-    auto shortcut = std::make_unique<Shortcut>(*this, purpose, *name, modifiers, id);
+    if (!request.purpose || !name || !m_session.isEmpty())
+        return m_fallback.registerHotKey(request);
+    auto shortcut = std::make_unique<Shortcut>(*this, *name, request);
     m_shortcuts.push_back(shortcut.get());
     if (m_state == State::Idle)
         askSoon(); // First let everything be registered.
@@ -162,10 +155,7 @@ std::unique_ptr<HotKeys::Reference> PortalHotKeys::registerHotKeyFor(
     return shortcut;
 }
 
-QString PortalHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
-{
-    return m_fallback.label(keyCode, modifiers);
-}
+QString PortalHotKeys::label(const HotKey& key) const { return m_fallback.label(key); }
 
 void PortalHotKeys::askSoon()
 {
@@ -420,8 +410,7 @@ void PortalHotKeys::grab(Shortcut& shortcut)
 {
     shortcut.isHeld = false;
     if (!shortcut.fallback)
-        shortcut.fallback = m_fallback.registerHotKeyFor(
-            shortcut.purpose, shortcut.name.keyCode, shortcut.modifiers, shortcut.id);
+        shortcut.fallback = m_fallback.registerHotKey(shortcut.request);
 }
 
 void PortalHotKeys::activated(const QDBusObjectPath& session, const QString& shortcut)
@@ -430,7 +419,7 @@ void PortalHotKeys::activated(const QDBusObjectPath& session, const QString& sho
         return;
     for (const Shortcut* const candidate : m_shortcuts) {
         if (candidate->purpose.name == shortcut) {
-            m_handler(candidate->id);
+            m_handler(candidate->request.id);
             return;
         }
     }

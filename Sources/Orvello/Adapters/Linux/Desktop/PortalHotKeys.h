@@ -38,13 +38,10 @@ public:
     ~PortalHotKeys() override;
 
     void installHandler(Handler handler) override;
-    std::unique_ptr<Reference> registerHotKey(
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
 
     /// Never null for a key that the portal may take: its answer comes later.
-    std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
-    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
+    std::unique_ptr<Reference> registerHotKey(const HotKeyRequest& request) override;
+    QString label(const HotKey& key) const override;
 
 private Q_SLOTS:
     void responded(uint response, const QVariantMap& results, const QDBusMessage& message);
@@ -98,8 +95,8 @@ private:
     State m_state = State::Idle;
     bool m_isRegistered = false; ///< The portal that runs has been told the ID.
     int m_attempt = 0; ///< Replies to an earlier one come too late.
-    int m_revivalsLeft; ///< How often a lost session may still be asked for again without a new
-                        ///< portal.
+    /// How often a lost session may still be asked for again without a new portal.
+    int m_revivalsLeft;
     int m_nextToken = 1;
 };
 

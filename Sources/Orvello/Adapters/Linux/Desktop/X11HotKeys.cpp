@@ -23,13 +23,12 @@ enum class X11HotKeys::Holding { Own, NotOnKeyboard, OfAnotherProgram };
 
 /// One key with its modifiers, and what is grabbed for it now in the server's own terms.
 struct X11HotKeys::Grab final : Reference {
-    Grab(X11HotKeys& service, QString purposeName, const HotKeyName& keyName,
-        std::uint32_t keyModifiers, HotKeyID keyID)
+    Grab(X11HotKeys& service, const HotKeyName& keyName, const HotKeyRequest& request)
         : keys(service)
-        , purpose(std::move(purposeName))
+        , purpose(request.purpose ? request.purpose->name : QString())
         , name(keyName)
-        , modifiers(keyModifiers)
-        , id(keyID)
+        , modifiers(request.key.modifiers)
+        , id(request.id)
     {
     }
     ~Grab() override { keys.forget(*this); }
@@ -71,19 +70,12 @@ X11HotKeys::~X11HotKeys()
 
 void X11HotKeys::installHandler(Handler handler) { m_handler = std::move(handler); }
 
-std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(
-    std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
+std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(const HotKeyRequest& request)
 {
-    return registerHotKeyFor({}, keyCode, modifiers, id);
-}
-
-std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKeyFor(
-    const HotKeyPurpose& purpose, std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
-{
-    const HotKeyName* const name = hotKeyName(keyCode);
+    const HotKeyName* const name = hotKeyName(request.key.keyCode);
     if (!name || !m_keyboard)
         return nullptr;
-    auto grabbed = std::make_unique<Grab>(*this, purpose.name, *name, modifiers, id);
+    auto grabbed = std::make_unique<Grab>(*this, *name, request);
     acquire(*grabbed);
     tell(*grabbed);
     if (grabbed->holding == Holding::OfAnotherProgram)
@@ -92,10 +84,7 @@ std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKeyFor(
     return grabbed;
 }
 
-QString X11HotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
-{
-    return hotKeyText(keyCode, modifiers);
-}
+QString X11HotKeys::label(const HotKey& key) const { return hotKeyText(key); }
 
 /// Tries to get the key, and logs it when losing it is news.
 void X11HotKeys::acquire(Grab& grab)

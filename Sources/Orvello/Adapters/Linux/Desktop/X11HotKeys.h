@@ -30,11 +30,8 @@ public:
     ~X11HotKeys() override;
 
     void installHandler(Handler handler) override;
-    std::unique_ptr<Reference> registerHotKey(
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
-    std::unique_ptr<Reference> registerHotKeyFor(const HotKeyPurpose& purpose,
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
-    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
+    std::unique_ptr<Reference> registerHotKey(const HotKeyRequest& request) override;
+    QString label(const HotKey& key) const override;
 
 private:
     enum class Holding;

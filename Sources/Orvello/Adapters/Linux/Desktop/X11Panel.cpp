@@ -4,13 +4,15 @@
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
-#include "Orvello/Prompting/Panel/PanelFrame.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 
 namespace Orvello {
@@ -19,8 +21,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int edgeWidth
-    = 6; ///< How far inside the panel a press still takes hold of its edge, in points.
+/// How far inside the panel a press still takes hold of its edge, in points.
+constexpr int edgeWidth = 6;
+constexpr std::chrono::milliseconds screensSettlingTime { 100 };
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
 
 Qt::Edges edgesAt(QPointF position, QSize size)
@@ -96,6 +99,17 @@ X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
     m_window.installEventFilter(this);
     m_stackingGuard
         = std::make_unique<X11StackingGuard>(static_cast<std::uint32_t>(m_window.winId()));
+
+    // A change of screens comes in several pieces.
+    m_screensSettling.setSingleShot(true);
+    m_screensSettling.setInterval(screensSettlingTime);
+    connect(&m_screensSettling, &QTimer::timeout, this, &X11Panel::returnToScreens);
+    for (const QScreen* screen : QGuiApplication::screens())
+        watch(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &X11Panel::watch);
+    for (const auto signal : { &QGuiApplication::screenAdded, &QGuiApplication::screenRemoved,
+             &QGuiApplication::primaryScreenChanged })
+        connect(qGuiApp, signal, &m_screensSettling, qOverload<>(&QTimer::start));
 }
 
 X11Panel::~X11Panel() { m_window.removeEventFilter(this); }
@@ -104,9 +118,31 @@ QRectF X11Panel::frame() const { return m_window.geometry(); }
 
 void X11Panel::setFrame(const QRectF& frame)
 {
-    m_settledFrame = frame;
+    m_screens = QtScreens().frames();
+    m_home = PanelFrame::homeAt(frame, m_screens);
+    moveTo(frame);
+    saveHome();
+}
+
+void X11Panel::moveTo(const QRectF& frame)
+{
+    m_settledFrame = frame.toRect();
     m_window.setGeometry(frame.toRect());
     announceSize();
+}
+
+void X11Panel::watch(const QScreen* screen)
+{
+    connect(screen, &QScreen::geometryChanged, &m_screensSettling, qOverload<>(&QTimer::start));
+}
+
+/// The home stays what it is: the panel goes back there when the screen comes back.
+void X11Panel::returnToScreens()
+{
+    if (assign(m_screens, QtScreens().frames()))
+        endGesture();
+    if (!m_gesture.isActive)
+        moveTo(PanelFrame::placeOf(m_home, m_screens));
 }
 
 void X11Panel::saveFrameAs(const QString& name)
@@ -116,16 +152,21 @@ void X11Panel::saveFrameAs(const QString& name)
     m_autosaveKey = u"NSWindow Frame "_s + name;
     const std::optional<QString> saved = DefaultsValue::asString(m_defaults.value(m_autosaveKey));
     const QList<QRectF> screens = QtScreens().frames();
-    if (const std::optional<QRectF> frame
-        = saved ? PanelFrame::parsed(*saved, screens) : std::nullopt)
-        setFrame(PanelFrame::onScreen(
-            PanelFrame::withSizeBetween(*frame, minimumSize, maximumSize), screens));
+    std::optional<PanelFrame::Home> home
+        = saved ? PanelFrame::parsed(*saved, screens) : std::nullopt;
+    if (!home)
+        return;
+    home->frame = PanelFrame::withSizeBetween(home->frame, minimumSize, maximumSize);
+    m_screens = screens;
+    moveTo(PanelFrame::placeOf(*home, screens));
+    m_home = home->screen.isEmpty() ? PanelFrame::homeAt(m_settledFrame, screens) : *home;
 }
 
 void X11Panel::show()
 {
+    returnToScreens();
     m_window.show();
-    m_stackingGuard->raise();
+    m_stackingGuard->settle();
 }
 
 void X11Panel::hide() { m_window.hide(); }
@@ -157,10 +198,10 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         endGesture(); // A hidden window gets no release.
         return false;
     case QEvent::Move:
-        saveFrame();
+        noteFrame();
         return false;
     case QEvent::Resize:
-        saveFrame();
+        noteFrame();
         announceSize();
         return false;
     default:
@@ -179,12 +220,18 @@ bool X11Panel::pressed(QMouseEvent& event)
         if (event.exclusiveGrabber(event.point(0)))
             return true;
     }
-    m_gesture = { true, edges, event.globalPosition().toPoint(), m_window.geometry() };
+    m_gesture
+        = { true, event.device(), edges, event.globalPosition().toPoint(), m_window.geometry() };
     return true;
 }
 
 bool X11Panel::moved(const QMouseEvent& event)
 {
+    if (m_gesture.isActive && event.device() != m_gesture.pointer)
+        return true; // A second pointer drags nothing.
+    // The release went to somebody else, or is lost.
+    if (m_gesture.isActive && !(event.buttons() & Qt::LeftButton))
+        endGesture();
     if (!m_gesture.isActive) {
         const Qt::CursorShape shape = cursorFor(edgesAt(event.position(), m_window.size()));
         if (m_window.cursor().shape() != shape)
@@ -202,7 +249,8 @@ bool X11Panel::released(const QMouseEvent& event)
 {
     if (event.button() != Qt::LeftButton || !m_gesture.isActive)
         return false;
-    endGesture();
+    if (event.device() == m_gesture.pointer)
+        endGesture();
     return true;
 }
 
@@ -214,7 +262,7 @@ void X11Panel::endGesture()
     announceSize();
     const bool wasResize = m_gesture.edges != Qt::Edges();
     m_gesture = {};
-    saveFrame();
+    noteFrame();
     if (wasResize)
         Q_EMIT resizeEnded();
 }
@@ -226,13 +274,21 @@ void X11Panel::announceSize()
         Q_EMIT resized();
 }
 
-void X11Panel::saveFrame()
+void X11Panel::noteFrame()
 {
-    // While a gesture lasts, only its end counts.
-    if (m_autosaveKey.isEmpty() || m_gesture.isActive || frame() == m_settledFrame)
+    // While a gesture lasts, only its end counts. Where the screens' places are new, so may be the
+    // panel's, and nobody has moved it.
+    if (m_gesture.isActive || frame() == m_settledFrame || m_screens != QtScreens().frames())
         return;
     m_settledFrame = frame();
-    m_defaults.setValue(m_autosaveKey, PanelFrame::text(m_settledFrame, QtScreens().frames()));
+    m_home = PanelFrame::homeAt(m_settledFrame, m_screens);
+    saveHome();
+}
+
+void X11Panel::saveHome()
+{
+    if (!m_autosaveKey.isEmpty())
+        m_defaults.setValue(m_autosaveKey, PanelFrame::text(m_home, m_screens));
 }
 
 } // namespace Orvello

@@ -3,13 +3,17 @@
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/NativePanel.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
+#include "Orvello/Prompting/Panel/PanelFrame.h"
 
 #include <QRect>
 #include <QSize>
+#include <QTimer>
 
 #include <memory>
 
+class QInputDevice;
 class QMouseEvent;
+class QScreen;
 class QWindow;
 
 namespace Orvello {
@@ -44,6 +48,7 @@ private:
     /// A drag of the background (no edges) or of one or two edges.
     struct Gesture {
         bool isActive = false;
+        const QInputDevice* pointer = nullptr; ///< The one that the press came from.
         Qt::Edges edges;
         QPoint startPointer;
         QRect startGeometry;
@@ -59,14 +64,21 @@ private:
     bool moved(const QMouseEvent& event);
     bool released(const QMouseEvent& event);
     void endGesture();
+    void watch(const QScreen* screen);
+    void returnToScreens();
+    void moveTo(const QRectF& frame);
     void announceSize();
-    void saveFrame();
+    void noteFrame();
+    void saveHome();
 
     QWindow& m_window;
     UserDefaults& m_defaults;
     std::unique_ptr<X11StackingGuard> m_stackingGuard;
     QString m_autosaveKey; ///< Empty while the frame is not saved.
-    QRectF m_settledFrame; ///< The frame last set or saved, which need not be saved again.
+    QList<QRectF> m_screens; ///< Those that the panel was last placed on.
+    PanelFrame::Home m_home; ///< Where the panel goes as soon as its screen is there.
+    QRectF m_settledFrame; ///< The frame last set or noted. Any other was chosen by the user.
+    QTimer m_screensSettling;
     QSize m_announcedSize;
     bool m_isHidden = false;
     Gesture m_gesture;

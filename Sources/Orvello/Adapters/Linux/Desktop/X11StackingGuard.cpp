@@ -2,6 +2,7 @@
 
 #include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 
+#include <QRect>
 #include <QSocketNotifier>
 
 #include <algorithm>
@@ -47,11 +48,59 @@ X11StackingGuard::~X11StackingGuard()
     xcb_disconnect(m_connection);
 }
 
-void X11StackingGuard::raise()
+void X11StackingGuard::settle()
 {
-    const std::uint32_t mode = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(m_connection, m_window, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
+    const std::vector<xcb_window_t> windows = rootWindows();
+    const auto topmost = std::find_if(windows.rbegin(), windows.rend(),
+        [this](xcb_window_t window) { return window != m_window && isShownAndManaged(window); });
+    if (topmost != windows.rend())
+        placeAbove(*topmost);
     xcb_flush(m_connection);
+}
+
+/// From bottom to top.
+std::vector<std::uint32_t> X11StackingGuard::rootWindows() const
+{
+    const auto treeOf = [this](xcb_window_t window) {
+        return owned(
+            xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+    };
+    const auto own = treeOf(m_window);
+    const auto tree = treeOf(own ? own->root : xcb_window_t(XCB_WINDOW_NONE));
+    if (!tree)
+        return {};
+    const xcb_window_t* const first = xcb_query_tree_children(tree.get());
+    return { first, first + xcb_query_tree_children_length(tree.get()) };
+}
+
+bool X11StackingGuard::isShownAndManaged(std::uint32_t window) const
+{
+    const auto attributes = owned(xcb_get_window_attributes_reply(
+        m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+    return attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE
+        && holdsManagedWindow(window, deepestClient);
+}
+
+/// Whether it hides some of the panel.
+bool X11StackingGuard::covers(std::uint32_t window) const
+{
+    const auto area = [this](xcb_window_t drawable) {
+        const auto geometry = owned(xcb_get_geometry_reply(
+            m_connection, xcb_get_geometry(m_connection, drawable), nullptr));
+        return geometry ? QRect(geometry->x, geometry->y, geometry->width, geometry->height)
+                        : QRect();
+    };
+    const std::vector<xcb_window_t> windows = rootWindows();
+    const auto panel = std::ranges::find(windows, m_window);
+    return std::find(panel, windows.end(), window) != windows.end()
+        && area(window).intersects(area(m_window));
+}
+
+void X11StackingGuard::placeAbove(std::uint32_t window)
+{
+    const std::array<std::uint32_t, 2> values { window, XCB_STACK_MODE_ABOVE };
+    xcb_configure_window(m_connection, m_window,
+        XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
 }
 
 void X11StackingGuard::readEvents()
@@ -79,10 +128,9 @@ void X11StackingGuard::restacked(std::uint32_t window, bool isOverrideRedirect)
     // nothing.
     if (isOverrideRedirect && !holdsManagedWindow(window, deepestClient))
         return;
-    // TopIf lets the server decide: it raises the panel only if the other window covers some of it.
-    const std::array<std::uint32_t, 2> values { window, XCB_STACK_MODE_TOP_IF };
-    xcb_configure_window(m_connection, m_window,
-        XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
+    // Not to the top: what nobody manages may lie above that window, and belongs there.
+    if (covers(window))
+        placeAbove(window);
 }
 
 bool X11StackingGuard::holdsManagedWindow(std::uint32_t window, int depth) const

@@ -34,7 +34,12 @@ public:
         return *m_userDefaults;
     }
     Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
+    /// Never destroyed: threads that outlive this, and static objects, may still log.
+    SystemLog& systemLog() override
+    {
+        static Syslog& log = *new Syslog;
+        return log;
+    }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
     RunningInstance& runningInstance() override { return m_runningInstance; }
@@ -59,7 +64,6 @@ private:
     XdgFolders m_folders;
     const QStringList m_arguments;
     std::optional<JsonUserDefaults> m_userDefaults;
-    Syslog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
     BusInstance m_runningInstance { { qEnvironmentVariable("DISPLAY"),

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Orvello/Diagnostics/LossyOutput.h"
 #include "Orvello/Platform/Early/SystemLog.h"
+
+#include <unistd.h>
 
 namespace Orvello {
 
@@ -9,6 +12,10 @@ class Syslog final : public SystemLog {
 public:
     Syslog();
     void write(std::string_view message) override;
+
+private:
+    LossyOutput m_standardError { STDERR_FILENO };
+    bool m_isStandardErrorTheSame;
 };
 
 } // namespace Orvello

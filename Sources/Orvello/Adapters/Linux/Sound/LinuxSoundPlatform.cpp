@@ -11,6 +11,7 @@ public:
     VoiceProcessing& voiceProcessing() override { return m_sound.voiceProcessing; }
     RawMicrophone& rawMicrophone() override { return m_sound.microphone; }
     AudioProcesses& audioProcesses() override { return m_sound.processes; }
+    Microphones& microphones() override { return m_sound.microphones; }
 
 private:
     PulseSound m_sound;

@@ -12,7 +12,7 @@ PulseAudioProcesses::PulseAudioProcesses(PulseConnection& connection)
 QList<qint64> PulseAudioProcesses::capturingInput()
 {
     m_connection.refreshFacts();
-    return m_connection.facts().capturingProcesses;
+    return m_connection.condition().facts.capturingProcesses;
 }
 
 } // namespace Orvello

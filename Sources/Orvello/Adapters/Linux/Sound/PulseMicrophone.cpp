@@ -8,7 +8,13 @@ PulseMicrophone::PulseMicrophone(PulseConnection& connection)
 {
 }
 
-double PulseMicrophone::sampleRate() { return m_connection.factsOnceConnected().defaultSourceRate; }
+double PulseMicrophone::sampleRate()
+{
+    // A server that is not there yet is a microphone that is silent, and so is one that was there
+    // and is unplugged. Missing is what a server never had.
+    const PulseConnection::Condition condition = m_connection.condition();
+    return condition.isKnown && !condition.hadMicrophone ? 0 : PulseRecordStream::sampleRate;
+}
 
 void PulseMicrophone::installTap(int blockFrames, SampleListener& listener)
 {
@@ -25,13 +31,9 @@ void PulseMicrophone::removeTap()
 
 Result<std::monostate, QString> PulseMicrophone::start()
 {
-    m_stream.emplace(m_connection, PulseRecordStream::Source::Microphone, fragmentFrames,
+    m_stream.emplace(m_connection, PulseRecordStream::Role::Microphone, 0, fragmentFrames,
         [this](std::span<const float> samples) { onSamples(samples); });
     m_stream->start();
-    if (const int error = m_stream->awaitStart()) {
-        m_stream.reset();
-        return Failure { QString::fromUtf8(pa_strerror(error)) };
-    }
     return std::monostate {};
 }
 

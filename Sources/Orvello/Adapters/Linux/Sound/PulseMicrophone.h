@@ -8,7 +8,7 @@
 
 namespace Orvello {
 
-/// The default source of the sound server.
+/// The microphone as the sound server delivers it.
 class PulseMicrophone final : public RawMicrophone {
 public:
     explicit PulseMicrophone(PulseConnection& connection); ///< Must outlive the microphone.

@@ -1,32 +1,45 @@
 #include "Orvello/Adapters/Linux/Sound/PulseRecordStream.h"
 
 #include <array>
-#include <chrono>
 #include <utility>
 
 namespace Orvello {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto startPatience = 500ms;
 constexpr pa_usec_t tickInterval = 100 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t stallTime = 250 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t reopenInterval = 1 * PA_USEC_PER_SEC;
+
+/// From then on it is not a pause any longer: something keeps the microphone from us.
+constexpr pa_usec_t withheldTime = 1 * PA_USEC_PER_SEC;
 
 constexpr std::array<float, PulseRecordStream::sampleRate / 10> silenceOfATick {};
 
 constexpr pa_sample_spec monoFloat { PA_SAMPLE_FLOAT32NE, PulseRecordStream::sampleRate, 1 };
 
+/// A stream that the server is still creating has no name yet by which to end it there: whoever let
+/// go of it now would leave it recording.
+void endOnceCreated(pa_stream* stream)
+{
+    const pa_stream_state_t state = pa_stream_get_state(stream);
+    if (state == PA_STREAM_CREATING)
+        return;
+    pa_stream_set_state_callback(stream, nullptr, nullptr);
+    if (state == PA_STREAM_READY)
+        pa_stream_disconnect(stream);
+    pa_stream_unref(stream);
+}
+
 PulseRecordStream& streamOf(void* userData) { return *static_cast<PulseRecordStream*>(userData); }
 
 } // namespace
 
-PulseRecordStream::PulseRecordStream(
-    PulseConnection& connection, Source source, std::uint32_t fragmentFrames, Listener listener)
+PulseRecordStream::PulseRecordStream(PulseConnection& connection, Role role, qsizetype farEnd,
+    std::uint32_t fragmentFrames, Listener listener)
     : m_connection(connection)
-    , m_source(source)
+    , m_role(role)
+    , m_farEnd(farEnd)
     , m_fragmentFrames(fragmentFrames)
     , m_listener(std::move(listener))
 {
@@ -47,17 +60,8 @@ void PulseRecordStream::start()
             streamOf(stream).tick();
         },
         this);
-    if (m_connection.isConnected())
-        open();
-    else
-        m_outcome.set(PA_ERR_CONNECTIONREFUSED);
-}
-
-int PulseRecordStream::awaitStart() const
-{
-    const int outcome
-        = m_outcome.await(startPatience, [](int current) { return current != pending; });
-    return outcome == pending ? int { PA_ERR_TIMEOUT } : outcome;
+    if (m_connection.isReady())
+        onFacts();
 }
 
 void PulseRecordStream::stop()
@@ -70,44 +74,35 @@ void PulseRecordStream::stop()
     close();
 }
 
-void PulseRecordStream::onConnected() { open(); }
-
-void PulseRecordStream::onDisconnected() { close(); }
-
-void PulseRecordStream::onDefaultsChanged()
+void PulseRecordStream::onFacts()
 {
-    if (!m_stream) {
+    const std::optional<QByteArray> source
+        = isMicrophone() ? m_connection.microphone() : m_connection.farEnd(m_farEnd);
+    if (source == m_source)
+        return; // Where the server takes the stream meanwhile is its business, and the user's.
+    close();
+    m_source = source;
+    if (m_source)
         open();
-    } else if (m_source == Source::Microphone) {
-        followDefaultSource();
-    } else {
-        // The monitor of another sink is another source; the server does not follow there.
-        close();
-        open();
-    }
 }
 
-void PulseRecordStream::followDefaultSource()
+void PulseRecordStream::onDisconnected()
 {
-    const QByteArray source = m_connection.facts().defaultSource;
-    if (source.isEmpty() || pa_stream_get_state(m_stream) != PA_STREAM_READY
-        || source == pa_stream_get_device_name(m_stream))
-        return;
-    if (pa_operation* const operation
-        = pa_context_move_source_output_by_name(m_connection.context(),
-            pa_stream_get_index(m_stream), source.constData(), nullptr, nullptr))
-        pa_operation_unref(operation);
+    close();
+    m_source.reset();
 }
 
 void PulseRecordStream::open()
 {
-    const bool isMicrophone = m_source == Source::Microphone;
-    m_outcome.set(pending);
     m_lastOpening = pa_rtclock_now();
     m_stream = pa_stream_new(m_connection.context(),
-        isMicrophone ? "Voice-Follow" : "Echo reference", &monoFloat, nullptr);
+        isMicrophone() ? "Voice-Follow" : "Echo reference", &monoFloat, nullptr);
+    if (!m_stream)
+        return;
     pa_stream_set_state_callback(
         m_stream, [](pa_stream*, void* stream) { streamOf(stream).onStateChanged(); }, this);
+    pa_stream_set_moved_callback(
+        m_stream, [](pa_stream*, void* stream) { streamOf(stream).publish(); }, this);
     pa_stream_set_read_callback(
         m_stream, [](pa_stream*, std::size_t, void* stream) { streamOf(stream).onReadable(); },
         this);
@@ -117,11 +112,12 @@ void PulseRecordStream::open()
     const pa_buffer_attr buffer { serversChoice, serversChoice, serversChoice, serversChoice,
         fragmentBytes };
     // A sink that plays nothing may go to sleep although its monitor is heard.
-    const int flags = isMicrophone
+    const int flags = isMicrophone()
         ? PA_STREAM_ADJUST_LATENCY
         : PA_STREAM_ADJUST_LATENCY | PA_STREAM_DONT_MOVE | PA_STREAM_DONT_INHIBIT_AUTO_SUSPEND;
-    if (pa_stream_connect_record(m_stream, isMicrophone ? nullptr : "@DEFAULT_MONITOR@", &buffer,
-            static_cast<pa_stream_flags_t>(flags))
+    // Without a name the server also remembers where the user moved this program's stream before.
+    const char* const source = m_source->isEmpty() ? nullptr : m_source->constData();
+    if (pa_stream_connect_record(m_stream, source, &buffer, static_cast<pa_stream_flags_t>(flags))
         < 0)
         onStateChanged();
 }
@@ -131,10 +127,12 @@ void PulseRecordStream::close()
     if (!m_stream)
         return;
     pa_stream* const stream = std::exchange(m_stream, nullptr);
-    pa_stream_set_state_callback(stream, nullptr, nullptr);
+    pa_stream_set_state_callback(
+        stream, [](pa_stream* closing, void*) { endOnceCreated(closing); }, nullptr);
+    pa_stream_set_moved_callback(stream, nullptr, nullptr);
     pa_stream_set_read_callback(stream, nullptr, nullptr);
-    pa_stream_disconnect(stream);
-    pa_stream_unref(stream);
+    endOnceCreated(stream);
+    publish();
 }
 
 void PulseRecordStream::onStateChanged()
@@ -143,10 +141,11 @@ void PulseRecordStream::onStateChanged()
         return; // A stream that fails at once says so twice.
     const pa_stream_state_t state = pa_stream_get_state(m_stream);
     if (state == PA_STREAM_READY) {
-        m_outcome.set(0);
+        m_lastSamples = pa_rtclock_now();
+        publish();
     } else if (state != PA_STREAM_CREATING) {
-        const int error = pa_context_errno(m_connection.context());
-        m_outcome.set(error == 0 ? int { PA_ERR_KILLED } : error);
+        if (isMicrophone() && pa_context_errno(m_connection.context()) == PA_ERR_ACCESS)
+            m_connection.onRefused();
         close();
     }
 }
@@ -163,14 +162,27 @@ void PulseRecordStream::onReadable()
     }
 }
 
+/// What is heard, for those who want to know.
+void PulseRecordStream::publish()
+{
+    if (!isMicrophone())
+        return;
+    if (m_stream && pa_stream_get_state(m_stream) == PA_STREAM_READY)
+        m_connection.setHeard({ { pa_stream_get_device_name(m_stream),
+            pa_rtclock_now() - m_lastSamples < withheldTime } });
+    else
+        m_connection.setHeard(std::nullopt);
+}
+
 void PulseRecordStream::tick()
 {
     const pa_usec_t now = pa_rtclock_now();
-    if (!m_stream && m_connection.isConnected() && now - m_lastOpening > reopenInterval)
+    if (!m_stream && m_source && m_connection.isReady() && now - m_lastOpening > reopenInterval)
         open();
-    // A microphone that is away or delivers nothing is silent: whoever spoke last has stopped.
-    if (m_source == Source::Microphone && now - m_lastSamples > stallTime)
+    // Nothing may keep the voice gate open but somebody who speaks.
+    if (isMicrophone() && now - m_lastSamples > stallTime)
         m_listener(silenceOfATick);
+    publish();
     pa_context_rttime_restart(m_connection.context(), m_timer, now + tickInterval);
 }
 

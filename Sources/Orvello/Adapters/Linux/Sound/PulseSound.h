@@ -4,6 +4,7 @@
 #include "Orvello/Adapters/Linux/Sound/PulseAudioProcesses.h"
 #include "Orvello/Adapters/Linux/Sound/PulseConnection.h"
 #include "Orvello/Adapters/Linux/Sound/PulseMicrophone.h"
+#include "Orvello/Adapters/Linux/Sound/PulseMicrophones.h"
 #include "Orvello/Adapters/Linux/Sound/PulseVoiceProcessing.h"
 
 namespace Orvello {
@@ -14,6 +15,7 @@ struct PulseSound {
     PulseVoiceProcessing voiceProcessing { connection };
     PulseMicrophone microphone { connection };
     PulseAudioProcesses processes { connection };
+    PulseMicrophones microphones { connection };
     GrantedMicrophonePermission permission;
 };
 

@@ -5,6 +5,7 @@
 #include "Orvello/Adapters/Linux/Sound/SampleBlocks.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Orvello {
 
@@ -18,28 +19,33 @@ public:
     PulseVoiceProcessingUnit(PulseConnection& connection, Listener& listener)
         : m_connection(connection)
         , m_listener(listener)
-        , m_farEnd(connection, PulseRecordStream::Source::DefaultSinkMonitor, blockSamples,
-              [this](std::span<const float> samples) { m_canceller.hearFarEnd(samples); })
-        , m_microphone(connection, PulseRecordStream::Source::Microphone, blockSamples,
+        , m_farEnds { FarEnd(connection, 0), FarEnd(connection, 1), FarEnd(connection, 2) }
+        , m_microphone(connection, PulseRecordStream::Role::Microphone, 0, blockSamples,
               [this](std::span<const float> samples) { hear(samples); })
     {
     }
 
     Status configure(Setting setting) override
     {
-        const bool needsSource = setting == Setting::EnableInput;
-        return needsSource && m_connection.facts().defaultSource.isEmpty() ? PA_ERR_NOENTITY
-                                                                           : PA_OK;
+        const PulseConnection::Condition condition = m_connection.condition();
+        const bool isMissing = condition.isKnown && !condition.hadMicrophone;
+        return setting == Setting::EnableInput && isMissing ? PA_ERR_NOENTITY : PA_OK;
     }
 
-    Status initialize() override { return m_canceller.initialize(); }
+    Status initialize() override
+    {
+        for (FarEnd& farEnd : m_farEnds)
+            if (const int error = farEnd.canceller.initialize())
+                return error;
+        return PA_OK;
+    }
 
     Status start() override
     {
-        // Without a sink there is no far end and nothing to cancel: only the microphone must start.
-        m_farEnd.start();
+        for (FarEnd& farEnd : m_farEnds)
+            farEnd.stream.start();
         m_microphone.start();
-        return m_microphone.awaitStart();
+        return PA_OK;
     }
 
     Status render(std::span<float> samples) noexcept override
@@ -51,18 +57,32 @@ public:
     void stop() override
     {
         m_microphone.stop();
-        m_farEnd.stop();
+        for (FarEnd& farEnd : m_farEnds)
+            farEnd.stream.stop();
     }
 
     void uninitialize() override { }
 
 private:
+    /// One canceller for each: what two loudspeakers play has two ways through the room.
+    struct FarEnd {
+        FarEnd(PulseConnection& connection, qsizetype index)
+            : stream(connection, PulseRecordStream::Role::EchoReference, index, blockSamples,
+                [this](std::span<const float> samples) { canceller.hearFarEnd(samples); })
+        {
+        }
+
+        EchoCanceller canceller;
+        PulseRecordStream stream;
+    };
+
     /// Sound thread, like all that touches the canceller while the streams run.
     void hear(std::span<const float> samples)
     {
         m_blocks.add(samples, [this](std::span<float> block) {
             for (std::size_t frame = 0; frame < block.size(); frame += EchoCanceller::frameSamples)
-                m_canceller.process(block.subspan(frame, EchoCanceller::frameSamples));
+                for (FarEnd& farEnd : m_farEnds)
+                    farEnd.canceller.process(block.subspan(frame, EchoCanceller::frameSamples));
             m_waiting = block;
             m_listener.onInput(*this, static_cast<std::uint32_t>(block.size()));
         });
@@ -70,10 +90,9 @@ private:
 
     PulseConnection& m_connection;
     Listener& m_listener;
-    EchoCanceller m_canceller;
     SampleBlocks m_blocks { blockSamples };
     std::span<const float> m_waiting;
-    PulseRecordStream m_farEnd;
+    std::array<FarEnd, 3> m_farEnds;
     PulseRecordStream m_microphone;
 };
 
@@ -89,8 +108,6 @@ bool PulseVoiceProcessing::isAvailable() { return true; }
 VoiceProcessing::Instantiation PulseVoiceProcessing::instantiate(
     VoiceProcessingUnit::Listener& listener)
 {
-    if (m_connection.factsOnceConnected() == PulseFacts {})
-        return { PA_ERR_CONNECTIONREFUSED, nullptr };
     return { PA_OK, std::make_unique<PulseVoiceProcessingUnit>(m_connection, listener) };
 }
 

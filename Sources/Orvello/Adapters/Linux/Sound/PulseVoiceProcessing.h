@@ -6,12 +6,12 @@ namespace Orvello {
 
 class PulseConnection;
 
-/// The default source of the sound server, from which this process removes what the default sink
-/// plays. The server sees nothing but two record streams.
+/// The microphone, from which this process removes what the default sink plays, and up to two other
+/// sinks on which something plays. The server sees nothing but record streams.
 class PulseVoiceProcessing final : public VoiceProcessing {
 public:
-    explicit PulseVoiceProcessing(
-        PulseConnection& connection); ///< Must outlive this and its units.
+    /// `connection` must outlive this and its units.
+    explicit PulseVoiceProcessing(PulseConnection& connection);
 
     bool isAvailable() override;
     Instantiation instantiate(VoiceProcessingUnit::Listener& listener) override;

@@ -12,7 +12,7 @@ AbsentUpdater::AbsentUpdater(QString reason)
 {
 }
 
-void AbsentUpdater::start(UpdaterDelegate&) { logAbsence(); }
+void AbsentUpdater::start(UpdateListener&) { logAbsence(); }
 
 void AbsentUpdater::check() { logAbsence(); }
 

@@ -11,7 +11,7 @@ class AbsentUpdater final : public Updater, private UpdateSchedule {
 public:
     explicit AbsentUpdater(QString reason);
 
-    void start(UpdaterDelegate& delegate) override;
+    void start(UpdateListener& listener) override;
     void check() override;
     UpdateSchedule& schedule() override { return *this; }
     bool canCheck() const override { return false; }

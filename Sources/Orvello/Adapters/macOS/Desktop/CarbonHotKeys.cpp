@@ -50,19 +50,19 @@ void CarbonHotKeys::installHandler(Handler handler)
     m_eventHandler = reference;
 }
 
-std::unique_ptr<HotKeys::Reference> CarbonHotKeys::registerHotKey(
-    std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id)
+std::unique_ptr<HotKeys::Reference> CarbonHotKeys::registerHotKey(const HotKeyRequest& request)
 {
     EventHotKeyRef key = nullptr;
-    RegisterEventHotKey(keyCode, modifiers, { id.signature, id.id }, GetApplicationEventTarget(),
-        kEventHotKeyNoOptions, &key);
+    RegisterEventHotKey(request.key.keyCode, request.key.modifiers,
+        { request.id.signature, request.id.id }, GetApplicationEventTarget(), kEventHotKeyNoOptions,
+        &key);
     if (!key)
         return nullptr;
     return std::make_unique<CarbonReference>(key);
 }
 
 /// The symbols in the order in which menus have them.
-QString CarbonHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) const
+QString CarbonHotKeys::label(const HotKey& key) const
 {
     static const std::map<std::uint32_t, QString> keys {
         { HotKey::keyH, QStringLiteral("H") },
@@ -71,12 +71,12 @@ QString CarbonHotKeys::label(std::uint32_t keyCode, std::uint32_t modifiers) con
         { HotKey::keyDown, QStringLiteral("↓") },
         { HotKey::keyUp, QStringLiteral("↑") },
     };
-    const auto key = keys.find(keyCode);
-    if (key == keys.end())
+    const auto name = keys.find(key.keyCode);
+    if (name == keys.end())
         return {};
     return QStringLiteral(u"%1%2%3").arg(
-        (modifiers & HotKey::optionKey) != 0 ? QStringLiteral("⌥") : QString(),
-        (modifiers & HotKey::commandKey) != 0 ? QStringLiteral("⌘") : QString(), key->second);
+        (key.modifiers & HotKey::optionKey) != 0 ? QStringLiteral("⌥") : QString(),
+        (key.modifiers & HotKey::commandKey) != 0 ? QStringLiteral("⌘") : QString(), name->second);
 }
 
 } // namespace Orvello

@@ -14,9 +14,8 @@ public:
     CarbonHotKeys& operator=(const CarbonHotKeys&) = delete;
 
     void installHandler(Handler handler) override;
-    std::unique_ptr<Reference> registerHotKey(
-        std::uint32_t keyCode, std::uint32_t modifiers, HotKeyID id) override;
-    QString label(std::uint32_t keyCode, std::uint32_t modifiers) const override;
+    std::unique_ptr<Reference> registerHotKey(const HotKeyRequest& request) override;
+    QString label(const HotKey& key) const override;
 
     void pressed(HotKeyID id) const { m_handler(id); } ///< For the event handler.
 

@@ -6,7 +6,8 @@ namespace Orvello {
 
 class CocoaOpenPanel final : public OpenPanel {
 public:
-    std::optional<QString> chooseFile(const QString& message, const FileKind& kind) override;
+    std::optional<QString> chooseFile(
+        const QString& message, const QList<FileKind>& kinds) override;
 };
 
 } // namespace Orvello

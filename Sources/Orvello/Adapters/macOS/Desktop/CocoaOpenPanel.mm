@@ -14,23 +14,29 @@ constexpr NSWindowLevel abovePrompter = 1001;
 
 /// No type at all would let the user choose any file, so an unknown identifier falls back to the
 /// extension.
-NSArray<UTType*>* contentTypes(const OpenPanel::FileKind& kind)
+NSArray<UTType*>* contentTypes(const QList<OpenPanel::FileKind>& kinds)
 {
-    UTType* type = [UTType typeWithIdentifier:nsString(kind.typeIdentifier)];
-    if (!type)
-        type = [UTType typeWithFilenameExtension:nsString(kind.extension)];
-    return type ? @[ type ] : @[];
+    NSMutableArray<UTType*>* const types = [NSMutableArray array];
+    for (const OpenPanel::FileKind& kind : kinds) {
+        UTType* type = [UTType typeWithIdentifier:nsString(kind.typeIdentifier)];
+        if (!type)
+            type = [UTType typeWithFilenameExtension:nsString(kind.extension)];
+        if (type)
+            [types addObject:type];
+    }
+    return types;
 }
 
 } // namespace
 
-std::optional<QString> CocoaOpenPanel::chooseFile(const QString& message, const FileKind& kind)
+std::optional<QString> CocoaOpenPanel::chooseFile(
+    const QString& message, const QList<FileKind>& kinds)
 {
     std::optional<QString> path;
     shielded([&] {
         NSOpenPanel* const panel = [NSOpenPanel openPanel];
         panel.message = nsString(message);
-        panel.allowedContentTypes = contentTypes(kind);
+        panel.allowedContentTypes = contentTypes(kinds);
         panel.allowsMultipleSelection = NO;
         panel.canChooseDirectories = NO;
         panel.canChooseFiles = YES;

@@ -54,6 +54,7 @@ private:
 
     void embedView();
     void observePanel();
+    void bringOntoScreen();
     bool pressed(QMouseEvent& event);
     void releaseInView(NSEvent* press);
 
@@ -62,7 +63,6 @@ private:
     PrompterPanel* m_panel;
     NSView* m_nativeView; ///< Qt's.
     PointerTracker* m_pointerTracker;
-    NSArray<id<NSObject>>* m_observers;
 };
 
 } // namespace Orvello

@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QWindow>
 
 namespace Orvello {
@@ -40,9 +39,7 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
 
 CocoaPanel::~CocoaPanel()
 {
-    for (id<NSObject> observer in m_observers)
-        [NSNotificationCenter.defaultCenter removeObserver:observer];
-    m_panel.onScroll = nil;
+    [m_panel tell:PanelEvents {}];
     [m_panel orderOut:nil];
     [m_pointerTracker stop];
     m_view.removeEventFilter(this);
@@ -63,28 +60,18 @@ void CocoaPanel::embedView()
 
 void CocoaPanel::observePanel()
 {
-    const QPointer<CocoaPanel> self(this);
-    m_panel.onScroll = ^(CGFloat delta) {
-        if (self)
-            Q_EMIT self->scrolled(delta);
-    };
-    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
-    m_observers = @[
-        [center addObserverForName:NSWindowDidResizeNotification
-                            object:m_panel
-                             queue:nil
-                        usingBlock:^(NSNotification*) {
-                            if (self)
-                                Q_EMIT self->resized();
-                        }],
-        [center addObserverForName:NSWindowDidEndLiveResizeNotification
-                            object:m_panel
-                             queue:nil
-                        usingBlock:^(NSNotification*) {
-                            if (self)
-                                Q_EMIT self->resizeEnded();
-                        }],
-    ];
+    // None of them comes after the destructor, which takes them back.
+    [m_panel tell:PanelEvents {
+                      .scrolled = [this](CGFloat delta) { Q_EMIT scrolled(delta); },
+                      .resized = [this] { Q_EMIT resized(); },
+                      .resizeEnded = [this] { Q_EMIT resizeEnded(); },
+                      .screensChanged = [this] { bringOntoScreen(); },
+                      .placed =
+                          [this](NSRect frame) {
+                              return cgRect(flippedVertically(PanelFrame::placeOf(
+                                  { flippedVertically(qRect(frame)), {} }, m_screens.frames())));
+                          },
+                  }];
 }
 
 QRectF CocoaPanel::frame() const { return flippedVertically(qRect(m_panel.frame)); }
@@ -101,11 +88,16 @@ void CocoaPanel::saveFrameAs(const QString& name)
         [m_panel setFrameUsingName:autosaveName force:YES];
         [m_panel setFrameAutosaveName:autosaveName];
     });
-    // The screen that the frame was saved on may be gone; AppKit looks after titled windows only.
-    const QRectF saved = frame();
-    const QRectF wanted = PanelFrame::onScreen(
-        PanelFrame::withSizeBetween(saved, minimumSize, maximumSize), m_screens.frames());
-    if (wanted != saved)
+    bringOntoScreen(); // The screen that the frame was saved on may be gone.
+}
+
+/// AppKit looks after titled windows only.
+void CocoaPanel::bringOntoScreen()
+{
+    const QRectF now = frame();
+    const QRectF wanted = PanelFrame::placeOf(
+        { PanelFrame::withSizeBetween(now, minimumSize, maximumSize), {} }, m_screens.frames());
+    if (wanted != now)
         setFrame(wanted);
 }
 

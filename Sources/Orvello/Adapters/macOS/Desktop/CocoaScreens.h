@@ -9,6 +9,7 @@ namespace Orvello {
 class CocoaScreens final : public Screens {
 public:
     QList<QRectF> frames() const override;
+    QPointF pointer() const override;
 };
 
 } // namespace Orvello

@@ -19,4 +19,10 @@ QList<QRectF> CocoaScreens::frames() const
     return frames;
 }
 
+QPointF CocoaScreens::pointer() const
+{
+    const NSPoint place = NSEvent.mouseLocation;
+    return flippedVertically({ place.x, place.y, 0, 0 }).topLeft();
+}
+
 } // namespace Orvello

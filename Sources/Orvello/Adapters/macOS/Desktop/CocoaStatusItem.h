@@ -22,7 +22,7 @@ public:
     CocoaStatusItem(const CocoaStatusItem&) = delete;
     CocoaStatusItem& operator=(const CocoaStatusItem&) = delete;
 
-    void openMenu() override { }
+    void openMenu() override;
 
 private:
     CocoaMenu* m_menu;

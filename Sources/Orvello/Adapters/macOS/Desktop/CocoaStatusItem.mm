@@ -54,4 +54,11 @@ CocoaStatusItem::CocoaStatusItem(Menu& menu, const QIcon& glyph, const QString& 
 
 CocoaStatusItem::~CocoaStatusItem() { [NSStatusBar.systemStatusBar removeStatusItem:m_item]; }
 
+/// Below the item, where the user looks for it. The click lasts as long as the menu is open, and
+/// whoever asks for it has an event to finish.
+void CocoaStatusItem::openMenu()
+{
+    [m_item.button performSelector:@selector(performClick:) withObject:nil afterDelay:0];
+}
+
 } // namespace Orvello

@@ -36,6 +36,9 @@ public:
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
 
+    /// Metal draws on every Mac that this edition runs on.
+    bool hasHardwareRenderer() override { return true; }
+
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
         return std::make_unique<CocoaPanel>(view, m_screens);

@@ -50,19 +50,53 @@ constexpr NSWindowLevel screenSaverLevel = 1000;
     return NO;
 }
 
-/// The panel belongs under the camera, where the menu bar is; AppKit may not push it down.
+- (void)tell:(const PanelEvents&)events
+{
+    _events = events;
+    NSNotificationCenter* const center = NSNotificationCenter.defaultCenter;
+    [center removeObserver:self];
+    if (!_events.resized)
+        return;
+    const auto observe = [&](SEL method, NSNotificationName name, id object) {
+        [center addObserver:self selector:method name:name object:object];
+    };
+    observe(@selector(panelDidResize:), NSWindowDidResizeNotification, self);
+    observe(@selector(panelDidEndResize:), NSWindowDidEndLiveResizeNotification, self);
+    observe(@selector(screensDidChange:), NSApplicationDidChangeScreenParametersNotification, nil);
+}
+
+- (void)panelDidResize:(NSNotification*)notification
+{
+    (void)notification;
+    _events.resized();
+}
+
+- (void)panelDidEndResize:(NSNotification*)notification
+{
+    (void)notification;
+    _events.resizeEnded();
+}
+
+- (void)screensDidChange:(NSNotification*)notification
+{
+    (void)notification;
+    _events.screensChanged();
+}
+
+/// The panel belongs under the camera, where the menu bar is, and AppKit would push it down. But
+/// this is also how AppKit brings windows back that nobody could reach.
 - (NSRect)constrainFrameRect:(NSRect)frameRect toScreen:(NSScreen*)screen
 {
     (void)screen;
-    return frameRect;
+    return _events.placed ? _events.placed(frameRect) : frameRect;
 }
 
 - (void)sendEvent:(NSEvent*)event
 {
     if (event.type != NSEventTypeScrollWheel)
         [super sendEvent:event];
-    else if (self.onScroll)
-        self.onScroll(event.scrollingDeltaY);
+    else if (_events.scrolled)
+        _events.scrolled(event.scrollingDeltaY);
 }
 
 @end

@@ -4,10 +4,10 @@
 
 #import <Sparkle/Sparkle.h>
 
-/// Translates what Sparkle says for the port's delegate, which is set when the updater starts.
+/// Translates what Sparkle says for the port's listener, which is set when the updater starts.
 @interface SparkleDelegate : NSObject <SPUUpdaterDelegate>
 
-@property (nonatomic, nullable) Orvello::UpdaterDelegate* target;
+@property (nonatomic, nullable) Orvello::UpdateListener* target;
 
 /// Calls `changed` on every change of that property of the updater, whoever made it. Once for each
 /// property, and always the same updater.

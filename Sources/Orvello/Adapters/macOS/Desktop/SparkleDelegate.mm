@@ -33,7 +33,7 @@ Orvello::UpdateError described(NSError* error)
 - (NSString*)feedURLStringForUpdater:(SPUUpdater*)updater
 {
     (void)updater;
-    const std::optional<QString> feed = self.target ? self.target->feedURLString() : std::nullopt;
+    const std::optional<QString> feed = self.target ? self.target->feedAddress() : std::nullopt;
     return feed ? Orvello::nsString(*feed) : nil;
 }
 
@@ -47,14 +47,14 @@ Orvello::UpdateError described(NSError* error)
 {
     (void)updater;
     if (self.target)
-        self.target->didFindValidUpdate(described(item));
+        self.target->updateFound(described(item));
 }
 
 - (void)updaterDidNotFindUpdate:(SPUUpdater*)updater error:(NSError*)error
 {
     (void)updater;
     if (self.target)
-        self.target->didNotFindUpdate(described(error));
+        self.target->noUpdateFound(described(error));
 }
 
 - (void)updater:(SPUUpdater*)updater
@@ -65,14 +65,14 @@ Orvello::UpdateError described(NSError* error)
     (void)updater;
     (void)state;
     if (self.target)
-        self.target->userDidMakeChoice(static_cast<Orvello::UpdateChoice>(choice), described(item));
+        self.target->userChose(static_cast<Orvello::UpdateChoice>(choice), described(item));
 }
 
 - (void)updater:(SPUUpdater*)updater willInstallUpdate:(SUAppcastItem*)item
 {
     (void)updater;
     if (self.target)
-        self.target->willInstallUpdate(described(item));
+        self.target->installing(described(item));
 }
 
 - (void)updater:(SPUUpdater*)updater
@@ -81,21 +81,21 @@ Orvello::UpdateError described(NSError* error)
 {
     (void)updater;
     if (self.target)
-        self.target->failedToDownloadUpdate(described(item), described(error));
+        self.target->downloadFailed(described(item), described(error));
 }
 
 - (void)updater:(SPUUpdater*)updater didAbortWithError:(NSError*)error
 {
     (void)updater;
     if (self.target)
-        self.target->didAbortWithError(described(error));
+        self.target->checkFailed(described(error));
 }
 
 - (void)updater:(SPUUpdater*)updater willScheduleUpdateCheckAfterDelay:(NSTimeInterval)delay
 {
     (void)updater;
     if (self.target)
-        self.target->willScheduleUpdateCheckAfterDelay(delay);
+        self.target->checkScheduled(delay);
 }
 
 - (void)observe:(SPUUpdater*)updater

@@ -19,7 +19,7 @@ public:
     SparkleUpdater(const SparkleUpdater&) = delete;
     SparkleUpdater& operator=(const SparkleUpdater&) = delete;
 
-    void start(UpdaterDelegate& delegate) override;
+    void start(UpdateListener& listener) override;
     void check() override;
     UpdateSchedule& schedule() override { return *this; }
     bool canCheck() const override;

@@ -28,9 +28,9 @@ SparkleUpdater::~SparkleUpdater()
     m_delegate.target = nullptr;
 }
 
-void SparkleUpdater::start(UpdaterDelegate& delegate)
+void SparkleUpdater::start(UpdateListener& listener)
 {
-    m_delegate.target = &delegate;
+    m_delegate.target = &listener;
     shielded([&] { [m_controller startUpdater]; });
 }
 

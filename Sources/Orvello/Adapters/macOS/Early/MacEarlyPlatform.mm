@@ -4,7 +4,7 @@
 #include "Orvello/Adapters/macOS/Early/CocoaFolders.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
-#include "Orvello/Adapters/macOS/Early/LaunchServicesInstance.h"
+#include "Orvello/Adapters/macOS/Early/MacInstance.h"
 #include "Orvello/Adapters/macOS/Early/UnifiedLog.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 
@@ -17,7 +17,12 @@ public:
     TimeSource& time() override { return m_time; }
     UserDefaults& userDefaults() override { return m_userDefaults; }
     Folders& folders() override { return m_folders; }
-    SystemLog& systemLog() override { return m_systemLog; }
+    /// Never destroyed: threads that outlive this, and static objects, may still log.
+    SystemLog& systemLog() override
+    {
+        static UnifiedLog& log = *new UnifiedLog;
+        return log;
+    }
     ProcessSignals& processSignals() override { return m_processSignals; }
     ChildProcess& childProcess() override { return m_childProcess; }
     RunningInstance& runningInstance() override { return m_runningInstance; }
@@ -33,6 +38,7 @@ public:
             .canHideWindows = true,
             .hasMenuBar = true,
             .isMac = true,
+            .hasQuickTime = true,
             .asksBeforeControl = true,
             .hasPrivacySettings = true,
             .installsUpdates = true,
@@ -52,10 +58,10 @@ private:
     QtTimeSource m_time;
     CocoaFolders m_folders;
     CocoaUserDefaults m_userDefaults;
-    UnifiedLog m_systemLog;
     PosixProcessSignals m_processSignals;
     QtChildProcess m_childProcess;
-    LaunchServicesInstance m_runningInstance;
+    MacInstance m_runningInstance { m_folders.applicationSupport()
+        + QStringLiteral("/Orvello/logs") };
 };
 
 } // namespace

@@ -18,6 +18,10 @@ public:
     Result<std::monostate, QString> start() override;
     void stop() override;
 
+    /// Another device is the default one. An engine that stands still for want of one, and so does
+    /// not notice, is started again.
+    void onDeviceChanged();
+
 private:
     struct Engine; // Keeps AVFAudio out of this header.
     std::shared_ptr<Engine> m_engine; ///< Shared only while the main thread reacts to a change.

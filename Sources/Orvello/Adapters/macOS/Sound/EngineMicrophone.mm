@@ -158,7 +158,7 @@ void EngineMicrophone::Engine::restart()
         return;
     renew();
     installTap();
-    static_cast<void>(start()); // Without a device there is nothing to hear until one comes.
+    static_cast<void>(start()); // Without a device there is nothing to hear until onDeviceChanged().
 }
 
 EngineMicrophone::EngineMicrophone()
@@ -206,6 +206,12 @@ void EngineMicrophone::removeTap()
 }
 
 Result<std::monostate, QString> EngineMicrophone::start() { return m_engine->start(); }
+
+void EngineMicrophone::onDeviceChanged()
+{
+    if (!m_engine->engine.running)
+        m_engine->restart();
+}
 
 void EngineMicrophone::stop()
 {

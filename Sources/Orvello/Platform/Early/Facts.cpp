@@ -1,4 +1,4 @@
-#include "Orvello/Foundation/Facts.h"
+#include "Orvello/Platform/Early/Facts.h"
 
 #include <QCoreApplication>
 

@@ -12,6 +12,7 @@ struct Facts {
     Q_PROPERTY(bool canHideWindows MEMBER canHideWindows CONSTANT FINAL)
     Q_PROPERTY(bool hasMenuBar MEMBER hasMenuBar CONSTANT FINAL)
     Q_PROPERTY(bool isMac MEMBER isMac CONSTANT FINAL)
+    Q_PROPERTY(bool hasQuickTime MEMBER hasQuickTime CONSTANT FINAL)
     Q_PROPERTY(bool asksBeforeControl MEMBER asksBeforeControl CONSTANT FINAL)
     Q_PROPERTY(bool hasPrivacySettings MEMBER hasPrivacySettings CONSTANT FINAL)
     Q_PROPERTY(bool installsUpdates MEMBER installsUpdates CONSTANT FINAL)
@@ -20,19 +21,28 @@ struct Facts {
     Q_PROPERTY(QString presentersInFull READ presentersInFull CONSTANT FINAL)
 
 public:
-    bool canHideWindows = false; ///< The desktop can keep a window out of captures.
-    bool hasMenuBar
-        = false; ///< The menu is always in the screen's bar, not in a tray that may be missing.
-    bool isMac = false; ///< People call the computer a Mac.
-    bool asksBeforeControl = false; ///< The system asks before it lets one program control another.
-    bool hasPrivacySettings = false; ///< System Settings → Privacy & Security grants permissions.
-    bool installsUpdates = false; ///< The updater installs what it finds, signed.
-    bool zoomChoosesCapture = false; ///< Zoom has a setting for how it captures the screen.
-    bool hasKeynoteAndPowerPoint
-        = false; ///< These two are the presenters here; elsewhere it is LibreOffice Impress.
-
-    QString operatingSystem; ///< With its version: "macOS Version 14.5".
-    QString keyPrefix; ///< The hot keys' modifiers, spelled: "Option-Command-".
+    /// The desktop can keep a window out of captures.
+    bool canHideWindows = false;
+    /// The menu is always in the screen's bar, not in a tray that may be missing.
+    bool hasMenuBar = false;
+    /// People call the computer a Mac.
+    bool isMac = false;
+    /// The screen is recorded with QuickTime.
+    bool hasQuickTime = false;
+    /// The system asks before it lets one program control another.
+    bool asksBeforeControl = false;
+    /// System Settings → Privacy & Security grants permissions.
+    bool hasPrivacySettings = false;
+    /// The updater installs what it finds, signed.
+    bool installsUpdates = false;
+    /// Zoom has a setting for how it captures the screen.
+    bool zoomChoosesCapture = false;
+    /// These two are the presenters here; elsewhere it is LibreOffice Impress.
+    bool hasKeynoteAndPowerPoint = false;
+    /// With its version: "macOS Version 14.5".
+    QString operatingSystem;
+    /// The hot keys' modifiers, spelled: "Option-Command-".
+    QString keyPrefix;
 
     /// The presentation programs by the short and the full names of their makers, as "one or
     /// other".

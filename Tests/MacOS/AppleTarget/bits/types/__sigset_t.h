@@ -1,0 +1,3 @@
+#pragma once
+
+typedef unsigned int __sigset_t;

@@ -1,0 +1,4 @@
+// rejects: expected unqualified-id
+#include <csignal>
+
+int empty(sigset_t* set) { return ::sigemptyset(set); }

@@ -1,0 +1,4 @@
+// rejects: use of undeclared identifier 'environ'
+#include <unistd.h>
+
+const char* first() { return *environ; }
