@@ -6,6 +6,7 @@
 #   make soak [MINUTES=120]     the microphone for hours;  make speech: how well it tells speech from noise
 #   make bench                  print the measured speed and memory
 #   make gallery               every window in every state on one picture, build/gallery.png
+#   make kill-test N=1000       kill the program that often while it saves, and look for what is lost
 #   make sanitize               the unit tests under AddressSanitizer and UBSan, those with threads under ThreadSanitizer
 #   make format                 lay the sources out;  make tidy: static analysis
 #   make deb                    build/orvello_<version>_<architecture>.deb, for the distribution that it is made on
@@ -13,7 +14,7 @@
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test faults soak speech bench gallery sanitize format tidy clean deb install uninstall
+.PHONY: run test kill-test faults soak speech bench gallery sanitize format tidy clean deb install uninstall
 
 # The program alone needs no test package. In a folder that is configured with the tests, they stay: to configure without
 # them would throw away what is built of them.
@@ -58,6 +59,12 @@ gallery:
 	@tools/setup test
 	@tools/build -DBUILD_TESTING=ON orvello-gallery
 	@tools/gallery build/Tests/Gallery/orvello-gallery build/gallery.png
+
+N := 1000
+kill-test:
+	@tools/setup test
+	@tools/build -DBUILD_TESTING=ON KillTest
+	@ORVELLO_KILLS=$(N) build/Tests/Library/KillTest
 
 sanitize:
 	@tools/setup test

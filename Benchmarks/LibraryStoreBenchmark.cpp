@@ -111,7 +111,7 @@ void writeAndRename(const QByteArray& bytes, const QByteArray& temporary, const 
 void measureEdit(qsizetype scripts, qsizetype bytes, std::size_t rounds)
 {
     const ScratchFolders folders;
-    const CountingTime time;
+    CountingTime time;
     MemoryDefaults defaults;
     LibraryFile(folders).save(library(scripts, bytes));
     LibraryStore store(defaults, folders, time, {});
@@ -136,7 +136,7 @@ void measureEdit(qsizetype scripts, qsizetype bytes, std::size_t rounds)
 void measureRead(qsizetype scripts, qsizetype bytes, std::size_t rounds)
 {
     const ScratchFolders folders;
-    const CountingTime time;
+    CountingTime time;
     MemoryDefaults defaults;
     LibraryFile(folders).save(library(scripts, bytes));
     const qsizetype fileSize = bytesOf(folders.library()).size();

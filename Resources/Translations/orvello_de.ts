@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Zuletzt gelöscht</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>Gelöschte Skripte werden 30 Tage aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>„%1“ wiederherstellen</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>Der Update-Feed ist unverständlich: %1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>Der Update-Feed nennt keine sichere Seite.</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>Wählen Sie eine Präsentation – Orvello importiert ihre Notizen.</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>Keine Präsentation</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>Orvello importiert Vortragsnotizen aus Präsentationen (.pptx, .odp). %1 kann es nicht lesen.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Gelöscht: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,49 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>Ein anderes Orvello verwendet Ihre Skripte, deshalb wird nichts gespeichert, was Sie hier ändern. Beenden Sie dieses und machen Sie im anderen weiter.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>Ihre Skripte können nicht gespeichert werden, weil der Datenträger voll ist. Orvello versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>Ihre Skripte können nicht gespeichert werden, weil ihr Ordner schreibgeschützt ist. Orvello versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>Ihre Skripte können nicht gespeichert werden (%1). Orvello versucht es weiter.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Die Datei mit Ihren Skripten fehlte oder war leer. Es gibt eine Kopie vom %1.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>Die Datei mit Ihren Skripten war beschädigt. Es gibt eine Kopie vom %1; der Inhalt der Datei ist als „%2“ aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Die Datei mit Ihren Skripten war beschädigt. Ihr Inhalt ist als „%1“ aufgehoben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>%n Skript zurückholen</numerusform>
+            <numerusform>%n Skripte zurückholen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +566,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1 – Kopie</translation>
     </message>
 </context>
 <context>
@@ -596,6 +683,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>Importierte Präsentation (%1) – Notizen sind hier schreibgeschützt; bearbeiten Sie sie in der Präsentation und importieren Sie erneut.</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · etwa %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -695,6 +787,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <source>Pink</source>
         <translation>Rosa</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Ihre Einstellungen konnten nicht gelesen werden und sind deshalb wie neu. Die alte Datei ist aufgehoben: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -713,6 +810,16 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     <message>
         <source>Speed</source>
         <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (hat ein anderes Programm)</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (fehlt auf dieser Tastatur)</translation>
     </message>
 </context>
 <context>
@@ -955,12 +1062,12 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Der Stealth-Modus wirkt auf Desktops, die ein Fenster aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraushalten können. Ist er eingeschaltet, sagt die Karte des Prompters, wenn dieser es nicht kann.</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>Ganz ohne Risiko: Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms. Ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>Lassen Sie den Stealth-Modus während des Teilens in Ruhe: Wird er umgeschaltet, zeichnet das Besprechungsprogramm an seiner Stelle womöglich einen grauen Kasten (schließen und öffnen Sie Orvello dann neu). Ganz ohne Risiko: Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms.</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms, und lassen Sie den Prompter daneben: Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1122,30 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>Titel und Texte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
     </message>
 </context>
 <context>
@@ -1241,17 +1372,17 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Ganz ohne Risiko? Teilen Sie nur das Fenster</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>Ohne Risiko: nur das Fenster teilen</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Mit dem Stealth-Modus dürfen Sie den ganzen Bildschirm teilen. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>Wählen Sie in Ihrem Besprechungsprogramm das Fenster Ihrer Folien statt des ganzen Bildschirms. Ein geteiltes Fenster kann den Prompter nie enthalten. Auch Aufnahmeprogramme können ein einzelnes Fenster aufnehmen.</translation>
+        <source>Share just the window</source>
+        <translation>Nur das Fenster teilen</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
 </context>
 <context>
@@ -1344,10 +1475,6 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Der Stealth-Modus verbirgt den Prompter vor Zoom, Meet, Teams, Aufnahmen und Bildschirmfotos – während Sie ihn bestens sehen.</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster, und nur Sie sehen den Prompter. Wird der ganze Bildschirm geteilt, zeigt dieser Desktop ihn allen.</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>Folgt Ihrer Stimme</translation>
     </message>
@@ -1367,6 +1494,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Importieren Sie eine .pptx-Datei oder eine in %1 geöffnete Präsentation, und die Sprechernotizen wechseln mit Ihren Folien.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster und lassen Sie den Prompter daneben, dann sehen nur Sie ihn. Wird der ganze Bildschirm geteilt, zeigt ihn dieser Desktop allen.</translation>
     </message>
 </context>
 <context>
@@ -1417,7 +1548,6 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 – noch nicht gesucht</translation>
     </message>
     <message>
@@ -1428,6 +1558,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Check Now</source>
         <translation>Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>Dieses Orvello wurde ohne Adresse für Updates gebaut und kann deshalb nicht nach ihnen suchen. Neuere Versionen gibt es dort, woher Sie es haben.</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Eliminados recientemente</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>Los guiones eliminados se conservan 30 días.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurar «%1»</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>El canal de actualizaciones no se entiende: %1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>El canal de actualizaciones no indica ninguna página segura.</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>Elija una presentación: Orvello importará sus notas del orador.</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>No es una presentación</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>Orvello importa las notas del orador de presentaciones (.pptx, .odp). No puede leer %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Eliminado: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,49 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>Otro Orvello está usando tus guiones, así que nada de lo que cambies aquí se guarda. Cierra este y continúa en el otro.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>Tus guiones no se pueden guardar porque el disco está lleno. Orvello lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>Tus guiones no se pueden guardar porque su carpeta está protegida contra escritura. Orvello lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>Tus guiones no se pueden guardar (%1). Orvello lo sigue intentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>El archivo de tus guiones faltaba o estaba vacío. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>El archivo de tus guiones estaba dañado. Hay una copia del %1; lo que contenía se conserva como «%2».</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>El archivo de tus guiones estaba dañado. Lo que contenía se conserva como «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>Recuperar %n guion</numerusform>
+            <numerusform>Recuperar %n guiones</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +566,11 @@ En los ajustes hay un botón que lo revoca.</translation>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1 (copia)</translation>
     </message>
 </context>
 <context>
@@ -596,6 +683,11 @@ En los ajustes hay un botón que lo revoca.</translation>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>Presentación importada (%1): aquí las notas son de solo lectura; edítalas en la presentación y vuelve a importar.</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · unos %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -695,6 +787,11 @@ En los ajustes hay un botón que lo revoca.</translation>
         <source>Pink</source>
         <translation>Rosa</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Tus ajustes no se pudieron leer, así que están como nuevos. El archivo anterior se conserva: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -713,6 +810,16 @@ En los ajustes hay un botón que lo revoca.</translation>
     <message>
         <source>Speed</source>
         <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (la tiene otro programa)</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (no está en este teclado)</translation>
     </message>
 </context>
 <context>
@@ -955,12 +1062,12 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>El modo sigiloso actúa en escritorios que pueden dejar una ventana fuera de la pantalla compartida, las grabaciones y las capturas. Cuando está activado, la tarjeta del prompter dice si este no puede.</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>Para un riesgo cero, comparte la ventana de la presentación en vez de la pantalla completa: una ventana compartida nunca puede incluir el prompter.</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>No toques el modo sigiloso mientras compartes: cambiarlo puede hacer que la aplicación de reuniones dibuje un recuadro gris en su lugar (cierra y vuelve a abrir Orvello para quitarlo). Para un riesgo cero, comparte la ventana de la presentación en vez de la pantalla completa.</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Comparte la ventana de la presentación en lugar de toda la pantalla y deja el prompter al lado: algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1122,30 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>Buscar en títulos y textos</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
     </message>
 </context>
 <context>
@@ -1241,17 +1372,17 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>¿Riesgo cero? Comparte solo la ventana</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>Riesgo cero: comparte solo la ventana</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Compartir la pantalla completa funciona con el modo sigiloso. Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluir el prompter.</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>En tu aplicación de reuniones, elige la ventana de tus diapositivas en vez de la pantalla completa. Una ventana compartida nunca puede incluir el prompter. Los grabadores también pueden capturar una sola ventana.</translation>
+        <source>Share just the window</source>
+        <translation>Comparte solo la ventana</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
 </context>
 <context>
@@ -1344,10 +1475,6 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>El modo sigiloso oculta el prompter a Zoom, Meet, Teams, grabaciones y capturas, mientras tú lo ves perfectamente.</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>Comparte una ventana en Zoom, Meet o Teams y solo tú verás el prompter. Si compartes la pantalla completa, este escritorio se lo muestra a todos.</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>Sigue tu voz</translation>
     </message>
@@ -1367,6 +1494,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Importa un archivo .pptx o una presentación abierta en %1, y las notas cambian con tus diapositivas.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Comparte una ventana en Zoom, Meet o Teams, deja el prompter al lado y solo tú lo verás. Si compartes toda la pantalla, este escritorio se lo muestra a todos.</translation>
     </message>
 </context>
 <context>
@@ -1417,7 +1548,6 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 — aún sin buscar</translation>
     </message>
     <message>
@@ -1428,6 +1558,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Check Now</source>
         <translation>Buscar ahora</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>Este Orvello se compiló sin la dirección de un canal de actualizaciones, así que no puede buscarlas. Las versiones nuevas están donde lo obtuviste.</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

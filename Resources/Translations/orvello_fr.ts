@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Supprimés récemment</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>Les scripts supprimés sont conservés 30 jours.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurer « %1 »</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>Le flux de mises à jour est incompréhensible : %1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>Le flux de mises à jour n’indique aucune page sûre.</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>Choisissez une présentation : Orvello importe ses notes.</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>Pas une présentation</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>Orvello importe les commentaires des présentations (.pptx, .odp). Il ne peut pas lire %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Supprimé : %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,49 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>Un autre Orvello utilise vos scripts : rien de ce que vous modifiez ici n’est enregistré. Quittez celui-ci et continuez dans l’autre.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>Vos scripts ne peuvent pas être enregistrés, car le disque est plein. Orvello continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>Vos scripts ne peuvent pas être enregistrés, car leur dossier est protégé en écriture. Orvello continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>Vos scripts ne peuvent pas être enregistrés (%1). Orvello continue d’essayer.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Le fichier de vos scripts manquait ou était vide. Il existe une copie du %1.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>Le fichier de vos scripts était endommagé. Il existe une copie du %1 ; son contenu est conservé sous « %2 ».</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Le fichier de vos scripts était endommagé. Son contenu est conservé sous « %1 ».</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>Récupérer %n script</numerusform>
+            <numerusform>Récupérer %n scripts</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +566,11 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1 (copie)</translation>
     </message>
 </context>
 <context>
@@ -596,6 +683,11 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>Présentation importée (%1) : les notes sont en lecture seule ici ; modifiez-les dans la présentation et importez de nouveau.</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · environ %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -695,6 +787,11 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <source>Pink</source>
         <translation>Rose</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Vos réglages n’ont pas pu être lus ; ils sont donc comme neufs. L’ancien fichier est conservé : %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -713,6 +810,16 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     <message>
         <source>Speed</source>
         <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (prise par un autre programme)</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (absente de ce clavier)</translation>
     </message>
 </context>
 <context>
@@ -955,12 +1062,12 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Le mode furtif agit sur les bureaux qui savent soustraire une fenêtre aux partages d’écran, aux enregistrements et aux captures. Quand il est activé, la carte du prompteur dit si celui-ci ne le peut pas.</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>Pour un risque nul, partagez la fenêtre de la présentation au lieu de l’écran entier : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>Ne touchez pas au mode furtif pendant un partage : le basculer peut faire apparaître un cadre gris à sa place (fermez puis rouvrez Orvello pour l’effacer). Pour un risque nul, partagez la fenêtre de la présentation au lieu de l’écran entier.</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Partagez la fenêtre de la présentation plutôt que tout l’écran, et gardez le prompteur à côté : certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1122,30 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>Rechercher dans les titres et les textes</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
     </message>
 </context>
 <context>
@@ -1241,17 +1372,17 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Zéro risque ? Ne partagez que la fenêtre</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>Zéro risque : ne partager que la fenêtre</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Le partage de l’écran entier convient avec le mode furtif. Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>Dans votre application de réunion, choisissez la fenêtre de vos diapositives au lieu de l’écran entier. Une fenêtre partagée ne peut jamais contenir le prompteur. Les logiciels d’enregistrement savent aussi capturer une seule fenêtre.</translation>
+        <source>Share just the window</source>
+        <translation>Partagez seulement la fenêtre</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
 </context>
 <context>
@@ -1344,10 +1475,6 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Le mode furtif cache le prompteur à Zoom, Meet, Teams, aux enregistrements et aux captures, alors que vous le voyez parfaitement.</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, et vous seul voyez le prompteur. Dans un partage de l’écran entier, ce bureau le montre à tous.</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>Suit votre voix</translation>
     </message>
@@ -1367,6 +1494,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Importez un fichier .pptx ou une présentation ouverte dans %1, et les notes changent avec vos diapositives.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, gardez le prompteur à côté, et vous seul le voyez. Si tout l’écran est partagé, ce bureau le montre à tout le monde.</translation>
     </message>
 </context>
 <context>
@@ -1417,7 +1548,6 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 — pas encore recherché</translation>
     </message>
     <message>
@@ -1428,6 +1558,15 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Check Now</source>
         <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>Cet Orvello a été construit sans l’adresse d’un flux de mises à jour et ne peut donc pas en chercher. Les nouvelles versions sont là où vous l’avez obtenu.</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

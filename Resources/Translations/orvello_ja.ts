@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>最近削除した項目</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>削除した原稿は30日間保存されます。</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>「%1」を復元</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>アップデートフィードを理解できません：%1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>アップデートフィードに安全なページがありません。</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>プレゼンテーションを選んでください。Orvello が発表者ノートを読み込みます。</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>プレゼンテーションではありません</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>Orvelloはプレゼンテーション（.pptx、.odp）から発表者ノートを読み込みます。%1は読み込めません。</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>削除：%1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,48 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>別のOrvelloが原稿を使用しているため、ここでの変更は保存されません。こちらを終了し、もう一方で続けてください。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>ディスクがいっぱいのため、原稿を保存できません。Orvelloは再試行を続けます。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>フォルダが書き込み禁止のため、原稿を保存できません。Orvelloは再試行を続けます。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>原稿を保存できません（%1）。Orvelloは再試行を続けます。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>原稿のファイルがないか、空でした。%1のコピーがあります。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>原稿のファイルが壊れていました。%1のコピーがあります。ファイルの内容は「%2」として残してあります。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>原稿のファイルが壊れていました。内容は「%1」として残してあります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>%n件の原稿を戻す</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +565,11 @@ The settings have a button that takes this back.</source>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>名称未設定</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1のコピー</translation>
     </message>
 </context>
 <context>
@@ -595,6 +681,11 @@ The settings have a button that takes this back.</source>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>読み込んだプレゼンテーション（%1）です。ノートはここでは変更できません。プレゼンテーションで編集して、もう一度読み込んでください。</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · 約%2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -693,6 +784,11 @@ The settings have a button that takes this back.</source>
         <source>Pink</source>
         <translation>ピンク</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>設定を読み込めなかったため、初期状態に戻っています。元のファイルは残してあります：%1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -711,6 +807,16 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speed</source>
         <translation>速さ</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1（別のプログラムが使用中）</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1（このキーボードにはありません）</translation>
     </message>
 </context>
 <context>
@@ -953,12 +1059,12 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>ステルスモードは、画面共有、録画、スクリーンショットからウインドウを外せるデスクトップで効きます。オンのとき、このデスクトップで効かなければ、プロンプターのカードにそう表示されます。</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>リスクをなくすには、画面全体ではなくプレゼンテーションのウインドウを共有してください。ウインドウの共有にプロンプターが入ることはありません。</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>共有中はステルスモードをそのままにしてください。切り替えると、会議アプリがその場所に灰色の四角を表示することがあります（Orvelloを閉じて開き直すと消えます）。リスクをなくすには、画面全体ではなくプレゼンテーションのウインドウを共有してください。</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>画面全体ではなくプレゼンテーションのウインドウを共有し、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1119,30 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>タイトルと本文を検索</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下へ移動</translation>
     </message>
 </context>
 <context>
@@ -1239,17 +1369,17 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>リスクをなくすには、ウインドウだけを共有</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>リスクなし：ウインドウだけを共有</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>ステルスモードがオンなら画面全体の共有もできます。%1のウインドウだけを共有すれば、リスクはなくなります。ウインドウの共有にプロンプターが入ることはありません。</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>会議アプリでは、画面全体ではなくスライドのウインドウを選んでください。ウインドウの共有にプロンプターが入ることはありません。録画アプリもウインドウひとつだけを取り込めます。</translation>
+        <source>Share just the window</source>
+        <translation>ウインドウだけを共有</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
 </context>
 <context>
@@ -1342,10 +1472,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>ステルスモードは、Zoom、Meet、Teams、録画、スクリーンショットからプロンプターを隠します。あなたにははっきり見えたままです。</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>Zoom、Meet、Teamsでウインドウを共有すれば、プロンプターはあなたにだけ見えます。画面全体の共有では、このデスクトップは全員に見せてしまいます。</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>声に合わせて進みます</translation>
     </message>
@@ -1365,6 +1491,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>.pptxファイルか、%1で開いているプレゼンテーションを読み込むと、スライドに合わせてノートが切り替わります。</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Zoom、Meet、Teamsではウインドウを共有し、プロンプターをその横に置けば、見えるのはあなただけです。画面全体を共有すると、このデスクトップでは全員に表示されます。</translation>
     </message>
 </context>
 <context>
@@ -1415,7 +1545,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 — 未確認</translation>
     </message>
     <message>
@@ -1426,6 +1555,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Check Now</source>
         <translation>今すぐ確認</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>このOrvelloはアップデート配信先のアドレスなしでビルドされているため、アップデートを確認できません。新しいバージョンは入手元にあります。</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Apagados recentemente</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>Os roteiros apagados são guardados por 30 dias.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurar “%1”</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Dispensar</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>O feed de atualizações não faz sentido: %1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>O feed de atualizações não indica nenhuma página segura.</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>Escolha uma apresentação — o Orvello importa as anotações do apresentador.</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>Não é uma apresentação</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>O Orvello importa as anotações do apresentador de apresentações (.pptx, .odp). Não consegue ler %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>Apagado: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,49 @@ Nas configurações há um botão que desfaz isso.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>Outro Orvello está usando seus roteiros, portanto nada do que você mudar aqui é salvo. Encerre este e continue no outro.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>Seus roteiros não podem ser salvos porque o disco está cheio. O Orvello continua tentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>Seus roteiros não podem ser salvos porque a pasta deles está protegida contra gravação. O Orvello continua tentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>Seus roteiros não podem ser salvos (%1). O Orvello continua tentando.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>O arquivo dos seus roteiros estava faltando ou vazio. Há uma cópia de %1.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>O arquivo dos seus roteiros estava danificado. Há uma cópia de %1; o conteúdo dele foi guardado como “%2”.</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>O arquivo dos seus roteiros estava danificado. O conteúdo dele foi guardado como “%1”.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>Recuperar %n roteiro</numerusform>
+            <numerusform>Recuperar %n roteiros</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +566,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>Sem título</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1 (cópia)</translation>
     </message>
 </context>
 <context>
@@ -596,6 +683,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>Apresentação importada (%1): aqui as anotações são só para leitura; edite-as na apresentação e importe de novo.</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · cerca de %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -695,6 +787,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <source>Pink</source>
         <translation>Rosa</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Seus ajustes não puderam ser lidos, portanto estão como novos. O arquivo antigo foi guardado: %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -713,6 +810,16 @@ Nas configurações há um botão que desfaz isso.</translation>
     <message>
         <source>Speed</source>
         <translation>Velocidade</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (outro programa a usa)</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1 (não há neste teclado)</translation>
     </message>
 </context>
 <context>
@@ -955,12 +1062,12 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>O modo furtivo funciona em ambientes que conseguem manter uma janela fora de compartilhamentos de tela, gravações e capturas. Quando ativado, o cartão do prompter diz se este não consegue.</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>Para risco zero, compartilhe a janela da apresentação em vez da tela inteira: uma janela compartilhada nunca pode incluir o prompter.</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>Não mexa no modo furtivo durante um compartilhamento: alterná-lo pode fazer o aplicativo de reuniões desenhar uma caixa cinza em seu lugar (feche e abra o Orvello de novo para removê-la). Para risco zero, compartilhe a janela da apresentação em vez da tela inteira.</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>Compartilhe a janela da apresentação em vez da tela inteira e mantenha o prompter ao lado: alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
 </context>
 <context>
@@ -1015,6 +1122,30 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>Buscar em títulos e textos</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mover para baixo</translation>
     </message>
 </context>
 <context>
@@ -1241,17 +1372,17 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Quer risco zero? Compartilhe só a janela</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>Risco zero: compartilhe só a janela</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Compartilhar a tela inteira funciona com o modo furtivo. Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>No aplicativo de reuniões, escolha a janela dos seus slides em vez da tela inteira. Uma janela compartilhada nunca pode incluir o prompter. Gravadores também conseguem capturar uma só janela.</translation>
+        <source>Share just the window</source>
+        <translation>Compartilhe só a janela</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
 </context>
 <context>
@@ -1344,10 +1475,6 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>O modo furtivo oculta o prompter do Zoom, Meet, Teams, de gravações e capturas, enquanto você o vê perfeitamente.</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>Compartilhe uma janela no Zoom, Meet ou Teams e só você verá o prompter. Ao compartilhar a tela inteira, este ambiente o mostra a todos.</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>Segue sua voz</translation>
     </message>
@@ -1367,6 +1494,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>Importe um arquivo .pptx ou uma apresentação aberta no %1, e as anotações mudam com seus slides.</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>Compartilhe uma janela no Zoom, Meet ou Teams, mantenha o prompter ao lado e só você o verá. Ao compartilhar a tela inteira, esta área de trabalho o mostra a todos.</translation>
     </message>
 </context>
 <context>
@@ -1417,7 +1548,6 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 — ainda sem busca</translation>
     </message>
     <message>
@@ -1428,6 +1558,15 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Check Now</source>
         <translation>Buscar agora</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>Este Orvello foi compilado sem o endereço de um canal de atualizações, portanto não pode procurá-las. Versões mais novas estão onde você o obteve.</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>DeletedScripts</name>
+    <message>
+        <source>Recently deleted</source>
+        <translation>最近删除</translation>
+    </message>
+    <message>
+        <source>Deleted scripts are kept for 30 days.</source>
+        <translation>删除的讲稿会保留 30 天。</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>恢复“%1”</translation>
+    </message>
+</context>
+<context>
     <name>EditorPage</name>
     <message>
         <source>Title</source>
@@ -43,6 +62,13 @@
     <message>
         <source>OK</source>
         <translation>好</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryView</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -82,10 +108,6 @@
         <source>The update feed makes no sense: %1</source>
         <extracomment>%1: why, as a sentence.</extracomment>
         <translation>无法理解更新源：%1</translation>
-    </message>
-    <message>
-        <source>The update feed names no secure page.</source>
-        <translation>更新源没有给出安全的网页。</translation>
     </message>
     <message>
         <source>The download page cannot be opened.</source>
@@ -348,6 +370,23 @@
         <source>Choose a presentation — Orvello imports its speaker notes.</source>
         <translation>选择一个演示文稿，Orvello 将导入其演讲者备注。</translation>
     </message>
+    <message>
+        <source>Not a presentation</source>
+        <translation>不是演示文稿</translation>
+    </message>
+    <message>
+        <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
+        <extracomment>%1: the names of files.</extracomment>
+        <translation>Orvello 可从 演示文稿（.pptx、.odp）导入演讲者备注，无法读取 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeletedScriptsModel</name>
+    <message>
+        <source>Deleted %1</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>删除于 %1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::Facts</name>
@@ -474,6 +513,48 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryNotices</name>
+    <message>
+        <source>Another Orvello is using your scripts, so nothing that you change here is saved. Quit this one and go on in the other.</source>
+        <translation>另一个 Orvello 正在使用你的讲稿，因此这里的更改不会保存。请退出这个，在另一个中继续。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because the disk is full. Orvello keeps trying.</source>
+        <translation>磁盘已满，无法保存你的讲稿。Orvello 会继续尝试。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved because their folder is write-protected. Orvello keeps trying.</source>
+        <translation>文件夹受写保护，无法保存你的讲稿。Orvello 会继续尝试。</translation>
+    </message>
+    <message>
+        <source>Your scripts cannot be saved (%1). Orvello keeps trying.</source>
+        <extracomment>%1: what the system says about it.</extracomment>
+        <translation>无法保存你的讲稿（%1）。Orvello 会继续尝试。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was lost or empty. There is a copy from %1.</source>
+        <extracomment>%1: a date and a time.</extracomment>
+        <translation>讲稿文件丢失或为空。有一份 %1 的副本。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. There is a copy from %1; what was in the file is kept as “%2”.</source>
+        <extracomment>%1: a date and a time; %2: the name of a file.</extracomment>
+        <translation>讲稿文件已损坏。有一份 %1 的副本；原文件内容保存为“%2”。</translation>
+    </message>
+    <message>
+        <source>Your scripts file was damaged. What was in it is kept as “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>讲稿文件已损坏。原内容保存为“%1”。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Bring back %n scripts</source>
+        <extracomment>A button.</extracomment>
+        <translation>
+            <numerusform>找回 %n 篇讲稿</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryStore</name>
     <message>
         <source>My Script</source>
@@ -484,6 +565,11 @@ The settings have a button that takes this back.</source>
         <source>Untitled</source>
         <extracomment>The title of a new script.</extracomment>
         <translation>未命名</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
+        <translation>%1 副本</translation>
     </message>
 </context>
 <context>
@@ -595,6 +681,11 @@ The settings have a button that takes this back.</source>
         <extracomment>%1: where the deck is from: a program or a file.</extracomment>
         <translation>已导入的演示文稿（%1）——备注在这里是只读的；请在演示文稿中编辑，然后重新导入。</translation>
     </message>
+    <message>
+        <source>%1 · about %2</source>
+        <extracomment>%1: how many words, as in &quot;52 words&quot;; %2: minutes and seconds, as in &quot;0:22&quot;.</extracomment>
+        <translation>%1 · 约 %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ScriptListModel</name>
@@ -693,6 +784,11 @@ The settings have a button that takes this back.</source>
         <source>Pink</source>
         <translation>粉色</translation>
     </message>
+    <message>
+        <source>Your settings could not be read, so they are as new. The old file is kept: %1</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>无法读取你的设置，因此已恢复为初始状态。旧文件已保留：%1</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::SettingsWindow</name>
@@ -711,6 +807,16 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speed</source>
         <translation>速度</translation>
+    </message>
+    <message>
+        <source>%1 (another program has it)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1（已被其他程序占用）</translation>
+    </message>
+    <message>
+        <source>%1 (not on this keyboard)</source>
+        <extracomment>%1: a key that does nothing, and why.</extracomment>
+        <translation>%1（此键盘没有）</translation>
     </message>
 </context>
 <context>
@@ -953,12 +1059,12 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>隐身模式在能让窗口避开屏幕共享、录屏和截图的桌面上生效。开启时，如果这个桌面做不到，提词器的卡片会说明。</translation>
     </message>
     <message>
-        <source>For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.</source>
-        <translation>要做到零风险，请共享演示文稿的窗口，而不是整个屏幕：窗口共享绝不会包含提词器。</translation>
-    </message>
-    <message>
         <source>Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.</source>
         <translation>共享途中不要动隐身模式：切换可能会让会议应用在它的位置显示一个灰色方块（关闭并重新打开 Orvello 即可消除）。要做到零风险，请共享演示文稿的窗口，而不是整个屏幕。</translation>
+    </message>
+    <message>
+        <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>请共享演示文稿窗口而不是整个屏幕，并把提词器放在它旁边：有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1119,30 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search titles and texts</source>
+        <translation>搜索标题和正文</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制一份</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
     </message>
 </context>
 <context>
@@ -1239,17 +1369,17 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>想要零风险？只共享那个窗口</translation>
     </message>
     <message>
-        <source>Zero risk: share just the window</source>
-        <translation>零风险：只共享那个窗口</translation>
-    </message>
-    <message>
         <source>Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>隐身模式开启时可以共享整个屏幕。只共享 %1 的窗口则没有任何风险——窗口共享绝不会包含提词器。</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen. A window share can never include the prompter. Recorders can capture a single window too.</source>
-        <translation>在会议应用中，请选择幻灯片的窗口，而不是整个屏幕。窗口共享绝不会包含提词器。录屏软件也可以只捕获一个窗口。</translation>
+        <source>Share just the window</source>
+        <translation>只共享窗口</translation>
+    </message>
+    <message>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
 </context>
 <context>
@@ -1342,10 +1472,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>隐身模式让 Zoom、Meet、Teams、录屏和截图都看不到提词器，而你看得一清二楚。</translation>
     </message>
     <message>
-        <source>Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.</source>
-        <translation>在 Zoom、Meet 或 Teams 中共享一个窗口，只有你能看到提词器。共享整个屏幕时，这个桌面会把它显示给所有人。</translation>
-    </message>
-    <message>
         <source>Follows your voice</source>
         <translation>跟随你的声音</translation>
     </message>
@@ -1365,6 +1491,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Import a .pptx or an open %1 deck and the speaker notes flip with your slideshow.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
         <translation>导入 .pptx 文件或在 %1 中打开的演示文稿，备注就会随幻灯片翻页。</translation>
+    </message>
+    <message>
+        <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
+        <translation>在 Zoom、Meet 或 Teams 中共享一个窗口，把提词器放在旁边，就只有你能看到它。共享整个屏幕时，此桌面会让所有人看到它。</translation>
     </message>
 </context>
 <context>
@@ -1415,7 +1545,6 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
     <message>
         <source>Orvello %1 — not checked yet</source>
-        <extracomment>%1: the version.</extracomment>
         <translation>Orvello %1 — 尚未检查</translation>
     </message>
     <message>
@@ -1426,6 +1555,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Check Now</source>
         <translation>立即检查</translation>
+    </message>
+    <message>
+        <source>This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions.</source>
+        <translation>此 Orvello 构建时没有更新源地址，因此无法检查更新。新版本请到你获取它的地方查找。</translation>
+    </message>
+    <message>
+        <source>Orvello %1</source>
+        <extracomment>%1: the version.</extracomment>
+        <translation>Orvello %1</translation>
     </message>
 </context>
 <context>

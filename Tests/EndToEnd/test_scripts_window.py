@@ -13,6 +13,7 @@ from desktop import App, Desktop, SOURCES, wait_until
 
 DRAG_SOURCE = pathlib.Path(os.environ["ORVELLO_DRAG_SOURCE"]).resolve()
 DECK = SOURCES / "Tests" / "Presentations" / "Decks" / "Samples" / "talk.pptx"
+SEARCH_FIELD = 40 # Its height with its margins, above the list.
 FILE_DIALOG = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
 
 
@@ -64,7 +65,7 @@ class ScriptsWindow:
         self.click(width // 2 + 120, bottom - 32)
 
     def row(self, number):
-        self.click(60, 18 + 25 * number) # The height of rows without slides.
+        self.click(60, 18 + SEARCH_FIELD + 25 * number) # The height of rows without slides.
 
     def text(self):
         self.click(-200, 200)
@@ -131,12 +132,14 @@ class ScriptsWindowTest(unittest.TestCase):
     def start(self):
         return ScriptsWindow(self.desktop, self.host)
 
-    def test_it_opens_in_the_middle_with_its_size_and_title(self):
-        x, y, width, height = self.start().geometry()
+    def test_it_opens_below_the_panel_with_its_size_and_title(self):
+        window = self.start()
+        x, y, width, height = window.geometry()
 
         self.assertEqual((width, height), (720, 480))
         self.assertAlmostEqual(x + width / 2, self.desktop.width / 2, delta=20)
-        self.assertAlmostEqual(y + height / 2, self.desktop.height / 2, delta=40)
+        top, panel_height = window.app.geometry()[1::2]
+        self.assertGreater(y - 20, top + panel_height, "its title bar is clear of the panel")
 
     def test_a_library_is_made_written_and_kept(self):
         window = self.start()
@@ -196,6 +199,94 @@ class ScriptsWindowTest(unittest.TestCase):
 
         window.key("ctrl+n")
         window.wait_for_titles("Untitled")
+
+    def test_a_key_that_is_held_removes_one_script_and_undo_brings_it_back(self):
+        window = self.start()
+        names = [f"Script {number}" for number in range(5)]
+        for name in names:
+            window.key("ctrl+n")
+            window.type(name)
+        titles = names[::-1] + ["Welcome to Orvello"]
+        window.wait_for_titles(*titles)
+        window.row(0)
+        window.wait_for_active(title="Script 4")
+
+        self.desktop.run("xdotool", "keydown", "Delete")
+        time.sleep(1.5)
+        self.desktop.run("xdotool", "keyup", "Delete")
+        window.wait_for_titles(*titles[1:])
+        self.desktop.run("xdotool", "keydown", "BackSpace")
+        time.sleep(1)
+        self.desktop.run("xdotool", "keyup", "BackSpace")
+        self.assertEqual(window.titles(), titles[1:])
+
+        window.key("ctrl+z")
+        window.wait_for_titles(*titles)
+        window.wait_for_active(title="Script 4")
+
+        window.key("Tab", "Tab") # To the minus.
+        for held in ("Return", "space"):
+            before = window.titles()
+            self.desktop.run("xdotool", "keydown", held)
+            time.sleep(1.2)
+            self.desktop.run("xdotool", "keyup", held)
+            window.wait_for_titles(*before[1:])
+
+    def test_scripts_are_found_and_put_in_order_with_keys(self):
+        window = self.start()
+        for name, body in (("One", "apples"), ("Two", "pears"), ("Three", "apples and pears")):
+            window.key("ctrl+n")
+            window.type(name)
+            window.key("Return")
+            window.type(body)
+        window.wait_for_active(title="Three", body="apples and pears")
+
+        window.row(0)
+        window.key("alt+Down")
+        window.wait_for_titles("Two", "Three", "One", "Welcome to Orvello")
+        window.key("alt+Down", "alt+Down", "alt+Down", "alt+Up")
+        window.wait_for_titles("Two", "One", "Three", "Welcome to Orvello")
+
+        window.key("ctrl+f")
+        window.type("APPLES")
+        window.key("Return", "Up", "Up")
+        window.wait_for_active(title="One")
+        window.key("Down", "Down", "Down")
+        window.wait_for_active(title="Three")
+        window.key("ctrl+d")
+        window.wait_for_titles("Two", "One", "Three", "Three copy", "Welcome to Orvello")
+
+    def test_a_damaged_library_is_kept_and_its_copy_brought_back(self):
+        window = self.start()
+        window.key("ctrl+n")
+        window.type("Precious")
+        window.wait_for_titles("Precious", "Welcome to Orvello")
+        self.assertEqual(window.app.quit(), 0)
+        self.host.items.clear()
+        library = self.desktop.data / "Orvello" / "scripts.json"
+        library.write_bytes(b"")
+
+        again = self.start()
+        self.assertEqual(again.titles(), ["Welcome to Orvello"])
+        again.click(-170, 24) # The banner's first button.
+        again.wait_for_titles("Welcome to Orvello", "Precious", "Welcome to Orvello")
+
+    def test_a_save_that_fails_is_tried_again(self):
+        window = self.start()
+        window.wait_for_first_frame()
+        window.key("ctrl+n")
+        window.wait_for_titles("Untitled", "Welcome to Orvello")
+        folder = self.desktop.data / "Orvello"
+        library = folder / "scripts.json"
+        library.unlink()
+        library.mkdir() # Nothing can be saved there.
+
+        window.type("Talk")
+        wait_until(lambda: window.pixel(5, 5)[0] - window.pixel(5, 5)[2] > 20, what="the amber banner")
+        library.rmdir()
+        wait_until(library.exists, what="another attempt")
+        window.wait_for_titles("Talk", "Welcome to Orvello")
+        wait_until(lambda: window.pixel(5, 5)[0] - window.pixel(5, 5)[2] < 20, what="the banner to go")
 
     def test_undoing_never_crosses_to_another_script(self):
         window = self.start()
@@ -304,8 +395,13 @@ class ScriptsWindowTest(unittest.TestCase):
             outcome = wait_until(lambda: log.read_text().split()[1:], what="the end of the drag")
             return looks, outcome[0]
 
-        self.assertEqual(drag(notes), (edge, "refused"))
-        looks, outcome = drag(notes, deck)
+        looks, outcome = drag(notes)
+        self.assertEqual(outcome, "copied")
+        self.assertNotEqual(looks, edge)
+        wait_until(window.shows_alert, what="that this is no presentation")
+        window.key("Return")
+        wait_until(lambda: not window.shows_alert(), what="the alert to go")
+        looks, outcome = drag(deck)
         self.assertEqual(outcome, "copied")
         self.assertNotEqual(looks, edge)
         window.wait_for_titles("Dropped", "Welcome to Orvello")

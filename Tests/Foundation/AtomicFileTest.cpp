@@ -117,14 +117,55 @@ TEST_F(AtomicFileTest, writesAnEmptyFile)
     EXPECT_EQ(contents(path), "");
 }
 
-TEST_F(AtomicFileTest, givesANewFileThePermissionsOfTheUsersMask)
+TEST_F(AtomicFileTest, makesANewFileForTheUsersEyesAlone)
 {
-    const mode_t before = ::umask(027);
+    const mode_t before = ::umask(0);
     const bool isReplaced = AtomicFile::replace(path, "new");
     ::umask(before);
 
     EXPECT_TRUE(isReplaced);
-    EXPECT_EQ(permissions(path), 0640u);
+    EXPECT_EQ(permissions(path), 0600u);
+}
+
+TEST_F(AtomicFileTest, saysWhyItFailed)
+{
+    std::error_code reason;
+
+    EXPECT_FALSE(AtomicFile::replace(
+        inFolder(u"missing/file"_s), "new", AtomicFile::Durability::Written, &reason));
+    EXPECT_EQ(reason, std::errc::no_such_file_or_directory);
+
+    const Testing::FullDisk disk(10);
+    EXPECT_FALSE(
+        AtomicFile::replace(path, std::string(100, 'x'), AtomicFile::Durability::Written, &reason));
+    EXPECT_EQ(reason, std::errc::file_too_large);
+}
+
+TEST_F(AtomicFileTest, keepsWhatItFlushedWhileTheFileGoesOn)
+{
+    ASSERT_TRUE(AtomicFile::replace(path, "one"));
+    EXPECT_TRUE(AtomicFile::flush(path));
+    EXPECT_TRUE(AtomicFile::flush(path)); // The same bytes once more.
+    ASSERT_TRUE(AtomicFile::replace(path, "two"));
+
+    EXPECT_EQ(contents(path), "two");
+    EXPECT_EQ(contents(AtomicFile::flushedName(path)), "one");
+    EXPECT_EQ(names(), (QStringList { u"file"_s, u"file.flushed"_s }));
+
+    EXPECT_TRUE(AtomicFile::flush(path));
+    EXPECT_EQ(contents(AtomicFile::flushedName(path)), "two");
+}
+
+TEST_F(AtomicFileTest, removesTheTemporaryFilesOfKilledProcessesAlone)
+{
+    put(path, "old");
+    put(inFolder(u"file.tmp-3w5e11264sg"_s), "half");
+    put(inFolder(u"file.last"_s), "copy");
+    put(inFolder(u"other.tmp-1"_s), "another's");
+
+    AtomicFile::removeLeftovers(path);
+
+    EXPECT_EQ(names(), (QStringList { u"file"_s, u"file.last"_s, u"other.tmp-1"_s }));
 }
 
 TEST_F(AtomicFileTest, keepsThePermissionsOfTheOldFile)

@@ -48,6 +48,7 @@ public:
     {
         if (!facts.isMac)
             keys.modifiersLabel = u"Alt+Super+"_s;
+        updater.feed = u"https://example.com/feed"_s;
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
         settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, keys, facts });

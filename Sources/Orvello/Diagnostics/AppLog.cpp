@@ -5,12 +5,13 @@
 #include "Orvello/Diagnostics/LossyOutput.h"
 #include "Orvello/Diagnostics/SessionMarker.h"
 #include "Orvello/Diagnostics/Timestamp.h"
+#include "Orvello/Foundation/PrivateFolder.h"
 #include "Orvello/Platform/Early/SystemLog.h"
+
+#include <QString>
 
 #include <atomic>
 #include <exception>
-#include <filesystem>
-#include <system_error>
 #include <unistd.h>
 
 // Both editions write the same texts, "macOS" in the launch line among them: one tool reads the
@@ -92,8 +93,7 @@ void start(const Session& session)
     log().directory = session.applicationSupport + "/Orvello/logs";
     log().fileURL = log().directory + "/orvello.log";
     log().markerURL = log().directory + "/session.marker";
-    std::error_code ignored;
-    std::filesystem::create_directories(log().directory, ignored);
+    makePrivateFolder(QString::fromStdString(log().directory));
     log().file.open(log().fileURL);
 
     write("LAUNCH Orvello %@ (%@) %@ macOS %@ pid %d", session.version, session.build,

@@ -75,6 +75,9 @@ void LogFile::close()
 void LogFile::reopen()
 {
     const int descriptor = ::open(m_path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    // The names of decks are in it. Some file systems have no permissions, which is no failure.
+    if (descriptor >= 0)
+        static_cast<void>(::fchmod(descriptor, 0600));
     struct stat status { };
     m_bytesWritten = descriptor >= 0 && ::fstat(descriptor, &status) == 0 ? status.st_size : 0;
     m_descriptor = descriptor;

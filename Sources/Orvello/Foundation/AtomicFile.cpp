@@ -78,6 +78,39 @@ std::optional<std::string> followLinks(std::filesystem::path path)
     return std::nullopt;
 }
 
+/// Between the target's name and a number in a temporary file's name.
+constexpr std::string_view temporaryInfix = ".tmp-";
+
+std::string temporaryName(const std::string& target)
+{
+    const quint64 number = QRandomGenerator::global()->generate64();
+    return target + std::string(temporaryInfix) + QByteArray::number(number, 36).toStdString();
+}
+
+bool flushDescriptor(int descriptor)
+{
+#ifdef F_FULLFSYNC // Where fsync(2) leaves the bytes in the disk's own memory.
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
+        return true;
+#endif
+    return ::fsync(descriptor) == 0;
+}
+
+bool flushPath(const std::string& path)
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return false;
+    const bool isFlushed = flushDescriptor(descriptor);
+    ::close(descriptor);
+    return isFlushed;
+}
+
+std::string folderOf(const std::string& path)
+{
+    return std::filesystem::path(path).parent_path().string();
+}
+
 /// Closes the file on a thread of its own. Whoever is last to close a file without a name waits
 /// until its bytes are freed and, if they are still on their way to the disk, for the disk. Without
 /// this thread, that wait would be most of the cost of a key press that saves ten megabytes for the
@@ -128,8 +161,7 @@ public:
     TemporaryFile(const std::string& target, mode_t mode)
     {
         do {
-            const quint64 number = QRandomGenerator::global()->generate64();
-            m_path = target + '.' + QByteArray::number(number, 36).toStdString();
+            m_path = temporaryName(target);
             m_descriptor = ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         } while (m_descriptor < 0 && errno == EEXIST);
         m_exists = m_descriptor >= 0;
@@ -148,7 +180,12 @@ public:
     {
         return writePieces(m_descriptor, pieces);
     }
-    bool setPermissions(mode_t mode) { return ::fchmod(m_descriptor, mode) == 0; }
+    void setPermissions(mode_t mode)
+    {
+        // Some file systems have none. The bytes are worth more.
+        static_cast<void>(::fchmod(m_descriptor, mode));
+    }
+    bool flush() { return flushDescriptor(m_descriptor); }
     bool close() // Some file systems report a full disk only here.
     {
         const int descriptor = std::exchange(m_descriptor, -1);
@@ -169,34 +206,79 @@ private:
 
 } // namespace
 
-bool replace(const QString& path, std::span<const std::string_view> pieces)
+bool replace(const QString& path, std::span<const std::string_view> pieces, Durability durability,
+    std::error_code* reason)
+{
+    const auto failed = [reason](int error) {
+        if (reason)
+            *reason = { error, std::generic_category() };
+        return false;
+    };
+    const auto target = followLinks(QFile::encodeName(path).toStdString());
+    if (!target)
+        return failed(ELOOP);
+    struct stat status { };
+    const bool isReplacing = ::stat(target->c_str(), &status) == 0;
+    if (isReplacing && !S_ISREG(status.st_mode))
+        return failed(EEXIST);
+
+    // Nobody may read the new bytes who could not read the old ones, not even meanwhile.
+    TemporaryFile file(*target, 0600);
+    if (!file.isOpen() || !file.write(pieces))
+        return failed(errno);
+    if (isReplacing)
+        file.setPermissions(status.st_mode & 07777);
+    const bool isFlushing = durability == Durability::Flushed;
+    if ((isFlushing && !file.flush()) || !file.close())
+        return failed(errno);
+    const OldFile old(*target);
+    if (!file.moveTo(*target))
+        return failed(errno);
+    if (isFlushing)
+        flushPath(folderOf(*target));
+    return true;
+}
+
+bool replace(
+    const QString& path, std::string_view bytes, Durability durability, std::error_code* reason)
+{
+    return replace(path, std::span(&bytes, 1), durability, reason);
+}
+
+bool flush(const QString& path)
 {
     const auto target = followLinks(QFile::encodeName(path).toStdString());
     if (!target)
         return false;
-    struct stat status { };
-    const bool isReplacing = ::stat(target->c_str(), &status) == 0;
-    if (isReplacing && !S_ISREG(status.st_mode))
-        return false;
-
-    // Nobody may read the new bytes who could not read the old ones, not even meanwhile.
-    TemporaryFile file(*target, isReplacing ? 0600 : 0666);
-    if (!file.isOpen() || !file.write(pieces))
-        return false;
-    if (isReplacing && !file.setPermissions(status.st_mode & 07777))
-        return false;
-    // No fsync(2): it would stall every key press on a slow disk. A rename over an existing file
-    // already makes ext4 (auto_da_alloc) and Btrfs write its data out first, so that a power cut,
-    // too, leaves one of the two files whole there.
-    if (!file.close())
-        return false;
-    const OldFile old(*target);
-    return file.moveTo(*target);
+    // A second name holds on to the file while another one takes its place.
+    const std::string held = temporaryName(*target);
+    if (::link(target->c_str(), held.c_str()) != 0) // Some file systems have no second names.
+        return flushPath(*target) && flushPath(folderOf(*target));
+    const std::string kept = QFile::encodeName(flushedName(path)).toStdString();
+    const bool isKept = flushPath(held) && ::rename(held.c_str(), kept.c_str()) == 0;
+    // Renaming one name of a file to another one of the same does nothing.
+    ::unlink(held.c_str());
+    return isKept && flushPath(folderOf(*target));
 }
 
-bool replace(const QString& path, std::string_view bytes)
+QString flushedName(const QString& path)
 {
-    return replace(path, std::span(&bytes, 1));
+    const std::string name = QFile::encodeName(path).toStdString();
+    return QFile::decodeName((followLinks(name).value_or(name) + ".flushed").c_str());
+}
+
+void removeLeftovers(const QString& path)
+{
+    const auto target = followLinks(QFile::encodeName(path).toStdString());
+    if (!target)
+        return;
+    const std::filesystem::path name(*target);
+    const std::string start = name.filename().string() + std::string(temporaryInfix);
+    std::error_code ignored;
+    for (const auto& entry : std::filesystem::directory_iterator(name.parent_path(), ignored)) {
+        if (entry.path().filename().string().starts_with(start))
+            std::filesystem::remove(entry.path(), ignored);
+    }
 }
 
 } // namespace Orvello::AtomicFile

@@ -22,9 +22,12 @@ protected:
     /// Begins a run of the program on what earlier runs left.
     LibraryStore& launch()
     {
+        m_store.reset(); // Else the library is another's.
         m_store = std::make_unique<LibraryStore>(defaults, folders, time, facts);
         return *m_store;
     }
+
+    void quit() { m_store.reset(); }
 
     /// A store with scripts of these titles, from the top, the last of which is active.
     LibraryStore& launchWith(const QStringList& titles)

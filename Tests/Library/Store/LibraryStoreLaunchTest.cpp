@@ -102,8 +102,6 @@ TEST_F(LibraryStoreLaunchTest, replacesAFileThatMakesNoSense)
         EXPECT_EQ(saved(), store.scripts()) << bytes;
         EXPECT_EQ(store.activeScriptID(), store.scripts().first().id) << bytes;
     }
-    EXPECT_EQ(QDir(folders.path + u"/Orvello"_s).entryList(QDir::Files),
-        QStringList { u"scripts.json"_s });
 }
 
 TEST_F(LibraryStoreLaunchTest, keepsAnActiveIdThatNamesNoScript)

@@ -345,20 +345,29 @@ TEST_F(DeckImportsTest, importsEveryDroppedDeckInOrder)
         QUrl::fromLocalFile(file(u"notes.txt"_s, "text")),
         QUrl(u"https://example.org/Remote.pptx"_s),
         QUrl::fromLocalFile(deckFile(u"Second.PPTX"_s)) };
-    EXPECT_TRUE(imports.canImport(files));
+    EXPECT_TRUE(imports.canTake(files));
 
     imports.importFiles(files);
     finishReading();
 
     EXPECT_EQ(titles(), QStringList({ u"Second"_s, u"First"_s, u"Old"_s }));
-    EXPECT_FALSE(imports.isShowingAlert());
+    EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
 }
 
-TEST_F(DeckImportsTest, refusesADropWithoutADeck)
+TEST_F(DeckImportsTest, saysWhichFilesAreNoDecks)
 {
-    EXPECT_FALSE(imports.canImport({}));
-    EXPECT_FALSE(imports.canImport({ QUrl::fromLocalFile(u"/tmp/a.txt"_s),
-        QUrl(u"https://example.org/Remote.pptx"_s), QUrl::fromLocalFile(u"/tmp/pptx"_s) }));
+    EXPECT_FALSE(imports.canTake({}));
+    EXPECT_FALSE(imports.canTake({ QUrl(u"https://example.org/Remote.pptx"_s) }));
+    const QList<QUrl> files { QUrl::fromLocalFile(u"/tmp/a.txt"_s),
+        QUrl::fromLocalFile(u"/tmp/pptx"_s) };
+    EXPECT_TRUE(imports.canTake(files));
+
+    imports.importFiles(files);
+
+    EXPECT_EQ(imports.alertTitle(), u"Not a presentation"_s);
+    EXPECT_EQ(imports.alertText(),
+        u"Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read a.txt, pptx."_s);
+    EXPECT_EQ(titles(), QStringList { u"Old"_s });
 }
 
 TEST_F(DeckImportsTest, showsTheAlertsOfSeveralFilesOneAfterTheOther)

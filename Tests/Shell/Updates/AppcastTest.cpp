@@ -1,5 +1,7 @@
 #include "Orvello/Shell/Updates/Appcast.h"
 
+#include <QProcess>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -94,6 +96,48 @@ TEST(AppcastTest, doesNotTakeADeltaForTheRelease)
     EXPECT_EQ(items[0].page, QUrl(u"https://e.com/whole"_s));
 }
 
+TEST(AppcastTest, cutsVersionsThatNoWindowCouldShow)
+{
+    const QList<AppcastItem> items = parsed(feed("<item><sparkle:version>" + QByteArray(5000, '5')
+        + "</sparkle:version><sparkle:shortVersionString>" + QByteArray(5000, 'x')
+        + "</sparkle:shortVersionString></item>"));
+
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items[0].version.size(), 40);
+    EXPECT_EQ(items[0].displayVersion.size(), 40);
+}
+
+/// What tools/appcast-entry prints.
+QByteArray entry(const QStringList& arguments)
+{
+    QProcess tool;
+    tool.start(QStringLiteral(ORVELLO_APPCAST_ENTRY), arguments);
+    EXPECT_TRUE(tool.waitForFinished(20'000));
+    EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().constData();
+    return tool.readAllStandardOutput();
+}
+
+/// One feed for both editions.
+TEST(AppcastTest, readsTheEntriesThatTheToolsWrite)
+{
+    const QByteArray xml
+        = feed(entry({ u"macos"_s, u"58"_s, u"2.1"_s, u"https://example.com/Orvello.dmg"_s,
+                   u"--minimum-system"_s, u"99.0"_s, u"--notes"_s, u"https://example.com/2.1"_s,
+                   u"--signature"_s, u"sparkle:edSignature=\"A+b/=\" length=\"12\""_s })
+            + entry({ u"linux"_s, u"59"_s, u"2.1.1"_s, u"https://example.com/?a=1&b=2"_s }));
+
+    const AppcastItem linuxEntry { u"59"_s, u"2.1.1"_s, {},
+        QUrl(u"https://example.com/?a=1&b=2"_s) };
+    EXPECT_EQ(parsed(xml), QList { linuxEntry });
+    const auto ofMac = Appcast::parse(xml, u"macos"_s);
+    ASSERT_TRUE(ofMac);
+    const AppcastItem macEntry { u"58"_s, u"2.1"_s, {},
+        QUrl(u"https://example.com/Orvello.dmg"_s) };
+    EXPECT_EQ(*ofMac, QList { macEntry });
+    EXPECT_TRUE(xml.contains("sparkle:edSignature=\"A+b/=\" length=\"12\""));
+    EXPECT_EQ(xml.count("minimumSystemVersion>99.0<"), 1);
+}
+
 TEST(AppcastTest, acceptsAnEmptyFeed) { EXPECT_THAT(parsed(feed("")), IsEmpty()); }
 
 class BadAppcastTest : public ::testing::TestWithParam<const char*> { };
@@ -179,6 +223,22 @@ TEST_F(NewestReleaseTest, countsEachNumberOfAVersion)
         items = { release(older) };
         EXPECT_EQ(newest(newer), u"none") << qPrintable(newer);
     }
+}
+
+TEST_F(NewestReleaseTest, leadsFromEachPreReleaseToTheNextAndToTheRelease)
+{
+    const QStringList order { u"2.0.9"_s, u"2.1-alpha"_s, u"2.1-beta"_s, u"2.1-beta.2"_s,
+        u"2.1-beta.10"_s, u"2.1-rc1"_s, u"2.1-rc2"_s, u"2.1"_s, u"2.1.1-beta"_s };
+    for (qsizetype older = 0; older < order.size(); ++older) {
+        for (qsizetype newer = older + 1; newer < order.size(); ++newer) {
+            items = { release(order[newer]) };
+            EXPECT_EQ(newest(order[older]), order[newer]) << qPrintable(order[older]);
+            items = { release(order[older]) };
+            EXPECT_EQ(newest(order[newer]), u"none") << qPrintable(order[older]);
+        }
+    }
+    items = { release(u"2.1+build5"_s) };
+    EXPECT_EQ(newest(u"2.1"_s), u"none");
 }
 
 TEST_F(NewestReleaseTest, takesVersionsOfEqualNumbersForTheSame)

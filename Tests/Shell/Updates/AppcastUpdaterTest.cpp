@@ -46,8 +46,8 @@ protected:
     {
         updater.emplace(AppcastUpdater::Services { time, defaults, user, desktop }, u"57"_s,
             address.value_or(server.url(u"/feed"_s).toString()));
-        controller.emplace(UpdateController::Services {
-            *updater, defaults, [this] { desktop.activateApplication(); } });
+        controller.emplace(UpdateController::Services { *updater, defaults,
+            [this] { desktop.activateApplication(); }, [this] { return mayAsk; } });
         controller->start();
     }
     void start(const std::optional<QString>& address = std::nullopt)
@@ -75,6 +75,7 @@ protected:
     Testing::FakeUserDefaults defaults;
     Testing::FakeUpdateUserDriver user;
     Testing::FakeDesktopServices desktop;
+    bool mayAsk = true;
     std::optional<AppcastUpdater> updater;
     std::optional<UpdateController> controller;
 };
@@ -112,8 +113,9 @@ TEST_F(AppcastUpdaterTest, cannotCheckWhileItReadsTheFeed)
 
     controller->checkForUpdates();
     EXPECT_FALSE(updater->canCheck());
-    EXPECT_NEAR(updater->lastCheck()->unixSeconds(), time.date().unixSeconds(), 1e-3);
+    EXPECT_EQ(updater->lastCheck(), std::nullopt);
     ASSERT_TRUE(waitForLine("UPDATES found"));
+    EXPECT_NEAR(updater->lastCheck()->unixSeconds(), time.date().unixSeconds(), 1e-3);
 
     // While the user is asked, a check brings the question to the front.
     EXPECT_THAT(announced, ElementsAre(false, true));
@@ -148,20 +150,81 @@ TEST_F(AppcastUpdaterTest, logsAPageThatCannotBeOpened)
 
     EXPECT_THAT(log.lines(),
         Contains("UPDATES download failed for 2.1: The download page cannot be opened."));
+    EXPECT_THAT(user.outcomes, ElementsAre(u"The download page cannot be opened."_s));
 }
 
-TEST_F(AppcastUpdaterTest, opensNothingButWebPages)
+TEST_F(AppcastUpdaterTest, offersNothingWithoutASecurePage)
 {
     forbidAutomaticChecks();
-    server.serve(u"/feed"_s, feed("58", "2.1", "file:///usr/bin/true"));
     start();
+    for (const QByteArray& page :
+        { QByteArray("file:///usr/bin/true"), QByteArray("http://example.com/download"),
+            QByteArray("javascript:alert(1)"), QByteArray() }) {
+        log.clear();
+        server.serve(u"/feed"_s, feed("58", "2.1", page));
+
+        controller->checkForUpdates();
+
+        EXPECT_TRUE(waitForLine("UPDATES up to date")) << page.constData();
+    }
+    EXPECT_THAT(user.offered, IsEmpty());
+}
+
+TEST_F(AppcastUpdaterTest, doesNotTakeAFailedCheckForACheck)
+{
+    forbidAutomaticChecks();
+    server.serveRaw(u"/feed"_s, "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+    start();
+
     controller->checkForUpdates();
-    ASSERT_TRUE(waitForLine("UPDATES found"));
+    ASSERT_TRUE(waitForLine("UPDATES aborted"));
+    EXPECT_EQ(updater->lastCheck(), std::nullopt);
 
-    user.choose(UpdateChoice::Install);
+    server.serve(u"/feed"_s, feed("57", "2.0"));
+    controller->checkForUpdates();
+    ASSERT_TRUE(waitForLine("UPDATES up to date"));
+    EXPECT_EQ(updater->lastCheck(), time.date());
+}
 
-    EXPECT_THAT(desktop.opened, IsEmpty());
-    EXPECT_THAT(log.lines(), Contains(StartsWith("UPDATES download failed for 2.1: ")));
+TEST_F(AppcastUpdaterTest, triesAFailedScheduledCheckAgainWithinAnHour)
+{
+    allowAutomaticChecks();
+    server.serveRaw(u"/feed"_s, "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+    start();
+    ASSERT_TRUE(waitForLine("UPDATES next check in 1h"));
+    EXPECT_EQ(server.requests().size(), 1);
+
+    server.serve(u"/feed"_s, feed("57", "2.0"));
+    log.clear();
+    time.advance(3301);
+
+    EXPECT_TRUE(waitForLine("UPDATES next check in 24h"));
+    EXPECT_EQ(server.requests().size(), 2);
+}
+
+TEST_F(AppcastUpdaterTest, cannotBeSwitchedOnWithoutAFeed)
+{
+    allowAutomaticChecks();
+    defaults.stored.insert(u"SULastCheckTime"_s, 1'700'000'000.0);
+    start(QString());
+
+    EXPECT_FALSE(controller->hasFeed());
+    EXPECT_FALSE(controller->checksAutomatically());
+    EXPECT_FALSE(controller->canCheckForUpdates());
+    defaults.stored.remove(u"SUEnableAutomaticChecks"_s);
+    controller->setChecksAutomatically(true);
+    EXPECT_FALSE(defaults.stored.contains(u"SUEnableAutomaticChecks"_s));
+}
+
+TEST_F(AppcastUpdaterTest, asksNothingWhileTheUserIsBusyWithSomethingElse)
+{
+    mayAsk = false;
+    start();
+    EXPECT_EQ(user.permissionQuestions, 0);
+
+    mayAsk = true;
+    start(); // The next launch.
+    EXPECT_EQ(user.permissionQuestions, 1);
 }
 
 TEST_F(AppcastUpdaterTest, tellsTheUserThatThereIsNoNewerRelease)
@@ -500,7 +563,7 @@ TEST_F(AppcastUpdaterTest, leavesTheKeyboardAloneWhenACheckFallsDueWhileAnOfferI
     log.clear();
     user.choose(UpdateChoice::Later);
     EXPECT_THAT(log.lines(), Contains(StartsWith("UPDATES user chose later")));
-    time.advance(86400);
+    time.advance(1);
     EXPECT_TRUE(waitForLine("UPDATES found")) << "the schedule goes on";
 }
 
@@ -528,7 +591,7 @@ TEST_F(AppcastUpdaterTest, staysQuietAboutAFailedCheckThatNobodyAskedFor)
 
     ASSERT_TRUE(waitForLine("UPDATES aborted"));
     EXPECT_THAT(user.outcomes, IsEmpty());
-    EXPECT_THAT(log.lines(), Contains("UPDATES next check in 24h"));
+    EXPECT_THAT(log.lines(), Contains("UPDATES next check in 1h"));
 }
 
 } // namespace

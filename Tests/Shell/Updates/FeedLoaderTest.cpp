@@ -4,6 +4,8 @@
 #include "Tests/Support/ManualTimeSource.h"
 
 #include <QFile>
+#include <QLocale>
+#include <QMap>
 #include <QProcess>
 #include <QSslConfiguration>
 #include <QSslKey>
@@ -206,6 +208,45 @@ TEST_F(FeedLoaderTest, doesNotAskForCompression)
     ASSERT_TRUE(waitForAnswer());
     EXPECT_THAT(
         server.requests().first().toLower().toStdString(), HasSubstr("accept-encoding: identity"));
+}
+
+TEST_F(FeedLoaderTest, saysNothingOfTheUser)
+{
+    Testing::LoopbackServer server;
+    const QLocale before;
+    QLocale::setDefault(QLocale(u"de_CH"_s));
+    server.serve(u"/feed"_s, "<rss/>");
+    load(server.url(u"/feed"_s));
+    ASSERT_TRUE(waitForAnswer());
+    QLocale::setDefault(before);
+
+    QList<QByteArray> lines = server.requests().first().split('\n');
+    QMap<QByteArray, QByteArray> headers;
+    for (const QByteArray& line : lines.sliced(1)) {
+        if (const qsizetype colon = line.indexOf(':'); colon > 0)
+            headers.insert(line.first(colon).toLower(), line.sliced(colon + 1).trimmed());
+    }
+    headers.remove("host");
+    EXPECT_EQ(headers,
+        (QMap<QByteArray, QByteArray> { { "accept-encoding", "identity" },
+            { "accept-language", "*" }, { "connection", "Keep-Alive" },
+            { "user-agent", "Orvello/1" } }));
+}
+
+TEST_F(FeedLoaderTest, letsTheNetworkLeadNowhereOnThisMachine)
+{
+    const QUrl remote(u"https://example.com/feed"_s);
+    const QUrl local(u"http://127.0.0.1:8000/feed"_s);
+    for (const QString& page :
+        { u"http://127.0.0.1/a"_s, u"https://localhost/a"_s, u"https://printer.localhost/a"_s,
+            u"https://127.1/a"_s, u"https://[::1]/a"_s, u"https://0.0.0.0/a"_s, u"https://[::]/a"_s,
+            u"https://[::ffff:127.0.0.1]/a"_s, u"https://2130706433/a"_s }) {
+        EXPECT_FALSE(FeedLoader::mayLead(remote, QUrl(page))) << qPrintable(page);
+    }
+    EXPECT_TRUE(FeedLoader::mayLead(local, QUrl(u"http://127.0.0.1/a"_s)));
+    EXPECT_TRUE(FeedLoader::mayLead(local, QUrl(u"https://example.com/a"_s)));
+    EXPECT_TRUE(FeedLoader::mayLead(remote, QUrl(u"https://example.org/a"_s)));
+    EXPECT_FALSE(FeedLoader::mayLead(local, QUrl(u"http://example.com/a"_s)));
 }
 
 TEST_F(FeedLoaderTest, followsASecureRedirect)

@@ -53,7 +53,11 @@ QColor colorOf(const QQuickItem& item) { return item.property("color").value<QCo
 /// The window on a screen that nobody sees, worked with mouse and keys.
 class SettingsWindowTest : public VoiceFixture {
 protected:
-    void SetUp() override { open(); }
+    void SetUp() override
+    {
+        updater.feed = u"https://example.com/feed"_s;
+        open();
+    }
 
     void open(const Facts& facts = factsOfAMac())
     {
@@ -591,6 +595,38 @@ TEST_F(SettingsWindowTest, saysWhenItLastChecked)
     drainEvents();
 
     EXPECT_TRUE(showsText(view(), u"Orvello 1.0.0 — last checked "_s + updates.lastCheckText()));
+}
+
+TEST_F(SettingsWindowTest, promisesNoChecksWithoutAFeed)
+{
+    updater.feed.reset();
+    open();
+    updates.start();
+    updater.setChecks(false, Date::fromUnixSeconds(1.79e9));
+    drainEvents();
+
+    EXPECT_TRUE(showsText(view(), u"Orvello 1.0.0"_s));
+    EXPECT_TRUE(showsText(view(),
+        u"This Orvello was built without the address of an update feed, so it cannot look for updates. Whoever you got it from has newer versions."_s));
+    EXPECT_FALSE(control(u"Check for updates automatically (once a day)"_s).isEnabled());
+    EXPECT_FALSE(control(u"Check Now"_s).isEnabled());
+}
+
+TEST_F(SettingsWindowTest, movesItsSlidersOnAGridOfSteps)
+{
+    settings.setBackgroundOpacity(0.6);
+    QQuickItem& opacity = control(u"Background opacity — 60%"_s);
+    opacity.forceActiveFocus();
+    QTest::keyClick(&view(), Qt::Key_Left);
+    EXPECT_EQ(settings.backgroundOpacity(), 0.55);
+    EXPECT_TRUE(showsText(view(), u"Background opacity — 55%"_s));
+
+    settings.setBackgroundOpacity(0.72);
+    QTest::keyClick(&view(), Qt::Key_Right);
+    EXPECT_EQ(settings.backgroundOpacity(), 0.75);
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(&view(), Qt::Key_Left);
+    EXPECT_EQ(settings.backgroundOpacity(), 0.15);
 }
 
 TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)

@@ -131,4 +131,12 @@ std::optional<QList<Script>> decode(const QByteArray& json)
     return scripts;
 }
 
+std::optional<Script> decode(const QJsonObject& object)
+{
+    Script script;
+    if (!assign(script, QJsonValue(object)))
+        return std::nullopt;
+    return script;
+}
+
 } // namespace Orvello::ScriptCoding

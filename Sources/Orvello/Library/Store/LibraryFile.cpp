@@ -1,13 +1,14 @@
 #include "Orvello/Library/Store/LibraryFile.h"
 
 #include "Orvello/Foundation/AtomicFile.h"
+#include "Orvello/Foundation/PrivateFolder.h"
 #include "Orvello/Library/Records/ScriptCoding.h"
 #include "Orvello/Platform/Early/Folders.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
 #include <vector>
 
 namespace Orvello {
@@ -36,29 +37,56 @@ LibraryFile::LibraryFile(const Folders& folders)
 {
 }
 
+QString LibraryFile::path() const
+{
+    return m_folders.applicationSupport() + u"/Orvello/scripts.json"_s;
+}
+
+QString LibraryFile::copyPath() const { return path() + u".last"_s; }
+
 QString LibraryFile::preparedPath() const
 {
-    const QDir folder(m_folders.applicationSupport() + u"/Orvello"_s);
-    folder.mkpath(u"."_s);
-    return folder.filePath(u"scripts.json"_s);
+    const QString prepared = path();
+    makePrivateFolder(QFileInfo(prepared).path());
+    return prepared;
+}
+
+std::optional<QList<Script>> LibraryFile::read(const QString& path)
+{
+    return ScriptCoding::decode(contents(path));
 }
 
 QList<Script> LibraryFile::load()
 {
-    QList<Script> scripts
-        = ScriptCoding::decode(contents(preparedPath())).value_or(QList<Script> {});
+    const QString prepared = preparedPath();
+    std::optional<QList<Script>> scripts = read(prepared);
+    m_found = scripts                  ? Found::Library
+        : QFileInfo(prepared).isFile() ? Found::Damage
+                                       : Found::Nothing;
     // Now rather than at the first save, so that the first key press is as fast as any other.
-    encode(scripts);
-    return scripts;
+    encode(scripts.value_or(QList<Script> {}));
+    return std::move(scripts).value_or(QList<Script> {});
 }
 
-void LibraryFile::save(const QList<Script>& scripts)
+bool LibraryFile::save(const QList<Script>& scripts)
 {
     encode(scripts);
-    write();
+    return save();
 }
 
-void LibraryFile::save(const QList<Script>& scripts, const LibraryChange& change)
+void LibraryFile::keepCopy()
+{
+    m_keeper.copySoon(path(), copyPath(),
+        [](const QByteArray& bytes) { return ScriptCoding::decode(bytes).has_value(); });
+}
+
+bool LibraryFile::save(const QList<Script>& scripts, const LibraryChange& change)
+{
+    take(scripts, change);
+    return save();
+}
+
+void LibraryFile::take(const QList<Script>& scripts, const LibraryChange& change)
 {
     switch (change.kind) {
     case LibraryChange::Kind::Inserted:
@@ -67,12 +95,14 @@ void LibraryFile::save(const QList<Script>& scripts, const LibraryChange& change
     case LibraryChange::Kind::Removed:
         m_encoded.removeAt(change.row);
         break;
+    case LibraryChange::Kind::Moved:
+        m_encoded.move(change.row, change.newRow);
+        break;
     case LibraryChange::Kind::Edited:
         m_encoded[change.row] = ScriptCoding::encode(scripts[change.row]);
         break;
     }
     Q_ASSERT(m_encoded.size() == scripts.size());
-    write();
 }
 
 void LibraryFile::encode(const QList<Script>& scripts)
@@ -83,7 +113,7 @@ void LibraryFile::encode(const QList<Script>& scripts)
         m_encoded.append(ScriptCoding::encode(script));
 }
 
-void LibraryFile::write() const
+bool LibraryFile::save()
 {
     std::vector<std::string_view> pieces;
     pieces.reserve(static_cast<std::size_t>(m_encoded.size()) * 2 + 2);
@@ -95,7 +125,13 @@ void LibraryFile::write() const
     }
     pieces.emplace_back("]");
 
-    static_cast<void>(AtomicFile::replace(preparedPath(), pieces));
+    const QString prepared = preparedPath();
+    m_problem.clear();
+    const bool isSaved
+        = AtomicFile::replace(prepared, pieces, AtomicFile::Durability::Written, &m_problem);
+    if (isSaved)
+        m_keeper.flushSoon(prepared);
+    return isSaved;
 }
 
 } // namespace Orvello

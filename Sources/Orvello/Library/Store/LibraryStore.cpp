@@ -2,10 +2,11 @@
 
 #include "Orvello/Diagnostics/AppLog.h"
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/AtomicFile.h"
 #include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Foundation/PrivateFolder.h"
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Records/WelcomeScript.h"
-#include "Orvello/Platform/Early/TimeSource.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 
 #include <QFileInfo>
@@ -22,6 +23,15 @@ namespace {
 const QString activeScriptIDKey = u"activeScriptID"_s;
 const QString singleScriptKey = u"script"_s; // The one script of the first versions.
 
+constexpr double secondsBetweenRetries = 2;
+constexpr double secondsBetweenCopies = 60.0 * 60;
+
+QString inExistingFolder(const QString& path)
+{
+    makePrivateFolder(QFileInfo(path).path());
+    return path;
+}
+
 /// A leading dot starts a hidden file's name, not an extension.
 QString withoutExtension(const QString& fileName)
 {
@@ -31,20 +41,51 @@ QString withoutExtension(const QString& fileName)
 
 } // namespace
 
-LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
+LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, TimeSource& time,
     const Facts& facts, QObject* parent)
     : QObject(parent)
     , m_defaults(defaults)
     , m_time(time)
     , m_file(folders)
+    , m_lock(inExistingFolder(m_file.path()) + u".lock"_s)
+    , m_rescue(m_file.path())
+    , m_deleted(QFileInfo(m_file.path()).path() + u"/deleted.json"_s)
+    , m_saveState(m_lock.isTaken() ? SaveState::Foreign : SaveState::Saved)
     , m_scripts(m_file.load())
 {
+    if (!m_lock.isTaken())
+        rescueLibrary();
+    m_deleted.load(time.date());
     if (const auto storedID = DefaultsValue::asString(m_defaults.value(activeScriptIDKey)))
         assignActiveScriptID(UuidText::parse(*storedID));
     if (m_scripts.isEmpty())
         makeFirstScript(facts);
     if (!m_activeScriptID)
         assignActiveScriptID(firstScriptID());
+}
+
+LibraryStore::~LibraryStore()
+{
+    if (m_saveState == SaveState::Saved && !m_scripts.isEmpty())
+        m_file.keepCopy();
+}
+
+/// Sees to what an earlier run left, before anything is written.
+void LibraryStore::rescueLibrary()
+{
+    const QString path = m_file.path();
+    const QStringList copies { AtomicFile::flushedName(path), m_file.copyPath() };
+    AtomicFile::removeLeftovers(path);
+    if (m_file.found() == LibraryFile::Found::Damage)
+        m_rescue.keepDamaged(copies, m_time.date());
+    else if (m_file.found() == LibraryFile::Found::Nothing)
+        m_rescue.findMissing(copies, m_time.date());
+    else if (!m_scripts.isEmpty())
+        m_file.keepCopy();
+    m_hourlyCopy = m_time.callEvery(secondsBetweenCopies, [this] {
+        if (m_saveState == SaveState::Saved && !m_scripts.isEmpty())
+            m_file.keepCopy();
+    });
 }
 
 void LibraryStore::makeFirstScript(const Facts& facts)
@@ -58,7 +99,8 @@ void LibraryStore::makeFirstScript(const Facts& facts)
     assignActiveScriptID(script.id);
     m_defaults.remove(singleScriptKey);
     persistActiveScriptID();
-    m_file.save(m_scripts);
+    if (m_saveState != SaveState::Foreign)
+        takeNoteOf(m_file.save(m_scripts));
 }
 
 void LibraryStore::setActiveScriptID(std::optional<QUuid> id)
@@ -104,18 +146,52 @@ QUuid LibraryStore::addScript()
 
 QUuid LibraryStore::addOnTop(const Script& script)
 {
-    m_scripts.prepend(script);
+    insert(0, script);
+    return script.id;
+}
+
+/// Makes it active, too.
+void LibraryStore::insert(qsizetype row, const Script& script)
+{
+    m_scripts.insert(row, script);
     const bool isNewlyActive = assignActiveScriptID(script.id);
-    publish({ .kind = LibraryChange::Kind::Inserted, .row = 0, .id = script.id });
+    publish({ .kind = LibraryChange::Kind::Inserted, .row = row, .id = script.id });
     if (isNewlyActive)
         Q_EMIT activeScriptIDChanged();
-    return script.id;
 }
 
 void LibraryStore::publish(const LibraryChange& change)
 {
-    m_file.save(m_scripts, change);
+    if (m_saveState != SaveState::Foreign) {
+        m_file.take(m_scripts, change);
+        save();
+    }
     Q_EMIT scriptsChanged(change);
+}
+
+/// What was deleted goes first: a library without a script must not be all that there is of it.
+void LibraryStore::save()
+{
+    if (!m_deleted.isSaved())
+        m_deleted.save();
+    takeNoteOf(m_deleted.isSaved() && m_file.save());
+}
+
+std::error_code LibraryStore::problem() const
+{
+    return m_deleted.isSaved() ? m_file.problem() : m_deleted.problem();
+}
+
+void LibraryStore::takeNoteOf(bool isSaved)
+{
+    if (isSaved)
+        m_retry.reset();
+    else if (!m_retry)
+        m_retry = m_time.callEvery(secondsBetweenRetries, [this] { save(); });
+    const std::error_code before = std::exchange(m_saveProblem, problem());
+    if (assign(m_saveState, isSaved ? SaveState::Saved : SaveState::Failing)
+        || before != m_saveProblem)
+        Q_EMIT saveStateChanged();
 }
 
 void LibraryStore::remove(QUuid id)
@@ -127,10 +203,12 @@ void LibraryStore::remove(QUuid id)
             remaining == m_scripts.cend() ? std::nullopt : std::optional(remaining->id));
 
     auto script = std::ranges::find_if(std::as_const(m_scripts), hasID);
-    if (script == m_scripts.cend())
-        m_file.save(m_scripts);
+    if (script == m_scripts.cend() && m_saveState != SaveState::Foreign)
+        takeNoteOf(m_file.save(m_scripts));
     while (script != m_scripts.cend()) {
         const qsizetype row = script - m_scripts.cbegin();
+        // First, so that at each moment it is in one of the two files at least.
+        keepDeleted({ *script, m_time.date(), row });
         m_scripts.removeAt(row);
         publish({ .kind = LibraryChange::Kind::Removed, .row = row, .id = id });
         // A file may hold the id twice.
@@ -139,6 +217,76 @@ void LibraryStore::remove(QUuid id)
 
     if (isAnotherActive)
         Q_EMIT activeScriptIDChanged();
+}
+
+void LibraryStore::keepDeleted(const DeletedScript& deleted)
+{
+    if (m_saveState == SaveState::Foreign)
+        return;
+    m_deleted.add(deleted);
+    Q_EMIT deletedScriptsChanged();
+}
+
+void LibraryStore::restore(qsizetype place)
+{
+    if (place < 0 || place >= m_deleted.scripts().size())
+        return;
+    const DeletedScript deleted = m_deleted.scripts()[place];
+    insert(std::clamp<qsizetype>(deleted.row, 0, m_scripts.size()), deleted.script);
+    // The library must be on the disk before the other file forgets the script.
+    m_file.flush();
+    if (m_saveState == SaveState::Saved)
+        m_deleted.remove(place);
+    Q_EMIT deletedScriptsChanged();
+}
+
+void LibraryStore::move(qsizetype from, qsizetype to)
+{
+    const qsizetype last = m_scripts.size() - 1;
+    if (last < 0)
+        return;
+    from = std::clamp<qsizetype>(from, 0, last);
+    to = std::clamp<qsizetype>(to, 0, last);
+    if (from == to)
+        return;
+    m_scripts.move(from, to);
+    publish(
+        { .kind = LibraryChange::Kind::Moved, .row = from, .newRow = to, .id = m_scripts[to].id });
+}
+
+void LibraryStore::duplicate(QUuid id)
+{
+    const auto original = std::ranges::find(std::as_const(m_scripts), id, &Script::id);
+    if (original == m_scripts.cend())
+        return;
+    Script copy = *original;
+    copy.id = QUuid::createUuid();
+    //: The title of a copied script. %1: the title of the original.
+    copy.title = copy.title.isEmpty() ? QString() : tr("%1 copy").arg(copy.title);
+    copy.createdAt = copy.updatedAt = m_time.date();
+    insert(original - m_scripts.cbegin() + 1, copy);
+}
+
+void LibraryStore::takeOfferedCopy()
+{
+    const QList<Script> copied = m_rescue.scripts();
+    const qsizetype firstRow = m_scripts.size();
+    m_scripts += copied;
+    takeNoteOf(m_file.save(m_scripts));
+    for (qsizetype i = 0; i < copied.size(); ++i)
+        Q_EMIT scriptsChanged(
+            { .kind = LibraryChange::Kind::Inserted, .row = firstRow + i, .id = copied[i].id });
+    if (!copied.isEmpty())
+        setActiveScriptID(copied.first().id);
+    m_file.flush();
+    if (m_saveState == SaveState::Saved)
+        closeRescue();
+}
+
+void LibraryStore::closeRescue()
+{
+    m_rescue.close(m_time.date());
+    Q_EMIT rescueChanged();
 }
 
 void LibraryStore::updateActive(

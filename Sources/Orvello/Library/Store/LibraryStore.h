@@ -2,17 +2,22 @@
 
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
+#include "Orvello/Library/Store/DeletedScripts.h"
 #include "Orvello/Library/Store/LibraryFile.h"
+#include "Orvello/Library/Store/LibraryLock.h"
+#include "Orvello/Library/Store/LibraryRescue.h"
 #include "Orvello/Platform/Early/Facts.h"
+#include "Orvello/Platform/Early/TimeSource.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 
 #include <QObject>
 
+#include <memory>
 #include <optional>
+#include <system_error>
 
 namespace Orvello {
 
-class TimeSource;
 class UserDefaults;
 
 /// The user's scripts, newest first, and which of them is being prompted. Every change is saved
@@ -23,8 +28,9 @@ class LibraryStore final : public QObject {
 public:
     /// Loads the library, or makes the first script of a new one. What is passed must outlive the
     /// store.
-    LibraryStore(UserDefaults& defaults, const Folders& folders, const TimeSource& time,
+    LibraryStore(UserDefaults& defaults, const Folders& folders, TimeSource& time,
         const Facts& facts, QObject* parent = nullptr);
+    ~LibraryStore() override;
 
     const QList<Script>& scripts() const { return m_scripts; }
 
@@ -39,8 +45,21 @@ public:
     /// Adds an empty script on top and makes it active.
     QUuid addScript();
 
-    /// Removes the script with that id. If it was active, the first that remains becomes active.
+    /// Moves the script with that id to the deleted ones. If it was active, the first that remains
+    /// becomes active.
     void remove(QUuid id);
+
+    /// What was deleted in the last thirty days, newest first.
+    const QList<DeletedScript>& deletedScripts() const { return m_deleted.scripts(); }
+
+    /// Puts a deleted script back to where it was and makes it active.
+    void restore(qsizetype place);
+
+    /// Moves the script of one row to another one. Rows beyond the list mean the nearest ones.
+    void move(qsizetype from, qsizetype to);
+
+    /// Adds a copy of that script below it and makes it active. The copy of a deck is one, too.
+    void duplicate(QUuid id);
 
     /// Replaces what is given of the active script, or of the first if none is active. Its date is
     /// renewed in any case.
@@ -61,7 +80,26 @@ public:
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
+    /// Whether the file is as the library is. A save that failed is tried again until it succeeds.
+    enum class SaveState {
+        Saved,
+        Failing, ///< For the reason in `saveProblem`.
+        Foreign, ///< Another process has the library; this one never writes it.
+    };
+    SaveState saveState() const { return m_saveState; }
+    std::error_code saveProblem() const { return m_saveProblem; }
+
+    /// What is to be said and done about a library file that was damaged.
+    const LibraryRescue& rescue() const { return m_rescue; }
+
+    /// Adds the scripts of the copy on offer below the others, and makes the first of them active.
+    void takeOfferedCopy();
+    void closeRescue(); ///< The user has read the news and leaves the copy, if there is one.
+
 Q_SIGNALS:
+    void deletedScriptsChanged();
+    void saveStateChanged();
+    void rescueChanged();
     void scriptsChanged(const Orvello::LibraryChange& change);
     void activeScriptIDChanged();
 
@@ -74,7 +112,13 @@ private:
     QUuid addOnTop(const Script& script);
     Script* editedScript();
     void edit(Script& script, LibraryChange change);
+    void insert(qsizetype row, const Script& script);
     void publish(const LibraryChange& change);
+    void rescueLibrary();
+    void keepDeleted(const DeletedScript& deleted);
+    void takeNoteOf(bool isSaved);
+    void save();
+    std::error_code problem() const;
     std::optional<QUuid> firstScriptID() const;
 
     /// Assigns and persists; returns whether the id changed.
@@ -82,8 +126,15 @@ private:
     void persistActiveScriptID();
 
     UserDefaults& m_defaults;
-    const TimeSource& m_time;
+    TimeSource& m_time;
     LibraryFile m_file;
+    LibraryLock m_lock;
+    LibraryRescue m_rescue;
+    DeletedScripts m_deleted;
+    SaveState m_saveState;
+    std::error_code m_saveProblem;
+    std::unique_ptr<TimeSource::Ticket> m_retry;
+    std::unique_ptr<TimeSource::Ticket> m_hourlyCopy;
     QList<Script> m_scripts;
     std::optional<QUuid> m_activeScriptID;
 };

@@ -108,20 +108,28 @@ void DeckImports::chooseFile()
             tr("Choose a presentation — Orvello imports its speaker notes."),
             { deckFile, openDocumentFile });
     if (path)
-        importFile(*path);
+        importFiles({ QUrl::fromLocalFile(*path) });
 }
 
-bool DeckImports::canImport(const QList<QUrl>& files) const
+bool DeckImports::canTake(const QList<QUrl>& files) const
 {
-    return std::ranges::any_of(files, isDeck);
+    return std::ranges::any_of(files, &QUrl::isLocalFile);
 }
 
 void DeckImports::importFiles(const QList<QUrl>& files)
 {
+    QStringList others;
     for (const QUrl& file : files) {
         if (isDeck(file))
             importFile(file.toLocalFile());
+        else
+            others.append(file.fileName());
     }
+    if (!others.isEmpty())
+        showAlert(tr("Not a presentation"),
+            //: %1: the names of files.
+            tr("Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.")
+                .arg(others.join(u", "_s)));
 }
 
 void DeckImports::importFile(const QString& path)

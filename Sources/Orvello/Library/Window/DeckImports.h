@@ -59,10 +59,10 @@ public:
 
     Q_INVOKABLE void chooseFile();
 
-    /// Whether there is a deck among these files.
-    Q_INVOKABLE bool canImport(const QList<QUrl>& files) const;
+    /// Whether there are files of this machine among these.
+    Q_INVOKABLE bool canTake(const QList<QUrl>& files) const;
 
-    /// Imports every deck among these files, in order.
+    /// Imports every deck among these files, in order, and says which of them are none.
     Q_INVOKABLE void importFiles(const QList<QUrl>& files);
 
     /// Without a message, says that the error is unknown. An alert that arrives while another one

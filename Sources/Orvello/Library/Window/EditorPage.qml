@@ -113,7 +113,7 @@ Pane {
             spacing: 16
 
             Label {
-                text: root.editor.wordCountText
+                text: root.editor.lengthText
                 font.pixelSize: 11
             }
             Label {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import Orvello
 
 // The scripts where reading begins, and beside them the active one with its editor.
@@ -41,35 +42,61 @@ Pane {
         onActivated: root.Window.window.close()
     }
 
-    SplitView {
+    ColumnLayout {
         anchors.fill: parent
-        // It does not mirror by itself.
-        Component.onCompleted: if (root.mirrored) moveItem(0, 1)
+        spacing: 0
 
-        ScriptSidebar {
-            SplitView.minimumWidth: 180
-            SplitView.preferredWidth: 210
-            SplitView.maximumWidth: 280
-            library: root.library
-            onAddRequested: root.addScript()
-            onEditRequested: root.activePage()?.editTitle()
+        LibraryBanner {
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: root.library.notices.saveText
+        }
+        LibraryBanner {
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: root.library.notices.rescueText
+            action: root.library.notices.offerText
+            dismissal: qsTr("Dismiss")
+            onActionTriggered: root.library.notices.takeCopy()
+            onDismissed: root.library.notices.closeRescue()
         }
 
-        Item {
-            SplitView.minimumWidth: 400
-            SplitView.fillWidth: true
+        SplitView {
+            id: split
 
-            Repeater {
-                id: pages
+            // It does not mirror by itself.
+            Component.onCompleted: if (root.mirrored)
+                moveItem(0, 1)
 
-                model: root.library.openScripts
-                delegate: EditorPage {
-                    facts: root.library.facts
-                    isActive: editor === root.library.openScripts.active
-                    visible: isActive
-                    // A long text out of sight is not worth laying out again at each size of the
-                    // window.
-                    anchors.fill: isActive ? parent : undefined
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            ScriptSidebar {
+                SplitView.minimumWidth: 180
+                SplitView.preferredWidth: 210
+                // What the editor can spare: the window may be narrower than both at their widest.
+                SplitView.maximumWidth: Math.max(180, Math.min(280, split.width - 410))
+                library: root.library
+                onAddRequested: root.addScript()
+                onEditRequested: root.activePage()?.editTitle()
+            }
+
+            Item {
+                SplitView.minimumWidth: 400
+                SplitView.fillWidth: true
+
+                Repeater {
+                    id: pages
+
+                    model: root.library.openScripts
+                    delegate: EditorPage {
+                        facts: root.library.facts
+                        isActive: editor === root.library.openScripts.active
+                        visible: isActive
+                        // A long text out of sight is not worth laying out again at each size of the
+                        // window.
+                        anchors.fill: isActive ? parent : undefined
+                    }
                 }
             }
         }
@@ -87,7 +114,7 @@ Pane {
         id: drop
 
         anchors.fill: parent
-        onEntered: drag => drag.accepted = root.library.imports.canImport(drag.urls)
+        onEntered: drag => drag.accepted = root.library.imports.canTake(drag.urls)
         onDropped: drop => {
             drop.accept(Qt.CopyAction);
             root.library.imports.importFiles(drop.urls);

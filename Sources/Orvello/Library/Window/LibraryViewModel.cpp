@@ -7,6 +7,9 @@ namespace Orvello {
 LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
     : m_library(services.library)
     , m_scripts(services.library)
+    , m_search(services.library, m_scripts)
+    , m_deleted(services.library)
+    , m_notices(services.library)
     , m_openScripts(services.library)
     , m_imports(services)
     , m_facts(services.facts)
@@ -15,7 +18,17 @@ LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
 
 LibraryViewModel::~LibraryViewModel() = default;
 
-void LibraryViewModel::addScript() { m_library.addScript(); }
+void LibraryViewModel::addScript()
+{
+    m_search.setText({}); // Else the new script might not be in the list.
+    m_library.addScript();
+}
+
+void LibraryViewModel::duplicateActive()
+{
+    if (const Script* const script = m_library.activeScript())
+        m_library.duplicate(script->id);
+}
 
 void LibraryViewModel::removeActive()
 {

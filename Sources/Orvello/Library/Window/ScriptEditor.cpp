@@ -11,6 +11,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Orvello {
@@ -18,6 +19,9 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// How fast people speak who present: 52 words take 22 seconds.
+constexpr double wordsPerMinute = 140;
 
 /// What a document makes of a text, position by position. It counts each other line break as one
 /// character, so that they survive until they are edited.
@@ -67,6 +71,16 @@ void ScriptEditor::setTitle(const QString& title)
 QString ScriptEditor::wordCountText() const
 {
     return tr("%n words", nullptr, static_cast<int>(m_wordCount));
+}
+
+QString ScriptEditor::lengthText() const
+{
+    if (m_wordCount == 0)
+        return wordCountText();
+    const long seconds = std::lround(static_cast<double>(m_wordCount) * 60 / wordsPerMinute);
+    //: %1: how many words, as in "52 words"; %2: minutes and seconds, as in "0:22".
+    return tr("%1 · about %2")
+        .arg(wordCountText(), u"%1:%2"_s.arg(seconds / 60).arg(seconds % 60, 2, 10, QChar(u'0')));
 }
 
 QString ScriptEditor::deckNotice() const

@@ -19,7 +19,7 @@ class ScriptEditor final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged FINAL)
     Q_PROPERTY(QString body READ body NOTIFY bodyChanged FINAL)
-    Q_PROPERTY(QString wordCountText READ wordCountText NOTIFY bodyChanged FINAL)
+    Q_PROPERTY(QString lengthText READ lengthText NOTIFY bodyChanged FINAL)
     Q_PROPERTY(bool isDeck READ isDeck CONSTANT FINAL)
     Q_PROPERTY(QString deckNotice READ deckNotice CONSTANT FINAL)
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)
@@ -39,6 +39,9 @@ public:
 
     /// "12 words".
     QString wordCountText() const;
+
+    /// The same, and how long they take to read aloud.
+    QString lengthText() const;
 
     /// A deck's body is read-only: it is edited in the presentation.
     bool isDeck() const { return m_deckSource.has_value(); }

@@ -32,8 +32,7 @@ QVariant ScriptListModel::data(const QModelIndex& index, int role) const
     const Row& row = m_rows[static_cast<std::size_t>(index.row())];
     switch (role) {
     case TitleRole:
-        //: Stands for a script without a title.
-        return row.title.isEmpty() ? tr("Untitled") : row.title;
+        return shownTitle(row.title);
     case IsDeckRole:
         return row.slideCount != noDeck;
     case SlidesRole:
@@ -48,6 +47,12 @@ QVariant ScriptListModel::data(const QModelIndex& index, int role) const
 QHash<int, QByteArray> ScriptListModel::roleNames() const
 {
     return { { TitleRole, "title" }, { IsDeckRole, "isDeck" }, { SlidesRole, "slides" } };
+}
+
+QString ScriptListModel::shownTitle(const QString& title)
+{
+    //: Stands for a script without a title.
+    return title.isEmpty() ? tr("Untitled") : title;
 }
 
 void ScriptListModel::activate(int row)
@@ -78,6 +83,17 @@ void ScriptListModel::followScripts(const LibraryChange& change)
         endRemoveRows();
         followActiveScript();
         break;
+    case LibraryChange::Kind::Moved: {
+        const int newRow = static_cast<int>(change.newRow);
+        // A move downward names the row that the script is put in front of.
+        beginMoveRows({}, row, row, {}, newRow > row ? newRow + 1 : newRow);
+        const Row moved = m_rows[static_cast<std::size_t>(row)];
+        m_rows.erase(m_rows.begin() + row);
+        m_rows.insert(m_rows.begin() + newRow, moved);
+        endMoveRows();
+        followActiveScript();
+        break;
+    }
     case LibraryChange::Kind::Edited:
         if (!change.hasNewTitle)
             break;

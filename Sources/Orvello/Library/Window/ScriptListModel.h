@@ -32,6 +32,9 @@ public:
     /// The row that `activeScriptID` names, or -1.
     int activeRow() const { return m_activeRow; }
 
+    /// The title in a list, where a script without one has a name, too.
+    static QString shownTitle(const QString& title);
+
     /// Makes that row's script active; a row beyond the list means the nearest one.
     Q_INVOKABLE void activate(int row);
 

@@ -15,6 +15,10 @@ ItemDelegate {
     required property bool listHasFocus
     readonly property color textColor: isActive && listHasFocus ? palette.highlightedText : palette.windowText
 
+    signal menuRequested
+    signal dragged(y: real) // In the list's content.
+    signal dropped
+
     focusPolicy: Qt.NoFocus // The list has the focus.
     highlighted: isActive
     topPadding: 5
@@ -27,6 +31,21 @@ ItemDelegate {
     Accessible.name: isDeck ? qsTr("%2, %1").arg(slides).arg(title) : title
     Accessible.selectable: true
     Accessible.selected: isActive
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: root.menuRequested()
+    }
+    DragHandler {
+        target: null
+        xAxis.enabled: false
+        // The list would scroll under the pointer instead.
+        grabPermissions: PointerHandler.CanTakeOverFromAnything
+        onCentroidChanged: if (active)
+            root.dragged(root.y + centroid.position.y)
+        onActiveChanged: if (!active)
+            root.dropped()
+    }
 
     background: Item {
         Rectangle {

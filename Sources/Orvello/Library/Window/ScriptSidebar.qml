@@ -9,13 +9,56 @@ ColumnLayout {
     id: root
 
     required property LibraryViewModel library
-    readonly property ScriptListModel scripts: library.scripts
+    readonly property ScriptSearch scripts: library.scripts
     readonly property int pageOfRows: Math.max(1, Math.floor(list.height / 30) - 1) // A row is about 30 points high.
 
     signal addRequested
     signal editRequested
 
+    function search(): void {
+        searchField.forceActiveFocus(Qt.ShortcutFocusReason);
+        searchField.selectAll();
+    }
+
+    function runCommand(event: KeyEvent): bool {
+        const hasControl = event.modifiers === Qt.ControlModifier;
+        if (hasControl && event.key === Qt.Key_F) {
+            root.search();
+            return true;
+        }
+        const command = event.key === Qt.Key_Delete ? root.library.removeActive
+                      : hasControl && event.key === Qt.Key_Z ? () => root.library.deleted.restore(0)
+                      : hasControl && event.key === Qt.Key_D ? root.library.duplicateActive
+                      : null;
+        if (command && singlePress.admits(event))
+            command();
+        return command !== null;
+    }
+
+    SinglePress {
+        id: singlePress
+    }
+
     spacing: 0
+
+    TextField {
+        id: searchField
+
+        Layout.fillWidth: true
+        Layout.margins: 6
+        placeholderText: qsTr("Search")
+        text: root.scripts.text
+        selectByMouse: true
+        onTextEdited: root.scripts.text = text
+        onAccepted: list.forceActiveFocus(Qt.TabFocusReason)
+        Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+        Keys.onEscapePressed: {
+            root.scripts.text = "";
+            list.forceActiveFocus(Qt.TabFocusReason);
+        }
+
+        Accessible.name: qsTr("Search titles and texts")
+    }
 
     ScrollView {
         id: scroll
@@ -41,11 +84,19 @@ ColumnLayout {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Scripts")
 
-            Keys.onUpPressed: root.scripts.activate(root.scripts.activeRow - 1)
-            Keys.onDownPressed: root.scripts.activate(root.scripts.activeRow + 1)
-            Keys.onDeletePressed: root.library.removeActive()
+            function step(event: KeyEvent, rows: int): void {
+                if (event.modifiers & Qt.AltModifier)
+                    root.scripts.move(root.scripts.activeRow, root.scripts.activeRow + rows);
+                else
+                    root.scripts.activate(root.scripts.activeRow + rows);
+            }
+
+            Keys.onUpPressed: event => step(event, -1)
+            Keys.onDownPressed: event => step(event, 1)
             Keys.onReturnPressed: root.editRequested()
             Keys.onEnterPressed: root.editRequested()
+            onActiveFocusChanged: singlePress.reset()
+            Keys.onReleased: singlePress.keyReleased()
             Keys.onPressed: event => {
                 switch (event.key) {
                 case Qt.Key_Home:
@@ -60,14 +111,12 @@ ColumnLayout {
                 case Qt.Key_PageDown:
                     root.scripts.activate(root.scripts.activeRow + root.pageOfRows);
                     break;
-                case Qt.Key_Backspace:
-                    root.library.removeActive();
-                    break;
                 case Qt.Key_F2:
                     root.editRequested();
                     break;
                 default:
-                    return;
+                    if (!root.runCommand(event))
+                        return;
                 }
                 event.accepted = true;
             }
@@ -81,6 +130,33 @@ ColumnLayout {
                     root.scripts.activate(index);
                 }
                 onDoubleClicked: root.editRequested()
+                onMenuRequested: {
+                    root.scripts.activate(index);
+                    menu.popup();
+                }
+                onDragged: y => list.dropRow = list.indexAt(1, y)
+                onDropped: {
+                    const row = list.dropRow;
+                    list.dropRow = -1;
+                    if (row >= 0)
+                        root.scripts.move(index, row);
+                }
+            }
+
+            property int dropRow: -1 // Where a row that is being dragged would go.
+
+            Rectangle {
+                parent: list.contentItem
+                z: 1
+                visible: list.dropRow >= 0 && root.scripts.text === ""
+                x: 8
+                y: list.itemAtIndex(list.dropRow)?.y ?? 0
+                width: list.width - 16
+                height: list.itemAtIndex(list.dropRow)?.height ?? 0
+                radius: 5
+                color: "transparent"
+                border.color: root.palette.highlight
+                border.width: 2
             }
 
             // The current item is what assistive technology reads out. A view moves it along with
@@ -149,6 +225,45 @@ ColumnLayout {
         }
         Item {
             Layout.fillWidth: true
+        }
+        DeletedScripts {
+            Layout.rightMargin: 4
+            deleted: root.library.deleted
+        }
+    }
+
+    Menu {
+        id: menu
+
+        palette: root.palette // Popups do not inherit the window's.
+        // On a dark editor the style's own edge is invisible.
+        background: Rectangle {
+            implicitWidth: 200
+            color: root.palette.base
+            border.color: Qt.alpha(root.palette.windowText, 0.3)
+        }
+
+        MenuItem {
+            text: qsTr("Rename")
+            onTriggered: root.editRequested()
+        }
+        MenuItem {
+            text: qsTr("Duplicate")
+            onTriggered: root.library.duplicateActive()
+        }
+        MenuItem {
+            text: qsTr("Move Up")
+            enabled: root.scripts.text === "" && root.scripts.activeRow > 0
+            onTriggered: root.scripts.move(root.scripts.activeRow, root.scripts.activeRow - 1)
+        }
+        MenuItem {
+            text: qsTr("Move Down")
+            enabled: root.scripts.text === "" && root.scripts.activeRow < list.count - 1
+            onTriggered: root.scripts.move(root.scripts.activeRow, root.scripts.activeRow + 1)
+        }
+        MenuItem {
+            text: qsTr("Delete")
+            onTriggered: root.library.removeActive()
         }
     }
 }

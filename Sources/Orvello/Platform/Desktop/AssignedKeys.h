@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
+#include <QString>
 #include <QVariantMap>
 
 namespace Orvello {
@@ -24,6 +26,21 @@ public:
         Q_EMIT triggersChanged();
     }
 
+    /// Why a key does nothing.
+    enum class Trouble {
+        Taken, ///< Another program has it.
+        Absent, ///< The keyboard lacks it.
+    };
+    /// By the name of the key's purpose. Keys that work are not in it.
+    const QHash<QString, Trouble>& troubles() const { return m_troubles; }
+    void setTroubles(const QHash<QString, Trouble>& troubles)
+    {
+        if (m_troubles == troubles)
+            return;
+        m_troubles = troubles;
+        Q_EMIT troublesChanged();
+    }
+
     bool canConfigure() const { return m_canConfigure; }
     void setCanConfigure(bool can)
     {
@@ -38,11 +55,13 @@ public:
 
 Q_SIGNALS:
     void triggersChanged();
+    void troublesChanged();
     void canConfigureChanged();
     void configurationRequested(); ///< For the part that talks to the desktop.
 
 private:
     QVariantMap m_triggers;
+    QHash<QString, Trouble> m_troubles;
     bool m_canConfigure = false;
 };
 

@@ -12,8 +12,9 @@
 namespace Orvello {
 
 /// A key and the modifiers that it is pressed with, and no others, as macOS numbers them on every
-/// platform. A key code names a place on the keyboard, not a letter: whatever the layout, 35 is the
-/// key right of O on an American keyboard.
+/// platform: the code of a letter is that of its place on an American keyboard. What counts is the
+/// letter, which people read in the settings. On a layout that has it elsewhere, that key is meant,
+/// and the place only where there is no such letter.
 struct HotKey {
     static constexpr std::uint32_t keyH = 4;
     static constexpr std::uint32_t keyR = 15;

@@ -40,6 +40,9 @@ public:
     /// The feed to read instead of the built-in one, if any.
     virtual std::optional<QString> feedAddress() const = 0;
 
+    /// Whether the user may be asked now whether to check regularly. If not, the next launch asks.
+    virtual bool mayAskPermission() const = 0;
+
     virtual void updateFound(const UpdateItem& item) = 0;
     virtual void noUpdateFound(const UpdateError& error) = 0;
     virtual void userChose(UpdateChoice choice, const UpdateItem& item) = 0;

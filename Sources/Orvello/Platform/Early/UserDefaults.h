@@ -22,6 +22,10 @@ public:
     /// Removes what is stored under the key; a missing key is no error.
     virtual void remove(const QString& key) = 0;
 
+    /// The name of the file whose preferences could not be read in this run, which is kept; empty
+    /// if there is none.
+    virtual QString damagedFile() const { return {}; }
+
     /// Everything stored in the domain, without launch arguments.
     virtual QVariantMap storedValues() const = 0;
 };

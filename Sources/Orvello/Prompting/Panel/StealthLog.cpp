@@ -1,9 +1,9 @@
 #include "Orvello/Prompting/Panel/StealthLog.h"
 
+#include "Orvello/Foundation/PrivateFolder.h"
 #include "Orvello/Platform/Early/Folders.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -31,7 +31,7 @@ const QString& StealthLog::filePath()
 {
     if (m_filePath.isEmpty()) {
         const QString folder = m_folders.applicationSupport() + u"/Orvello"_s;
-        QDir().mkpath(folder);
+        makePrivateFolder(folder);
         m_filePath = folder + u"/stealth.log"_s;
     }
     return m_filePath;

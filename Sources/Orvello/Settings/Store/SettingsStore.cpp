@@ -147,4 +147,6 @@ void SettingsStore::setOnboardingSeenVersion(qint64 version)
         &SettingsStore::onboardingSeenVersionChanged);
 }
 
+QString SettingsStore::damagedFile() const { return m_defaults.damagedFile(); }
+
 } // namespace Orvello

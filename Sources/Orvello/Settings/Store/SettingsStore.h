@@ -89,6 +89,9 @@ public:
     qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
     void setOnboardingSeenVersion(qint64 version);
 
+    /// The name of the file whose preferences could not be read at this start; empty for none.
+    QString damagedFile() const;
+
 Q_SIGNALS:
     void fontSizeChanged();
     void textColorNameChanged();

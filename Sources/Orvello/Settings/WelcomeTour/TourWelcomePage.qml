@@ -45,7 +45,7 @@ TourPage {
         symbol: "eye.slash"
         title: root.facts.canHideWindows ? qsTr("Invisible on screen shares") : qsTr("Not part of a window share")
         text: root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
-                                        : qsTr("Share a window in Zoom, Meet or Teams, and only you see the prompter. In a share of the whole screen, this desktop shows it to everyone.")
+                                        : qsTr("Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.")
     }
     TourFeature {
         symbol: "waveform"

@@ -28,7 +28,7 @@ SettingsSection {
     }
     SettingsNote {
         text: !root.facts.canHideWindows
-              ? qsTr("For zero risk, share the presentation window instead of the whole screen: a window share can never include the prompter.")
+              ? qsTr("Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.")
               : qsTr("Leave Stealth Mode alone during a live share: toggling it mid-share can make the meeting app draw a gray box in its place (close and open Orvello again to clear it). For zero risk, share the presentation window instead of the whole screen.")
     }
 }

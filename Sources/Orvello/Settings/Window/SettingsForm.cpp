@@ -77,6 +77,16 @@ QString SettingsForm::wholeNumber(double value)
     return QString::number(static_cast<std::int64_t>(value));
 }
 
+QString SettingsForm::damageText() const
+{
+    const QString file = m_settings.damagedFile();
+    if (file.isEmpty())
+        return {};
+    //: %1: the name of a file.
+    return tr("Your settings could not be read, so they are as new. The old file is kept: %1")
+        .arg(file);
+}
+
 QString SettingsForm::fontSizeLabel() const
 {
     //: %1: the size in points.

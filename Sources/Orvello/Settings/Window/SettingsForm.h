@@ -12,6 +12,7 @@ class SettingsStore;
 /// choices of the two pickers. A stored value that is not among the choices is index -1, no choice.
 class SettingsForm final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(QString damageText READ damageText CONSTANT FINAL)
     Q_PROPERTY(QString fontSizeLabel READ fontSizeLabel NOTIFY fontSizeLabelChanged FINAL)
     Q_PROPERTY(QString speedLabel READ speedLabel NOTIFY speedLabelChanged FINAL)
     Q_PROPERTY(QString opacityLabel READ opacityLabel NOTIFY opacityLabelChanged FINAL)
@@ -28,6 +29,9 @@ public:
 
     /// A number as the labels show it, without its fraction, however large.
     static QString wholeNumber(double value);
+
+    /// What is to be said of a file of preferences that could not be read; empty for nothing.
+    QString damageText() const;
 
     QString fontSizeLabel() const;
     QString speedLabel() const;

@@ -16,8 +16,13 @@ SettingsRow {
 
     labelShare: 0.44
 
-    function nudge(difference: real) {
-        moved(Math.min(Math.max(slider.value + difference, from), to));
+    // So many steps up, on a grid of whole steps, which a value between two of them joins first.
+    function nudge(steps: real) {
+        const exact = slider.value / step;
+        const slack = 1e-6; // What fractions lose: three times 0.1 is more than 0.3.
+        const start = steps > 0 ? Math.floor(exact + slack) : Math.ceil(exact - slack);
+        const target = Math.min(Math.max((start + steps) * step, from), to);
+        moved(Number(target.toFixed(6)));
     }
 
     Slider {
@@ -42,8 +47,8 @@ SettingsRow {
             scale: slider.pressed ? 0.92 : 1
         }
         Accessible.name: root.label
-        Accessible.onIncreaseAction: root.nudge(root.step)
-        Accessible.onDecreaseAction: root.nudge(-root.step)
+        Accessible.onIncreaseAction: root.nudge(1)
+        Accessible.onDecreaseAction: root.nudge(-1)
 
         Keys.onPressed: event => {
             const steps = {
@@ -59,7 +64,7 @@ SettingsRow {
             const count = steps[event.key];
             event.accepted = count !== undefined;
             if (event.accepted)
-                root.nudge(count * root.step);
+                root.nudge(count);
         }
     }
 }

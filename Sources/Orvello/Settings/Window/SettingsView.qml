@@ -64,6 +64,11 @@ Pane {
             width: flickable.width - 40
             spacing: 20
 
+            SettingsNote {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: root.form.damageText
+            }
             PrompterSettings {
                 settings: root.settings
                 form: root.form

@@ -54,7 +54,8 @@ AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeW
     , m_slideSync(m_presentation, m_presenters, platforms.early.time())
     , m_deck(m_library, m_settings, m_slideSync)
     , m_updates({ platforms.desktop.updater(), platforms.early.userDefaults(),
-          [this] { m_platforms.desktop.desktopServices().activateApplication(); } })
+          [this] { m_platforms.desktop.desktopServices().activateApplication(); },
+          [this] { return !m_onboarding; } })
     , m_hotKeys(platforms.desktop.hotKeys())
 {
     addPresenters();
@@ -224,7 +225,12 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get() });
+        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get(),
+        PanelSpace {
+            .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
+            .stepAside = [this] { m_panel->hide(); },
+            .comeBack = [this] { showPanel(); },
+        } });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },

@@ -2,6 +2,8 @@
 
 #include "Orvello/Platform/Early/Facts.h"
 
+#include <QRectF>
+
 #include <functional>
 #include <memory>
 
@@ -21,6 +23,13 @@ class UpdateController;
 class VoiceActivityEngine;
 class WindowChrome;
 class Workspace;
+
+/// The prompter as other windows see it: something that is always in front of them.
+struct PanelSpace {
+    std::function<QRectF()> frame = [] { return QRectF(); }; ///< Empty while it is hidden.
+    std::function<void()> stepAside = [] {}; ///< Hides it.
+    std::function<void()> comeBack = [] {};
+};
 
 /// One window of the program that the user opens and closes, and that keeps its content while
 /// closed.
@@ -51,6 +60,7 @@ public:
         HotKeys& hotKeys;
         Facts facts; ///< What the windows may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
+        PanelSpace panel = {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

@@ -28,6 +28,7 @@ ShortcutList::ShortcutList(HotKeys& keys, Width width)
     , m_width(width)
 {
     connect(&keys.assignedKeys(), &AssignedKeys::triggersChanged, this, &ShortcutList::refresh);
+    connect(&keys.assignedKeys(), &AssignedKeys::troublesChanged, this, &ShortcutList::refresh);
 }
 
 int ShortcutList::rowCount(const QModelIndex& parent) const
@@ -69,13 +70,30 @@ QString ShortcutList::labelOf(const Row& row) const
 
 QString ShortcutList::keysOf(const Row& row) const
 {
-    const QString first = Commands::keyLabel(Commands::named(row.first), m_keys);
+    const QString first = keyOf(row.first);
     if (row.second.empty())
         return first;
-    const QString second = Commands::keyLabel(Commands::named(row.second), m_keys);
+    const QString second = keyOf(row.second);
     if (m_width == Width::Full)
         return u"%1  /  %2"_s.arg(first, second);
     return u"%1 %2"_s.arg(first, second.sliced(commonModifiers(first, second)));
+}
+
+/// With what keeps it from working, where there is room for that.
+QString ShortcutList::keyOf(std::string_view name) const
+{
+    const Command& command = Commands::named(name);
+    const QString label = Commands::keyLabel(command, m_keys);
+    const QString purpose = Commands::purpose(command).name;
+    const AssignedKeys& assigned = m_keys.assignedKeys();
+    const auto trouble = assigned.troubles().constFind(purpose);
+    const bool isOfDesktop = assigned.triggers().contains(purpose);
+    if (m_width == Width::Narrow || isOfDesktop || trouble == assigned.troubles().constEnd())
+        return label;
+    //: %1: a key that does nothing, and why.
+    return *trouble == AssignedKeys::Trouble::Taken ? tr("%1 (another program has it)").arg(label)
+                                                    //: %1: a key that does nothing, and why.
+                                                    : tr("%1 (not on this keyboard)").arg(label);
 }
 
 QString ShortcutList::toggleKey() const

@@ -49,6 +49,7 @@ private:
 
     QString labelOf(const Row& row) const;
     QString keysOf(const Row& row) const;
+    QString keyOf(std::string_view name) const;
 
     HotKeys& m_keys;
     const Width m_width;

@@ -4,6 +4,7 @@
 #include <QVersionNumber>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <utility>
 
 namespace Orvello::Appcast {
@@ -95,6 +96,8 @@ private:
             return;
         if (item.displayVersion.isEmpty())
             item.displayVersion = item.version;
+        item.version.truncate(AppcastItem::maximumText);
+        item.displayVersion.truncate(AppcastItem::maximumText);
         item.page = QUrl(link.isEmpty() ? download : link, QUrl::StrictMode);
         m_items.append(std::move(item));
     }
@@ -125,9 +128,49 @@ private:
     QList<AppcastItem> m_items;
 };
 
-QVersionNumber numbers(const QString& version)
+/// The runs of digits and of letters in what follows a version's numbers.
+QStringList partsOf(QStringView suffix)
 {
-    return QVersionNumber::fromString(version).normalized();
+    QStringList parts;
+    QChar before;
+    for (const QChar character : suffix) {
+        if (character == u'+')
+            break;
+        if (character.isLetterOrNumber()) {
+            const bool goesOn
+                = before.isLetterOrNumber() && before.isDigit() == character.isDigit();
+            if (!goesOn)
+                parts.append(QString());
+            parts.last() += character.toLower();
+        }
+        before = character;
+    }
+    return parts;
+}
+
+/// Negative if the one comes before the other. A number comes before a word.
+int compareParts(const QString& part, const QString& other)
+{
+    const bool isNumber = part.front().isDigit();
+    if (isNumber != other.front().isDigit())
+        return isNumber ? -1 : 1;
+    if (isNumber && part.size() != other.size())
+        return part.size() < other.size() ? -1 : 1;
+    return part.compare(other);
+}
+
+int compareSuffixes(QStringView suffix, QStringView other)
+{
+    const QStringList parts = partsOf(suffix);
+    const QStringList others = partsOf(other);
+    if (parts.isEmpty() || others.isEmpty())
+        return static_cast<int>(parts.isEmpty()) - static_cast<int>(others.isEmpty());
+    for (qsizetype i = 0; i < std::min(parts.size(), others.size()); ++i) {
+        if (const int order = compareParts(parts[i], others[i]); order != 0)
+            return order;
+    }
+    return static_cast<int>(parts.size() > others.size())
+        - static_cast<int>(parts.size() < others.size());
 }
 
 } // namespace
@@ -137,14 +180,26 @@ Result<QList<AppcastItem>, QString> parse(const QByteArray& xml, const QString& 
     return Reader(xml, operatingSystem).read();
 }
 
+bool isOlder(const QString& version, const QString& other)
+{
+    qsizetype end = 0;
+    qsizetype otherEnd = 0;
+    const QVersionNumber numbers = QVersionNumber::fromString(version, &end).normalized();
+    const QVersionNumber others = QVersionNumber::fromString(other, &otherEnd).normalized();
+    if (numbers != others)
+        return numbers < others;
+    return compareSuffixes(QStringView(version).sliced(end), QStringView(other).sliced(otherEnd))
+        < 0;
+}
+
 const AppcastItem* newest(const QList<AppcastItem>& items, const QString& version)
 {
     const AppcastItem* newest = nullptr;
-    QVersionNumber highest = numbers(version);
+    QString highest = version;
     for (const AppcastItem& item : items) {
-        if (item.channel.isEmpty() && numbers(item.version) > highest) {
+        if (item.channel.isEmpty() && isOlder(highest, item.version)) {
             newest = &item;
-            highest = numbers(item.version);
+            highest = item.version;
         }
     }
     return newest;

@@ -51,7 +51,8 @@ std::optional<QString> AppcastUpdater::builtInFeed() const
 
 void AppcastUpdater::askPermissionOnce()
 {
-    if (feed().isEmpty() || m_services.defaults.value(automaticKey).isValid())
+    const bool isAnswered = m_services.defaults.value(automaticKey).isValid();
+    if (!hasFeed() || isAnswered || !m_listener->mayAskPermission())
         return;
     m_services.user.askPermission([this](bool isAllowed) {
         // The settings window may have answered meanwhile.
@@ -62,11 +63,14 @@ void AppcastUpdater::askPermissionOnce()
 
 bool AppcastUpdater::isOn() const
 {
-    return DefaultsValue::asBoolean(m_services.defaults.value(automaticKey)).value_or(false);
+    return hasFeed()
+        && DefaultsValue::asBoolean(m_services.defaults.value(automaticKey)).value_or(false);
 }
 
 void AppcastUpdater::setOn(bool on)
 {
+    if (!hasFeed())
+        return;
     const bool isChange = isOn() != on;
     m_services.defaults.setValue(automaticKey, on);
     if (!isChange)
@@ -82,7 +86,7 @@ void AppcastUpdater::observe(std::function<void()> changed)
     m_observers.push_back(std::move(changed));
 }
 
-bool AppcastUpdater::canCheck() const { return m_listener && m_phase != Phase::Loading; }
+bool AppcastUpdater::canCheck() const { return hasFeed() && m_phase != Phase::Loading; }
 
 std::optional<Date> AppcastUpdater::lastCheck() const
 {
@@ -111,7 +115,7 @@ void AppcastUpdater::enter(Phase phase)
 void AppcastUpdater::scheduleNextCheck()
 {
     m_nextCheck.reset();
-    if (!m_listener || !isOn() || feed().isEmpty())
+    if (!isOn())
         return;
     const double delay = secondsUntilNextCheck();
     if (delay > 0)
@@ -121,12 +125,13 @@ void AppcastUpdater::scheduleNextCheck()
 
 double AppcastUpdater::secondsUntilNextCheck() const
 {
+    const double untilRetry = m_retryAt ? std::max(0.0, *m_retryAt - m_services.time.now()) : 0;
     const std::optional<Date> last = lastCheck();
     if (!last)
-        return 0;
+        return untilRetry;
     const double elapsed = m_services.time.date().unixSeconds() - last->unixSeconds();
     // A last check in the future means that the clock was set back since.
-    return elapsed < 0 ? 0 : std::max(0.0, checkIntervalSeconds - elapsed);
+    return std::max(untilRetry, elapsed < 0 ? 0 : checkIntervalSeconds - elapsed);
 }
 
 void AppcastUpdater::check() { check(Origin::User); }
@@ -142,7 +147,7 @@ void AppcastUpdater::check(Origin origin)
 
     m_nextCheck.reset(); // It is this one, or will be scheduled again when this one is over.
     m_origin = origin;
-    m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
+    m_retryAt = m_services.time.now() + retrySeconds; // Unless this one succeeds.
     enter(Phase::Loading);
     const QUrl url(feed(), QUrl::StrictMode);
     if (feed().isEmpty() || !url.isValid())
@@ -160,13 +165,19 @@ void AppcastUpdater::loaded(const Result<QByteArray, QString>& document)
             //: %1: why, as a sentence.
             { tr("The update feed cannot be read: %1").arg(document.error()),
                 UpdateError::download });
-    const auto items = Appcast::parse(*document, u"linux"_s);
-    if (!items)
+    auto parsed = Appcast::parse(*document, u"linux"_s);
+    if (!parsed)
         return abort(
             //: %1: why, as a sentence.
-            { tr("The update feed makes no sense: %1").arg(items.error()),
+            { tr("The update feed makes no sense: %1").arg(parsed.error()),
                 UpdateError::appcastParse });
-    const AppcastItem* const item = Appcast::newest(*items, m_version);
+    QList<AppcastItem> items = std::move(parsed).value();
+    noteSuccess();
+    // The feed decides what is opened, so it must not be able to start just any program, nor to
+    // reach what listens on this machine alone.
+    items.removeIf(
+        [this](const AppcastItem& item) { return !FeedLoader::mayLead(QUrl(feed()), item.page); });
+    const AppcastItem* const item = Appcast::newest(items, m_version);
     const bool isSkipped = item && m_origin == Origin::Schedule
         && DefaultsValue::asString(m_services.defaults.value(skippedKey)) == item->version;
     if (item && !isSkipped)
@@ -191,22 +202,30 @@ void AppcastUpdater::chosen(UpdateChoice choice, const AppcastItem& item)
     m_listener->userChose(choice, update);
     if (choice == UpdateChoice::Skip)
         m_services.defaults.setValue(skippedKey, item.version);
-    if (choice == UpdateChoice::Install)
-        openDownloadPage(item, update);
+    const QString problem
+        = choice == UpdateChoice::Install ? openDownloadPage(item, update) : QString();
+    if (!problem.isEmpty())
+        m_services.user.showOutcome(problem);
     finish({});
 }
 
-void AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem& update)
+/// Returns what went wrong, for the user.
+QString AppcastUpdater::openDownloadPage(const AppcastItem& item, const UpdateItem& update)
 {
     m_services.defaults.remove(skippedKey);
     m_listener->installing(update);
-    // The feed decides what is opened, so it must not be able to start just any program.
-    if (!FeedLoader::isSecure(item.page))
-        m_listener->downloadFailed(
-            update, { tr("The update feed names no secure page."), UpdateError::download });
-    else if (!m_services.desktop.open(item.page))
-        m_listener->downloadFailed(
-            update, { tr("The download page cannot be opened."), UpdateError::download });
+    if (m_services.desktop.open(item.page))
+        return {};
+    const QString problem = tr("The download page cannot be opened.");
+    m_listener->downloadFailed(update, { problem, UpdateError::download });
+    return problem;
+}
+
+/// Only a feed that was read and makes sense is a check.
+void AppcastUpdater::noteSuccess()
+{
+    m_retryAt.reset();
+    m_services.defaults.setValue(lastCheckKey, m_services.time.date().unixSeconds());
 }
 
 void AppcastUpdater::upToDate()

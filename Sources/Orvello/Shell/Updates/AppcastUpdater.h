@@ -24,6 +24,7 @@ class AppcastUpdater final : public QObject, public Updater, private UpdateSched
 
 public:
     static constexpr double checkIntervalSeconds = 86400;
+    static constexpr double retrySeconds = 3300; ///< After a check that could not read the feed.
 
     /// What the updater works with. Everything must outlive it.
     struct Services {
@@ -62,7 +63,9 @@ private:
     void loaded(const Result<QByteArray, QString>& document);
     void offer(const AppcastItem& item);
     void chosen(UpdateChoice choice, const AppcastItem& item);
-    void openDownloadPage(const AppcastItem& item, const UpdateItem& update);
+    QString openDownloadPage(const AppcastItem& item, const UpdateItem& update);
+    bool hasFeed() const { return m_listener && !feed().isEmpty(); }
+    void noteSuccess();
     void upToDate();
     void abort(const UpdateError& error);
     void finish(const QString& outcome);
@@ -77,6 +80,7 @@ private:
     std::unique_ptr<TimeSource::Ticket> m_nextCheck; ///< Or the moment to schedule it.
     Phase m_phase = Phase::Idle;
     Origin m_origin = Origin::Schedule;
+    std::optional<double> m_retryAt; ///< No scheduled check comes before that.
 };
 
 } // namespace Orvello

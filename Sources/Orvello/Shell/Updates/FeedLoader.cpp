@@ -25,7 +25,17 @@ void dispose(QNetworkReply* reply)
 
 bool isThisMachine(const QString& host)
 {
-    return host == u"localhost" || QHostAddress(host).isLoopback();
+    if (host == u"localhost" || host.endsWith(u".localhost"_s))
+        return true;
+    const QHostAddress address(host);
+    bool isIPv4 = false;
+    const QHostAddress asIPv4(address.toIPv4Address(&isIPv4)); // Some are written as IPv6.
+    const auto isHere = [](const QHostAddress& here) {
+        // What is for every address leads here, too.
+        return here.isLoopback() || here == QHostAddress(QHostAddress::AnyIPv4)
+            || here == QHostAddress(QHostAddress::AnyIPv6);
+    };
+    return isHere(address) || (isIPv4 && isHere(asIPv4));
 }
 
 } // namespace
@@ -45,6 +55,11 @@ bool FeedLoader::isSecure(const QUrl& url)
     return url.scheme() == u"https" || (url.scheme() == u"http" && isThisMachine(url.host()));
 }
 
+bool FeedLoader::mayLead(const QUrl& source, const QUrl& target)
+{
+    return isSecure(target) && (!isThisMachine(target.host()) || isThisMachine(source.host()));
+}
+
 void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
 {
     m_answer = std::move(answer);
@@ -53,12 +68,15 @@ void FeedLoader::load(const QUrl& url, const QString& userAgent, Answer answer)
     request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
     // Compression would only let a small answer become a huge document.
     request.setRawHeader("Accept-Encoding", "identity");
+    // Else Qt names the user's language and country.
+    request.setRawHeader("Accept-Language", "*");
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // It has headers more.
 
     // A network of its own, so that no cookie and no dead connection outlives the document. Its
     // redirects never lead from TLS to anything else.
     m_reply.reset((new QNetworkAccessManager(this))->get(request));
-    connect(m_reply.get(), &QNetworkReply::redirected, this, [this](const QUrl& target) {
-        if (!isSecure(target))
+    connect(m_reply.get(), &QNetworkReply::redirected, this, [this, url](const QUrl& target) {
+        if (!mayLead(url, target))
             this->answer(Failure { tr("The server redirects to an insecure address.") });
     });
     connect(m_reply.get(), &QNetworkReply::readyRead, this, [this] {

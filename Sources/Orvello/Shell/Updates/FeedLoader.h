@@ -32,8 +32,13 @@ public:
     /// Whether a document may be read from there, or a person be sent there.
     [[nodiscard]] static bool isSecure(const QUrl& url);
 
-    /// Answers once, later, with the document or the reason why there is none, in words for people.
-    /// One document at a time: a new call takes the place of the one before, which is not answered.
+    /// The same for an address that a document at `source` names: what came over the network leads
+    /// nowhere on this machine.
+    [[nodiscard]] static bool mayLead(const QUrl& source, const QUrl& target);
+
+    /// The request says nothing of the user, not even the language. Answers once, later, with the
+    /// document or the reason why there is none, in words for people. One document at a time: a new
+    /// call takes the place of the one before, which is not answered.
     void load(const QUrl& url, const QString& userAgent, Answer answer);
 
 private:

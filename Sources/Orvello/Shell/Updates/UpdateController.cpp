@@ -69,6 +69,16 @@ void UpdateController::setChecksAutomatically(bool on)
 
 bool UpdateController::canCheckForUpdates() const { return m_services.updater.canCheck(); }
 
+bool UpdateController::hasFeed() const
+{
+    return !feedAddress().value_or(m_services.updater.builtInFeed().value_or(QString())).isEmpty();
+}
+
+bool UpdateController::mayAskPermission() const
+{
+    return !m_services.mayAsk || m_services.mayAsk();
+}
+
 QString UpdateController::lastCheckText() const
 {
     const std::optional<Date> last = m_services.updater.lastCheck();

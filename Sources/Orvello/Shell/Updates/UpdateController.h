@@ -17,6 +17,7 @@ class UpdateController final : public QObject, private UpdateListener {
     Q_PROPERTY(bool checksAutomatically READ checksAutomatically WRITE setChecksAutomatically NOTIFY
             checksAutomaticallyChanged FINAL)
     Q_PROPERTY(bool canCheckForUpdates READ canCheckForUpdates NOTIFY checksChanged FINAL)
+    Q_PROPERTY(bool hasFeed READ hasFeed NOTIFY checksChanged FINAL)
     Q_PROPERTY(QString lastCheckText READ lastCheckText NOTIFY checksChanged FINAL)
 
 public:
@@ -25,6 +26,8 @@ public:
         Updater& updater;
         const UserDefaults& defaults;
         std::function<void()> activateApplication; ///< Activates it whatever else is active.
+        /// Whether nothing else is explaining something to the user; always so without one.
+        std::function<bool()> mayAsk = {};
     };
 
     explicit UpdateController(Services services, QObject* parent = nullptr);
@@ -38,6 +41,7 @@ public:
     void setChecksAutomatically(bool on);
 
     bool canCheckForUpdates() const; ///< False while a check is going on.
+    bool hasFeed() const; ///< Without a feed there is nothing to look for updates in.
     QString lastCheckText() const; ///< When there was a check, for people; empty before the first.
 
 Q_SIGNALS:
@@ -48,6 +52,7 @@ private:
     std::function<void()> onMainThread(void (UpdateController::*signal)());
 
     std::optional<QString> feedAddress() const override;
+    bool mayAskPermission() const override;
     void updateFound(const UpdateItem& item) override;
     void noUpdateFound(const UpdateError& error) override;
     void userChose(UpdateChoice choice, const UpdateItem& item) override;

@@ -191,4 +191,25 @@ struct ScriptListModelType {
     QML_UNCREATABLE("The program makes it.")
 };
 
+struct ScriptSearchType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ScriptSearch)
+    QML_NAMED_ELEMENT(ScriptSearch)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct DeletedScriptsModelType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::DeletedScriptsModel)
+    QML_NAMED_ELEMENT(DeletedScriptsModel)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct LibraryNoticesType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::LibraryNotices)
+    QML_NAMED_ELEMENT(LibraryNotices)
+    QML_UNCREATABLE("The program makes it.")
+};
+
 } // namespace Orvello::QmlTypes

@@ -4,6 +4,8 @@
 #include "Orvello/Shell/Windows/ViewWindow.h"
 #include "Orvello/Shell/Windows/WindowPlacement.h"
 
+#include <utility>
+
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -15,8 +17,9 @@ constexpr QSize smallestSize(660, 440);
 
 } // namespace
 
-LibraryWindow::LibraryWindow(const Services& services)
+LibraryWindow::LibraryWindow(const Services& services, PanelSpace panel)
     : m_library(services)
+    , m_panel(std::move(panel))
 {
     m_view.setTitle(tr("Scripts"));
     m_view.setFlags(ViewWindow::titledAndClosable | Qt::WindowMaximizeButtonHint);
@@ -29,6 +32,9 @@ LibraryWindow::LibraryWindow(const Services& services)
 
 LibraryWindow::~LibraryWindow() = default;
 
-void LibraryWindow::bringToFront() { WindowPlacement::bringToFront(m_view); }
+void LibraryWindow::bringToFront()
+{
+    WindowPlacement::bringToFront(m_view, { m_view.size(), smallestSize }, m_panel);
+}
 
 } // namespace Orvello

@@ -15,7 +15,7 @@ class LibraryWindow final : public ShellWindow {
 public:
     using Services = DeckImports::Services; ///< All of them must outlive the window.
 
-    explicit LibraryWindow(const Services& services);
+    explicit LibraryWindow(const Services& services, PanelSpace panel = {});
     ~LibraryWindow() override;
 
     void bringToFront() override;
@@ -24,6 +24,7 @@ public:
 
 private:
     LibraryViewModel m_library;
+    const PanelSpace m_panel;
     QQuickView m_view;
 };
 

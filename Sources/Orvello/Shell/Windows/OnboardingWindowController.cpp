@@ -27,11 +27,12 @@ int initialPage()
 } // namespace
 
 OnboardingWindowController::OnboardingWindowController(
-    const Services& services, std::function<void()> onFinish)
+    const Services& services, std::function<void()> onFinish, PanelSpace panel)
     : m_settings(services.settings)
     , m_onFinish(std::move(onFinish))
     , m_tour(initialPage(), services.workspace.isInstalled(u"us.zoom.xos"_s), services.facts)
     , m_shortcuts(services.hotKeys, ShortcutList::Width::Narrow)
+    , m_panel(std::move(panel))
 {
     m_view.setTitle(tr("Welcome to Orvello"));
     m_view.setFlags(ViewWindow::titledAndClosable);
@@ -57,7 +58,7 @@ OnboardingWindowController::OnboardingWindowController(
 
 void OnboardingWindowController::bringToFront()
 {
-    WindowPlacement::bringToFront(m_view, contentSize);
+    WindowPlacement::bringToFrontFixed(m_view, { contentSize, contentSize }, m_panel);
 }
 
 bool OnboardingWindowController::eventFilter(QObject* watched, QEvent* event)

@@ -38,7 +38,8 @@ public:
 
     /// `onFinish` is called once, through the main event loop, whichever way the user leaves. It
     /// may destroy the window.
-    OnboardingWindowController(const Services& services, std::function<void()> onFinish);
+    OnboardingWindowController(
+        const Services& services, std::function<void()> onFinish, PanelSpace panel = {});
 
     void bringToFront() override;
 
@@ -56,6 +57,7 @@ private:
     bool m_finished = false;
     WelcomeTour m_tour;
     ShortcutList m_shortcuts;
+    const PanelSpace m_panel;
     QQuickView m_view;
 };
 

@@ -21,23 +21,31 @@ QtShellWindows::~QtShellWindows() = default;
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 {
-    return std::make_unique<LibraryWindow>(LibraryWindow::Services { m_services.library,
-        m_openDecks, m_services.presenters, m_services.openPanel, m_services.facts });
+    return std::make_unique<LibraryWindow>(
+        LibraryWindow::Services { m_services.library, m_openDecks, m_services.presenters,
+            m_services.openPanel, m_services.facts },
+        m_services.panel);
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
     return std::make_unique<SettingsWindow>(
         SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
-            m_services.hotKeys, m_services.facts, m_services.impress });
+            m_services.hotKeys, m_services.facts, m_services.impress },
+        m_services.panel);
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()> onFinish)
 {
     return std::make_unique<OnboardingWindowController>(
         OnboardingWindowController::Services { m_services.settings, m_services.workspace,
+<<<<<<< HEAD
             m_services.windowChrome, m_services.hotKeys, m_services.voice, m_services.facts },
         std::move(onFinish));
+=======
+            m_services.windowChrome, m_services.hotKeys, m_services.facts },
+        std::move(onFinish), m_services.panel);
+>>>>>>> safe
 }
 
 std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)

@@ -12,13 +12,16 @@
 
 #include "Version.h"
 
+#include <utility>
+
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
-SettingsWindow::SettingsWindow(const Services& services)
+SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
     : m_form(services.settings)
     , m_shortcuts(services.hotKeys, ShortcutList::Width::Full)
+    , m_panel(std::move(panel))
 {
     m_view.setTitle(tr("Orvello Settings"));
     m_view.setFlags(ViewWindow::titledAndClosable);
@@ -38,6 +41,9 @@ SettingsWindow::SettingsWindow(const Services& services)
     followSystemPalette(m_view);
 }
 
-void SettingsWindow::bringToFront() { WindowPlacement::bringToFront(m_view, contentSize); }
+void SettingsWindow::bringToFront()
+{
+    WindowPlacement::bringToFrontFixed(m_view, { contentSize, smallestSize }, m_panel);
+}
 
 } // namespace Orvello

@@ -22,6 +22,7 @@ class SettingsWindow final : public ShellWindow {
 public:
     /// In points, where the screen has room for it.
     static constexpr QSize contentSize { 500, 780 };
+    static constexpr QSize smallestSize { 500, 260 }; ///< The form scrolls.
 
     /// All of them must outlive the window.
     struct Services {
@@ -33,7 +34,7 @@ public:
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
 
-    explicit SettingsWindow(const Services& services);
+    explicit SettingsWindow(const Services& services, PanelSpace panel = {});
 
     void bringToFront() override;
 
@@ -42,6 +43,7 @@ public:
 private:
     SettingsForm m_form;
     ShortcutList m_shortcuts;
+    const PanelSpace m_panel;
     QQuickView m_view;
 };
 

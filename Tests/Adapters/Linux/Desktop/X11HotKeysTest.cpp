@@ -246,17 +246,41 @@ TEST_F(X11HotKeysTest, firesOnceHoweverLongTheKeyIsHeld)
     EXPECT_TRUE(waitForPresses(2));
 }
 
-TEST_F(X11HotKeysTest, keepsItsPlaceOnOtherLayouts)
+TEST_F(X11HotKeysTest, goesWithItsLetterOnOtherLayouts)
 {
     const auto reference = keys->registerHotKey({ { HotKey::keyP, optionCommand }, { 0, 1 } });
 
     std::size_t count = 0;
-    for (const QString& layout : { u"fr"_s, u"ru"_s, u"us,ru"_s, u"us(dvorak)"_s, u"us"_s }) {
+    for (const auto& [layout, place] : { std::pair(u"fr"_s, Place::p), // AZERTY has it there, too,
+             std::pair(u"ru"_s, Place::p), // a layout without the letter counts as American,
+             std::pair(u"ru,us(dvorak)"_s, Place::r), // unless a second layout has it,
+             std::pair(u"us,ru"_s, Place::p), std::pair(u"us(dvorak)"_s, Place::r),
+             std::pair(u"us(colemak)"_s, Place::r), std::pair(u"us"_s, Place::p) }) {
         run(u"setxkbmap"_s, { layout });
         settle();
-        type({ Place::alt, Place::super, Place::p });
+        type({ Place::alt, Place::super, place });
         EXPECT_TRUE(waitForPresses(++count)) << qPrintable(layout);
     }
+}
+
+TEST_F(X11HotKeysTest, tellsWhichKeysDoNotWork)
+{
+    using Trouble = AssignedKeys::Trouble;
+    using Troubles = QHash<QString, Trouble>;
+    {
+        OtherProgram other;
+        other.grabKey(Place::p);
+        const auto lost = keys->registerHotKey(
+            { { HotKey::keyP, optionCommand }, { 0, 1 }, HotKeyPurpose { u"toggle"_s, {} } });
+        EXPECT_EQ(keys->assignedKeys().troubles(), (Troubles { { u"toggle"_s, Trouble::Taken } }));
+    }
+    const auto own = keys->registerHotKey(
+        { { HotKey::keyP, optionCommand }, { 0, 1 }, HotKeyPurpose { u"toggle"_s, {} } });
+    EXPECT_EQ(keys->assignedKeys().troubles(), Troubles());
+
+    run(u"xmodmap"_s, { u"-e"_s, u"clear mod4"_s });
+    settle();
+    EXPECT_EQ(keys->assignedKeys().troubles(), (Troubles { { u"toggle"_s, Trouble::Absent } }));
 }
 
 TEST_F(X11HotKeysTest, followsAModifierThatMovesToAnotherBit)

@@ -243,6 +243,75 @@ TEST_F(JsonUserDefaultsTest, keepsTheOldFileAndTheNewValueWhenTheDiskIsFull)
     EXPECT_EQ(contents(path), "{\n    \"fontSize\": 20,\n    \"speed\": 50\n}\n");
 }
 
+TEST_F(JsonUserDefaultsTest, keepsWhatAnotherProcessChangedMeanwhile)
+{
+    open().setValue(u"speed"_s, 40.5);
+    JsonUserDefaults first = open();
+    JsonUserDefaults second = open();
+
+    second.setValue(u"speed"_s, 60.5);
+    second.setValue(u"fontSize"_s, 20.5);
+    first.setValue(u"stealthMode"_s, false);
+    EXPECT_EQ(open().storedValues(),
+        (QVariantMap {
+            { u"fontSize"_s, 20.5 }, { u"speed"_s, 60.5 }, { u"stealthMode"_s, false } }));
+
+    second.setValue(u"stealthMode"_s, true);
+    first.setValue(u"voiceFollow"_s, true); // What was set here before counts as it was set.
+    EXPECT_EQ(open().value(u"stealthMode"_s), QVariant(false));
+
+    first.remove(u"stealthMode"_s);
+    second.setValue(u"speed"_s, 70.5);
+    first.setValue(u"voiceFollow"_s, false);
+    EXPECT_FALSE(open().value(u"stealthMode"_s).isValid());
+    EXPECT_EQ(open().value(u"speed"_s), QVariant(70.5));
+}
+
+TEST_F(JsonUserDefaultsTest, keepsAFileThatAnotherProcessDamagedMeanwhile)
+{
+    JsonUserDefaults defaults = open();
+    defaults.setValue(u"speed"_s, 40.5);
+    putFile("{\"speed\":");
+
+    defaults.setValue(u"fontSize"_s, 20.5);
+
+    EXPECT_EQ(
+        open().storedValues(), (QVariantMap { { u"fontSize"_s, 20.5 }, { u"speed"_s, 40.5 } }));
+    EXPECT_EQ(contents(path + u".damaged"_s), "{\"speed\":");
+}
+
+TEST_F(JsonUserDefaultsTest, takesTheLastOfTheValuesOfOneKey)
+{
+    putFile("{\"speed\": 40.5, \"fontSize\": 20.5, \"speed\": 60.5, \"a\": 1, \"speed\": 80.5}");
+
+    EXPECT_EQ(open().value(u"speed"_s), QVariant(80.5));
+}
+
+TEST_F(JsonUserDefaultsTest, namesTheFileThatItCouldNotRead)
+{
+    EXPECT_EQ(open().damagedFile(), u""_s);
+    putFile("{");
+    JsonUserDefaults defaults = open();
+    EXPECT_EQ(defaults.damagedFile(), u"app.orvello.json"_s);
+
+    defaults.setValue(u"speed"_s, 40.5);
+
+    EXPECT_EQ(defaults.damagedFile(), u"app.orvello.json.damaged"_s);
+}
+
+TEST_F(JsonUserDefaultsTest, keepsPreferencesForTheUsersEyesAlone)
+{
+    const mode_t before = ::umask(0);
+    open().setValue(u"speed"_s, 40.5);
+    ::umask(before);
+
+    struct stat status { };
+    ASSERT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600u);
+    ASSERT_EQ(::stat(QFile::encodeName(folder).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0700u);
+}
+
 TEST_F(JsonUserDefaultsTest, doesNotWaitForAPipeInTheFilesPlace)
 {
     QDir().mkpath(folder);

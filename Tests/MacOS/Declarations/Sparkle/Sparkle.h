@@ -26,6 +26,7 @@ typedef NS_ENUM(NSInteger, SPUUserUpdateChoice) {
 @protocol SPUUpdaterDelegate <NSObject>
 @optional
 - (nullable NSString*)feedURLStringForUpdater:(SPUUpdater*)updater;
+- (BOOL)updaterShouldPromptForPermissionToCheckForUpdates:(SPUUpdater*)updater;
 - (void)updater:(SPUUpdater*)updater didFindValidUpdate:(SUAppcastItem*)item;
 - (void)updaterDidNotFindUpdate:(SPUUpdater*)updater error:(NSError*)error;
 - (void)updater:(SPUUpdater*)updater

@@ -1,8 +1,9 @@
 #include "Orvello/Adapters/Linux/Desktop/FileDialog.h"
 
 #include <QFileDialog>
-#include <QFileInfo>
+#include <QGuiApplication>
 #include <QMimeDatabase>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -53,15 +54,12 @@ std::optional<QString> FileDialog::chooseFile(const QString& message, const QLis
     if (kinds.size() > 1)
         filters.prepend(filterForAll(kinds));
     dialog.setNameFilters(filters);
+    // In front of the window that asks for it, which is no widget.
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    const QString file = dialog.selectedFiles().first();
-    // A name can be typed past the filter.
-    const QString extension = QFileInfo(file).suffix();
-    const bool isAllowed = std::ranges::any_of(kinds, [&](const FileKind& kind) {
-        return extension.compare(kind.extension, Qt::CaseInsensitive) == 0;
-    });
-    return isAllowed ? std::optional(file) : std::nullopt;
+    return dialog.selectedFiles().first(); // A name can be typed past the filter.
 }
 
 } // namespace Orvello

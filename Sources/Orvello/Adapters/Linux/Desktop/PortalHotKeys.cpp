@@ -113,6 +113,9 @@ PortalHotKeys::PortalHotKeys(QDBusConnection bus, QString applicationID, HotKeys
     , m_portalWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
     , m_revivalsLeft(revivalLimit)
 {
+    const AssignedKeys& ofFallback = m_fallback.assignedKeys();
+    connect(&ofFallback, &AssignedKeys::troublesChanged, this,
+        [this, &ofFallback] { assignedKeys().setTroubles(ofFallback.troubles()); });
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
     // Qt looks the type up by name when it connects the slot, before it has met one on the bus.

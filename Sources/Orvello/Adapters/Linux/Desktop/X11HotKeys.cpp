@@ -25,6 +25,7 @@ enum class X11HotKeys::Holding { Own, NotOnKeyboard, OfAnotherProgram };
 struct X11HotKeys::Grab final : Reference {
     Grab(X11HotKeys& service, const HotKeyName& keyName, const HotKeyRequest& request)
         : keys(service)
+        , purpose(request.purpose ? request.purpose->name : QString())
         , name(keyName)
         , modifiers(request.key.modifiers)
         , id(request.id)
@@ -35,6 +36,7 @@ struct X11HotKeys::Grab final : Reference {
     std::string label() const { return hotKeyLabel(name, modifiers); }
 
     X11HotKeys& keys;
+    const QString purpose; ///< Its name; empty for none.
     const HotKeyName& name;
     const std::uint32_t modifiers;
     const HotKeyID id;
@@ -75,6 +77,7 @@ std::unique_ptr<HotKeys::Reference> X11HotKeys::registerHotKey(const HotKeyReque
         return nullptr;
     auto grabbed = std::make_unique<Grab>(*this, *name, request);
     acquire(*grabbed);
+    tell(*grabbed);
     if (grabbed->holding == Holding::OfAnotherProgram)
         return nullptr;
     m_grabs.push_back(grabbed.get());
@@ -86,7 +89,8 @@ QString X11HotKeys::label(const HotKey& key) const { return hotKeyText(key); }
 /// Tries to get the key, and logs it when losing it is news.
 void X11HotKeys::acquire(Grab& grab)
 {
-    grab.serverKeyCode = m_keyboard->keyCode(grab.name.place);
+    const std::uint8_t ofLetter = m_keyboard->keyCodeOf(grab.name.symbol);
+    grab.serverKeyCode = ofLetter != 0 ? ofLetter : m_keyboard->keyCode(grab.name.place);
     grab.serverModifiers = static_cast<std::uint16_t>(
         (grab.modifiers & HotKey::optionKey ? m_keyboard->altMask() : 0)
         | (grab.modifiers & HotKey::commandKey ? m_keyboard->superMask() : 0));
@@ -103,6 +107,20 @@ void X11HotKeys::acquire(Grab& grab)
         AppLog::write("HOTKEY %@ is not available on this keyboard", grab.label());
     else if (holding == Holding::OfAnotherProgram)
         AppLog::write("HOTKEY %@ belongs to another program", grab.label());
+}
+
+/// Lets the windows say whether the key works.
+void X11HotKeys::tell(const Grab& grab)
+{
+    if (grab.purpose.isEmpty())
+        return;
+    auto troubles = assignedKeys().troubles();
+    troubles.remove(grab.purpose);
+    if (grab.holding == Holding::NotOnKeyboard)
+        troubles.insert(grab.purpose, AssignedKeys::Trouble::Absent);
+    else if (grab.holding == Holding::OfAnotherProgram)
+        troubles.insert(grab.purpose, AssignedKeys::Trouble::Taken);
+    assignedKeys().setTroubles(troubles);
 }
 
 /// A key code of 0 would grab every key, and a keyboard without Alt or Super the plain one.
@@ -196,8 +214,10 @@ void X11HotKeys::keyboardChanged()
     for (const Grab* const grab : m_grabs)
         release(*grab);
     m_keyboard->load();
-    for (Grab* const grab : m_grabs)
+    for (Grab* const grab : m_grabs) {
         acquire(*grab);
+        tell(*grab);
+    }
 }
 
 } // namespace Orvello

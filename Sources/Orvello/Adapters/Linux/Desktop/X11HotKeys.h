@@ -18,7 +18,7 @@ namespace Orvello {
 class X11Keyboard;
 
 /// Hot keys as key grabs on the root windows of an X server, whatever Caps, Num and Scroll Lock
-/// are. Keys keep their place when the layout changes, and one that the keyboard lacks works as
+/// are. Keys go with their letter when the layout changes, and one that the keyboard lacks works as
 /// soon as the keyboard has it.
 class X11HotKeys final : public QObject, public HotKeys {
     Q_OBJECT
@@ -42,6 +42,7 @@ private:
     void pressed(std::uint8_t keyCode, std::uint16_t state);
     void keyboardChanged();
     void acquire(Grab& grab);
+    void tell(const Grab& grab);
     bool isOnKeyboard(const Grab& grab) const;
     bool grabKey(const Grab& grab);
     void release(const Grab& grab);

@@ -86,6 +86,26 @@ std::uint8_t X11Keyboard::keyCode(KeyName name) const
     return code <= 255 ? static_cast<std::uint8_t>(code) : std::uint8_t { 0 };
 }
 
+std::uint8_t X11Keyboard::keyCodeOf(const char* symbol) const
+{
+    if (!m_keymap)
+        return 0;
+    xkb_keymap* const keymap = m_keymap.get();
+    const xkb_keysym_t wanted = xkb_keysym_from_name(symbol, XKB_KEYSYM_NO_FLAGS);
+    const xkb_keycode_t last = std::min<xkb_keycode_t>(xkb_keymap_max_keycode(keymap), 255);
+    for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(keymap); ++layout) {
+        for (xkb_keycode_t code = xkb_keymap_min_keycode(keymap); code <= last; ++code) {
+            const xkb_keysym_t* symbols = nullptr;
+            const bool hasLayout = layout < xkb_keymap_num_layouts_for_key(keymap, code);
+            if (hasLayout
+                && xkb_keymap_key_get_syms_by_level(keymap, code, layout, 0, &symbols) == 1
+                && *symbols == wanted)
+                return static_cast<std::uint8_t>(code);
+        }
+    }
+    return 0;
+}
+
 std::uint16_t X11Keyboard::relevantMask() const
 {
     constexpr unsigned all = 0xFF;

@@ -27,6 +27,9 @@ public:
     bool isChangeEvent(std::uint8_t eventType) const; ///< After such an event, load again.
 
     std::uint8_t keyCode(KeyName name) const; ///< 0 for a key that the keyboard lacks.
+    /// The key that types the symbol by itself, in the first of the layouts that has one; 0 for
+    /// none.
+    std::uint8_t keyCodeOf(const char* symbol) const;
     std::uint16_t altMask() const { return m_altMask; }
     std::uint16_t superMask() const { return m_superMask; }
     /// Every combination of the locks (Caps, Num and Scroll Lock), none included.

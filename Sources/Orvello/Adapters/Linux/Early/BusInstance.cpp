@@ -1,9 +1,10 @@
 #include "Orvello/Adapters/Linux/Early/BusInstance.h"
 
+#include "Orvello/Foundation/PrivateFolder.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QDir>
 #include <QUuid>
 
 #include <utility>
@@ -108,7 +109,7 @@ std::optional<QStringList> BusInstance::handOver(const ProgramStart& start)
 RunningInstance::Outcome BusInstance::claimLock()
 {
     // Where no file can be made, nothing of the library can be written either.
-    if (!QDir().mkpath(m_lockFolder) || m_lock.tryLock()
+    if (!makePrivateFolder(m_lockFolder) || m_lock.tryLock()
         || m_lock.error() != QLockFile::LockFailedError)
         return { Claim::Granted, {} };
     return { Claim::Unanswered,

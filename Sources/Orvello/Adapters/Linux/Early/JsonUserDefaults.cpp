@@ -1,9 +1,9 @@
 #include "Orvello/Adapters/Linux/Early/JsonUserDefaults.h"
 
 #include "Orvello/Foundation/AtomicFile.h"
+#include "Orvello/Foundation/PrivateFolder.h"
 #include "Orvello/Shell/Launch/LaunchArguments.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -59,16 +59,20 @@ void JsonUserDefaults::setValue(const QString& key, const QVariant& value)
         remove(key);
         return;
     }
-    m_stored.insert(key, QJsonValue::fromVariant(value));
-    save();
+    change(key, QJsonValue::fromVariant(value));
 }
 
 void JsonUserDefaults::remove(const QString& key)
 {
-    if (m_stored.contains(key)) {
-        m_stored.remove(key);
-        save();
-    }
+    if (m_stored.contains(key))
+        change(key, QJsonValue(QJsonValue::Undefined));
+}
+
+void JsonUserDefaults::change(const QString& key, const QJsonValue& value)
+{
+    m_changed[key] = value;
+    m_stored.insert(key, value); // An undefined value removes the key.
+    save();
 }
 
 void JsonUserDefaults::load()
@@ -78,19 +82,33 @@ void JsonUserDefaults::load()
     const std::optional<QJsonObject> stored = readPreferences(m_path);
     m_stored = stored.value_or(QJsonObject {});
     m_isFileDamaged = !stored;
+    if (m_isFileDamaged)
+        m_damagedFile = QFileInfo(m_path).fileName();
 }
 
 void JsonUserDefaults::save()
 {
-    QDir().mkpath(QFileInfo(m_path).path());
+    makePrivateFolder(QFileInfo(m_path).path());
+    if (const std::optional<QJsonObject> current = readPreferences(m_path)) {
+        m_isFileDamaged = false;
+        m_stored = *current;
+        for (auto changed = m_changed.begin(); changed != m_changed.end(); ++changed)
+            m_stored.insert(changed.key(), changed.value());
+    } else {
+        m_isFileDamaged = QFileInfo::exists(m_path);
+    }
     if (m_isFileDamaged && !moveDamagedFileAside())
         return;
-    static_cast<void>(AtomicFile::replace(m_path, QJsonDocument(m_stored).toJson().toStdString()));
+    if (AtomicFile::replace(m_path, QJsonDocument(m_stored).toJson().toStdString()))
+        m_keeper.flushSoon(m_path);
 }
 
 bool JsonUserDefaults::moveDamagedFileAside()
 {
-    m_isFileDamaged = !QFile::rename(m_path, unusedName(m_path + u".damaged"_s));
+    const QString name = unusedName(m_path + u".damaged"_s);
+    m_isFileDamaged = !QFile::rename(m_path, name);
+    if (!m_isFileDamaged)
+        m_damagedFile = QFileInfo(name).fileName();
     return !m_isFileDamaged;
 }
 

@@ -37,6 +37,12 @@ Orvello::UpdateError described(NSError* error)
     return feed ? Orvello::nsString(*feed) : nil;
 }
 
+- (BOOL)updaterShouldPromptForPermissionToCheckForUpdates:(SPUUpdater*)updater
+{
+    (void)updater;
+    return !self.target || self.target->mayAskPermission();
+}
+
 - (void)updater:(SPUUpdater*)updater didFindValidUpdate:(SUAppcastItem*)item
 {
     (void)updater;
