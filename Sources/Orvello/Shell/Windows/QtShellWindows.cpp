@@ -39,13 +39,8 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeOnboarding(std::function<void()
 {
     return std::make_unique<OnboardingWindowController>(
         OnboardingWindowController::Services { m_services.settings, m_services.workspace,
-<<<<<<< HEAD
             m_services.windowChrome, m_services.hotKeys, m_services.voice, m_services.facts },
-        std::move(onFinish));
-=======
-            m_services.windowChrome, m_services.hotKeys, m_services.facts },
         std::move(onFinish), m_services.panel);
->>>>>>> safe
 }
 
 std::unique_ptr<StatusItem> QtShellWindows::makeStatusItem(Menu& menu)
