@@ -104,7 +104,8 @@ TEST_P(TruthfulTextsTest, namesNothingInTheTourThatTheMachineLacks)
     workspace.installed.append(u"us.zoom.xos"_s);
     for (const char* const page : { "0", "1", "2" }) {
         qputenv("ORVELLO_ONBOARDING_PAGE", page);
-        OnboardingWindowController window({ settings, workspace, chrome, keys, facts }, [] {});
+        OnboardingWindowController window(
+            { settings, workspace, chrome, keys, *engine, facts }, [] {});
         window.view().show();
         drainEvents();
 
