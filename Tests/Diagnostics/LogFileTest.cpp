@@ -40,13 +40,13 @@ TEST_F(LogFileTest, isClosedUntilItIsOpened)
     EXPECT_FALSE(fs::exists(path));
 }
 
-TEST_F(LogFileTest, opensForAppendingWithTheUsualPermissions)
+TEST_F(LogFileTest, opensForAppendingAndForItsOwnerAlone)
 {
     const mode_t mask = ::umask(0);
     file.open(path);
     ::umask(mask);
 
-    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0644));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0600));
     const int flags = ::fcntl(descriptor, F_GETFL);
     EXPECT_EQ(flags & O_ACCMODE, O_WRONLY);
     EXPECT_TRUE(flags & O_APPEND);

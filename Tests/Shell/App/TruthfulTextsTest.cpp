@@ -88,6 +88,8 @@ TEST_P(TruthfulTextsTest, namesNothingInTheScriptsWindowThatTheMachineLacks)
 {
     LibraryServices services { { LibraryServices::script(u"Talk"_s, u"Hello all"_s) } };
     services.facts = facts;
+    services.presenters = PresenterTable();
+    services.presenters.add(services.impress.row()); // As the program offers them there.
     LibraryWindow window(services.ofWindow());
     window.view().show();
     drainEvents();
