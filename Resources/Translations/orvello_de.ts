@@ -1381,7 +1381,7 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Nur das Fenster teilen</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
 </context>

@@ -1381,7 +1381,7 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Comparte solo la ventana</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
 </context>

@@ -1381,7 +1381,7 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Partagez seulement la fenêtre</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
 </context>

@@ -1378,7 +1378,7 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>ウインドウだけを共有</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
 </context>

@@ -1381,7 +1381,7 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Compartilhe só a janela</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
 </context>

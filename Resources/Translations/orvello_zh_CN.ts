@@ -1378,7 +1378,7 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>只共享窗口</translation>
     </message>
     <message>
-        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
+        <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
 </context>

@@ -14,7 +14,7 @@ from desktop import App, Desktop, SOURCES, wait_until
 DRAG_SOURCE = pathlib.Path(os.environ["ORVELLO_DRAG_SOURCE"]).resolve()
 DECK = SOURCES / "Tests" / "Presentations" / "Decks" / "Samples" / "talk.pptx"
 SEARCH_FIELD = 40 # Its height with its margins, above the list.
-FILE_DIALOG = "Choose a PowerPoint presentation — Orvello imports its speaker notes."
+FILE_DIALOG = "Choose a presentation — Orvello imports its speaker notes."
 
 
 def write_deck_without_notes(path):

@@ -15,7 +15,7 @@ WIDTH, HEIGHT = 500, 780
 
 # The controls in the order in which the Tab key reaches them.
 CONTROLS = ["fontSize", "speed", "textColorName", "backgroundOpacity", "voiceFollow", "voiceSensitivity",
-            "countdownSeconds", "slideshowPauseKey", "slideSync", "stealthMode", "automatic checks", "Check Now"]
+            "test of the voice", "countdownSeconds", "slideshowPauseKey", "slideSync", "way to Impress", "stealthMode", "automatic checks", "Check Now"]
 # The sliders of the first section: rows of 42 points below its header.
 SLIDER_ROWS = {"fontSize": 59, "speed": 101, "backgroundOpacity": 185}
 SLIDER_LEFT, SLIDER_RIGHT = 236, 462
@@ -94,13 +94,15 @@ class SettingsWindowTest(unittest.TestCase):
 
     # What the window is
 
-    def test_it_is_centred_of_its_size_and_stays_so(self):
+    def test_it_opens_beside_the_prompter_of_its_size_and_stays_so(self):
         self.start()
         self.open()
         x, y, width, height = self.opened_at
 
         self.assertEqual((width, height), (WIDTH, HEIGHT))
-        self.assertLess(abs(x + WIDTH // 2 - self.desktop.width // 2), 4)
+        left, _, panel_width, _ = self.panel
+        self.assertTrue(x + width <= left or x >= left + panel_width, f"{self.opened_at} beside {self.panel}")
+        self.assertTrue(0 <= x <= self.desktop.width - width and 0 < y <= self.desktop.height - height)
         hints = self.desktop.run("xprop", "-id", str(self.window), "WM_NORMAL_HINTS")
         self.assertIn(f"minimum size: {WIDTH} by {HEIGHT}", hints)
         self.assertIn(f"maximum size: {WIDTH} by {HEIGHT}", hints)
@@ -331,7 +333,7 @@ class CheckNowTest(SettingsWindowTest):
         self.answers.set()
         self.app.wait_for_log("UPDATES aborted: ")
         wait_until(lambda: self.darkest_of_button() < 60, what="the button again")
-        self.assertIn("SULastCheckTime", App.defaults(self.desktop))
+        self.assertNotIn("SULastCheckTime", App.defaults(self.desktop), "what could not be read is no check")
 
 
     def test_automatic_checks_begin_and_end_at_once(self):

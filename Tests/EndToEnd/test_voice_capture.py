@@ -374,9 +374,10 @@ class VoiceCaptureTest(unittest.TestCase):
                 spoken = time.monotonic()
                 probe.wait_for("VAD speaking=1", since=spoken)
 
+                stopping = time.monotonic()
                 sound.stop_server()
                 stopped = time.monotonic()
-                closed = probe.wait_for("VAD speaking=0", since=stopped)
+                closed = probe.wait_for("VAD speaking=0", since=stopping)
                 self.assertLess(closed - stopped, 1.5, "nobody speaks into a microphone that is away")
                 sound.stop(player)
                 sound.start_server()

@@ -48,6 +48,7 @@ class ReleaseScriptsTest(unittest.TestCase):
         # A tree of its own, so that nothing of a real build is touched.
         for part in ("tools/macos", "Resources"):
             shutil.copytree(ROOT / part, self.folder / part)
+        shutil.copy(ROOT / "tools/appcast-entry", self.folder / "tools")
         self.record = self.folder / "record"
         self.record.touch()
         for name, body in STAND_INS.items():

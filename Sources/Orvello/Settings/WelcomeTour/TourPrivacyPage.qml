@@ -35,7 +35,7 @@ TourPage {
         //: %1: presentation programs, as in "Keynote or PowerPoint".
         text: root.facts.canHideWindows
               ? qsTr("Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.").arg(root.facts.presenters)
-              : qsTr("In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it. Some programs, recorders above all, capture the place of a window with everything that is in front of it.")
+              : qsTr("In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window's place with everything in front of it.")
     }
     TourZoomCard {
         // Where the desktop hides the prompter, whatever Zoom does, there is nothing to set.

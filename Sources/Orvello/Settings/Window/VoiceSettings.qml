@@ -51,6 +51,31 @@ SettingsSection {
             }
         }
     }
+    SettingsNote {
+        visible: root.voice.micAuthorized === false
+        isWarning: true
+        text: !root.facts.hasPrivacySettings
+              ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
+              : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
+    }
+    SettingsNote {
+        visible: root.voice.echoCancellation === VoiceActivityEngine.Unavailable
+        text: qsTr("Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.")
+    }
+    // Neither is true once nothing is being captured.
+    SettingsNote {
+        visible: root.voice.isListening && root.voice.aecActive
+        text: root.facts.isMac ? qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")
+                               : qsTr("Echo cancellation: on — audio playing from this computer won't move the prompter.")
+    }
+    SettingsNote {
+        visible: root.voice.isListening && root.voice.aecHoldReason !== ""
+        //: %1: why, such as "another app is using the microphone" or "Zoom is open".
+        text: qsTr("Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.").arg(root.voice.aecHoldReason)
+    }
+    SettingsNote {
+        text: qsTr("Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.")
+    }
     SettingsRow {
         readonly property SensitivityTest test: root.voice.sensitivityTest
 
@@ -81,30 +106,5 @@ SettingsSection {
         visible: root.voice.micAuthorized !== false && text !== ""
         isWarning: root.voice.trouble !== VoiceActivityEngine.None
         text: root.voice.hearing
-    }
-    SettingsNote {
-        visible: root.voice.micAuthorized === false
-        isWarning: true
-        text: !root.facts.hasPrivacySettings
-              ? qsTr("Microphone access is denied. Allow it in your desktop's privacy settings, then toggle voice-follow again.")
-              : qsTr("Microphone access is denied. Enable it in System Settings → Privacy & Security → Microphone, then toggle voice-follow again.")
-    }
-    SettingsNote {
-        visible: root.voice.echoCancellation === VoiceActivityEngine.Unavailable
-        text: qsTr("Echo cancellation: not available. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.")
-    }
-    // Neither is true once nothing is being captured.
-    SettingsNote {
-        visible: root.voice.isListening && root.voice.aecActive
-        text: root.facts.isMac ? qsTr("Echo cancellation: on — audio playing from this Mac won't move the prompter.")
-                               : qsTr("Echo cancellation: on — audio playing from this computer won't move the prompter.")
-    }
-    SettingsNote {
-        visible: root.voice.isListening && root.voice.aecHoldReason !== ""
-        //: %1: why, such as "another app is using the microphone" or "Zoom is open".
-        text: qsTr("Echo cancellation: paused (%1) so your voice keeps working in calls. On speakers, loud far-end audio may nudge the prompter — headphones avoid this.").arg(root.voice.aecHoldReason)
-    }
-    SettingsNote {
-        text: qsTr("Audio is analyzed on-device for loudness only. Nothing is recorded, recognized, or uploaded.")
     }
 }
