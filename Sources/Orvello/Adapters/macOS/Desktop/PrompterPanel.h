@@ -6,11 +6,11 @@
 
 /// What happens to the panel. C++ functions, because blocks could be tested on a Mac alone.
 struct PanelEvents {
-    std::function<void(CGFloat delta)> scrolled; ///< By this much, precisely.
-    std::function<void()> resized;
-    std::function<void()> resizeEnded; ///< The user let go of the edge.
-    std::function<void()> screensChanged; ///< One came, went, moved or has another size.
-    std::function<NSRect(NSRect frame)> placed; ///< Answers where a panel put there may stand.
+    std::function<void(CGFloat delta)> scrolled = {}; ///< By this much, precisely.
+    std::function<void()> resized = {};
+    std::function<void()> resizeEnded = {}; ///< The user let go of the edge.
+    std::function<void()> screensChanged = {}; ///< One came, went, moved or has another size.
+    std::function<NSRect(NSRect frame)> placed = {}; ///< Answers where a panel put there may stand.
 };
 
 /// The prompter's window class: it never becomes key or main, so that typing stays with the user's
