@@ -559,7 +559,9 @@ class VoiceCaptureTest(unittest.TestCase):
         sound.start_server()
         sound.control("set-default-sink", "speakers")
         sound.control("set-default-source", "microphone")
+        wait_until(lambda: sound.control("get-default-source").strip() == "microphone", what="the default source")
         probe = self.listening(sound)
+        self.assert_hears(sound, probe)  # The server may move the stream once more after it has begun.
         sound.play((self.far_end, "air"))
         spoken = time.monotonic()
         probe.wait_for("VAD speaking=1", since=spoken)
