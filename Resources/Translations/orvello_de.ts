@@ -1511,8 +1511,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Sie benutzen Zoom? Teilen Sie ein Fenster</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>Keine Einstellung von Zoom verbirgt hier den Prompter: Wird der ganze Bildschirm geteilt, sind Ihre Notizen zu sehen. Bei einem geteilten Fenster nie.</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>Keine Einstellung von Zoom verbirgt hier den Prompter: Wird der ganze Bildschirm geteilt, sind Ihre Notizen zu sehen.</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

@@ -1511,8 +1511,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>¿Usas Zoom? Comparte una ventana</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>Aquí ningún ajuste de Zoom oculta el prompter: al compartir la pantalla completa se ven tus notas. Al compartir una ventana, nunca.</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>Aquí ningún ajuste de Zoom oculta el prompter: al compartir la pantalla completa se ven tus notas.</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

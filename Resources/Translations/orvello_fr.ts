@@ -1511,8 +1511,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Vous utilisez Zoom ? Partagez une fenêtre</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>Ici, aucun réglage de Zoom ne cache le prompteur : le partage de l’écran entier montre vos notes. Celui d’une fenêtre, jamais.</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>Ici, aucun réglage de Zoom ne cache le prompteur : le partage de l’écran entier montre vos notes.</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

@@ -1508,8 +1508,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>Zoomをお使いなら、ウインドウの共有を</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>ここではZoomのどの設定もプロンプターを隠しません。画面全体の共有ではノートが見え、ウインドウひとつの共有では決して見えません。</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>ここではZoomのどの設定もプロンプターを隠しません。画面全体の共有ではノートが見えます。</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

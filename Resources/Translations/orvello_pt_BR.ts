@@ -1511,8 +1511,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Usa o Zoom? Compartilhe uma janela</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>Aqui nenhum ajuste do Zoom oculta o prompter: compartilhar a tela inteira mostra suas anotações. Compartilhar uma janela, nunca.</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>Aqui nenhum ajuste do Zoom oculta o prompter: compartilhar a tela inteira mostra suas anotações.</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

@@ -1508,8 +1508,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>使用 Zoom？请共享窗口</translation>
     </message>
     <message>
-        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.</source>
-        <translation>在这里，Zoom 的任何设置都无法隐藏提词器：共享整个屏幕会显示你的备注，共享一个窗口则绝不会。</translation>
+        <source>No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.</source>
+        <translation>在这里，Zoom 的任何设置都无法隐藏提词器：共享整个屏幕会显示你的备注。</translation>
     </message>
     <message>
         <source>Zoom&apos;s default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.</source>

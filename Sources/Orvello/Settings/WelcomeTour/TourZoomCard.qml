@@ -55,7 +55,7 @@ Rectangle {
         TourText {
             Layout.fillWidth: true
             text: !root.facts.zoomChoosesCapture
-                  ? qsTr("No setting of Zoom hides the prompter here: a share of the entire screen shows your notes. A share of one window never does.")
+                  ? qsTr("No setting of Zoom hides the prompter here: a share of the entire screen shows your notes.")
                   : qsTr("Zoom's default, Auto, usually works — but it picks a capture method per session, and one of them can show your notes.")
         }
         TourText {
