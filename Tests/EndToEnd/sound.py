@@ -78,8 +78,10 @@ class SoundServer(contextlib.ExitStack):
                 self.environment["ORVELLO_SOUND_BUS"] = pipe.readline().strip()
         bus = {"DBUS_SESSION_BUS_ADDRESS": self.environment["ORVELLO_SOUND_BUS"]}
         self.servers = [self.start(["pipewire"], bus)]
-        socket = pathlib.Path(self.environment["XDG_RUNTIME_DIR"]) / "pipewire-0"
-        wait_until(socket.exists, what="PipeWire")
+        runtime = pathlib.Path(self.environment["XDG_RUNTIME_DIR"])
+        # The server gives up when a client that asks early makes this folder between its look and its own attempt.
+        (runtime / "pulse").mkdir(mode=0o700, exist_ok=True)
+        wait_until((runtime / "pipewire-0").exists, what="PipeWire")
         self.servers += [self.start([name], bus) for name in ("wireplumber", "pipewire-pulse")]
         wait_until(self._answers, what="the sound server")
         for module in self.modules:
