@@ -612,6 +612,28 @@ TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnABadge)
     EXPECT_TRUE(engine.hoverPaused());
 }
 
+TEST_F(PrompterViewTest, tellsWhoPointsAtTheStatusWhatTheMicrophoneHears)
+{
+    const QPoint onBadge = placeOf(*textItem(u"paused"_s)).center().toPoint();
+    moveMouse(360, -50); // Where the pointer is already, nothing moves.
+    moveMouse(onBadge.x(), onBadge.y());
+    EXPECT_EQ(visibleTexts().size(), 1) << "nothing is heard, or wanted to be";
+
+    services.microphones.become({ .heard = u"Headset"_s });
+    settings.setVoiceFollow(true);
+    services.hear(0);
+    const QString heard = u"Listening to “Headset”."_s;
+    ASSERT_TRUE(textItem(heard));
+    EXPECT_TRUE(textItem(u"Echo cancellation is on."_s));
+    EXPECT_FALSE(placeOf(*textItem(heard)).intersects(placeOf(*textItem(u"hover pause"_s))));
+
+    services.microphones.become({ .heard = u"Headset"_s, .trouble = Microphones::Trouble::Muted });
+    EXPECT_TRUE(textItem(u"The microphone “Headset” is muted."_s));
+
+    moveMouse(360, 20);
+    EXPECT_FALSE(textItem(u"The microphone “Headset” is muted."_s));
+}
+
 TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnTheChip)
 {
     openDeck();

@@ -5,6 +5,7 @@
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QQuickItem>
 
@@ -31,6 +32,7 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"lines"_s, QVariant::fromValue(&m_lines) },
             { u"status"_s, QVariant::fromValue(&m_status) },
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+            { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
             { u"fontFamily"_s, PromptFont::family() },

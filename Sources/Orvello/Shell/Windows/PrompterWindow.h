@@ -28,7 +28,7 @@ public:
     struct Services {
         ScrollEngine& engine;
         SettingsStore& settings;
-        const VoiceActivityEngine& voice;
+        VoiceActivityEngine& voice;
         const PresentationMonitor& presentation;
         DeckController& deck;
         TimeSource& time;
