@@ -581,6 +581,14 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Der Text im Prompter wird gerade gelesen</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LiveDeckImport</name>
     <message>
         <source>%1 deck</source>

@@ -581,6 +581,14 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Le prompteur est en cours de lecture</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LiveDeckImport</name>
     <message>
         <source>%1 deck</source>

@@ -581,6 +581,14 @@ Nas configurações há um botão que desfaz isso.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>O prompter está sendo lido</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LiveDeckImport</name>
     <message>
         <source>%1 deck</source>

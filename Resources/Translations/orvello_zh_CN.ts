@@ -580,6 +580,14 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>正在阅读提词器</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LiveDeckImport</name>
     <message>
         <source>%1 deck</source>

@@ -74,7 +74,7 @@ public:
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
 
-    Wakefulness* wakefulness() override { return &m_wakefulness; }
+    Wakefulness& wakefulness() override { return m_wakefulness; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
