@@ -179,6 +179,12 @@ Scenes prompterScenes()
         prompter(u"scale 1.5, scrolling"_s, Wallpaper::Night, &scroll, { .scale = 1.5 }),
         prompter(u"faintest card"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.settings.setBackgroundOpacity(0.3); }),
+        prompter(u"outlined letters"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.services.settings.setBackgroundOpacity(0.15);
+                stage.services.settings.setTextColorName(u"Pink"_s);
+                scroll(stage);
+            }),
     };
 }
 

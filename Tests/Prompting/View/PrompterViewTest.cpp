@@ -300,6 +300,13 @@ TEST_F(PrompterViewTest, setsTheTextInSemiboldOfTheSettings)
     EXPECT_EQ(root().findChild<PromptText*>()->color(), QColor(48, 209, 88));
 }
 
+TEST_F(PrompterViewTest, tellsTheTextHowDarkTheCardIs)
+{
+    settings.setBackgroundOpacity(0.3);
+
+    EXPECT_EQ(root().findChild<PromptText*>()->cardOpacity(), 0.3);
+}
+
 TEST_F(PrompterViewTest, takesOverAChangedText)
 {
     services.prompt(u"Another"_s);

@@ -41,6 +41,7 @@ Item {
         engine: root.engine
         lines: root.lines
         color: root.settings.textColor
+        cardOpacity: root.settings.backgroundOpacity
 
         Accessible.role: Accessible.StaticText
         Accessible.name: root.lines.text
