@@ -116,6 +116,16 @@ Scenes prompterScenes()
             }),
         prompter(u"visible in recordings"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.prompter.setVisibleInRecordings(true); }),
+        prompter(u"visible in recordings, folded"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.settings.setRecordingBadgeFolded(true);
+            }),
+        prompter(u"share notice where nothing hides a window"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.setInCall(true);
+            }),
         prompter(u"capturable on purpose"_s, Wallpaper::Photo, [](PrompterStage&) {},
             { .forceCapturable = true }),
         prompter(u"slide chip, manual, first slide"_s, Wallpaper::Document, &openDeck),
