@@ -1106,6 +1106,18 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     </message>
 </context>
 <context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Hinweis ausgeschrieben zeigen</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Hinweis zum Auge verkleinern</translation>
+    </message>
+</context>
+<context>
     <name>ScriptRow</name>
     <message>
         <source>%2, %1</source>
@@ -1193,6 +1205,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Dismiss</source>
         <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>Der Stealth-Modus wirkt auf diesem Desktop nicht – wer Ihren Bildschirm sieht, sieht auch diesen Prompter.</translation>
     </message>
 </context>
 <context>

@@ -1106,6 +1106,18 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     </message>
 </context>
 <context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Mostrar el aviso completo</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Reducir el aviso a un ojo</translation>
+    </message>
+</context>
+<context>
     <name>ScriptRow</name>
     <message>
         <source>%2, %1</source>
@@ -1193,6 +1205,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Dismiss</source>
         <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>El modo sigiloso no tiene efecto en este escritorio: quien ve tu pantalla ve también este prompter.</translation>
     </message>
 </context>
 <context>

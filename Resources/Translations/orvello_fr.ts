@@ -1106,6 +1106,18 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     </message>
 </context>
 <context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Afficher l’indication en entier</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Réduire l’indication à un œil</translation>
+    </message>
+</context>
+<context>
     <name>ScriptRow</name>
     <message>
         <source>%2, %1</source>
@@ -1193,6 +1205,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Dismiss</source>
         <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>Le mode furtif est sans effet sur ce bureau — qui voit votre écran voit aussi ce prompteur.</translation>
     </message>
 </context>
 <context>

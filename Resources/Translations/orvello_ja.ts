@@ -1103,6 +1103,18 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     </message>
 </context>
 <context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>表示を全文に戻す</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>表示を目のアイコンにたたむ</translation>
+    </message>
+</context>
+<context>
     <name>ScriptRow</name>
     <message>
         <source>%2, %1</source>
@@ -1190,6 +1202,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Dismiss</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>このデスクトップではステルスモードは効きません。画面を見ている人にはこのプロンプターも見えます。</translation>
     </message>
 </context>
 <context>

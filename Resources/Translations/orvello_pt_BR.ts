@@ -1106,6 +1106,18 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     </message>
 </context>
 <context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Mostrar o aviso completo</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Reduzir o aviso a um olho</translation>
+    </message>
+</context>
+<context>
     <name>ScriptRow</name>
     <message>
         <source>%2, %1</source>
@@ -1193,6 +1205,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Dismiss</source>
         <translation>Dispensar</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>O modo furtivo não tem efeito neste ambiente: quem vê sua tela também vê este prompter.</translation>
     </message>
 </context>
 <context>

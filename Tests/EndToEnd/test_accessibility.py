@@ -76,7 +76,8 @@ class AccessibilityTest(unittest.TestCase):
         self.assertIn({"role": "label", "name": "paused", "description": "Status", "showing": True, "enabled": True},
                       nodes)
         self.assertIn("Slide 1 / 2", [node["name"] for node in nodes])
-        self.assertEqual(self.buttons(nodes), {"Previous slide": False, "Next slide": True})
+        self.assertEqual(self.buttons(nodes), {"Fold the badge to an eye": True, "Previous slide": False,
+                                               "Next slide": True})
         self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
 
     def test_the_buttons_can_be_pressed(self):
@@ -90,7 +91,14 @@ class AccessibilityTest(unittest.TestCase):
         wait_until(lambda: "The second slide." in self.names("label"), what="the next slide")
         nodes = self.read()
         self.assertIn("Slide 2 / 2", [node["name"] for node in nodes])
-        self.assertEqual(self.buttons(nodes), {"Previous slide": True, "Next slide": False})
+        self.assertEqual(self.buttons(nodes), {"Fold the badge to an eye": True, "Previous slide": True,
+                                               "Next slide": False})
+
+        self.read("Fold the badge to an eye")
+        nodes = wait_until(lambda: [node for node in self.read() if node["name"] == "Show the badge in full"] and self.read(),
+                           what="the eye")
+        self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
+        self.assertTrue(App.defaults(self.desktop)["recordingBadgeFolded"])
         self.read("Next slide")
         self.assertIn("Slide 2 / 2", [node["name"] for node in self.read()])
 

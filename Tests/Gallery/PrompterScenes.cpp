@@ -133,6 +133,16 @@ Scenes prompterScenes()
             }),
         prompter(u"visible in recordings"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.prompter.setVisibleInRecordings(true); }),
+        prompter(u"visible in recordings, folded"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.settings.setRecordingBadgeFolded(true);
+            }),
+        prompter(u"share notice where nothing hides a window"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.setInCall(true);
+            }),
         prompter(u"capturable on purpose"_s, Wallpaper::Photo, [](PrompterStage&) {},
             { .forceCapturable = true }),
         prompter(u"slide chip, manual, first slide"_s, Wallpaper::Document, &openDeck),
@@ -196,6 +206,12 @@ Scenes prompterScenes()
         prompter(u"scale 1.5, scrolling"_s, Wallpaper::Night, &scroll, { .scale = 1.5 }),
         prompter(u"faintest card"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.settings.setBackgroundOpacity(0.3); }),
+        prompter(u"outlined letters"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.services.settings.setBackgroundOpacity(0.15);
+                stage.services.settings.setTextColorName(u"Pink"_s);
+                scroll(stage);
+            }),
     };
 }
 

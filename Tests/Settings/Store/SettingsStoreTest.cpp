@@ -43,6 +43,7 @@ const Property properties[] = {
     { "countdownSeconds", 3.0, 0.0 },
     { "slideshowPauseKey", true, false },
     { "slideSync", true, false },
+    { "recordingBadgeFolded", false, true },
     { "onboardingSeenVersion", Q_INT64_C(0), Q_INT64_C(3) },
 };
 
@@ -70,6 +71,7 @@ TEST_F(SettingsStoreTest, hasTheDefaultsOfAFreshAccount)
     EXPECT_EQ(settings.countdownSeconds(), 3.0);
     EXPECT_TRUE(settings.slideshowPauseKey());
     EXPECT_TRUE(settings.slideSync());
+    EXPECT_FALSE(settings.recordingBadgeFolded());
     EXPECT_EQ(settings.onboardingSeenVersion(), 0);
     EXPECT_EQ(defaults.writes, 0);
 }

@@ -40,6 +40,7 @@ SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     , m_countdownSeconds(numberOr(3.0, defaults, u"countdownSeconds"_s))
     , m_slideshowPauseKey(booleanOr(true, defaults, u"slideshowPauseKey"_s))
     , m_slideSync(booleanOr(true, defaults, u"slideSync"_s))
+    , m_recordingBadgeFolded(booleanOr(false, defaults, u"recordingBadgeFolded"_s))
     , m_onboardingSeenVersion(DefaultsValue::asInteger(defaults.value(u"onboardingSeenVersion"_s)))
 {
 }
@@ -139,6 +140,12 @@ void SettingsStore::setSlideshowPauseKey(bool on)
 void SettingsStore::setSlideSync(bool on)
 {
     assign(m_slideSync, on, u"slideSync"_s, &SettingsStore::slideSyncChanged);
+}
+
+void SettingsStore::setRecordingBadgeFolded(bool isFolded)
+{
+    assign(m_recordingBadgeFolded, isFolded, u"recordingBadgeFolded"_s,
+        &SettingsStore::recordingBadgeFoldedChanged);
 }
 
 void SettingsStore::setOnboardingSeenVersion(qint64 version)

@@ -34,6 +34,8 @@ class SettingsStore final : public QObject {
     Q_PROPERTY(bool slideshowPauseKey READ slideshowPauseKey WRITE setSlideshowPauseKey NOTIFY
             slideshowPauseKeyChanged FINAL)
     Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
+    Q_PROPERTY(bool recordingBadgeFolded READ recordingBadgeFolded WRITE setRecordingBadgeFolded
+            NOTIFY recordingBadgeFoldedChanged FINAL)
     Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
             setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
 
@@ -86,6 +88,10 @@ public:
     bool slideSync() const { return m_slideSync; }
     void setSlideSync(bool on);
 
+    /// Whether what says that recordings show the prompter is only an eye.
+    bool recordingBadgeFolded() const { return m_recordingBadgeFolded; }
+    void setRecordingBadgeFolded(bool isFolded);
+
     qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
     void setOnboardingSeenVersion(qint64 version);
 
@@ -104,6 +110,7 @@ Q_SIGNALS:
     void countdownSecondsChanged();
     void slideshowPauseKeyChanged();
     void slideSyncChanged();
+    void recordingBadgeFoldedChanged();
     void onboardingSeenVersionChanged();
 
 private:
@@ -124,6 +131,7 @@ private:
     double m_countdownSeconds;
     bool m_slideshowPauseKey;
     bool m_slideSync;
+    bool m_recordingBadgeFolded;
     qint64 m_onboardingSeenVersion;
 };
 

@@ -45,7 +45,6 @@ PrompterWindow::~PrompterWindow() = default;
 void PrompterWindow::setVisibleInRecordings(bool isVisible)
 {
     m_status.setVisibleInRecordings(isVisible);
-    m_shareWarning.setVisibleInRecordings(isVisible);
 }
 
 /// The text and its size go from the services to the layout, its height from there to the engine.
