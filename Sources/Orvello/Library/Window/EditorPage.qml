@@ -18,7 +18,7 @@ Pane {
         if (isLoaded || !isActive || body.width <= 0)
             return;
         isLoaded = true;
-        body.text = editor.body;
+        body.text = editor.bodyInField;
         editor.follow(body.textDocument);
     }
 
