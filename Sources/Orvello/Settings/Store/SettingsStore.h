@@ -16,6 +16,8 @@ class UserDefaults;
 class SettingsStore final : public QObject {
     Q_OBJECT
     Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY fontSizeChanged FINAL)
+    Q_PROPERTY(QString textColorName READ textColorName WRITE setTextColorName NOTIFY
+            textColorNameChanged FINAL)
     Q_PROPERTY(QColor textColor READ textColor NOTIFY textColorNameChanged FINAL)
     Q_PROPERTY(double backgroundOpacity READ backgroundOpacity WRITE setBackgroundOpacity NOTIFY
             backgroundOpacityChanged FINAL)
@@ -27,11 +29,15 @@ class SettingsStore final : public QObject {
     Q_PROPERTY(double voiceSensitivity READ voiceSensitivity WRITE setVoiceSensitivity NOTIFY
             voiceSensitivityChanged FINAL)
     Q_PROPERTY(QString microphone READ microphone NOTIFY microphoneChanged FINAL)
+    Q_PROPERTY(double countdownSeconds READ countdownSeconds WRITE setCountdownSeconds NOTIFY
+            countdownSecondsChanged FINAL)
     Q_PROPERTY(bool slideshowPauseKey READ slideshowPauseKey WRITE setSlideshowPauseKey NOTIFY
             slideshowPauseKeyChanged FINAL)
     Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
     Q_PROPERTY(bool recordingBadgeFolded READ recordingBadgeFolded WRITE setRecordingBadgeFolded
             NOTIFY recordingBadgeFoldedChanged FINAL)
+    Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
+            setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
 
 public:
     struct ColorPreset {
