@@ -574,6 +574,35 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Dieses Skript exportieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n Skript exportieren</numerusform>
+            <numerusform>%n Skripte exportieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Export fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>„%1“ konnte nicht geschrieben werden (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
@@ -1166,6 +1195,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Move Down</source>
         <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Alle exportieren …</translation>
     </message>
 </context>
 <context>

@@ -574,6 +574,35 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exportar este guion</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exportar %n guion</numerusform>
+            <numerusform>Exportar %n guiones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Guiones</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Error al exportar</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>No se pudo escribir «%1» (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
@@ -1166,6 +1195,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Move Down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Exportar todos…</translation>
     </message>
 </context>
 <context>

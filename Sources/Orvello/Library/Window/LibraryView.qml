@@ -38,6 +38,14 @@ Pane {
         onActivated: root.library.imports.chooseFile()
     }
     Shortcut {
+        sequences: ["Ctrl+E"]
+        onActivated: root.library.exportActive()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Shift+E"]
+        onActivated: root.library.exportListed()
+    }
+    Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: root.Window.window.close()
     }

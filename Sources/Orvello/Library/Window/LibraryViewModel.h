@@ -4,8 +4,11 @@
 #include "Orvello/Library/Window/DeletedScriptsModel.h"
 #include "Orvello/Library/Window/LibraryNotices.h"
 #include "Orvello/Library/Window/OpenScripts.h"
+#include "Orvello/Library/Window/ScriptExport.h"
 #include "Orvello/Library/Window/ScriptListModel.h"
 #include "Orvello/Library/Window/ScriptSearch.h"
+
+#include <functional>
 
 namespace Orvello {
 
@@ -33,8 +36,18 @@ public:
     Q_INVOKABLE void removeActive(); ///< Does nothing when no script is active.
     Q_INVOKABLE void duplicateActive(); ///< The same.
 
+    /// Writes the active script to a file that the user chooses, as text or Markdown.
+    Q_INVOKABLE void exportActive();
+
+    /// Writes all scripts of the list to one file.
+    Q_INVOKABLE void exportListed();
+
 private:
+    using ContentOf = std::function<QString(ScriptExport::Format)>;
+    void exportTo(const QString& message, const QString& title, const ContentOf& contentOf);
+
     LibraryStore& m_library;
+    OpenPanel& m_openPanel;
     ScriptListModel m_scripts;
     ScriptSearch m_search;
     DeletedScriptsModel m_deleted;
