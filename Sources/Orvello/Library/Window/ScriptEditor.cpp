@@ -2,7 +2,7 @@
 
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Library/Store/LibraryStore.h"
-#include "Orvello/Library/Window/WordCount.h"
+#include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <QQuickItem>

@@ -92,6 +92,14 @@ public:
     bool recordingBadgeFolded() const { return m_recordingBadgeFolded; }
     void setRecordingBadgeFolded(bool isFolded);
 
+    /// The words a minute that every text keeps, whatever its speed then is; 0 for none.
+    double keptPace() const { return m_keptPace; }
+    void setKeptPace(double wordsPerMinute);
+
+    /// Which times the card shows: "left", "elapsed", "both"; anything else is none.
+    const QString& cardTime() const { return m_cardTime; }
+    void setCardTime(const QString& times);
+
     qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
     void setOnboardingSeenVersion(qint64 version);
 
@@ -111,6 +119,8 @@ Q_SIGNALS:
     void slideshowPauseKeyChanged();
     void slideSyncChanged();
     void recordingBadgeFoldedChanged();
+    void keptPaceChanged();
+    void cardTimeChanged();
     void onboardingSeenVersionChanged();
 
 private:
@@ -132,6 +142,8 @@ private:
     bool m_slideshowPauseKey;
     bool m_slideSync;
     bool m_recordingBadgeFolded;
+    double m_keptPace;
+    QString m_cardTime;
     qint64 m_onboardingSeenVersion;
 };
 
