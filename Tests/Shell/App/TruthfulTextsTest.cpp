@@ -1,4 +1,6 @@
 #include "Orvello/Library/Records/WelcomeScript.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Shell/App/Translation.h"
 #include "Orvello/Shell/Commands/Command.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
@@ -70,6 +72,8 @@ protected:
     FakeHotKeys keys;
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
+    ScrollEngine scrolling { settings, time };
+    ReadingPace pace { settings, scrolling, time };
 };
 
 TEST_P(TruthfulTextsTest, speaksTheLanguage)
@@ -80,7 +84,7 @@ TEST_P(TruthfulTextsTest, speaksTheLanguage)
 
 TEST_P(TruthfulTextsTest, namesNothingInTheSettingsThatTheMachineLacks)
 {
-    SettingsWindow window({ settings, *engine, updates, keys, facts });
+    SettingsWindow window({ settings, *engine, pace, updates, keys, facts });
     window.view().show();
     drainEvents();
 

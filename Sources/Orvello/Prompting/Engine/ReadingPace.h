@@ -20,6 +20,7 @@ class ReadingPace final : public QObject {
     /// In words a minute, or in characters of a text without spaces; 0 while there is no text that
     /// scrolls.
     Q_PROPERTY(double unitsPerMinute READ unitsPerMinute NOTIFY changed FINAL)
+    Q_PROPERTY(bool isByCharacters READ isByCharacters NOTIFY changed FINAL)
     Q_PROPERTY(QString description READ description NOTIFY changed FINAL)
     Q_PROPERTY(bool isKept READ isKept WRITE setKept NOTIFY keptChanged FINAL)
 
@@ -36,6 +37,7 @@ public:
     ~ReadingPace() override;
 
     void setText(const QString& text); ///< The one that the engine scrolls.
+    bool isByCharacters() const { return m_length.isByCharacters(); }
     const SpokenLength& length() const { return m_length; }
 
     double unitsPerMinute() const;

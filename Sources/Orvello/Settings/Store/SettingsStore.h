@@ -36,6 +36,8 @@ class SettingsStore final : public QObject {
     Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
     Q_PROPERTY(bool recordingBadgeFolded READ recordingBadgeFolded WRITE setRecordingBadgeFolded
             NOTIFY recordingBadgeFoldedChanged FINAL)
+    Q_PROPERTY(double keptPace READ keptPace WRITE setKeptPace NOTIFY keptPaceChanged FINAL)
+    Q_PROPERTY(QString cardTime READ cardTime WRITE setCardTime NOTIFY cardTimeChanged FINAL)
     Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
             setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
 

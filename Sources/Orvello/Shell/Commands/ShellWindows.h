@@ -16,6 +16,7 @@ class LibraryStore;
 class Menu;
 class OpenPanel;
 class PresenterTable;
+class ReadingPace;
 class SettingsStore;
 class StatusBar;
 class StatusItem;
@@ -50,6 +51,7 @@ public:
         SettingsStore& settings;
         LibraryStore& library;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         const PresenterTable& presenters;
         const AppleScriptRunner& appleScript;

@@ -2,6 +2,7 @@
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
@@ -36,6 +37,7 @@ SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
             { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"pace"_s, QVariant::fromValue(&services.pace) },
             { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
     followSystemPalette(m_view);

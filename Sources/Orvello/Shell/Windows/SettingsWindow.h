@@ -12,6 +12,7 @@ namespace Orvello {
 class AssignedKeys;
 class ImpressPresenter;
 class SettingsStore;
+class ReadingPace;
 class UpdateController;
 class VoiceActivityEngine;
 
@@ -28,6 +29,7 @@ public:
     struct Services {
         SettingsStore& settings;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         HotKeys& hotKeys;
         Facts facts; ///< What the window may say about this machine.
