@@ -59,8 +59,7 @@ class Desktop(contextlib.ExitStack):
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    what="the window manager")
         if self.compositor:
-            # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
-            self.start(["picom", "--backend", "xrender", "--no-use-damage"])
+            self.start_compositor()
         time.sleep(0.3)
 
     def start_x_server(self):
@@ -73,6 +72,13 @@ class Desktop(contextlib.ExitStack):
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             return process, ":" + pipe.readline().strip()
+
+    def start_compositor(self):
+        # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
+        self._compositor = self.start(["picom", "--backend", "xrender", "--no-use-damage"])
+
+    def stop_compositor(self):
+        self._stop(self._compositor)
 
     def start_session_bus(self):
         """Gives the desktop a session bus of its own, for what is started from now on."""

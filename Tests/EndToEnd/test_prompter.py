@@ -249,6 +249,28 @@ class PrompterTest(unittest.TestCase):
                     self.assertEqual(picture.pixel(*corner), wallpaper)
                 self.assertLess(max(picture.pixel(x + width // 2, y + height - 3)), 60)
 
+    def test_a_compositor_that_starts_later_makes_the_card_translucent(self):
+        with Desktop(compositor=False) as desktop:
+            App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=0.3)
+            app = App(desktop)
+            x, y, width, height = app.shown()
+            middle = (x + 14, y + height // 2)
+            self.assertLess(max(desktop.screenshot().pixel(*middle)), 4)
+            self.assertTrue(self.has_shape(desktop, app))
+
+            desktop.start_compositor()
+
+            wait_until(lambda: desktop.screenshot().pixel(*middle)[2] > 50, what="the wallpaper through the card")
+            wait_until(lambda: not self.has_shape(desktop, app), what="whole corners")
+
+            desktop.stop_compositor()
+
+            wait_until(lambda: self.has_shape(desktop, app), what="corners that are cut off again")
+
+    @staticmethod
+    def has_shape(desktop, app):
+        return "No window shape" not in desktop.run("xwininfo", "-shape", "-id", str(app.window()))
+
     # Stealth Mode
 
     def test_each_mechanism_is_logged_as_it_was_asked_for(self):

@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
+#include "Orvello/Adapters/Linux/Desktop/X11Compositing.h"
 #include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 #include "Tests/Support/FakeUserDefaults.h"
@@ -111,7 +112,8 @@ protected:
 
     Testing::FakeUserDefaults defaults;
     View view;
-    X11Panel panel { view, defaults };
+    X11Compositing compositing;
+    X11Panel panel { view, defaults, compositing };
     std::vector<std::string> news;
     std::vector<double> scrolls;
 };
@@ -402,6 +404,52 @@ TEST_F(X11PanelTest, isDraggedByOnePointerAtATime)
 }
 
 // The frame
+
+/// A compositor as far as other programs can tell: the owner of the selection.
+class StandInCompositor {
+public:
+    StandInCompositor()
+        : m_connection(xcb_connect(nullptr, nullptr))
+    {
+        const xcb_window_t window = xcb_generate_id(m_connection);
+        xcb_screen_t* const screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 1, 1, 0,
+            XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+        xcb_set_selection_owner(
+            m_connection, window, Xcb::atomNamed(m_connection, "_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+        xcb_flush(m_connection);
+    }
+    ~StandInCompositor() { xcb_disconnect(m_connection); }
+    StandInCompositor(const StandInCompositor&) = delete;
+    StandInCompositor& operator=(const StandInCompositor&) = delete;
+
+private:
+    xcb_connection_t* m_connection;
+};
+
+TEST_F(X11PanelTest, cutsItsCornersOffOnlyWhileNobodyComposites)
+{
+    EXPECT_FALSE(compositing.isOn());
+    EXPECT_FALSE(view.mask().contains(QPoint(1, 1)));
+    EXPECT_TRUE(view.mask().contains(QPoint(360, 1)));
+    {
+        const StandInCompositor compositor;
+        settle();
+        EXPECT_TRUE(compositing.isOn());
+        EXPECT_TRUE(view.mask().isEmpty());
+    }
+    settle();
+    EXPECT_FALSE(compositing.isOn());
+    EXPECT_FALSE(view.mask().contains(QPoint(1, 1)));
+}
+
+TEST_F(X11PanelTest, knowsACompositorThatIsThereBefore)
+{
+    const StandInCompositor compositor;
+    settle();
+
+    EXPECT_TRUE(X11Compositing().isOn());
+}
 
 TEST_F(X11PanelTest, tellsOfASizeThatItIsGiven)
 {

@@ -6,6 +6,7 @@
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/PortalHotKeys.h"
 #include "Orvello/Adapters/Linux/Desktop/UpdateDialogs.h"
+#include "Orvello/Adapters/Linux/Desktop/X11Compositing.h"
 #include "Orvello/Adapters/Linux/Desktop/X11HotKeys.h"
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 #include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
@@ -54,6 +55,7 @@ public:
 /// What is read from the X display.
 struct Desktop {
     QtScreens screens;
+    X11Compositing compositing;
     X11Windows windows;
     LinuxWorkspace workspace { windows };
     X11WindowServer windowServer { windows };
@@ -113,12 +115,13 @@ public:
     HotKeys& hotKeys() override { return m_session.hotKeys(); }
     Updater& updater() override { return m_updates.updater; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
+    Compositing& compositing() override { return m_desktop.compositing; }
     HelperProcess* impressHelper() override { return m_impressHelper.get(); }
     bool hasHardwareRenderer() override { return HardwareRenderer::isThere(); }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
-        return std::make_unique<X11Panel>(view, m_early.userDefaults());
+        return std::make_unique<X11Panel>(view, m_early.userDefaults(), m_desktop.compositing);
     }
 
 private:

@@ -1,10 +1,10 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
-#include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -15,8 +15,6 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
-#include <string>
-#include <xcb/xcb.h>
 
 namespace Orvello {
 
@@ -29,20 +27,6 @@ constexpr int edgeWidth = 6;
 constexpr std::chrono::milliseconds screensSettlingTime { 100 };
 constexpr int cornerRadius = 16; ///< The card's.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
-
-/// Whether somebody on the display draws windows over each other with their transparency.
-bool hasCompositor()
-{
-    int screen = 0;
-    xcb_connection_t* const connection = xcb_connect(nullptr, &screen);
-    const std::uint32_t selection
-        = Xcb::atomNamed(connection, "_NET_WM_CM_S" + std::to_string(screen));
-    const auto owner = Xcb::owned(xcb_get_selection_owner_reply(
-        connection, xcb_get_selection_owner(connection, selection), nullptr));
-    const bool hasOwner = owner && owner->owner != XCB_WINDOW_NONE;
-    xcb_disconnect(connection);
-    return hasOwner;
-}
 
 Qt::Edges edgesAt(QPointF position, QSize size)
 {
@@ -105,9 +89,10 @@ QRect resizedBy(QRect geometry, Qt::Edges edges, QPoint delta)
 
 } // namespace
 
-X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
+X11Panel::X11Panel(QWindow& window, UserDefaults& defaults, const Compositing& compositing)
     : m_window(window)
     , m_defaults(defaults)
+    , m_compositing(compositing)
 {
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
         | Qt::WindowDoesNotAcceptFocus | Qt::BypassWindowManagerHint);
@@ -117,6 +102,8 @@ X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
     m_window.installEventFilter(this);
     m_stackingGuard
         = std::make_unique<X11StackingGuard>(static_cast<std::uint32_t>(m_window.winId()));
+
+    connect(&m_compositing, &Compositing::isOnChanged, this, &X11Panel::roundCorners);
 
     // A change of screens comes in several pieces.
     m_screensSettling.setSingleShot(true);
@@ -183,8 +170,6 @@ void X11Panel::saveFrameAs(const QString& name)
 void X11Panel::show()
 {
     returnToScreens();
-    m_isComposited = hasCompositor();
-    roundCorners();
     m_window.show();
     m_stackingGuard->settle();
 }
@@ -300,7 +285,7 @@ void X11Panel::announceSize()
 /// black, and so is cut off.
 void X11Panel::roundCorners()
 {
-    if (m_isComposited) {
+    if (m_compositing.isOn()) {
         m_window.setMask({});
         return;
     }
