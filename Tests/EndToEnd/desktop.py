@@ -245,11 +245,15 @@ class App:
         return False
 
     def windows(self):
-        """The program's X windows that are on screen."""
+        """The program's X windows that are on screen, without the panel's shadow."""
         self._check_alive()
-        result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
-            env=self.desktop.environment, capture_output=True, text=True)
+        shadow = self._search("--onlyvisible", "--name", "^Orvello shadow$")
+        return [window for window in self._search("--onlyvisible", "--pid", str(self.process.pid))
+                if window not in shadow]
+
+    def _search(self, *what):
+        result = subprocess.run(["xdotool", "search", *what], env=self.desktop.environment, capture_output=True,
+                                text=True)
         return [int(line) for line in result.stdout.split()]
 
     def window(self):
@@ -266,10 +270,7 @@ class App:
         return wait_until(painted, what="the first frame")
 
     def is_window_visible(self):
-        result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
-            env=self.desktop.environment, capture_output=True, text=True)
-        return bool(result.stdout.split())
+        return bool(self._search("--onlyvisible", "--pid", str(self.process.pid)))
 
     def geometry(self):
         """The panel's (x, y, width, height) on the screen."""

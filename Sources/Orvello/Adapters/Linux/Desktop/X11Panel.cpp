@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
+#include "Orvello/Adapters/Linux/Desktop/X11Shadow.h"
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Foundation/Assign.h"
@@ -100,10 +101,12 @@ X11Panel::X11Panel(QWindow& window, UserDefaults& defaults, const Compositing& c
     m_window.setMaximumSize(maximumSize.toSize());
     m_window.create();
     m_window.installEventFilter(this);
-    m_stackingGuard
-        = std::make_unique<X11StackingGuard>(static_cast<std::uint32_t>(m_window.winId()));
+    m_shadow = std::make_unique<X11Shadow>();
+    m_stackingGuard = std::make_unique<X11StackingGuard>(
+        static_cast<std::uint32_t>(m_window.winId()), m_shadow->number());
 
     connect(&m_compositing, &Compositing::isOnChanged, this, &X11Panel::roundCorners);
+    connect(&m_compositing, &Compositing::isOnChanged, this, &X11Panel::showShadow);
 
     // A change of screens comes in several pieces.
     m_screensSettling.setSingleShot(true);
@@ -132,8 +135,20 @@ void X11Panel::setFrame(const QRectF& frame)
 void X11Panel::moveTo(const QRectF& frame)
 {
     m_settledFrame = frame.toRect();
-    m_window.setGeometry(frame.toRect());
+    setGeometry(frame.toRect());
     announceSize();
+}
+
+void X11Panel::setGeometry(const QRect& geometry)
+{
+    m_window.setGeometry(geometry);
+    m_shadow->surround(geometry);
+}
+
+void X11Panel::showShadow()
+{
+    m_shadow->setVisible(m_window.isVisible() && m_compositing.isOn());
+    m_stackingGuard->settle();
 }
 
 void X11Panel::watch(const QScreen* screen)
@@ -171,10 +186,14 @@ void X11Panel::show()
 {
     returnToScreens();
     m_window.show();
-    m_stackingGuard->settle();
+    showShadow();
 }
 
-void X11Panel::hide() { m_window.hide(); }
+void X11Panel::hide()
+{
+    m_shadow->hide();
+    m_window.hide();
+}
 
 bool X11Panel::isVisible() const { return m_window.isVisible(); }
 
@@ -203,9 +222,11 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         endGesture(); // A hidden window gets no release.
         return false;
     case QEvent::Move:
+        m_shadow->surround(m_window.geometry());
         noteFrame();
         return false;
     case QEvent::Resize:
+        m_shadow->surround(m_window.geometry());
         noteFrame();
         announceSize();
         return false;
@@ -244,9 +265,8 @@ bool X11Panel::moved(const QMouseEvent& event)
         return false;
     }
     const QPoint delta = event.globalPosition().toPoint() - m_gesture.startPointer;
-    m_window.setGeometry(m_gesture.edges
-            ? resizedBy(m_gesture.startGeometry, m_gesture.edges, delta)
-            : m_gesture.startGeometry.translated(delta));
+    setGeometry(m_gesture.edges ? resizedBy(m_gesture.startGeometry, m_gesture.edges, delta)
+                                : m_gesture.startGeometry.translated(delta));
     return true;
 }
 

@@ -19,6 +19,7 @@ class QWindow;
 namespace Orvello {
 
 class Compositing;
+class X11Shadow;
 class X11StackingGuard;
 
 /// The prompter's window on X11, around the window that shows the view. Window managers disagree
@@ -68,6 +69,8 @@ private:
     void watch(const QScreen* screen);
     void returnToScreens();
     void moveTo(const QRectF& frame);
+    void setGeometry(const QRect& geometry);
+    void showShadow();
     void announceSize();
     void roundCorners();
     void noteFrame();
@@ -76,6 +79,7 @@ private:
     QWindow& m_window;
     UserDefaults& m_defaults;
     const Compositing& m_compositing;
+    std::unique_ptr<X11Shadow> m_shadow;
     std::unique_ptr<X11StackingGuard> m_stackingGuard;
     QString m_autosaveKey; ///< Empty while the frame is not saved.
     QList<QRectF> m_screens; ///< Those that the panel was last placed on.
