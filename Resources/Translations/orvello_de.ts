@@ -1117,6 +1117,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Text color</source>
         <translation>Textfarbe</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>Die Deckkraft wirkt im Moment nicht: Fenster können nur durchscheinen, solange auf dem Desktop ein Compositor läuft.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

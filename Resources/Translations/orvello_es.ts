@@ -1117,6 +1117,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Text color</source>
         <translation>Color del texto</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>La opacidad no tiene efecto por ahora: las ventanas solo pueden ser translúcidas mientras el escritorio ejecute un compositor.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

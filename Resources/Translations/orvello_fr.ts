@@ -1117,6 +1117,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Text color</source>
         <translation>Couleur du texte</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>L’opacité est sans effet pour le moment : les fenêtres ne peuvent être translucides que si un compositeur est actif sur le bureau.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

@@ -1113,6 +1113,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Text color</source>
         <translation>文字の色</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度は現在効きません。ウインドウが半透明になるのは、デスクトップでコンポジターが動作している間だけです。</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

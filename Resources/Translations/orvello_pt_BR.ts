@@ -1117,6 +1117,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Text color</source>
         <translation>Cor do texto</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>A opacidade não tem efeito no momento: as janelas só podem ser translúcidas enquanto o ambiente executa um compositor.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

@@ -1113,6 +1113,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Text color</source>
         <translation>文字颜色</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度目前不起作用:只有当桌面运行合成器时,窗口才能半透明。</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>

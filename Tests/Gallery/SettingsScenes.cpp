@@ -1,6 +1,7 @@
 #include "Tests/Gallery/Scenes.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/SettingsWindow.h"
@@ -51,7 +52,8 @@ public:
         updater.feed = u"https://example.com/feed"_s;
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, keys, facts });
+        settingsWindow.emplace(
+            SettingsWindow::Services { settings, voice, updates, keys, compositing, facts });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -90,6 +92,7 @@ public:
     Testing::FakeUserDefaults defaults;
     Testing::FakeUpdater updater;
     Testing::FakeHotKeys keys;
+    Compositing compositing;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, microphones, workspace } };

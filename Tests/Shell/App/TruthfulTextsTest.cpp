@@ -1,4 +1,5 @@
 #include "Orvello/Library/Records/WelcomeScript.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Shell/App/Translation.h"
 #include "Orvello/Shell/Commands/Command.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
@@ -69,6 +70,7 @@ protected:
     const Facts facts = factsOfALinuxDesktop();
     FakeHotKeys keys;
     FakeUpdater updater;
+    Compositing compositing;
     UpdateController updates { { updater, defaults, [] {} } };
 };
 
@@ -80,7 +82,7 @@ TEST_P(TruthfulTextsTest, speaksTheLanguage)
 
 TEST_P(TruthfulTextsTest, namesNothingInTheSettingsThatTheMachineLacks)
 {
-    SettingsWindow window({ settings, *engine, updates, keys, facts });
+    SettingsWindow window({ settings, *engine, updates, keys, compositing, facts });
     window.view().show();
     drainEvents();
 

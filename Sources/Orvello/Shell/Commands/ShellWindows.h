@@ -10,6 +10,7 @@
 namespace Orvello {
 
 class AppleScriptRunner;
+class Compositing;
 class HotKeys;
 class ImpressPresenter;
 class LibraryStore;
@@ -58,6 +59,7 @@ public:
         WindowChrome& windowChrome;
         StatusBar& statusBar;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the windows may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
         PanelSpace panel = {};

@@ -10,6 +10,7 @@
 namespace Orvello {
 
 class AssignedKeys;
+class Compositing;
 class ImpressPresenter;
 class SettingsStore;
 class UpdateController;
@@ -30,6 +31,7 @@ public:
         VoiceActivityEngine& voice;
         UpdateController& updates;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the window may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
