@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>

@@ -231,6 +231,11 @@ void AppDelegate::makeWindows()
             .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
             .stepAside = [this] { m_panel->hide(); },
             .comeBack = [this] { showPanel(); },
+        },
+        [this](qsizetype position) {
+            if (!m_panel->isVisible())
+                showPanel();
+            m_prompterWindow->startAt(position);
         } });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
