@@ -964,6 +964,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Das Mikrofon ließ sich nicht starten. Schalten Sie „Der Stimme folgen“ aus und ein, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>Die Echounterdrückung ist an.</translation>
     </message>

@@ -964,6 +964,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>No se pudo iniciar el micrófono. Desactiva y activa el seguimiento de la voz para volver a intentarlo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>La cancelación de eco está activada.</translation>
     </message>

@@ -964,6 +964,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Le microphone n’a pas pu démarrer. Désactivez et réactivez le suivi de la voix pour réessayer.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>L’annulation de l’écho est active.</translation>
     </message>

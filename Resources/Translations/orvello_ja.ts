@@ -961,6 +961,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>マイクを開始できませんでした。「音声に追従」をいったんオフにしてオンに戻すと、もう一度試します。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>エコーキャンセルはオンです。</translation>
     </message>

@@ -964,6 +964,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Não foi possível iniciar o microfone. Desative e ative “Seguir a voz” para tentar de novo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>O cancelamento de eco está ativo.</translation>
     </message>

@@ -961,6 +961,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
     </message>
     <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>无法启动麦克风。请关闭再打开语音跟随以重试。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>回声消除已开启。</translation>
     </message>

@@ -143,13 +143,15 @@ void VoiceActivityEngine::onMicrophonesChanged()
         choosePath();
 }
 
+bool VoiceActivityEngine::isDead() const { return m_watchdog && !m_isListening; }
+
 VoiceActivityEngine::Trouble VoiceActivityEngine::trouble() const
 {
     if (m_micAuthorized == false)
         return Trouble::PermissionDenied;
     switch (m_sound.trouble) {
     case Microphones::Trouble::None:
-        return Trouble::None;
+        return isDead() ? Trouble::NotStarted : Trouble::None;
     case Microphones::Trouble::NoAnswer:
         return Trouble::NoAnswer;
     case Microphones::Trouble::Refused:
@@ -186,9 +188,9 @@ QString VoiceActivityEngine::troubleForPeople() const
     case Trouble::NoAnswer:
         return tr("The sound system does not answer.");
     case Trouble::NoMicrophone:
-        return m_isListening || m_patience
-            ? tr("No microphone is connected.")
-            : tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+        return isDead()
+            ? tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.")
+            : tr("No microphone is connected.");
     case Trouble::Muted:
         //: %1: the name of a microphone.
         return tr("The microphone “%1” is muted.").arg(m_sound.heard);
@@ -197,6 +199,9 @@ QString VoiceActivityEngine::troubleForPeople() const
         return tr("Nothing comes from the microphone “%1”. Another program may keep it to "
                   "itself.")
             .arg(m_sound.heard);
+    case Trouble::NotStarted:
+        return tr("The microphone could not be started. Turn Voice-Follow off and on to try "
+                  "again.");
     }
     return {};
 }
@@ -300,8 +305,11 @@ void VoiceActivityEngine::choosePath()
 
 void VoiceActivityEngine::stop()
 {
+    const bool wasDead = isDead();
     m_patience.reset();
     m_watchdog.reset();
+    if (wasDead)
+        Q_EMIT statusChanged();
     if (!m_isListening)
         return;
     stopCurrentCapture();
@@ -370,6 +378,8 @@ std::optional<QString> VoiceActivityEngine::runningMeetingAppName() const
 void VoiceActivityEngine::startWatchdog()
 {
     m_watchdog = m_ports.time.callEvery(watchdogSeconds, [this] { watchdogTick(); });
+    if (isDead())
+        Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::watchdogTick()

@@ -60,7 +60,15 @@ class VoiceActivityEngine final : public QObject, private SampleListener {
 
 public:
     /// Why nothing can be heard although it is wanted.
-    enum class Trouble { None, PermissionDenied, NoAnswer, NoMicrophone, Muted, Withheld };
+    enum class Trouble {
+        None,
+        PermissionDenied,
+        NoAnswer,
+        NoMicrophone,
+        Muted,
+        Withheld,
+        NotStarted, ///< It began in vain, and is not tried again before the next start.
+    };
     Q_ENUM(Trouble)
 
     enum class EchoCancellation {
@@ -138,6 +146,7 @@ private:
 
     void requestPermission();
     void start();
+    bool isDead() const; ///< Started in vain: nothing will be captured before the next start.
     void choosePath();
     void onMicrophonesChanged();
     QString troubleForPeople() const;
