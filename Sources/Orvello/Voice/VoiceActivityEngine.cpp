@@ -129,7 +129,13 @@ void VoiceActivityEngine::start()
     if (m_sound.isReady)
         choosePath();
     else
-        m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+        awaitMicrophone();
+}
+
+void VoiceActivityEngine::awaitMicrophone()
+{
+    m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+    Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::onMicrophonesChanged()
@@ -188,9 +194,7 @@ QString VoiceActivityEngine::troubleForPeople() const
     case Trouble::NoAnswer:
         return tr("The sound system does not answer.");
     case Trouble::NoMicrophone:
-        return isDead()
-            ? tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.")
-            : tr("No microphone is connected.");
+        return tr("No microphone is connected.");
     case Trouble::Muted:
         //: %1: the name of a microphone.
         return tr("The microphone “%1” is muted.").arg(m_sound.heard);
@@ -200,8 +204,7 @@ QString VoiceActivityEngine::troubleForPeople() const
                   "itself.")
             .arg(m_sound.heard);
     case Trouble::NotStarted:
-        return tr("The microphone could not be started. Turn Voice-Follow off and on to try "
-                  "again.");
+        return tr("The microphone could not be started.");
     }
     return {};
 }
@@ -227,9 +230,13 @@ QString VoiceActivityEngine::hearing() const
 {
     if (!m_settings.voiceFollow() && !m_isListening)
         return {};
-    const QString trouble = troubleForPeople();
-    if (!trouble.isEmpty() || !m_isListening || m_sound.heard.isEmpty())
-        return trouble;
+    if (isDead() && trouble() == Trouble::NoMicrophone)
+        return tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+    if (trouble() == Trouble::NotStarted)
+        return tr("The microphone could not be started. Turn Voice-Follow off and on to try "
+                  "again.");
+    if (trouble() != Trouble::None || !m_isListening || m_sound.heard.isEmpty())
+        return troubleForPeople();
     //: %1: the name of a microphone.
     return tr("Listening to “%1”.").arg(m_sound.heard);
 }
@@ -487,6 +494,7 @@ void VoiceActivityEngine::applyPendingReports()
 {
     while (const std::optional<BlockReport> report = m_reports.pop()) {
         m_hasHeard = true;
+        m_sensitivityTest.hear(report->rootMeanSquare);
         apply(*report);
     }
 }
@@ -494,7 +502,6 @@ void VoiceActivityEngine::applyPendingReports()
 void VoiceActivityEngine::apply(const BlockReport& report)
 {
     publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
-    m_sensitivityTest.hear(report.rootMeanSquare);
     if (m_isSpeaking == report.isSpeaking)
         return;
     publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);
