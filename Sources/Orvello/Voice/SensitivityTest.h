@@ -16,8 +16,8 @@ class SettingsStore;
 class VoiceActivityEngine;
 
 /// Listens to the user for five seconds and proposes a sensitivity that lets this voice through on
-/// this microphone, and not the room. Captures meanwhile even where Voice-Follow is off. The seconds
-/// begin once something is captured: the user may have to allow it first.
+/// this microphone, and not the room. Captures meanwhile even where Voice-Follow is off. The
+/// seconds begin once something is captured: the user may have to allow it first.
 class SensitivityTest final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY changed FINAL)
