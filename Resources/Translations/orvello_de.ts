@@ -769,6 +769,10 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Warten auf das Mikrofon …</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Für Ihre Stimme passt hier eine Empfindlichkeit von %1 %.</translation>
@@ -1012,6 +1016,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>Das Mikrofon ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Das Mikrofon ließ sich nicht starten. Schalten Sie „Der Stimme folgen“ aus und ein, um es noch einmal zu versuchen.</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>

@@ -769,6 +769,10 @@ En los ajustes hay un botón que lo revoca.</translation>
         <translation>Habla con normalidad durante cinco segundos.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Esperando al micrófono…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Para tu voz, aquí conviene una sensibilidad del %1 %.</translation>
@@ -1012,6 +1016,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>No se pudo iniciar el micrófono. Desactiva y activa el seguimiento de la voz para volver a intentarlo.</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>

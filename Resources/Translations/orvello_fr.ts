@@ -769,6 +769,10 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <translation>Parlez normalement pendant cinq secondes.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>En attente du microphone…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Pour votre voix, une sensibilité de %1 % convient ici.</translation>
@@ -1012,6 +1016,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>Le microphone n’a pas pu démarrer.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Le microphone n’a pas pu démarrer. Désactivez et réactivez le suivi de la voix pour réessayer.</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>

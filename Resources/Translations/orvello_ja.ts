@@ -765,6 +765,10 @@ The settings have a button that takes this back.</source>
         <translation>5秒間、ふだんどおりに話してください。</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>マイクを待っています…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>ここでのあなたの声には、感度 %1% が合っています。</translation>
@@ -1008,6 +1012,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>マイクを開始できませんでした。「音声に追従」をいったんオフにしてオンに戻すと、もう一度試します。</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>

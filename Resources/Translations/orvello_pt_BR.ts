@@ -769,6 +769,10 @@ Nas configurações há um botão que desfaz isso.</translation>
         <translation>Fale normalmente por cinco segundos.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Aguardando o microfone…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Para a sua voz, uma sensibilidade de %1% é adequada aqui.</translation>
@@ -1012,6 +1016,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>Não foi possível iniciar o microfone.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Não foi possível iniciar o microfone. Desative e ative “Seguir a voz” para tentar de novo.</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>

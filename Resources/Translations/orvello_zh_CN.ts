@@ -765,6 +765,10 @@ The settings have a button that takes this back.</source>
         <translation>请正常说话五秒钟。</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>正在等待麦克风…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>%1% 的灵敏度适合你在这里的声音。</translation>
@@ -1008,6 +1012,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Nothing comes from the microphone “%1”. Another program may keep it to itself.</source>
         <extracomment>%1: the name of a microphone.</extracomment>
         <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>无法启动麦克风。请关闭再打开语音跟随以重试。</translation>
     </message>
     <message>
         <source>Echo cancellation is on.</source>
