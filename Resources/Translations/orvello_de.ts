@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -784,6 +805,10 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Warten auf das Mikrofon …</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Für Ihre Stimme passt hier eine Empfindlichkeit von %1 %.</translation>
@@ -1029,6 +1054,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Das Mikrofon ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Das Mikrofon ließ sich nicht starten. Schalten Sie „Der Stimme folgen“ aus und ein, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>Die Echounterdrückung ist an.</translation>
     </message>
@@ -1152,6 +1185,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Text color</source>
         <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>Die Deckkraft wirkt im Moment nicht: Fenster können nur durchscheinen, solange auf dem Desktop ein Compositor läuft.</translation>
     </message>
 </context>
 <context>

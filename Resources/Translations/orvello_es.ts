@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Se muestra en el prompter · guardado automático local, nada sale de tu ordenador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -784,6 +805,10 @@ En los ajustes hay un botón que lo revoca.</translation>
         <translation>Habla con normalidad durante cinco segundos.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Esperando al micrófono…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Para tu voz, aquí conviene una sensibilidad del %1 %.</translation>
@@ -1029,6 +1054,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>No se pudo iniciar el micrófono. Desactiva y activa el seguimiento de la voz para volver a intentarlo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>La cancelación de eco está activada.</translation>
     </message>
@@ -1152,6 +1185,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Text color</source>
         <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>La opacidad no tiene efecto por ahora: las ventanas solo pueden ser translúcidas mientras el escritorio ejecute un compositor.</translation>
     </message>
 </context>
 <context>

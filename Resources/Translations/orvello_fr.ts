@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Affiché dans le prompteur · enregistré automatiquement en local, rien ne quitte votre ordinateur</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Commencer ici</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -784,6 +805,10 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <translation>Parlez normalement pendant cinq secondes.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>En attente du microphone…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Pour votre voix, une sensibilité de %1 % convient ici.</translation>
@@ -1029,6 +1054,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Le microphone n’a pas pu démarrer.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Le microphone n’a pas pu démarrer. Désactivez et réactivez le suivi de la voix pour réessayer.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>L’annulation de l’écho est active.</translation>
     </message>
@@ -1152,6 +1185,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Text color</source>
         <translation>Couleur du texte</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>L’opacité est sans effet pour le moment : les fenêtres ne peuvent être translucides que si un compositeur est actif sur le bureau.</translation>
     </message>
 </context>
 <context>

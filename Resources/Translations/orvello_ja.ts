@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>プロンプターに表示中 · このコンピューターに自動保存され、外部には送られません</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>ペースト</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -778,6 +799,10 @@ The settings have a button that takes this back.</source>
         <translation>5秒間、ふだんどおりに話してください。</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>マイクを待っています…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>ここでのあなたの声には、感度 %1% が合っています。</translation>
@@ -1023,6 +1048,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>マイクを開始できませんでした。「音声に追従」をいったんオフにしてオンに戻すと、もう一度試します。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>エコーキャンセルはオンです。</translation>
     </message>
@@ -1146,6 +1179,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Text color</source>
         <translation>文字の色</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度は現在効きません。ウインドウが半透明になるのは、デスクトップでコンポジターが動作している間だけです。</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Mostrado no prompter · salvo automaticamente aqui, nada sai do seu computador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Começar aqui</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -784,6 +805,10 @@ Nas configurações há um botão que desfaz isso.</translation>
         <translation>Fale normalmente por cinco segundos.</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Aguardando o microfone…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>Para a sua voz, uma sensibilidade de %1% é adequada aqui.</translation>
@@ -1029,6 +1054,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Não foi possível iniciar o microfone.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Não foi possível iniciar o microfone. Desative e ative “Seguir a voz” para tentar de novo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>O cancelamento de eco está ativo.</translation>
     </message>
@@ -1152,6 +1185,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Text color</source>
         <translation>Cor do texto</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>A opacidade não tem efeito no momento: as janelas só podem ser translúcidas enquanto o ambiente executa um compositor.</translation>
     </message>
 </context>
 <context>

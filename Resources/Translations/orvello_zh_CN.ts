@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>显示在提词器中 · 自动保存在本机，任何内容都不会离开你的电脑</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>从这里开始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -778,6 +799,10 @@ The settings have a button that takes this back.</source>
         <translation>请正常说话五秒钟。</translation>
     </message>
     <message>
+        <source>Waiting for the microphone…</source>
+        <translation>正在等待麦克风…</translation>
+    </message>
+    <message>
         <source>A sensitivity of %1% suits your voice here.</source>
         <extracomment>%1: a whole number.</extracomment>
         <translation>%1% 的灵敏度适合你在这里的声音。</translation>
@@ -1023,6 +1048,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>无法启动麦克风。请关闭再打开语音跟随以重试。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>回声消除已开启。</translation>
     </message>
@@ -1146,6 +1179,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Text color</source>
         <translation>文字颜色</translation>
+    </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度目前不起作用:只有当桌面运行合成器时,窗口才能半透明。</translation>
     </message>
 </context>
 <context>

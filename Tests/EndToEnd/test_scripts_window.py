@@ -347,6 +347,31 @@ class ScriptsWindowTest(unittest.TestCase):
         window.type(" 2")
         window.wait_for_active(title="Quarterly review 2", body=body)
 
+    def test_the_prompter_begins_at_the_line_of_the_cursor(self):
+        App.set_defaults(self.desktop, speed=10.0, countdownSeconds=0.0)
+        window = self.start()
+        window.wait_for_first_frame()
+        window.key("ctrl+n")
+        window.key("Return")
+        window.key(*["m", "Return"] * 12)
+        window.type("MMMMMMMM")
+        window.key("Return", *["m", "Return"] * 6)
+        window.wait_for_active(body="m\n" * 12 + "MMMMMMMM\n" + "m\n" * 6)
+        x, y, width, height = window.app.geometry()
+        self.desktop.run("xdotool", "mousemove", "10", "880")
+
+        def has_long_line():
+            """Whether the long line is near the card's top: its end is right of where a short one ends."""
+            rows = self.desktop.screenshot().rows(x + width // 8, y + height // 8, width // 2, height // 3)
+            return max(rows) > 2 * base
+        base = max(self.desktop.screenshot().rows(x + width // 8, y + height // 8, width // 2, height // 3))
+        self.assertFalse(has_long_line())
+
+        window.key(*["Up"] * 7, "ctrl+Return")
+        wait_until(has_long_line, what="the long line at the top")
+        wait_until(lambda: not has_long_line(), 30, "the text to scroll on")
+        self.assertEqual(window.active()["body"].count("\n"), 19, "the key writes nothing")
+
     def test_scripts_are_exported_as_text_and_markdown(self):
         window = self.start()
         window.wait_for_first_frame()

@@ -1,6 +1,7 @@
 #include "Tests/Gallery/Scenes.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -57,7 +58,7 @@ public:
         engine.setContentHeight(1700);
         pace.setText(u"word "_s.repeated(300));
         settingsWindow.emplace(
-            SettingsWindow::Services { settings, voice, pace, updates, keys, facts });
+            SettingsWindow::Services { settings, voice, pace, updates, keys, compositing, facts });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -96,6 +97,7 @@ public:
     Testing::FakeUserDefaults defaults;
     Testing::FakeUpdater updater;
     Testing::FakeHotKeys keys;
+    Compositing compositing;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, microphones, workspace } };

@@ -1,4 +1,5 @@
 #include "Orvello/Library/Records/WelcomeScript.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Shell/App/Translation.h"
@@ -71,6 +72,7 @@ protected:
     const Facts facts = factsOfALinuxDesktop();
     FakeHotKeys keys;
     FakeUpdater updater;
+    Compositing compositing;
     UpdateController updates { { updater, defaults, [] {} } };
     ScrollEngine scrolling { settings, time };
     ReadingPace pace { settings, scrolling, time };
@@ -84,7 +86,7 @@ TEST_P(TruthfulTextsTest, speaksTheLanguage)
 
 TEST_P(TruthfulTextsTest, namesNothingInTheSettingsThatTheMachineLacks)
 {
-    SettingsWindow window({ settings, *engine, pace, updates, keys, facts });
+    SettingsWindow window({ settings, *engine, pace, updates, keys, compositing, facts });
     window.view().show();
     drainEvents();
 

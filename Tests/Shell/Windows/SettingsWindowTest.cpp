@@ -1,5 +1,6 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
@@ -64,8 +65,8 @@ protected:
     void open(const Facts& facts = factsOfAMac())
     {
         window.reset();
-        window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, pace, updates, keys, facts, impress });
+        window = std::make_unique<SettingsWindow>(SettingsWindow::Services {
+            settings, *engine, pace, updates, keys, compositing, facts, impress });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -120,6 +121,7 @@ protected:
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
     FakeHotKeys keys;
+    Compositing compositing;
     ImpressPresenter* impress = nullptr;
     ScrollEngine scrolling { settings, time };
     ReadingPace pace { settings, scrolling, time };
@@ -631,6 +633,19 @@ TEST_F(SettingsWindowTest, movesItsSlidersOnAGridOfSteps)
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(&view(), Qt::Key_Left);
     EXPECT_EQ(settings.backgroundOpacity(), 0.15);
+}
+
+TEST_F(SettingsWindowTest, saysThatTheOpacityHasNoEffectWhileThereIsNoCompositor)
+{
+    const QString note = u"The opacity has no effect at the moment: windows can be translucent "
+                         "only while the desktop runs a compositor."_s;
+    EXPECT_FALSE(showsText(view(), note));
+
+    compositing.setOn(false);
+    EXPECT_TRUE(showsText(view(), note));
+
+    compositing.setOn(true);
+    EXPECT_FALSE(showsText(view(), note));
 }
 
 TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)

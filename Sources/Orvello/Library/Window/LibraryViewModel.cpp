@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <utility>
+
 namespace Orvello {
 
 using namespace Qt::StringLiterals;
@@ -21,9 +23,11 @@ QList<OpenPanel::FileKind> exportKinds()
 
 } // namespace
 
-LibraryViewModel::LibraryViewModel(const DeckImports::Services& services)
+LibraryViewModel::LibraryViewModel(
+    const DeckImports::Services& services, std::function<void(qsizetype)> startReadingAt)
     : m_library(services.library)
     , m_openPanel(services.openPanel)
+    , m_startReadingAt(std::move(startReadingAt))
     , m_scripts(services.library)
     , m_search(services.library, m_scripts)
     , m_deleted(services.library)
@@ -52,6 +56,12 @@ void LibraryViewModel::removeActive()
 {
     if (const std::optional<QUuid> id = m_library.activeScriptID())
         m_library.remove(*id);
+}
+
+void LibraryViewModel::startHere(int cursorPosition)
+{
+    if (const Script* const script = m_library.activeScript())
+        m_startReadingAt(m_openScripts.active()->startOfLine(script->body, cursorPosition));
 }
 
 void LibraryViewModel::exportActive()

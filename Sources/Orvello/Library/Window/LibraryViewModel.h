@@ -23,7 +23,10 @@ class LibraryViewModel final : public QObject {
     Q_PROPERTY(Orvello::Facts facts MEMBER m_facts CONSTANT FINAL)
 
 public:
-    explicit LibraryViewModel(const DeckImports::Services& services);
+    /// `startReadingAt` has the prompter begin at a place of the active script's body.
+    explicit LibraryViewModel(
+        const DeckImports::Services& services,
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {});
     ~LibraryViewModel() override;
 
     ScriptSearch* scripts() { return &m_search; }
@@ -35,6 +38,9 @@ public:
     Q_INVOKABLE void addScript();
     Q_INVOKABLE void removeActive(); ///< Does nothing when no script is active.
     Q_INVOKABLE void duplicateActive(); ///< The same.
+
+    /// Has the prompter begin with the line of the editor that has that place.
+    Q_INVOKABLE void startHere(int cursorPosition);
 
     /// Writes the active script to a file that the user chooses, as text or Markdown.
     Q_INVOKABLE void exportActive();
@@ -48,6 +54,7 @@ private:
 
     LibraryStore& m_library;
     OpenPanel& m_openPanel;
+    const std::function<void(qsizetype)> m_startReadingAt;
     ScriptListModel m_scripts;
     ScriptSearch m_search;
     DeletedScriptsModel m_deleted;

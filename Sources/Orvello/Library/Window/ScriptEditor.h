@@ -57,6 +57,10 @@ public:
     /// Follows the user's edits in a document that shows the body.
     Q_INVOKABLE void follow(QQuickTextDocument* document);
 
+    /// Where the line that the document shows at this position begins in the body as the library
+    /// has it.
+    qsizetype startOfLine(QStringView libraryBody, int position) const;
+
     /// Shows this script as the library has it after a change.
     void update(const Script& script, const LibraryChange& change);
 

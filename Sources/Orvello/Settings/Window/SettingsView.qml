@@ -16,6 +16,7 @@ Pane {
     required property UpdateController updates
     required property string version
     required property ShortcutList shortcuts
+    required property Compositing compositing
     required property facts facts
     property ImpressPresenter impress
     property string impressConsent
@@ -73,6 +74,7 @@ Pane {
             PrompterSettings {
                 settings: root.settings
                 form: root.form
+                compositing: root.compositing
             }
             VoiceSettings {
                 settings: root.settings

@@ -226,11 +226,17 @@ void AppDelegate::makeWindows()
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_pace, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get(),
+        m_platforms.desktop.hotKeys(), m_platforms.desktop.compositing(), m_platforms.early.facts(),
+        m_impress.get(),
         PanelSpace {
             .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
             .stepAside = [this] { m_panel->hide(); },
             .comeBack = [this] { showPanel(); },
+        },
+        [this](qsizetype position) {
+            if (!m_panel->isVisible())
+                showPanel();
+            m_prompterWindow->startAt(position);
         } });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,

@@ -2,6 +2,7 @@
 
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
 #include "Orvello/Prompting/Engine/ReadingClock.h"
@@ -45,6 +46,13 @@ struct AssignedKeysType {
     Q_GADGET
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct CompositingType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Compositing)
+    QML_NAMED_ELEMENT(Compositing)
     QML_UNCREATABLE("The program makes it.")
 };
 

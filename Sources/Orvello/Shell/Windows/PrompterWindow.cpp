@@ -16,7 +16,8 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 PrompterWindow::PrompterWindow(const Services& services)
-    : m_lines(services.time)
+    : m_deck(services.deck)
+    , m_lines(services.time)
     , m_status(services.engine)
     , m_clock(services.settings, services.engine, services.time)
     , m_levelMeter(services.voice)
@@ -49,6 +50,12 @@ void PrompterWindow::setVisibleInRecordings(bool isVisible)
     m_status.setVisibleInRecordings(isVisible);
 }
 
+void PrompterWindow::startAt(qsizetype position)
+{
+    if (const std::optional<qsizetype> character = m_deck.goTo(position))
+        m_lines.find(*character);
+}
+
 /// The text and its size go from the services to the layout, its height from there to the engine.
 void PrompterWindow::connectText(const Services& services)
 {
@@ -64,6 +71,14 @@ void PrompterWindow::connectText(const Services& services)
         [this, &engine = services.engine] { m_lines.setReadingTop(engine.offset()); });
     connect(&m_lines, &PromptLines::readingTopMoved, this, [this, &engine = services.engine] {
         engine.setOffset(std::min(m_lines.readingTop(), engine.endOffset()));
+    });
+    connect(&m_lines, &PromptLines::found, this, [&engine = services.engine](double top) {
+        if (engine.isCountingDown())
+            engine.toggle();
+        engine.setOffset(std::min(top, engine.endOffset()));
+        // A text that stands at its end would start again from the top.
+        if (engine.offset() < engine.endOffset())
+            engine.start();
     });
     m_lines.setText(services.deck.promptText());
     connect(&services.deck, &DeckController::promptTextChanged, this,

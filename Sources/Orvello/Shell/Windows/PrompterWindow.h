@@ -41,12 +41,16 @@ public:
 
     QWindow& window() { return m_view; }
 
+    /// Begins to scroll at the line with that place of the active script's body.
+    void startAt(qsizetype position);
+
     /// Whether the card says that Stealth Mode cannot hide it here.
     void setVisibleInRecordings(bool isVisible);
 
 private:
     void connectText(const Services& services);
 
+    DeckController& m_deck;
     PromptLines m_lines;
     PrompterStatus m_status;
     ReadingClock m_clock;

@@ -10,6 +10,7 @@
 namespace Orvello {
 
 class AssignedKeys;
+class Compositing;
 class ImpressPresenter;
 class SettingsStore;
 class ReadingPace;
@@ -32,6 +33,7 @@ public:
         ReadingPace& pace;
         UpdateController& updates;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the window may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };
