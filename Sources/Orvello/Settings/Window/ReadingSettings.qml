@@ -11,9 +11,6 @@ SettingsSection {
 
     title: qsTr("Reading")
 
-    SettingsNote {
-        text: root.pace.description
-    }
     SettingsRow {
         id: row
 
@@ -38,6 +35,9 @@ SettingsSection {
                 value: Math.round(root.pace.unitsPerMinute)
             }
         }
+    }
+    SettingsNote {
+        text: root.pace.description
     }
     SettingsToggle {
         label: qsTr("Keep my pace with another text, size or width")
