@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,10 +595,47 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Dieses Skript exportieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n Skript exportieren</numerusform>
+            <numerusform>%n Skripte exportieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Export fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>„%1“ konnte nicht geschrieben werden (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Skripte</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Der Text im Prompter wird gerade gelesen</translation>
     </message>
 </context>
 <context>
@@ -709,6 +767,10 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Warten auf das Mikrofon …</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -956,6 +1018,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Das Mikrofon ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Das Mikrofon ließ sich nicht starten. Schalten Sie „Der Stimme folgen“ aus und ein, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>Die Echounterdrückung ist an.</translation>
     </message>
@@ -1163,6 +1233,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Move Down</source>
         <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Alle exportieren …</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Se muestra en el prompter · guardado automático local, nada sale de tu ordenador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,10 +595,47 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exportar este guion</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exportar %n guion</numerusform>
+            <numerusform>Exportar %n guiones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Guiones</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Error al exportar</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>No se pudo escribir «%1» (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Guiones</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Se está leyendo el prompter</translation>
     </message>
 </context>
 <context>
@@ -709,6 +767,10 @@ En los ajustes hay un botón que lo revoca.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Esperando al micrófono…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -956,6 +1018,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>No se pudo iniciar el micrófono. Desactiva y activa el seguimiento de la voz para volver a intentarlo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>La cancelación de eco está activada.</translation>
     </message>
@@ -1163,6 +1233,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Move Down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Exportar todos…</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Affiché dans le prompteur · enregistré automatiquement en local, rien ne quitte votre ordinateur</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Commencer ici</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,10 +595,47 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exporter ce script</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exporter %n script</numerusform>
+            <numerusform>Exporter %n scripts</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Scripts</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Échec de l’exportation</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>Impossible d’écrire « %1 » (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Scripts</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Le prompteur est en cours de lecture</translation>
     </message>
 </context>
 <context>
@@ -709,6 +767,10 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>En attente du microphone…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -956,6 +1018,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Le microphone n’a pas pu démarrer.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Le microphone n’a pas pu démarrer. Désactivez et réactivez le suivi de la voix pour réessayer.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>L’annulation de l’écho est active.</translation>
     </message>
@@ -1163,6 +1233,15 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Move Down</source>
         <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Tout exporter…</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>プロンプターに表示中 · このコンピューターに自動保存され、外部には送られません</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>ペースト</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -573,10 +594,46 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>この原稿を書き出す</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n件の原稿を書き出す</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>原稿</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>書き出しに失敗しました</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>“%1”に書き込めませんでした（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>原稿</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>プロンプターを読んでいます</translation>
     </message>
 </context>
 <context>
@@ -706,6 +763,10 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>マイクを待っています…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -953,6 +1014,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>マイクを開始できませんでした。「音声に追従」をいったんオフにしてオンに戻すと、もう一度試します。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>エコーキャンセルはオンです。</translation>
     </message>
@@ -1160,6 +1229,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Move Down</source>
         <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>すべて書き出す…</translation>
     </message>
 </context>
 <context>

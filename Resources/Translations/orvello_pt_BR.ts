@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Mostrado no prompter · salvo automaticamente aqui, nada sai do seu computador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Começar aqui</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,10 +595,47 @@ Nas configurações há um botão que desfaz isso.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exportar este roteiro</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exportar %n roteiro</numerusform>
+            <numerusform>Exportar %n roteiros</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Roteiros</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Falha na exportação</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>Não foi possível gravar “%1” (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Roteiros</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>O prompter está sendo lido</translation>
     </message>
 </context>
 <context>
@@ -709,6 +767,10 @@ Nas configurações há um botão que desfaz isso.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Fale normalmente por cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Aguardando o microfone…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -956,6 +1018,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Nada chega do microfone “%1”. Talvez outro programa o use com exclusividade.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Não foi possível iniciar o microfone.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Não foi possível iniciar o microfone. Desative e ative “Seguir a voz” para tentar de novo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>O cancelamento de eco está ativo.</translation>
     </message>
@@ -1163,6 +1233,15 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Move Down</source>
         <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Exportar todos…</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>显示在提词器中 · 自动保存在本机，任何内容都不会离开你的电脑</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>从这里开始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -573,10 +594,46 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>导出此讲稿</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>导出 %n 篇讲稿</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>讲稿</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>导出失败</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>无法写入“%1”（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>讲稿</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>正在阅读提词器</translation>
     </message>
 </context>
 <context>
@@ -706,6 +763,10 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>正在等待麦克风…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -953,6 +1014,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>无法启动麦克风。请关闭再打开语音跟随以重试。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>回声消除已开启。</translation>
     </message>
@@ -1160,6 +1229,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Move Down</source>
         <translation>下移</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>全部导出…</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,8 @@
 
 #include "Tests/Support/PrompterServices.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
 #include <QQuickWindow>
 
 namespace Orvello::Gallery {
@@ -68,6 +70,14 @@ void scroll(PrompterStage& stage)
     stage.services.engine.setOffset(54);
 }
 
+void pointAtTheStatus(PrompterStage& stage)
+{
+    const QPointF place(40, stage.window().height() - 15);
+    QMouseEvent move(QEvent::MouseMove, place, stage.window().mapToGlobal(place), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&stage.window(), &move);
+}
+
 void openDeck(PrompterStage& stage)
 {
     stage.services.openDeck({
@@ -113,6 +123,13 @@ Scenes prompterScenes()
                 scroll(stage);
                 stage.services.hear(0.03F);
                 stage.services.engine.setVoiceGate(true);
+            }),
+        prompter(u"what the microphone hears"_s, Wallpaper::Night,
+            [](PrompterStage& stage) {
+                stage.services.microphones.become({ .heard = u"Headset"_s });
+                stage.services.settings.setVoiceFollow(true);
+                stage.services.hear(0.03F);
+                pointAtTheStatus(stage);
             }),
         prompter(u"visible in recordings"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.prompter.setVisibleInRecordings(true); }),

@@ -90,7 +90,7 @@ public:
     HotKeys& hotKeys() override { return hotKeysFake; }
     Updater& updater() override { return updaterFake; }
     HelperProcess* impressHelper() override { return nullptr; }
-    Wakefulness* wakefulness() override { return &wakefulnessFake; }
+    Wakefulness& wakefulness() override { return wakefulnessFake; }
     bool hasHardwareRenderer() override { return false; }
 
     MicrophonePermission& microphonePermission() override { return permission; }

@@ -129,7 +129,13 @@ void VoiceActivityEngine::start()
     if (m_sound.isReady)
         choosePath();
     else
-        m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+        awaitMicrophone();
+}
+
+void VoiceActivityEngine::awaitMicrophone()
+{
+    m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+    Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::onMicrophonesChanged()
@@ -143,13 +149,15 @@ void VoiceActivityEngine::onMicrophonesChanged()
         choosePath();
 }
 
+bool VoiceActivityEngine::isDead() const { return m_watchdog && !m_isListening; }
+
 VoiceActivityEngine::Trouble VoiceActivityEngine::trouble() const
 {
     if (m_micAuthorized == false)
         return Trouble::PermissionDenied;
     switch (m_sound.trouble) {
     case Microphones::Trouble::None:
-        return Trouble::None;
+        return isDead() ? Trouble::NotStarted : Trouble::None;
     case Microphones::Trouble::NoAnswer:
         return Trouble::NoAnswer;
     case Microphones::Trouble::Refused:
@@ -186,9 +194,7 @@ QString VoiceActivityEngine::troubleForPeople() const
     case Trouble::NoAnswer:
         return tr("The sound system does not answer.");
     case Trouble::NoMicrophone:
-        return m_isListening || m_patience
-            ? tr("No microphone is connected.")
-            : tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+        return tr("No microphone is connected.");
     case Trouble::Muted:
         //: %1: the name of a microphone.
         return tr("The microphone “%1” is muted.").arg(m_sound.heard);
@@ -197,6 +203,8 @@ QString VoiceActivityEngine::troubleForPeople() const
         return tr("Nothing comes from the microphone “%1”. Another program may keep it to "
                   "itself.")
             .arg(m_sound.heard);
+    case Trouble::NotStarted:
+        return tr("The microphone could not be started.");
     }
     return {};
 }
@@ -222,9 +230,13 @@ QString VoiceActivityEngine::hearing() const
 {
     if (!m_settings.voiceFollow() && !m_isListening)
         return {};
-    const QString trouble = troubleForPeople();
-    if (!trouble.isEmpty() || !m_isListening || m_sound.heard.isEmpty())
-        return trouble;
+    if (isDead() && trouble() == Trouble::NoMicrophone)
+        return tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+    if (trouble() == Trouble::NotStarted)
+        return tr("The microphone could not be started. Turn Voice-Follow off and on to try "
+                  "again.");
+    if (trouble() != Trouble::None || !m_isListening || m_sound.heard.isEmpty())
+        return troubleForPeople();
     //: %1: the name of a microphone.
     return tr("Listening to “%1”.").arg(m_sound.heard);
 }
@@ -300,8 +312,11 @@ void VoiceActivityEngine::choosePath()
 
 void VoiceActivityEngine::stop()
 {
+    const bool wasDead = isDead();
     m_patience.reset();
     m_watchdog.reset();
+    if (wasDead)
+        Q_EMIT statusChanged();
     if (!m_isListening)
         return;
     stopCurrentCapture();
@@ -370,6 +385,8 @@ std::optional<QString> VoiceActivityEngine::runningMeetingAppName() const
 void VoiceActivityEngine::startWatchdog()
 {
     m_watchdog = m_ports.time.callEvery(watchdogSeconds, [this] { watchdogTick(); });
+    if (isDead())
+        Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::watchdogTick()
@@ -477,6 +494,7 @@ void VoiceActivityEngine::applyPendingReports()
 {
     while (const std::optional<BlockReport> report = m_reports.pop()) {
         m_hasHeard = true;
+        m_sensitivityTest.hear(report->rootMeanSquare);
         apply(*report);
     }
 }
@@ -484,7 +502,6 @@ void VoiceActivityEngine::applyPendingReports()
 void VoiceActivityEngine::apply(const BlockReport& report)
 {
     publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
-    m_sensitivityTest.hear(report.rootMeanSquare);
     if (m_isSpeaking == report.isSpeaking)
         return;
     publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);

@@ -123,6 +123,19 @@ TEST_F(PrompterAccessibilityTest, readsTheCountdownWhileItCounts)
     EXPECT_THAT(countdown(), Not(Contains(::testing::HasSubstr("(Countdown)"))));
 }
 
+TEST_F(PrompterAccessibilityTest, readsWhatTheMicrophoneHearsWithTheStatus)
+{
+    services.microphones.become({ .heard = u"Headset"_s });
+    services.settings.setVoiceFollow(true);
+    services.hear(0);
+    EXPECT_THAT(named(QAccessible::StaticText),
+        Contains("paused (Status\nListening to “Headset”.\nEcho cancellation is on.)"));
+
+    services.microphones.become({ .trouble = Microphones::Trouble::NoAnswer });
+    EXPECT_THAT(named(QAccessible::StaticText),
+        Contains("paused (Status\nThe sound system does not answer.)"));
+}
+
 TEST_F(PrompterAccessibilityTest, readsTheShareNoticeUntilItIsDismissed)
 {
     const QString notice = u"Toggling Stealth Mode during a screen share can gray out this "

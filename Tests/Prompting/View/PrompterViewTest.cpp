@@ -170,6 +170,34 @@ protected:
     std::unique_ptr<PrompterWindow> window;
 };
 
+TEST_F(PrompterViewTest, beginsAtALine)
+{
+    QStringList numbered;
+    for (int i = 0; i < 40; ++i)
+        numbered.append(u"Line %1"_s.arg(i));
+    const QString text = numbered.join(u'\n');
+    show(text);
+    const double top = placeOfLine(u"Line 0"_s).top();
+    const double pitch = placeOfLine(u"Line 1"_s).top() - top;
+
+    window->startAt(text.indexOf(u"Line 20") + 3);
+    EXPECT_DOUBLE_EQ(services.engine.offset(), 20 * pitch);
+    EXPECT_TRUE(services.engine.isRunning());
+    EXPECT_NEAR(placeOfLine(u"Line 20"_s).top(), top, 1) << "it stands where the first line did";
+
+    services.engine.toggle();
+    window->startAt(text.size());
+    EXPECT_EQ(services.engine.offset(), services.engine.endOffset());
+    EXPECT_FALSE(services.engine.isRunning()) << "it would start again from the top";
+
+    settings.setCountdownSeconds(3);
+    window->startAt(0);
+    EXPECT_EQ(services.engine.countdown(), 3);
+    window->startAt(text.indexOf(u"Line 1\n"));
+    EXPECT_EQ(services.engine.countdown(), std::nullopt);
+    EXPECT_TRUE(services.engine.isRunning());
+}
+
 TEST_F(PrompterViewTest, tellsTheEngineTheHeightThatIsVisible)
 {
     EXPECT_EQ(engine.viewportHeight(), 200);
@@ -688,6 +716,28 @@ TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnABadge)
     moveMouse(onBadge.x(), onBadge.y());
 
     EXPECT_TRUE(engine.hoverPaused());
+}
+
+TEST_F(PrompterViewTest, tellsWhoPointsAtTheStatusWhatTheMicrophoneHears)
+{
+    const QPoint onBadge = placeOf(*textItem(u"paused"_s)).center().toPoint();
+    moveMouse(360, -50); // Where the pointer is already, nothing moves.
+    moveMouse(onBadge.x(), onBadge.y());
+    EXPECT_EQ(visibleTexts().size(), 1) << "nothing is heard, or wanted to be";
+
+    services.microphones.become({ .heard = u"Headset"_s });
+    settings.setVoiceFollow(true);
+    services.hear(0);
+    const QString heard = u"Listening to “Headset”."_s;
+    ASSERT_TRUE(textItem(heard));
+    EXPECT_TRUE(textItem(u"Echo cancellation is on."_s));
+    EXPECT_FALSE(placeOf(*textItem(heard)).intersects(placeOf(*textItem(u"hover pause"_s))));
+
+    services.microphones.become({ .heard = u"Headset"_s, .trouble = Microphones::Trouble::Muted });
+    EXPECT_TRUE(textItem(u"The microphone “Headset” is muted."_s));
+
+    moveMouse(360, 20);
+    EXPECT_FALSE(textItem(u"The microphone “Headset” is muted."_s));
 }
 
 TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnTheChip)

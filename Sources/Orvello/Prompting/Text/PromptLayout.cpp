@@ -198,6 +198,13 @@ double PromptLayout::characterAt(double top) const
     return line.start + share * (double(next.start) - line.start);
 }
 
+double PromptLayout::topOfLineWith(qsizetype character) const
+{
+    const auto after = std::ranges::upper_bound(
+        m_lines, character, {}, [](const Line& line) { return qsizetype(line.start); });
+    return after == m_lines.begin() ? 0 : std::prev(after)->top;
+}
+
 double PromptLayout::topOf(double character) const
 {
     const auto after = std::ranges::upper_bound(

@@ -12,6 +12,7 @@ Item {
     required property PromptLines lines
     required property PrompterStatus status
     required property LevelMeter levelMeter
+    required property VoiceActivityEngine voice
     required property SlideStatus slideStatus
     required property ShareWarning shareWarning
     required property string fontFamily
@@ -70,6 +71,16 @@ Item {
         anchors.margins: CardStyle.edge
         status: root.status
         meter: root.levelMeter
+        voice: root.voice
+    }
+
+    VoiceHint {
+        anchors.left: parent.left
+        anchors.bottom: statusBadge.top
+        anchors.margins: CardStyle.edge
+        visible: statusBadge.isPointedAt && voice.status !== ""
+        maximumWidth: parent.width - 2 * CardStyle.edge
+        voice: root.voice
     }
 
     RecordingBadge {

@@ -7,10 +7,17 @@ Capsule {
 
     required property PrompterStatus status
     required property LevelMeter meter
+    required property VoiceActivityEngine voice
+
+    readonly property bool isPointedAt: hover.hovered
 
     Accessible.role: Accessible.StaticText
     Accessible.name: status.label
-    Accessible.description: qsTr("Status")
+    Accessible.description: voice.status === "" ? qsTr("Status") : qsTr("Status") + "\n" + voice.status
+
+    HoverHandler {
+        id: hover
+    }
 
     RoundedBox {
         anchors.verticalCenter: parent.verticalCenter

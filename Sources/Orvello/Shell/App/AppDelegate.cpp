@@ -7,13 +7,13 @@
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
-#include "Orvello/Platform/Desktop/Wakefulness.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Shell/App/StayAwake.h"
 #include "Orvello/Shell/Commands/PlainPKey.h"
 #include "Orvello/Shell/Commands/StatusItem.h"
 #include "Orvello/Shell/Windows/Branding.h"
@@ -231,6 +231,11 @@ void AppDelegate::makeWindows()
             .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
             .stepAside = [this] { m_panel->hide(); },
             .comeBack = [this] { showPanel(); },
+        },
+        [this](qsizetype position) {
+            if (!m_panel->isVisible())
+                showPanel();
+            m_prompterWindow->startAt(position);
         } });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
@@ -333,24 +338,9 @@ void AppDelegate::subscribe()
         });
     observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
         *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
-    if (Wakefulness* const wakefulness = m_platforms.desktop.wakefulness())
-        keepAwake(*wakefulness);
-}
-
-void AppDelegate::keepAwake(Wakefulness& wakefulness)
-{
-    const auto need = [this] {
-        if (m_engine.isRunning() || m_engine.isCountingDown())
-            return Wakefulness::Need::Display;
-        return m_voice.isListening() || m_presentation.isPresenting() ? Wakefulness::Need::Timers
-                                                                      : Wakefulness::Need::None;
-    };
-    observeCombined(
-        *this, need, [&wakefulness](Wakefulness::Need now) { wakefulness.hold(now); },
-        changeOf(m_engine, &ScrollEngine::isRunningChanged),
-        changeOf(m_engine, &ScrollEngine::countdownChanged),
-        changeOf(m_voice, &VoiceActivityEngine::isListeningChanged),
-        changeOf(m_presentation, &PresentationMonitor::isPresentingChanged));
+    m_stayAwake
+        = std::make_unique<StayAwake>(StayAwake::Services { m_platforms.desktop.wakefulness(),
+            m_engine, m_slideSync, m_presentation, m_voice, m_platforms.early.time() });
 }
 
 /// Slide tracking is on exactly while the setting is and the active script has slides.

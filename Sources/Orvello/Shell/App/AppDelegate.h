@@ -39,7 +39,7 @@ class PrompterWindow;
 class RightClickFilter;
 class SoundPlatform;
 class StatusItem;
-class Wakefulness;
+class StayAwake;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -99,7 +99,6 @@ private:
     void registerHotKeys();
     void startUpdates();
     void subscribe();
-    void keepAwake(Wakefulness& wakefulness);
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);
@@ -141,6 +140,7 @@ private:
     std::unique_ptr<StatusMenu> m_prompterMenu;
     std::unique_ptr<StatusItem> m_statusItem;
     std::unique_ptr<RightClickFilter> m_rightClicks;
+    std::unique_ptr<StayAwake> m_stayAwake;
     std::unique_ptr<PlainPKey> m_plainPKey;
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
     QList<QUrl> m_pendingURLs;

@@ -63,6 +63,8 @@ public:
         Facts facts; ///< What the windows may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
         PanelSpace panel = {};
+        /// Has the prompter begin at that place of the active script's body.
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

@@ -28,7 +28,7 @@ public:
     struct Services {
         ScrollEngine& engine;
         SettingsStore& settings;
-        const VoiceActivityEngine& voice;
+        VoiceActivityEngine& voice;
         const PresentationMonitor& presentation;
         DeckController& deck;
         TimeSource& time;
@@ -40,12 +40,16 @@ public:
 
     QWindow& window() { return m_view; }
 
+    /// Begins to scroll at the line with that place of the active script's body.
+    void startAt(qsizetype position);
+
     /// Whether the card says that Stealth Mode cannot hide it here.
     void setVisibleInRecordings(bool isVisible);
 
 private:
     void connectText(const Services& services);
 
+    DeckController& m_deck;
     PromptLines m_lines;
     PrompterStatus m_status;
     LevelMeter m_levelMeter;

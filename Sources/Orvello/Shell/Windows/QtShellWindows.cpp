@@ -24,7 +24,7 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
     return std::make_unique<LibraryWindow>(
         LibraryWindow::Services { m_services.library, m_openDecks, m_services.presenters,
             m_services.openPanel, m_services.facts },
-        m_services.panel);
+        m_services.panel, m_services.startReadingAt);
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()

@@ -3,6 +3,7 @@
 #include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxDesktopServices.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxStatusBar.h"
+#include "Orvello/Adapters/Linux/Desktop/LinuxWakefulness.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/PortalHotKeys.h"
 #include "Orvello/Adapters/Linux/Desktop/UpdateDialogs.h"
@@ -83,6 +84,7 @@ struct Session {
     QDBusConnection bus = QDBusConnection::sessionBus();
     LinuxDesktopServices services { bus };
     LinuxStatusBar statusBar { bus };
+    LinuxWakefulness wakefulness { bus };
     X11HotKeys x11Keys;
     std::optional<PortalHotKeys> portalKeys;
 };
@@ -115,6 +117,7 @@ public:
     HotKeys& hotKeys() override { return m_session.hotKeys(); }
     Updater& updater() override { return m_updates.updater; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
+    Wakefulness& wakefulness() override { return m_session.wakefulness; }
     Compositing& compositing() override { return m_desktop.compositing; }
     HelperProcess* impressHelper() override { return m_impressHelper.get(); }
     bool hasHardwareRenderer() override { return HardwareRenderer::isThere(); }

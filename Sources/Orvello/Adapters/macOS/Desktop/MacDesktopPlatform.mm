@@ -75,10 +75,10 @@ public:
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
 
+    Wakefulness& wakefulness() override { return m_wakefulness; }
     /// The window server always composites.
     Compositing& compositing() override { return m_compositing; }
 
-    Wakefulness* wakefulness() override { return &m_wakefulness; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
