@@ -734,6 +734,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
         <translation>noch %1</translation>
     </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · noch %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ReadingPace</name>

@@ -734,6 +734,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
         <translation>faltam %1</translation>
     </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · faltam %2</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::ReadingPace</name>

@@ -94,13 +94,16 @@ void ReadingClock::update()
 QString ReadingClock::textNow() const
 {
     const QString& shown = m_settings.cardTime();
-    QStringList times;
-    if (shown == u"elapsed"_s || shown == u"both"_s)
-        times.append(duration(m_elapsed));
-    if (shown == u"left"_s || shown == u"both"_s)
+    if (shown == u"elapsed"_s)
+        return duration(m_elapsed);
+    if (shown == u"left"_s)
         //: On the card, at most about 15 characters. %1: minutes and seconds, as in "3:12".
-        times.append(tr("%1 left").arg(duration(left())));
-    return times.join(u" · "_s);
+        return tr("%1 left").arg(duration(left()));
+    if (shown == u"both"_s)
+        //: On the card, at most about 25 characters. %1: how long the reader has been reading; %2:
+        //: how long the rest takes, both as in "3:12".
+        return tr("%1 · %2 left").arg(duration(m_elapsed), duration(left()));
+    return {};
 }
 
 } // namespace Orvello
