@@ -38,6 +38,10 @@ Pane {
         onActivated: root.library.imports.chooseFile()
     }
     Shortcut {
+        sequences: ["Ctrl+R"]
+        onActivated: root.library.deckFile.update()
+    }
+    Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: root.Window.window.close()
     }
@@ -91,6 +95,7 @@ Pane {
                     model: root.library.openScripts
                     delegate: EditorPage {
                         facts: root.library.facts
+                        deckFile: root.library.deckFile
                         isActive: editor === root.library.openScripts.active
                         visible: isActive
                         // A long text out of sight is not worth laying out again at each size of the
@@ -122,6 +127,10 @@ Pane {
     }
 
     LibraryAlert {
+        imports: root.library.imports
+    }
+
+    UpdateQuestion {
         imports: root.library.imports
     }
 }

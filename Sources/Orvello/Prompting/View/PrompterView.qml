@@ -13,6 +13,7 @@ Item {
     required property PrompterStatus status
     required property LevelMeter levelMeter
     required property SlideStatus slideStatus
+    required property OtherDeckNotice otherDeckNotice
     required property ShareWarning shareWarning
     required property string fontFamily
     required property bool forceCapturable
@@ -59,6 +60,15 @@ Item {
         anchors.bottom: statusBadge.top
         anchors.margins: CardStyle.edge
         warning: root.shareWarning
+        visible: root.shareWarning.isShown && !root.otherDeckNotice.isShown // A small card has room for one.
+    }
+
+    OtherDeck {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: statusBadge.top
+        anchors.margins: CardStyle.edge
+        notice: root.otherDeckNotice
     }
 
     StatusBadge {

@@ -9,10 +9,12 @@
 
 namespace Orvello {
 
-class AppleScriptRunner;
+class DeckFileImport;
+class DeckFileUpdates;
 class HotKeys;
 class ImpressPresenter;
 class LibraryStore;
+class LiveDeckImport;
 class Menu;
 class OpenPanel;
 class PresenterTable;
@@ -52,7 +54,9 @@ public:
         VoiceActivityEngine& voice;
         UpdateController& updates;
         const PresenterTable& presenters;
-        const AppleScriptRunner& appleScript;
+        LiveDeckImport& openDecks;
+        DeckFileImport& files;
+        DeckFileUpdates& deckUpdates;
         Workspace& workspace;
         OpenPanel& openPanel;
         WindowChrome& windowChrome;

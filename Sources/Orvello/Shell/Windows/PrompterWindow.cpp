@@ -19,6 +19,7 @@ PrompterWindow::PrompterWindow(const Services& services)
     , m_status(services.engine)
     , m_levelMeter(services.voice)
     , m_slideStatus(services.deck)
+    , m_otherDeckNotice(services.deck, services.library, services.openDecks)
     , m_shareWarning(services.presentation, services.settings, services.engine)
 {
     connectText(services);
@@ -32,6 +33,7 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"status"_s, QVariant::fromValue(&m_status) },
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
+            { u"otherDeckNotice"_s, QVariant::fromValue(&m_otherDeckNotice) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
             { u"fontFamily"_s, PromptFont::family() },
             { u"forceCapturable"_s, services.forceCapturable },
@@ -66,6 +68,10 @@ void PrompterWindow::connectText(const Services& services)
     connect(&services.deck, &DeckController::promptTextChanged, this,
         [this, &deck = services.deck](
             const TextEdit& edit) { m_lines.edit(deck.promptText(), edit); });
+    connect(&services.deck, &DeckController::promptTextUpdated, this,
+        [this, &deck = services.deck](const TextDifferences& differences) {
+            m_lines.update(deck.promptText(), differences);
+        });
     // Every slide's notes start at the top.
     connect(&services.deck, &DeckController::slideChangeTokenChanged, this,
         [&engine = services.engine] { engine.setOffset(0); });

@@ -2,6 +2,7 @@
 
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
+#include "Orvello/Prompting/View/OtherDeckNotice.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
@@ -12,6 +13,8 @@
 namespace Orvello {
 
 class DeckController;
+class LibraryStore;
+class LiveDeckImport;
 class PresentationMonitor;
 class ScrollEngine;
 class SettingsStore;
@@ -31,6 +34,8 @@ public:
         const VoiceActivityEngine& voice;
         const PresentationMonitor& presentation;
         DeckController& deck;
+        LibraryStore& library;
+        LiveDeckImport& openDecks;
         TimeSource& time;
         bool forceCapturable;
     };
@@ -50,6 +55,7 @@ private:
     PrompterStatus m_status;
     LevelMeter m_levelMeter;
     SlideStatus m_slideStatus;
+    OtherDeckNotice m_otherDeckNotice;
     ShareWarning m_shareWarning;
     QQuickView m_view;
 };
