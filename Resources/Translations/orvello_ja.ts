@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>（このスライドには発表者ノートがありません）</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>（画面には別のプレゼンテーションが表示されています）</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」と同じ内容です。</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」が見つかりません。ノートはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>「%1」が変更され、スライド%2のノートがなくなりました。更新しても、この版は削除した原稿の中に残ります。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>「%1」が変更されましたが、読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>ファイルから更新…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>このノートの元のプレゼンテーションを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvelloはプレゼンテーション（.pptx、.odp）から発表者ノートを読み込みます。%1は読み込めません。</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」のノートはすでに原稿の中にあります。更新しますか、それとももう一度追加しますか?</translation>
     </message>
 </context>
 <context>
@@ -592,6 +637,11 @@ The settings have a button that takes this back.</source>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1のコピー</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1（更新前）</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -680,6 +730,32 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Orvelloへようこそ</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>%1 で開いている内容を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>このノートは、画面のプレゼンテーションのものではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>画面には「%1」が表示されています。このノートは別のプレゼンテーションのものです。</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>そのノートに切り替える</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>そのノートを読み込む</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1017,11 @@ The settings have a button that takes this back.</source>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>別の資料</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1138,6 +1219,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → 設定 → 画面の共有 → 詳細 → 画面キャプチャモード →「ウインドウフィルタリングを使用した詳細キャプチャ」（または「以前のオペレーティングシステム」）</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>このノートのままにする</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1792,23 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → 設定 → 画面の共有 → 詳細 → 画面キャプチャモード → &lt;b&gt;ウインドウフィルタリングを使用した詳細キャプチャ&lt;/b&gt;（または「以前のオペレーティングシステム」）。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>もう一度追加</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>（这张幻灯片没有演讲者备注）</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>（屏幕上是另一份演示文稿）</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>已与“%1”保持一致。</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>“%1”已不在原处。备注保持不变。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>“%1”已更改：其中不再有幻灯片 %2 的备注。更新时，此版本会保留在已删除的讲稿中。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>“%1”已更改，但无法读取：%2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>从文件更新…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>请选择这些备注所属的演示文稿。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvello 可从 演示文稿（.pptx、.odp）导入演讲者备注，无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>“%1”的备注已经在您的讲稿中。要更新它们，还是再添加一次？</translation>
     </message>
 </context>
 <context>
@@ -592,6 +637,11 @@ The settings have a button that takes this back.</source>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 副本</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1（更新前）</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -680,6 +730,32 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Welcome to Orvello</source>
         <translation>欢迎使用 Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>正在读取 %1 中打开的内容…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>这些备注不属于屏幕上的演示文稿。</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>屏幕上是“%1”。这些备注属于另一份演示文稿。</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>切换到它的备注</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>导入它的备注</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1017,11 @@ The settings have a button that takes this back.</source>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>其他演示</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1138,6 +1219,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → 设置 → 共享屏幕 → 高级 → 屏幕捕获模式 →“带窗口过滤的高级捕获”（或“以前的操作系统”）</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>保留这些备注</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1792,23 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → 设置 → 共享屏幕 → 高级 → 屏幕捕获模式 → &lt;b&gt;带窗口过滤的高级捕获&lt;/b&gt;（或“以前的操作系统”）。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>再次添加</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

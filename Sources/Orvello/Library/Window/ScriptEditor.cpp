@@ -1,6 +1,7 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/TextDifferences.h"
 #include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
@@ -149,10 +150,14 @@ void ScriptEditor::update(const Script& script, const LibraryChange& change)
         m_title = script.title;
         Q_EMIT titleChanged();
     }
+    if (script.slides && assign(m_deckSource, script.deckSource.value_or(QString())))
+        Q_EMIT deckNoticeChanged();
     if (!change.body || m_isStoring)
         return;
     const QString inserted = script.body.sliced(change.body->position, change.body->inserted);
-    if (m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
+    if (change.hasNewSlides && m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
+        showDifferences(script.body);
+    } else if (m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
         show(change.body->position, change.body->removed, inserted);
     } else {
         const QString body = asInDocument(script.body);
@@ -207,6 +212,18 @@ void ScriptEditor::replaceInBody(qsizetype position, qsizetype removed, const QS
     m_wordCount += WordCount::beginningIn(m_body, position, position + inserted.size() + 1);
     const TextEdit edit { position, removed, inserted.size() };
     m_unstored = m_unstored ? m_unstored->followedBy(edit) : edit;
+}
+
+/// Leaves what is the same where it is, with the cursor and the part in sight.
+void ScriptEditor::showDifferences(const QString& body)
+{
+    const TextDifferences differences = differencesBetween(m_body, body);
+    qsizetype moved = 0;
+    for (const TextEdit& edit : differences) {
+        show(
+            edit.position + moved, edit.removed, body.sliced(edit.position + moved, edit.inserted));
+        moved += edit.inserted - edit.removed;
+    }
 }
 
 void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& inserted)
