@@ -1,8 +1,8 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
-#include "Orvello/Library/Window/WordCount.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <QQuickItem>

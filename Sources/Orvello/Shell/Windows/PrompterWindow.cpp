@@ -5,6 +5,7 @@
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QQuickItem>
 
@@ -18,6 +19,7 @@ PrompterWindow::PrompterWindow(const Services& services)
     : m_deck(services.deck)
     , m_lines(services.time)
     , m_status(services.engine)
+    , m_clock(services.settings, services.engine, services.time)
     , m_levelMeter(services.voice)
     , m_slideStatus(services.deck)
     , m_shareWarning(services.presentation, services.settings, services.engine)
@@ -31,7 +33,9 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"settings"_s, QVariant::fromValue(&services.settings) },
             { u"lines"_s, QVariant::fromValue(&m_lines) },
             { u"status"_s, QVariant::fromValue(&m_status) },
+            { u"clock"_s, QVariant::fromValue(&m_clock) },
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+            { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
             { u"fontFamily"_s, PromptFont::family() },
@@ -44,7 +48,6 @@ PrompterWindow::~PrompterWindow() = default;
 void PrompterWindow::setVisibleInRecordings(bool isVisible)
 {
     m_status.setVisibleInRecordings(isVisible);
-    m_shareWarning.setVisibleInRecordings(isVisible);
 }
 
 void PrompterWindow::startAt(qsizetype position)
