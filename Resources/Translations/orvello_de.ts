@@ -1323,6 +1323,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Alle exportieren …</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nichts gefunden</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

@@ -1323,6 +1323,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

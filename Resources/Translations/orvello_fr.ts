@@ -1323,6 +1323,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Tout exporter…</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Aucun résultat</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

@@ -1317,6 +1317,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>すべて書き出す…</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>見つかりません</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

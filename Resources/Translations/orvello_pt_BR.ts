@@ -1323,6 +1323,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

@@ -1317,6 +1317,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>全部导出…</translation>
     </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>没有找到</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>

@@ -160,7 +160,8 @@ ColumnLayout {
             }
 
             Label {
-                width: parent.width - 32
+                parent: list
+                width: list.width - 32
                 x: 16
                 y: 12
                 visible: list.count === 0 && root.scripts.text !== ""
