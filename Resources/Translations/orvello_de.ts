@@ -1212,8 +1212,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Sie teilen Ihren Bildschirm? Lassen Sie den Stealth-Modus dabei in Ruhe – wird er währenddessen umgeschaltet, zeigt Ihr Besprechungsprogramm an der Stelle des Prompters womöglich einen grauen Kasten. Schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien: Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien und lassen Sie dieses Feld daneben: Dann sieht Ihr Publikum Ihre Folien, nicht Ihre Notizen.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1410,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Alle exportieren …</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>
@@ -1731,16 +1736,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Ihr privater Teleprompter. Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Ihr privater Teleprompter. Teilen Sie das Fenster Ihrer Folien, und Ihr Publikum sieht Ihre Notizen nie.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Beim Bildschirmteilen unsichtbar</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Nicht Teil eines geteilten Fensters</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1767,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster und lassen Sie den Prompter daneben, dann sehen nur Sie ihn. Wird der ganze Bildschirm geteilt, zeigt ihn dieser Desktop allen.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Ihr privater Teleprompter. Teilen Sie nur das Fenster Ihrer Folien, lassen Sie den Prompter daneben, und Ihre Notizen gehören Ihnen.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Neben dem geteilten Fenster</translation>
     </message>
 </context>
 <context>

@@ -1212,8 +1212,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>¿Compartes la pantalla? No toques el modo sigiloso mientras tanto: cambiarlo puede hacer que la aplicación de reuniones muestre un recuadro gris donde está el prompter. Cierra y vuelve a abrir Orvello para quitarlo.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas: tu público ve tus diapositivas, nunca tus notas.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas y deja este panel al lado: así tu público ve tus diapositivas, no tus notas.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1410,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1731,16 +1736,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Tu teleprompter privado. Tu público ve tus diapositivas, nunca tus notas.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Tu teleprompter privado. Comparte la ventana de tus diapositivas y tu público nunca verá tus notas.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible al compartir pantalla</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fuera de una ventana compartida</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1767,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Comparte una ventana en Zoom, Meet o Teams, deja el prompter al lado y solo tú lo verás. Si compartes toda la pantalla, este escritorio se lo muestra a todos.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Tu teleprompter privado. Comparte solo la ventana de tus diapositivas, deja el prompter al lado, y tus notas son tuyas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Junto a la ventana que compartes</translation>
     </message>
 </context>
 <context>

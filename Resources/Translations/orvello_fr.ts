@@ -1212,8 +1212,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Vous partagez votre écran ? Ne touchez pas au mode furtif pendant ce temps : le basculer en plein partage peut faire apparaître un cadre gris à la place du prompteur. Fermez puis rouvrez Orvello pour l’effacer.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives : votre public voit vos diapositives, jamais vos notes.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives et laissez ce panneau à côté : votre public voit alors vos diapositives, pas vos notes.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1410,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Tout exporter…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Aucun résultat</translation>
     </message>
 </context>
 <context>
@@ -1731,16 +1736,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Votre téléprompteur privé. Votre public voit vos diapositives, jamais vos notes.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Votre téléprompteur privé. Partagez la fenêtre de vos diapositives, et votre public ne voit jamais vos notes.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible dans les partages d’écran</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Absent d’un partage de fenêtre</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1767,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, gardez le prompteur à côté, et vous seul le voyez. Si tout l’écran est partagé, ce bureau le montre à tout le monde.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Votre téléprompteur privé. Ne partagez que la fenêtre de vos diapositives, laissez le prompteur à côté, et vos notes restent à vous.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>À côté de la fenêtre partagée</translation>
     </message>
 </context>
 <context>

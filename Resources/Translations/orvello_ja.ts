@@ -1206,8 +1206,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>画面を共有しますか？共有中はステルスモードをそのままにしてください。途中で切り替えると、会議アプリがプロンプターの場所に灰色の四角を表示することがあります。その場合はOrvelloを閉じて開き直してください。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有してください。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有し、このパネルはその横に置いてください。聞き手に見えるのはスライドで、ノートではありません。</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1404,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>すべて書き出す…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>見つかりません</translation>
     </message>
 </context>
 <context>
@@ -1725,16 +1730,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>あなただけのテレプロンプター。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>あなただけのテレプロンプター。スライドのウインドウを共有すれば、聞き手にノートは見えません。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>画面共有に映りません</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>ウインドウの共有に入りません</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1764,6 +1761,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Zoom、Meet、Teamsではウインドウを共有し、プロンプターをその横に置けば、見えるのはあなただけです。画面全体を共有すると、このデスクトップでは全員に表示されます。</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>あなただけのテレプロンプター。スライドのウインドウだけを共有し、プロンプターを横に置けば、ノートはあなただけのもの。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>共有するウインドウの横に</translation>
     </message>
 </context>
 <context>

@@ -1212,8 +1212,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Vai compartilhar a tela? Não mexa no modo furtivo enquanto isso: alterná-lo pode fazer o aplicativo de reuniões mostrar uma caixa cinza no lugar do prompter. Feche e abra o Orvello de novo para removê-la.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides: seu público vê seus slides, nunca suas anotações.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides e deixe este painel ao lado: assim seu público vê seus slides, não suas anotações.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1410,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1731,16 +1736,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Seu teleprompter particular. Seu público vê seus slides, nunca suas anotações.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Seu teleprompter particular. Compartilhe a janela dos seus slides e seu público nunca verá suas anotações.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisível ao compartilhar a tela</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fora de uma janela compartilhada</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1767,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Compartilhe uma janela no Zoom, Meet ou Teams, mantenha o prompter ao lado e só você o verá. Ao compartilhar a tela inteira, esta área de trabalho o mostra a todos.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Seu teleprompter particular. Compartilhe só a janela dos seus slides, deixe o prompter ao lado, e suas anotações são só suas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Ao lado da janela compartilhada</translation>
     </message>
 </context>
 <context>

@@ -1206,8 +1206,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>要共享屏幕吗？共享时不要动隐身模式——途中切换，会议应用可能会在提词器的位置显示一个灰色方块。关闭并重新打开 Orvello 即可消除。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口：观众看到的是幻灯片，绝不会看到你的备注。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口，并把这个面板放在它旁边：这样观众看到的是幻灯片，而不是你的备注。</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1404,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>全部导出…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>没有找到</translation>
     </message>
 </context>
 <context>
@@ -1725,16 +1730,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>你的私人提词器。观众看到的是幻灯片，绝不会看到你的备注。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>你的私人提词器。共享幻灯片的窗口，观众就绝不会看到你的备注。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>屏幕共享时不可见</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>不在窗口共享之中</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1764,6 +1761,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>在 Zoom、Meet 或 Teams 中共享一个窗口，把提词器放在旁边，就只有你能看到它。共享整个屏幕时，此桌面会让所有人看到它。</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>你的私人提词器。只共享幻灯片的窗口，把提词器放在旁边，备注就只属于你。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>在你共享的窗口旁边</translation>
     </message>
 </context>
 <context>
