@@ -8,6 +8,7 @@ import time
 import unittest
 
 from desktop import App, Desktop, wait_until
+from hearing import Listener
 from sound import RATE, SoundServer, silence, speech
 
 LISTENING = "VAD listening (VPIO, AEC on)"
@@ -83,6 +84,36 @@ class VoiceTest(unittest.TestCase):
         self.assertEqual(len(lines), 3)
         self.assertEqual(app.quit(), 0)
 
+    def test_the_text_moves_soon_after_somebody_begins_to_speak(self):
+        self.sound.start_server()
+        app = self.launch()
+        listener = Listener(self.sound)
+        delays = []
+        for already in range(3):
+            before = self.text(app)
+            listener.loud_blocks.clear()
+            player = self.say(self.sentence)
+            while self.text(app) == before:
+                self.assertIsNone(player.poll(), "the text stood still for a whole sentence")
+            delays.append(time.monotonic() - listener.loud_blocks[0])
+            player.wait(30)
+            self.wait_for_speaking(0, already + 1)
+            time.sleep(0.5)
+        print("from speech to motion, to the screenshot that shows it:",
+              *(f"{delay:.2f} s" for delay in delays), flush=True)
+        self.assertLess(min(delays), 0.5, "0.3 s and what a busy machine takes for a frame and a screenshot")
+
+    def test_the_chosen_microphone_is_heard_and_no_other(self):
+        self.sound.modules = SoundServer.MODULES + ["module-null-sink sink_name=quiet",
+                                                    "module-remap-source master=quiet.monitor source_name=headset"]
+        self.sound.default_source = "headset"
+        App.set_defaults(self.desktop, onboardingSeenVersion=1, countdownSeconds=0, speed=100, microphone="microphone",
+                         microphoneName="Desk")
+        self.sound.start_server()
+        app = self.launch()
+
+        self.assert_follows(app)
+
     def test_a_process_named_like_a_meeting_application_holds_echo_cancellation(self):
         self.sound.start_server()
         app = self.launch()
@@ -133,6 +164,24 @@ class VoiceTest(unittest.TestCase):
 
         self.assert_follows(app, already=1)
         self.assertEqual(app.quit(), 0)
+
+    def test_a_sound_server_that_hangs_holds_neither_a_drag_nor_a_scroll(self):
+        self.sound.start_server()
+        app = self.launch()
+        self.sound.freeze()
+        time.sleep(1.5)
+        x, y, width, height = app.geometry()
+        self.desktop.run("xdotool", "mousemove", str(x + 30), str(y + 100), "mousedown", "1", "mousemove", str(x + 100),
+                         str(y + 250), "mousemove", str(x + 130), str(y + 300), "mouseup", "1")
+        wait_until(lambda: app.geometry() == (x + 100, y + 200, width, height), 2, "the end of the drag")
+        before = self.text(app)
+        self.desktop.run("xdotool", "mousemove", str(x + 500), str(y + 300), "click", "5")
+        wait_until(lambda: self.text(app) != before, 2, "the text to move")
+        self.desktop.run("xdotool", "mousemove", "10", "880")
+
+        self.sound.thaw()
+        time.sleep(1)
+        self.assert_follows(app)
 
     def test_a_sound_server_that_comes_after_the_login_is_waited_for(self):
         app = self.launch("LAUNCH")
