@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,6 +595,35 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Dieses Skript exportieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n Skript exportieren</numerusform>
+            <numerusform>%n Skripte exportieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Export fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>„%1“ konnte nicht geschrieben werden (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
@@ -675,6 +725,47 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <source>scrolling</source>
         <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
         <translation>läuft</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · noch %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>Der Prompter hat keinen Text zum Rollen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wort pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wörter pro Minute</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: schneller, als man spricht</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1191,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Text color</source>
         <translation>Textfarbe</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>Die Deckkraft wirkt im Moment nicht: Fenster können nur durchscheinen, solange auf dem Desktop ein Compositor läuft.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1115,6 +1211,45 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>IN AUFNAHMEN SICHTBAR</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Zeichen pro Minute</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Wörter pro Minute</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Mein Tempo behalten, auch mit anderem Text, anderer Größe oder Breite</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Zeit auf dem Prompter</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Vergangen</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
     </message>
 </context>
 <context>
@@ -1178,6 +1313,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Move Down</source>
         <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Alle exportieren …</translation>
     </message>
 </context>
 <context>
@@ -1310,6 +1454,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Lesezeit</translation>
     </message>
 </context>
 <context>

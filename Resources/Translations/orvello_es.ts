@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Se muestra en el prompter · guardado automático local, nada sale de tu ordenador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -574,6 +595,35 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exportar este guion</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exportar %n guion</numerusform>
+            <numerusform>Exportar %n guiones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Guiones</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Error al exportar</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>No se pudo escribir «%1» (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
@@ -675,6 +725,47 @@ En los ajustes hay un botón que lo revoca.</translation>
         <source>scrolling</source>
         <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
         <translation>avanzando</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · quedan %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>El prompter no tiene texto que desplazar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · unos %n caracteres por minuto en este guion</numerusform>
+            <numerusform>%1 pt/s · unos %n caracteres por minuto en este guion</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · una %n palabra por minuto en este guion</numerusform>
+            <numerusform>%1 pt/s · unas %n palabras por minuto en este guion</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: más rápido que el habla</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1191,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Text color</source>
         <translation>Color del texto</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>La opacidad no tiene efecto por ahora: las ventanas solo pueden ser translúcidas mientras el escritorio ejecute un compositor.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1115,6 +1211,45 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>VISIBLE EN GRABACIONES</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Caracteres por minuto</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Palabras por minuto</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Mantener mi ritmo con otro texto, tamaño o ancho</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Tiempo en el prompter</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Transcurrido</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
     </message>
 </context>
 <context>
@@ -1178,6 +1313,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Move Down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Exportar todos…</translation>
     </message>
 </context>
 <context>
@@ -1310,6 +1454,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Status</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Tiempo de lectura</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>显示在提词器中 · 自动保存在本机，任何内容都不会离开你的电脑</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>从这里开始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -573,6 +594,34 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>导出此讲稿</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>导出 %n 篇讲稿</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>讲稿</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>导出失败</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>无法写入“%1”（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
@@ -674,6 +723,45 @@ The settings have a button that takes this back.</source>
         <source>scrolling</source>
         <extracomment>On the card, at most about 20 characters: the text moves.</extracomment>
         <translation>滚动中</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · 剩余 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>提词器没有可滚动的文本。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · 此脚本约每分钟 %n 字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · 此脚本约每分钟 %n 词</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1:比说话快</translation>
     </message>
 </context>
 <context>
@@ -1097,6 +1185,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Text color</source>
         <translation>文字颜色</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度目前不起作用:只有当桌面运行合成器时,窗口才能半透明。</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1112,6 +1205,45 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>录屏可见</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>朗读</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>每分钟字数</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>每分钟词数</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>换文本、字号或宽度时保持我的语速</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>提词器上的时间</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>剩余</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>已用</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>两者</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1307,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Move Down</source>
         <translation>下移</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>全部导出…</translation>
     </message>
 </context>
 <context>
@@ -1307,6 +1448,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Status</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>朗读时间</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,19 @@ class AccessibilityTest(unittest.TestCase):
         self.assertIn("VISIBLE IN RECORDINGS", shown)
         self.assertEqual([name for name in shown if "gray" in name], [])
 
+    def test_the_settings_say_whether_the_opacity_has_an_effect(self):
+        app = App(self.desktop, "--settings")
+        app.shown()
+        wait_until(lambda: "Session" in self.names("label"), what="the settings")
+        note = lambda: [name for name in self.names("label") if name.startswith("The opacity has no effect")]  # noqa: E731
+        self.assertEqual(note(), [])
+
+        self.desktop.stop_compositor()
+        wait_until(note, what="the note")
+
+        self.desktop.start_compositor()
+        wait_until(lambda: not note(), what="the note to go")
+
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

@@ -1,5 +1,6 @@
 """The status menu where desktops show it: on the session bus, in an X11 tray, or without either on the prompter."""
 
+import re
 import time
 import unittest
 import urllib.parse
@@ -257,7 +258,7 @@ def tray_icon(desktop):
         if '("orvello"' in line.lower() and "x" in line:
             size, position = line.split()[-2:]
             width, height = (int(part) for part in size.split("+")[0].split("x"))
-            x, y = (int(part) for part in position.replace("-", "+").strip("+").split("+"))
+            x, y = (int(part) for part in re.findall(r"\+(-?\d+)", position))
             if y > desktop.height - 40:
                 return x, y, width, height
     return None

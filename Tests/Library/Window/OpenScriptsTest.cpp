@@ -266,6 +266,24 @@ TEST_F(OpenScriptsTest, breaksLinesThatAreInsertedWhereTheCardDoes)
     EXPECT_EQ(storedBody(), active().body());
 }
 
+TEST_F(OpenScriptsTest, knowsWhereALineBeginsInTheLibrary)
+{
+    const QString body = u"One two\r\nthree\vfour\r\nfive"_s;
+    LibraryServices other { { LibraryServices::script(u"Odd"_s, body) } };
+    OpenScripts scripts(other.library);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 5), 0) << "nobody has seen it yet";
+    TextField field(*scripts.active());
+    field.document().setTextWidth(10'000); // Lays it out.
+
+    EXPECT_EQ(scripts.active()->startOfLine(body, 4), 0);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 10), 9);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 14), 15);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 23), 21);
+
+    field.replace(0, 0, u"!"_s); // The library has plain line feeds from here on.
+    EXPECT_EQ(scripts.active()->startOfLine(other.library.activeScript()->body, 24), 20);
+}
+
 TEST_F(OpenScriptsTest, showsWhatAnotherChangesAndLeavesTheCursorAlone)
 {
     TextField field(active());

@@ -170,6 +170,34 @@ protected:
     std::unique_ptr<PrompterWindow> window;
 };
 
+TEST_F(PrompterViewTest, beginsAtALine)
+{
+    QStringList numbered;
+    for (int i = 0; i < 40; ++i)
+        numbered.append(u"Line %1"_s.arg(i));
+    const QString text = numbered.join(u'\n');
+    show(text);
+    const double top = placeOfLine(u"Line 0"_s).top();
+    const double pitch = placeOfLine(u"Line 1"_s).top() - top;
+
+    window->startAt(text.indexOf(u"Line 20") + 3);
+    EXPECT_DOUBLE_EQ(services.engine.offset(), 20 * pitch);
+    EXPECT_TRUE(services.engine.isRunning());
+    EXPECT_NEAR(placeOfLine(u"Line 20"_s).top(), top, 1) << "it stands where the first line did";
+
+    services.engine.toggle();
+    window->startAt(text.size());
+    EXPECT_EQ(services.engine.offset(), services.engine.endOffset());
+    EXPECT_FALSE(services.engine.isRunning()) << "it would start again from the top";
+
+    settings.setCountdownSeconds(3);
+    window->startAt(0);
+    EXPECT_EQ(services.engine.countdown(), 3);
+    window->startAt(text.indexOf(u"Line 1\n"));
+    EXPECT_EQ(services.engine.countdown(), std::nullopt);
+    EXPECT_TRUE(services.engine.isRunning());
+}
+
 TEST_F(PrompterViewTest, tellsTheEngineTheHeightThatIsVisible)
 {
     EXPECT_EQ(engine.viewportHeight(), 200);
@@ -688,6 +716,18 @@ TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnABadge)
     moveMouse(onBadge.x(), onBadge.y());
 
     EXPECT_TRUE(engine.hoverPaused());
+}
+
+TEST_F(PrompterViewTest, showsTheReadersTimeBesideTheStatus)
+{
+    const QRectF without = placeOf(*textItem(u"paused"_s));
+    EXPECT_EQ(visibleTexts().size(), 1);
+    settings.setCardTime(u"elapsed"_s);
+    show(u"One"_s);
+
+    ASSERT_TRUE(textItem(u"0:00"_s));
+    EXPECT_GT(placeOf(*textItem(u"0:00"_s)).left(), without.right());
+    EXPECT_EQ(placeOf(*textItem(u"paused"_s)), without);
 }
 
 TEST_F(PrompterViewTest, tellsWhoPointsAtTheStatusWhatTheMicrophoneHears)

@@ -15,6 +15,10 @@ Pane {
         activePage()?.editTitle();
     }
 
+    function startHere(): void {
+        library.startHere(activePage()?.cursorPosition ?? 0);
+    }
+
     function activePage(): EditorPage {
         for (let i = 0; i < pages.count; ++i) {
             const page = pages.itemAt(i) as EditorPage;
@@ -36,6 +40,18 @@ Pane {
     Shortcut {
         sequences: ["Ctrl+O"]
         onActivated: root.library.imports.chooseFile()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
+        onActivated: root.startHere()
+    }
+    Shortcut {
+        sequences: ["Ctrl+E"]
+        onActivated: root.library.exportActive()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Shift+E"]
+        onActivated: root.library.exportListed()
     }
     Shortcut {
         sequences: ["Ctrl+W"]
@@ -92,6 +108,7 @@ Pane {
                     delegate: EditorPage {
                         facts: root.library.facts
                         isActive: editor === root.library.openScripts.active
+                        onStartRequested: root.startHere()
                         visible: isActive
                         // A long text out of sight is not worth laying out again at each size of the
                         // window.

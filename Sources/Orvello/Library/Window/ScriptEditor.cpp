@@ -1,15 +1,17 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
-#include "Orvello/Library/Window/WordCount.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -124,6 +126,21 @@ void ScriptEditor::follow(QQuickTextDocument* document)
         field->setFlag(QQuickItem::ItemObservesViewport);
     connect(m_document, &QTextDocument::contentsChange, this, &ScriptEditor::takeOver);
     connect(m_document, &QTextDocument::contentsChanged, this, &ScriptEditor::store);
+}
+
+qsizetype ScriptEditor::startOfLine(QStringView libraryBody, int position) const
+{
+    qsizetype start = 0;
+    if (m_document) {
+        const QTextBlock block = m_document->findBlock(position);
+        const QTextLine line = block.layout()->lineForTextPosition(position - block.position());
+        start = block.position() + (line.isValid() ? line.textStart() : 0);
+    }
+    if (m_isAsInLibrary)
+        return start;
+    for (qsizetype i = 0; i < std::min(start, libraryBody.size()); ++i)
+        start += libraryBody.sliced(i).startsWith(u"\r\n") ? 1 : 0;
+    return start;
 }
 
 void ScriptEditor::update(const Script& script, const LibraryChange& change)

@@ -57,6 +57,10 @@ public:
     /// Follows the user's edits in a document that shows the body.
     Q_INVOKABLE void follow(QQuickTextDocument* document);
 
+    /// Where the line that the document shows at this position begins in the body as the library
+    /// has it.
+    qsizetype startOfLine(QStringView libraryBody, int position) const;
+
     /// Shows this script as the library has it after a change.
     void update(const Script& script, const LibraryChange& change);
 
@@ -83,7 +87,8 @@ private:
     bool m_isEditable = false;
     bool m_isAsInLibrary = true; ///< The body matches the library's, except for the unstored edit.
     std::optional<TextEdit> m_unstored; ///< The user's edits that the library does not have yet.
-    bool m_hasUnshownBreaks = false; ///< The user has inserted some that the document does not know.
+    bool m_hasUnshownBreaks
+        = false; ///< The user has inserted some that the document does not know.
     bool m_isStoring = false; ///< The library is taking over the user's edit.
     /// The document is following the library, which is no edit by the user.
     bool m_isUpdating = false;

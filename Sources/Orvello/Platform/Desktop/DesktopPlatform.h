@@ -8,6 +8,7 @@ class QWindow;
 
 namespace Orvello {
 
+class Compositing;
 class DesktopServices;
 class EarlyPlatform;
 class HelperProcess;
@@ -46,6 +47,7 @@ public:
     virtual Updater& updater() = 0;
     virtual WindowChrome& windowChrome() = 0;
     virtual Wakefulness& wakefulness() = 0;
+    virtual Compositing& compositing() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     virtual HelperProcess* impressHelper() = 0;

@@ -38,6 +38,10 @@ public:
     const std::optional<QString>& slideTitle() const { return m_slideTitle; }
     SlideSyncService::State syncState() const { return m_syncState; }
 
+    /// Shows the unit that has that place of the active script's body, and returns the place in its
+    /// text; nothing while a slideshow shows another slide.
+    std::optional<qsizetype> goTo(qsizetype position);
+
     void showPreviousSlide();
     void showNextSlide();
 

@@ -10,12 +10,14 @@
 namespace Orvello {
 
 class AppleScriptRunner;
+class Compositing;
 class HotKeys;
 class ImpressPresenter;
 class LibraryStore;
 class Menu;
 class OpenPanel;
 class PresenterTable;
+class ReadingPace;
 class SettingsStore;
 class StatusBar;
 class StatusItem;
@@ -50,6 +52,7 @@ public:
         SettingsStore& settings;
         LibraryStore& library;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         const PresenterTable& presenters;
         const AppleScriptRunner& appleScript;
@@ -58,9 +61,12 @@ public:
         WindowChrome& windowChrome;
         StatusBar& statusBar;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the windows may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
         PanelSpace panel = {};
+        /// Has the prompter begin at that place of the active script's body.
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

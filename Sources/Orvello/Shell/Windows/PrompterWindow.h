@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Prompting/Engine/ReadingClock.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
@@ -40,14 +41,19 @@ public:
 
     QWindow& window() { return m_view; }
 
+    /// Begins to scroll at the line with that place of the active script's body.
+    void startAt(qsizetype position);
+
     /// Whether the card says that Stealth Mode cannot hide it here.
     void setVisibleInRecordings(bool isVisible);
 
 private:
     void connectText(const Services& services);
 
+    DeckController& m_deck;
     PromptLines m_lines;
     PrompterStatus m_status;
+    ReadingClock m_clock;
     LevelMeter m_levelMeter;
     SlideStatus m_slideStatus;
     ShareWarning m_shareWarning;
