@@ -27,10 +27,14 @@ class Listener:
         threading.Thread(target=self._listen, daemon=True).start()
 
     def _listen(self):
-        while data := os.read(self.process.stdout.fileno(), 4096):
-            values = memoryview(data[:len(data) // 2 * 2]).cast("h")
-            if max(map(abs, values), default=0) > 1000:
-                self.loud_blocks.append(time.monotonic())
+        with self.process.stdout as samples:
+            while data := os.read(samples.fileno(), 4096):
+                self._note(data)
+
+    def _note(self, data):
+        values = memoryview(data[:len(data) // 2 * 2]).cast("h")
+        if max(map(abs, values), default=0) > 1000:
+            self.loud_blocks.append(time.monotonic())
 
 
 class HearingTest(unittest.TestCase):
