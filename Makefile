@@ -3,6 +3,7 @@
 #   make run [DECK=talk.pptx]   build and open the prompter, with that deck's notes
 #   make test                   build and run every test
 #   make faults                 everything that can go wrong with the sound, on both sound servers, in five minutes
+#   make slides                 slideshows in LibreOffice on each of its interfaces, with delays and processor time
 #   make soak [MINUTES=120]     the microphone for hours;  make speech: how well it tells speech from noise
 #   make bench                  print the measured speed and memory
 #   make gallery               every window in every state on one picture, build/gallery.png
@@ -14,7 +15,7 @@
 
 export ORVELLO_COMPILER_LAUNCHER := $(shell command -v ccache 2>/dev/null)
 
-.PHONY: run test kill-test faults soak speech bench gallery sanitize format tidy clean deb install uninstall
+.PHONY: run test kill-test slides faults soak speech bench gallery sanitize format tidy clean deb install uninstall
 
 # The program alone needs no test package. In a folder that is configured with the tests, they stay: to configure without
 # them would throw away what is built of them.
@@ -38,6 +39,18 @@ faults:
 	@tools/build -DBUILD_TESTING=ON voice-probe
 	@set -e; for server in $(servers); do \
 	    echo "On $$server:"; ORVELLO_FAULTS=all ORVELLO_SOUND_SERVER=$$server $(sound_test)/test_voice_faults.py; \
+	done
+
+# The other two interfaces of LibreOffice come in packages of their own, which no other test needs.
+slides:
+	@tools/setup slides
+	@tools/build -DBUILD_TESTING=ON slide-follower
+	@set -e; for interface in gen gtk3 kf5 kf6; do \
+	    test $$interface = gen -o -e /usr/lib/libreoffice/program/libvclplug_$${interface}lo.so || continue; \
+	    echo "LibreOffice with $$interface:"; \
+	    PYTHONDONTWRITEBYTECODE=1 ORVELLO_OFFICE_INTERFACE=$$interface ORVELLO_SLIDE_CHANGES=30 ORVELLO_WORST_DELAY=0.8 \
+	    ORVELLO_PROGRAM=build/Tests/EndToEnd/slide-follower ORVELLO_IMPRESS_HELPER=build/impress-helper.py \
+	    /usr/bin/python3 Tests/EndToEnd/test_slides.py; \
 	done
 
 soak:

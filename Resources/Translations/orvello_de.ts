@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>(Keine Sprechernotizen auf dieser Folie)</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>(Auf dem Bildschirm ist eine andere Präsentation)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Auf dem Stand von „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>„%1“ ist nicht mehr da. Die Notizen bleiben, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>„%1“ hat sich geändert: Die Notizen der Folien %2 sind nicht mehr darin. Beim Aktualisieren bleibt diese Fassung bei den gelöschten Skripten.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>„%1“ hat sich geändert, lässt sich aber nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Aus Datei aktualisieren …</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>Wählen Sie die Präsentation, aus der diese Notizen stammen.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvello importiert Vortragsnotizen aus Präsentationen (.pptx, .odp). %1 kann es nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Die Notizen von „%1“ sind schon bei Ihren Skripten. Sollen sie aktualisiert oder noch einmal hinzugefügt werden?</translation>
     </message>
 </context>
 <context>
@@ -593,6 +638,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 – Kopie</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1 (vor der Aktualisierung)</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -682,6 +732,32 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Willkommen bei Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lese, was in %1 geöffnet ist …</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>Diese Notizen gehören zu einer anderen Präsentation als der auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>Auf dem Bildschirm ist „%1“. Diese Notizen gehören zu einer anderen Präsentation.</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>Zu ihren Notizen wechseln</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>Ihre Notizen importieren</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1023,11 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>Andere Datei</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1131,8 +1212,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Sie teilen Ihren Bildschirm? Lassen Sie den Stealth-Modus dabei in Ruhe – wird er währenddessen umgeschaltet, zeigt Ihr Besprechungsprogramm an der Stelle des Prompters womöglich einen grauen Kasten. Schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien: Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien und lassen Sie dieses Feld daneben: Dann sieht Ihr Publikum Ihre Folien, nicht Ihre Notizen.</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1225,13 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → Einstellungen → Bildschirm freigeben → Erweitert → Bildschirmaufnahmemodus → „Erweiterte Aufnahme mit Fensterfilterung“ (oder „Vorherige Betriebssysteme“)</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>Diese Notizen behalten</translation>
     </message>
 </context>
 <context>
@@ -1322,6 +1410,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Alle exportieren …</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>
@@ -1643,16 +1736,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Ihr privater Teleprompter. Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Ihr privater Teleprompter. Teilen Sie das Fenster Ihrer Folien, und Ihr Publikum sieht Ihre Notizen nie.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Beim Bildschirmteilen unsichtbar</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Nicht Teil eines geteilten Fensters</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1683,6 +1768,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster und lassen Sie den Prompter daneben, dann sehen nur Sie ihn. Wird der ganze Bildschirm geteilt, zeigt ihn dieser Desktop allen.</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Ihr privater Teleprompter. Teilen Sie nur das Fenster Ihrer Folien, lassen Sie den Prompter daneben, und Ihre Notizen gehören Ihnen.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Neben dem geteilten Fenster</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1710,6 +1803,23 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → Einstellungen → Bildschirm freigeben → Erweitert → Bildschirmaufnahmemodus → &lt;b&gt;Erweiterte Aufnahme mit Fensterfilterung&lt;/b&gt; (oder Vorherige Betriebssysteme).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>Noch einmal hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

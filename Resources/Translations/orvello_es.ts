@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>(Sin notas del orador en esta diapositiva)</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>(En pantalla hay otra presentación)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Al día con «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>«%1» ya no está. Las notas quedan como estaban.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>«%1» ha cambiado: ya no contiene las notas de las diapositivas %2. Al actualizar, esta versión se conserva entre los guiones eliminados.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>«%1» ha cambiado, pero no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Actualizar desde archivo…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>Elija la presentación de la que proceden estas notas.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvello importa las notas del orador de presentaciones (.pptx, .odp). No puede leer %1.</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Las notas de «%1» ya están entre sus guiones. ¿Quiere actualizarlas o añadirlas otra vez?</translation>
     </message>
 </context>
 <context>
@@ -593,6 +638,11 @@ En los ajustes hay un botón que lo revoca.</translation>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 (copia)</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1 (antes de la actualización)</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -682,6 +732,32 @@ En los ajustes hay un botón que lo revoca.</translation>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Te damos la bienvenida a Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Leyendo lo que está abierto en %1…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>Estas notas son de otra presentación, no de la que está en pantalla.</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>En pantalla está «%1». Estas notas son de otra presentación.</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>Cambiar a sus notas</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>Importar sus notas</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1023,11 @@ En los ajustes hay un botón que lo revoca.</translation>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>Otro archivo</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1131,8 +1212,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>¿Compartes la pantalla? No toques el modo sigiloso mientras tanto: cambiarlo puede hacer que la aplicación de reuniones muestre un recuadro gris donde está el prompter. Cierra y vuelve a abrir Orvello para quitarlo.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas: tu público ve tus diapositivas, nunca tus notas.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas y deja este panel al lado: así tu público ve tus diapositivas, no tus notas.</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1225,13 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → Configuración → Compartir pantalla → Avanzado → Modo de captura de pantalla → «Captura avanzada con filtrado de ventanas» (o «Sistemas operativos anteriores»)</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>Mantener estas notas</translation>
     </message>
 </context>
 <context>
@@ -1322,6 +1410,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1643,16 +1736,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Tu teleprompter privado. Tu público ve tus diapositivas, nunca tus notas.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Tu teleprompter privado. Comparte la ventana de tus diapositivas y tu público nunca verá tus notas.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible al compartir pantalla</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fuera de una ventana compartida</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1683,6 +1768,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Comparte una ventana en Zoom, Meet o Teams, deja el prompter al lado y solo tú lo verás. Si compartes toda la pantalla, este escritorio se lo muestra a todos.</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Tu teleprompter privado. Comparte solo la ventana de tus diapositivas, deja el prompter al lado, y tus notas son tuyas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Junto a la ventana que compartes</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1710,6 +1803,23 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → Configuración → Compartir pantalla → Avanzado → Modo de captura de pantalla → &lt;b&gt;Captura avanzada con filtrado de ventanas&lt;/b&gt; (o Sistemas operativos anteriores).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>Añadir otra vez</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>(Aucune note de l’orateur sur cette diapositive)</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>(Une autre présentation est à l’écran)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>À jour avec « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>« %1 » n’est plus là. Les notes restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>« %1 » a changé : les notes des diapositives %2 n’y sont plus. La mise à jour garde cette version parmi les scripts supprimés.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>« %1 » a changé, mais ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Mettre à jour depuis un fichier…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>Choisissez la présentation dont viennent ces notes.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvello importe les commentaires des présentations (.pptx, .odp). Il ne peut pas lire %1.</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Les notes de « %1 » sont déjà parmi vos scripts. Faut-il les mettre à jour ou les ajouter encore une fois ?</translation>
     </message>
 </context>
 <context>
@@ -593,6 +638,11 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 (copie)</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1 (avant la mise à jour)</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -682,6 +732,32 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Bienvenue dans Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lecture de ce qui est ouvert dans %1…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>Ces notes sont celles d’une autre présentation que celle à l’écran.</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>« %1 » est à l’écran. Ces notes sont celles d’une autre présentation.</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>Passer à ses notes</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>Importer ses notes</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1023,11 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>Autre exposé</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1131,8 +1212,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Vous partagez votre écran ? Ne touchez pas au mode furtif pendant ce temps : le basculer en plein partage peut faire apparaître un cadre gris à la place du prompteur. Fermez puis rouvrez Orvello pour l’effacer.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives : votre public voit vos diapositives, jamais vos notes.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives et laissez ce panneau à côté : votre public voit alors vos diapositives, pas vos notes.</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1225,13 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → Paramètres → Partage d’écran → Avancé → Mode de capture d’écran → « Capture avancée avec filtrage des fenêtres » (ou « Systèmes d’exploitation précédents »)</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>Garder ces notes</translation>
     </message>
 </context>
 <context>
@@ -1322,6 +1410,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Tout exporter…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Aucun résultat</translation>
     </message>
 </context>
 <context>
@@ -1643,16 +1736,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Votre téléprompteur privé. Votre public voit vos diapositives, jamais vos notes.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Votre téléprompteur privé. Partagez la fenêtre de vos diapositives, et votre public ne voit jamais vos notes.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible dans les partages d’écran</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Absent d’un partage de fenêtre</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1683,6 +1768,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, gardez le prompteur à côté, et vous seul le voyez. Si tout l’écran est partagé, ce bureau le montre à tout le monde.</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Votre téléprompteur privé. Ne partagez que la fenêtre de vos diapositives, laissez le prompteur à côté, et vos notes restent à vous.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>À côté de la fenêtre partagée</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1710,6 +1803,23 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → Paramètres → Partage d’écran → Avancé → Mode de capture d’écran → &lt;b&gt;Capture avancée avec filtrage des fenêtres&lt;/b&gt; (ou Systèmes d’exploitation précédents).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>Ajouter encore</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>（このスライドには発表者ノートがありません）</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>（画面には別のプレゼンテーションが表示されています）</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」と同じ内容です。</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」が見つかりません。ノートはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>「%1」が変更され、スライド%2のノートがなくなりました。更新しても、この版は削除した原稿の中に残ります。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>「%1」が変更されましたが、読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>ファイルから更新…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>このノートの元のプレゼンテーションを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvelloはプレゼンテーション（.pptx、.odp）から発表者ノートを読み込みます。%1は読み込めません。</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>「%1」のノートはすでに原稿の中にあります。更新しますか、それとももう一度追加しますか?</translation>
     </message>
 </context>
 <context>
@@ -592,6 +637,11 @@ The settings have a button that takes this back.</source>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1のコピー</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1（更新前）</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -680,6 +730,32 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Orvelloへようこそ</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>%1 で開いている内容を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>このノートは、画面のプレゼンテーションのものではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>画面には「%1」が表示されています。このノートは別のプレゼンテーションのものです。</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>そのノートに切り替える</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>そのノートを読み込む</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1017,11 @@ The settings have a button that takes this back.</source>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>別の資料</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1125,8 +1206,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>画面を共有しますか？共有中はステルスモードをそのままにしてください。途中で切り替えると、会議アプリがプロンプターの場所に灰色の四角を表示することがあります。その場合はOrvelloを閉じて開き直してください。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有してください。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有し、このパネルはその横に置いてください。聞き手に見えるのはスライドで、ノートではありません。</translation>
     </message>
 </context>
 <context>
@@ -1138,6 +1219,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → 設定 → 画面の共有 → 詳細 → 画面キャプチャモード →「ウインドウフィルタリングを使用した詳細キャプチャ」（または「以前のオペレーティングシステム」）</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>このノートのままにする</translation>
     </message>
 </context>
 <context>
@@ -1316,6 +1404,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>すべて書き出す…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>見つかりません</translation>
     </message>
 </context>
 <context>
@@ -1637,16 +1730,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>あなただけのテレプロンプター。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>あなただけのテレプロンプター。スライドのウインドウを共有すれば、聞き手にノートは見えません。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>画面共有に映りません</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>ウインドウの共有に入りません</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1677,6 +1762,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Zoom、Meet、Teamsではウインドウを共有し、プロンプターをその横に置けば、見えるのはあなただけです。画面全体を共有すると、このデスクトップでは全員に表示されます。</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>あなただけのテレプロンプター。スライドのウインドウだけを共有し、プロンプターを横に置けば、ノートはあなただけのもの。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>共有するウインドウの横に</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1704,6 +1797,23 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → 設定 → 画面の共有 → 詳細 → 画面キャプチャモード → &lt;b&gt;ウインドウフィルタリングを使用した詳細キャプチャ&lt;/b&gt;（または「以前のオペレーティングシステム」）。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>もう一度追加</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>

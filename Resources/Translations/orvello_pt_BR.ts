@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>(Sem anotações do orador neste slide)</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>(Há outra apresentação na tela)</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>Em dia com “%1”.</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>“%1” não está mais lá. As anotações ficam como estavam.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>“%1” mudou: as anotações dos slides %2 não estão mais nele. Ao atualizar, esta versão fica entre os roteiros apagados.</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>“%1” mudou, mas não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Atualizar de um arquivo…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>Escolha a apresentação de onde vêm estas anotações.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>O Orvello importa as anotações do apresentador de apresentações (.pptx, .odp). Não consegue ler %1.</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>As anotações de “%1” já estão entre os seus roteiros. Atualizá-las ou adicioná-las mais uma vez?</translation>
     </message>
 </context>
 <context>
@@ -593,6 +638,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 (cópia)</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1 (antes da atualização)</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -682,6 +732,32 @@ Nas configurações há um botão que desfaz isso.</translation>
     <message>
         <source>Welcome to Orvello</source>
         <translation>Boas-vindas ao Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>Lendo o que está aberto no %1…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>Estas anotações são de outra apresentação, não da que está na tela.</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>“%1” está na tela. Estas anotações são de outra apresentação.</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>Mudar para as anotações dela</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>Importar as anotações dela</translation>
     </message>
 </context>
 <context>
@@ -947,6 +1023,11 @@ Nas configurações há um botão que desfaz isso.</translation>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>Outro arquivo</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1131,8 +1212,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Vai compartilhar a tela? Não mexa no modo furtivo enquanto isso: alterná-lo pode fazer o aplicativo de reuniões mostrar uma caixa cinza no lugar do prompter. Feche e abra o Orvello de novo para removê-la.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides: seu público vê seus slides, nunca suas anotações.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides e deixe este painel ao lado: assim seu público vê seus slides, não suas anotações.</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1225,13 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → Configurações → Compartilhar tela → Avançado → Modo de captura de tela → “Captura avançada com filtragem de janelas” (ou “Sistemas operacionais anteriores”)</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>Manter estas anotações</translation>
     </message>
 </context>
 <context>
@@ -1322,6 +1410,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1643,16 +1736,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Seu teleprompter particular. Seu público vê seus slides, nunca suas anotações.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Seu teleprompter particular. Compartilhe a janela dos seus slides e seu público nunca verá suas anotações.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisível ao compartilhar a tela</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fora de uma janela compartilhada</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1683,6 +1768,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Compartilhe uma janela no Zoom, Meet ou Teams, mantenha o prompter ao lado e só você o verá. Ao compartilhar a tela inteira, esta área de trabalho o mostra a todos.</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Seu teleprompter particular. Compartilhe só a janela dos seus slides, deixe o prompter ao lado, e suas anotações são só suas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Ao lado da janela compartilhada</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1710,6 +1803,23 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → Configurações → Compartilhar tela → Avançado → Modo de captura de tela → &lt;b&gt;Captura avançada com filtragem de janelas&lt;/b&gt; (ou Sistemas operacionais anteriores).</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>Adicionar mais uma vez</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,46 @@
         <source>(No speaker notes on this slide)</source>
         <translation>（这张幻灯片没有演讲者备注）</translation>
     </message>
+    <message>
+        <source>(Another presentation is on screen)</source>
+        <translation>（屏幕上是另一份演示文稿）</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::DeckFileBar</name>
+    <message>
+        <source>Up to date with “%1”.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>已与“%1”保持一致。</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more. The notes stay as they were.</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>“%1”已不在原处。备注保持不变。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed: the notes of slides %2 are no longer in it. An update keeps this version among the deleted scripts.</source>
+        <extracomment>%1: the name of a file; %2: numbers of slides, as in &quot;3, 257–300&quot;.</extracomment>
+        <translation>“%1”已更改：其中不再有幻灯片 %2 的备注。更新时，此版本会保留在已删除的讲稿中。</translation>
+    </message>
+    <message>
+        <source>“%1” has changed, but cannot be read: %2</source>
+        <extracomment>%1: the name of a file; %2: why, as a sentence.</extracomment>
+        <translation>“%1”已更改，但无法读取：%2</translation>
+    </message>
+    <message>
+        <source>Update from File…</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>从文件更新…</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Choose the presentation that these notes are from.</source>
+        <translation>请选择这些备注所属的演示文稿。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::DeckImportError</name>
@@ -399,6 +439,11 @@
         <source>Orvello imports speaker notes from presentations (.pptx, .odp). It cannot read %1.</source>
         <extracomment>%1: the names of files.</extracomment>
         <translation>Orvello 可从 演示文稿（.pptx、.odp）导入演讲者备注，无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>The notes of “%1” are among your scripts already. Update them, or add them once more?</source>
+        <extracomment>%1: the name of a file.</extracomment>
+        <translation>“%1”的备注已经在您的讲稿中。要更新它们，还是再添加一次？</translation>
     </message>
 </context>
 <context>
@@ -592,6 +637,11 @@ The settings have a button that takes this back.</source>
         <extracomment>The title of a copied script. %1: the title of the original.</extracomment>
         <translation>%1 副本</translation>
     </message>
+    <message>
+        <source>%1 (before the update)</source>
+        <extracomment>The title of a former version of a script. %1: the title of the script.</extracomment>
+        <translation>%1（更新前）</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::LibraryViewModel</name>
@@ -680,6 +730,32 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Welcome to Orvello</source>
         <translation>欢迎使用 Orvello</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::OtherDeckNotice</name>
+    <message>
+        <source>Reading what is open in %1…</source>
+        <extracomment>%1: a presentation program, such as Keynote.</extracomment>
+        <translation>正在读取 %1 中打开的内容…</translation>
+    </message>
+    <message>
+        <source>These notes are from another presentation than the one on screen.</source>
+        <extracomment>On the card. %1: the name of a presentation.</extracomment>
+        <translation>这些备注不属于屏幕上的演示文稿。</translation>
+    </message>
+    <message>
+        <source>“%1” is on screen. These notes are from another presentation.</source>
+        <translation>屏幕上是“%1”。这些备注属于另一份演示文稿。</translation>
+    </message>
+    <message>
+        <source>Switch to its notes</source>
+        <extracomment>A button on the card: shows the notes of the presentation that is on screen.</extracomment>
+        <translation>切换到它的备注</translation>
+    </message>
+    <message>
+        <source>Import its notes</source>
+        <translation>导入它的备注</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1017,11 @@ The settings have a button that takes this back.</source>
         <extracomment>On the card: which slide of how many.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Other deck</source>
+        <extracomment>On the card, at most about 12 characters: the slideshow shows another presentation.</extracomment>
+        <translation>其他演示</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::StatusMenu</name>
@@ -1125,8 +1206,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>要共享屏幕吗？共享时不要动隐身模式——途中切换，会议应用可能会在提词器的位置显示一个灰色方块。关闭并重新打开 Orvello 即可消除。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口：观众看到的是幻灯片，绝不会看到你的备注。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口，并把这个面板放在它旁边：这样观众看到的是幻灯片，而不是你的备注。</translation>
     </message>
 </context>
 <context>
@@ -1138,6 +1219,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &quot;Advanced capture with window filtering&quot; (or &quot;Previous operating systems&quot;)</source>
         <translation>Zoom → 设置 → 共享屏幕 → 高级 → 屏幕捕获模式 →“带窗口过滤的高级捕获”（或“以前的操作系统”）</translation>
+    </message>
+</context>
+<context>
+    <name>OtherDeck</name>
+    <message>
+        <source>Keep these notes</source>
+        <translation>保留这些备注</translation>
     </message>
 </context>
 <context>
@@ -1316,6 +1404,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>全部导出…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>没有找到</translation>
     </message>
 </context>
 <context>
@@ -1637,16 +1730,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>你的私人提词器。观众看到的是幻灯片，绝不会看到你的备注。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>你的私人提词器。共享幻灯片的窗口，观众就绝不会看到你的备注。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>屏幕共享时不可见</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>不在窗口共享之中</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1677,6 +1762,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>在 Zoom、Meet 或 Teams 中共享一个窗口，把提词器放在旁边，就只有你能看到它。共享整个屏幕时，此桌面会让所有人看到它。</translation>
     </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>你的私人提词器。只共享幻灯片的窗口，把提词器放在旁边，备注就只属于你。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>在你共享的窗口旁边</translation>
+    </message>
 </context>
 <context>
     <name>TourZoomCard</name>
@@ -1704,6 +1797,23 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Zoom → Settings → Share Screen → Advanced → Screen capture mode → &lt;b&gt;Advanced capture with window filtering&lt;/b&gt; (or Previous operating systems).</source>
         <translation>Zoom → 设置 → 共享屏幕 → 高级 → 屏幕捕获模式 → &lt;b&gt;带窗口过滤的高级捕获&lt;/b&gt;（或“以前的操作系统”）。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateQuestion</name>
+    <message>
+        <source>Update</source>
+        <extracomment>A button: the notes are taken from their presentation&apos;s file once more.</extracomment>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Add Once More</source>
+        <extracomment>A button: the notes of a presentation are added as one more script.</extracomment>
+        <translation>再次添加</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

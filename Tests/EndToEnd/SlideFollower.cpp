@@ -69,6 +69,11 @@ public:
             [this] { say(u"state"_s, stateName(m_sync.state())); });
         connect(&m_deck, &DeckController::slideChangeTokenChanged, this,
             [this] { say(u"text"_s, m_deck.promptText()); });
+        connect(&m_deck.presentedDeck(), &PresentedDeck::changed, this, [this] {
+            say(u"other deck"_s,
+                m_deck.presentedDeck().isOther() ? QJsonValue(m_deck.presentedDeck().name())
+                                                 : QJsonValue(false));
+        });
         connect(&m_impress, &ImpressPresenter::adviceNeeded, this,
             [this] { say(u"advice"_s, m_impress.obstacle()); });
         connect(&m_input, &QSocketNotifier::activated, this, [this] { obey(); });

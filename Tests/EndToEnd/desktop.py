@@ -80,6 +80,12 @@ class Desktop(contextlib.ExitStack):
     def stop_compositor(self):
         self._stop(self._compositor)
 
+    def split_screen(self):
+        """Makes two monitors of the screen, side by side; the left one is the primary."""
+        half = self.width // 2
+        for name, left, output in (("left", 0, "screen"), ("right", half, "none")):
+            self.run("xrandr", "--setmonitor", name, f"{half}/300x{self.height}/240+{left}+0", output)
+
     def start_session_bus(self):
         """Gives the desktop a session bus of its own, for what is started from now on."""
         read_end, write_end = os.pipe()

@@ -108,7 +108,7 @@ class Office:
 
     # Documents
 
-    def make_deck(self, path, notes_of=notes):
+    def make_deck(self, path, notes_of=notes, title_of=title):
         """A deck of twelve slides as a .pptx file, one without notes and one hidden."""
         document = self._desktop().loadComponentFromURL(
             "private:factory/simpress", "_blank", 0, (value("Hidden", True),))
@@ -118,7 +118,7 @@ class Office:
         for number in range(1, SLIDES + 1):
             page = pages.getByIndex(number - 1)
             page.Layout = 1  # Title and text.
-            self._fill(page, "com.sun.star.presentation.TitleTextShape", title(number))
+            self._fill(page, "com.sun.star.presentation.TitleTextShape", title_of(number))
             self._fill(page.getNotesPage(), "com.sun.star.presentation.NotesShape", notes_of(number))
         pages.getByIndex(HIDDEN - 1).Visible = False
         document.storeToURL(path.as_uri(), (value("FilterName", "Impress MS PowerPoint 2007 XML"),))
@@ -131,6 +131,22 @@ class Office:
             if shape.getShapeType() == kind and text:
                 shape.setString(text)
 
+    def close_documents(self):
+        """Ends every slideshow and closes every document."""
+        documents = self._desktop().getComponents().createEnumeration()
+        found = []
+        while documents.hasMoreElements():
+            found.append(documents.nextElement())
+        for document in found:
+            if hasattr(document, "getPresentation"):
+                document.getPresentation().end()
+        for document in found:
+            if hasattr(document, "close"):  # The window that offers documents has none.
+                document.close(True)
+
+    def open_drawing(self):
+        self._desktop().loadComponentFromURL("private:factory/sdraw", "_blank", 0, ())
+
     def open(self, path):
         document = self._desktop().loadComponentFromURL(path.as_uri(), "_blank", 0, ())
         return Slideshow(document)
@@ -142,7 +158,10 @@ class Slideshow:
     def __init__(self, document):
         self.document = document
 
-    def start(self):
+    def start(self, **properties):
+        """With what the slideshow's settings call `properties`."""
+        for name, content in properties.items():
+            setattr(self.document.getPresentation(), name, content)
         self.document.getPresentation().start()
         wait_until(self.controller, what="the slideshow")
 
@@ -152,6 +171,13 @@ class Slideshow:
     def show(self, slide):
         """Jumps to a slide, 1-based in the deck; LibreOffice counts what it shows from 0, hidden ones left out."""
         self.controller().gotoSlide(self.document.getDrawPages().getByIndex(slide - 1))
+
+    def add_custom_show(self, name, slides):
+        shows = self.document.getCustomPresentations()
+        show = shows.createInstance()
+        for place, slide in enumerate(slides):
+            show.insertByIndex(place, self.document.getDrawPages().getByIndex(slide - 1))
+        shows.insertByName(name, show)
 
     def next(self):
         self.controller().gotoNextSlide()

@@ -90,6 +90,13 @@ void openDeck(PrompterStage& stage)
     });
 }
 
+void presentOtherDeck(PrompterStage& stage)
+{
+    openDeck(stage);
+    stage.services.presentOtherDeck(u"Budget for next year\x1e"
+                                    "Costs\x1f\x1eIncome\x1f"_s);
+}
+
 void showEverything(PrompterStage& stage)
 {
     openDeck(stage);
@@ -168,6 +175,9 @@ Scenes prompterScenes()
                 stage.services.showLiveSlide(9);
                 stage.services.refuseToTellTheSlide();
             }),
+        prompter(u"another deck on screen"_s, Wallpaper::Photo, &presentOtherDeck),
+        prompter(u"another deck on screen, smallest panel"_s, Wallpaper::Document,
+            &presentOtherDeck, { .size = { 340, 130 } }),
         prompter(u"share notice"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.setInCall(true); }),
         prompter(u"everything at once"_s, Wallpaper::Photo, &showEverything,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Import/DeckFileUpdates.h"
 #include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Library/Records/UuidText.h"
 #include "Orvello/Library/Store/LibraryStore.h"
@@ -38,7 +39,7 @@ struct LibraryServices {
 
     DeckImports::Services ofWindow()
     {
-        return { library, openDecks, presenters, openPanel, facts };
+        return { library, openDecks, files, updates, presenters, openPanel, facts };
     }
 
     static Script script(const QString& title, const QString& body)
@@ -67,6 +68,8 @@ struct LibraryServices {
     PresenterTable presenters;
     LibraryStore library;
     LiveDeckImport openDecks { library, workspace, scriptRunner };
+    DeckFileImport files { library };
+    DeckFileUpdates updates { library, files, time };
 
 private:
     /// The preferences of that library, which is on the disk then.

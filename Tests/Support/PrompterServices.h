@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Presentations/Slideshow/DeckController.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
@@ -7,6 +8,7 @@
 #include "Orvello/Shell/Windows/PrompterWindow.h"
 #include "Orvello/Voice/VoiceActivityEngine.h"
 #include "Tests/Support/EventLoop.h"
+#include "Tests/Support/FakeChildProcess.h"
 #include "Tests/Support/FakeFolders.h"
 #include "Tests/Support/FakeMicrophonePermission.h"
 #include "Tests/Support/FakeMicrophones.h"
@@ -31,7 +33,8 @@ public:
 
     PrompterWindow::Services ofWindow(bool forceCapturable = false)
     {
-        return { engine, settings, voice, stage.monitor, deck, stage.time, forceCapturable };
+        return { engine, settings, voice, stage.monitor, deck, library, openDecks, stage.time,
+            forceCapturable };
     }
 
     void prompt(const QString& text)
@@ -60,6 +63,20 @@ public:
     {
         stage.time.advance(0.5);
         stage.keynote.answer(QString::number(number));
+        drainEvents();
+    }
+    /// A slideshow of a deck with this record is on its first slide, in a presenter that tells.
+    void presentOtherDeck(const QString& record)
+    {
+        if (!impress.tellsDeck) {
+            impress.tellsDeck = true;
+            stage.presenters.add(impress.row());
+        }
+        stage.present(impress.row());
+        stage.workspace.running.append(*stage.workspace.frontmost);
+        stage.time.advance(1.5);
+        impress.answer(QStringLiteral("1"));
+        impress.answerDeck(record);
         drainEvents();
     }
     void refuseToTellTheSlide()
@@ -98,6 +115,8 @@ public:
     }
 
     SlideshowStage stage;
+    FakePresenter impress { QStringLiteral("LibreOffice Impress"), QStringLiteral("Impress"),
+        QStringLiteral("libreoffice-impress") };
     FakeUserDefaults defaults;
     FakeFolders folders;
     SettingsStore settings { defaults };
@@ -105,6 +124,9 @@ public:
     SlideSyncService sync { stage.monitor, stage.presenters, stage.time };
     DeckController deck { library, settings, sync };
     ScrollEngine engine { settings, stage.time };
+    FakeChildProcess process;
+    AppleScriptRunner scriptRunner { process };
+    LiveDeckImport openDecks { library, stage.workspace, scriptRunner };
 
     std::vector<std::string> journal;
     FakeMicrophonePermission permission;

@@ -93,8 +93,8 @@ TEST_F(DeckImportsTest, offersImpressOnlyWhereItIsFollowed)
     PresenterTable presenters;
     presenters.add(AppleScriptPresenters::keynote(services.scriptRunner));
     presenters.add(AppleScriptPresenters::powerPoint(services.scriptRunner));
-    const DeckImports two(
-        { services.library, services.openDecks, presenters, services.openPanel, services.facts });
+    const DeckImports two({ services.library, services.openDecks, services.files, services.updates,
+        presenters, services.openPanel, services.facts });
 
     EXPECT_EQ(two.titles(),
         QStringList({ u"PowerPoint file (.pptx)…"_s, u"Open PowerPoint presentation"_s,
@@ -108,7 +108,8 @@ TEST_F(DeckImportsTest, offersOnlyWhatThisSystemCanHave)
     keynote.isForThisSystem = false;
     presenters.add(keynote);
     presenters.add(services.impress.row());
-    const DeckImports one({ services.library, services.openDecks, presenters, services.openPanel });
+    const DeckImports one({ services.library, services.openDecks, services.files, services.updates,
+        presenters, services.openPanel });
 
     EXPECT_EQ(one.titles(),
         QStringList({ u"Presentation file (.pptx, .odp)…"_s, u"Open Impress presentation"_s }));
@@ -160,8 +161,7 @@ TEST_F(DeckImportsTest, asksForOnePptxFile)
 TEST_F(DeckImportsTest, asksForEitherFormatWhereImpressIsThePresenter)
 {
     services.facts = Testing::factsOfALinuxDesktop();
-    DeckImports linux({ services.library, services.openDecks, services.presenters,
-        services.openPanel, services.facts });
+    DeckImports linux(services.ofWindow());
     linux.run(0);
 
     EXPECT_EQ(linux.titles().first(), u"Presentation file (.pptx, .odp)…"_s);
@@ -394,6 +394,84 @@ TEST_F(DeckImportsTest, showsAnAlertWithoutAMessageAsAnUnknownError)
     imports.showAlert(u"Import failed"_s, std::nullopt);
 
     expectAlert(u"Import failed"_s, u"Unknown error"_s);
+}
+
+class KnownFileTest : public DeckImportsTest {
+protected:
+    KnownFileTest()
+    {
+        choose(talk);
+        script = *services.library.activeScriptID();
+        services.library.setActiveScriptID(services.library.scripts().last().id);
+        QFile::remove(talk);
+        EXPECT_EQ(
+            file(u"Talk.pptx"_s, DeckBuilder().slide("Intro", "Hello everybody").build()), talk);
+        imports.importFiles({ QUrl::fromLocalFile(talk) });
+    }
+
+    QString talk = deckFile(u"Talk.pptx"_s);
+    QUuid script;
+};
+
+TEST_F(KnownFileTest, isAskedAbout)
+{
+    EXPECT_EQ(imports.question(),
+        u"The notes of “Talk.pptx” are among your scripts already. Update them, or add them once "
+        "more?"_s);
+    EXPECT_EQ(titles(), QStringList({ u"Talk"_s, u"Old"_s }));
+}
+
+TEST_F(KnownFileTest, updatesItsScript)
+{
+    imports.updateKnown();
+    EXPECT_EQ(imports.question(), QString());
+    finishReading();
+
+    EXPECT_EQ(titles(), QStringList({ u"Talk"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.activeScript()->id, script);
+    EXPECT_EQ(services.library.activeScript()->slides->first().notes, u"Hello everybody"_s);
+    EXPECT_FALSE(imports.isShowingAlert());
+}
+
+TEST_F(KnownFileTest, isAddedOnceMore)
+{
+    imports.addOnceMore();
+    finishReading();
+
+    EXPECT_EQ(titles(), QStringList({ u"Talk"_s, u"Talk"_s, u"Old"_s }));
+    EXPECT_EQ(services.library.scripts()[0].slides->first().notes, u"Hello everybody"_s);
+    EXPECT_EQ(services.library.scripts()[1].slides->first().notes, u"Hello all"_s);
+}
+
+TEST_F(KnownFileTest, isLeftAlone)
+{
+    imports.importFiles({ QUrl::fromLocalFile(talk) });
+    imports.dismissQuestion();
+    EXPECT_NE(imports.question(), QString()); // About the second time.
+    imports.dismissQuestion();
+    imports.dismissQuestion();
+    finishReading();
+
+    EXPECT_EQ(imports.question(), QString());
+    EXPECT_EQ(services.library.scripts().first().slides->first().notes, u"Hello all"_s);
+}
+
+TEST_F(KnownFileTest, saysWhyItCannotBeUpdated)
+{
+    QFile::remove(talk);
+    imports.updateKnown();
+    finishReading();
+
+    expectAlert(u"Import failed"_s, u"The file could not be opened as a PowerPoint package."_s);
+}
+
+TEST_F(KnownFileTest, isAddedWhereItsScriptIsGoneByNow)
+{
+    services.library.remove(script);
+    imports.updateKnown();
+    finishReading();
+
+    EXPECT_EQ(titles(), QStringList({ u"Talk"_s, u"Old"_s }));
 }
 
 } // namespace

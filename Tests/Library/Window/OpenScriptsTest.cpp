@@ -511,5 +511,24 @@ TEST_F(OpenScriptsTest, doesNotTakeAScriptWithTheNullIdForNoScript)
     EXPECT_EQ(scripts.active()->title(), QString());
 }
 
+TEST_F(OpenScriptsTest, leavesTheCursorWhereItIsWhenADeckIsUpdated)
+{
+    const QUuid deck = services.library.scripts()[1].id;
+    services.library.setActiveScriptID(deck);
+    ScriptEditor& editor = active();
+    TextField field(editor);
+    QTextCursor cursor(&field.document());
+    cursor.setPosition(static_cast<int>(editor.body().indexOf(u"all"_s)));
+    const QSignalSpy notices(&editor, &ScriptEditor::deckNoticeChanged);
+
+    services.library.updateDeck(deck, u"/talks/Two.pptx"_s,
+        { { { 1, u"New"_s, u"Before"_s }, { 2, u"Intro"_s, u"Hello all"_s } }, {}, {} });
+
+    EXPECT_EQ(field.document().toPlainText(), services.library.scripts()[1].body);
+    EXPECT_EQ(editor.body(), services.library.scripts()[1].body);
+    EXPECT_EQ(cursor.position(), editor.body().indexOf(u"all"_s));
+    EXPECT_EQ(notices.count(), 0);
+}
+
 } // namespace
 } // namespace Orvello

@@ -518,5 +518,83 @@ TEST_F(DeckControllerTest, announcesOnlyWhatChanges)
     EXPECT_EQ(trackings.count(), 0);
 }
 
+/// The deck of the other tests, updated from its file.
+class UpdatedDeckTest : public DeckControllerTest {
+protected:
+    void update(const QList<SlideNote>& slides)
+    {
+        library.updateDeck(deck, u"/talks/Deck.pptx"_s, { slides, {}, {} });
+        Testing::drainEvents();
+    }
+};
+
+TEST_F(UpdatedDeckTest, keepsThePlaceInTheNotesOfTheSlide)
+{
+    const qint64 token = controller.slideChangeToken();
+    const QSignalSpy updates(&controller, &DeckController::promptTextUpdated);
+    const QSignalSpy edits(&controller, &DeckController::promptTextChanged);
+
+    update({ { 1, u"Intro"_s, u"First, new notes"_s }, { 2, std::nullopt, u""_s },
+        { 3, u"End"_s, u"Last notes"_s } });
+
+    EXPECT_EQ(controller.promptText(), u"First, new notes"_s);
+    EXPECT_EQ(controller.slideChangeToken(), token);
+    EXPECT_EQ(updates.count(), 1);
+    EXPECT_EQ(updates.first().first().value<TextDifferences>(), (TextDifferences { { 5, 0, 5 } }));
+    EXPECT_EQ(edits.count(), 0);
+}
+
+TEST_F(UpdatedDeckTest, followsTheSlideToItsNewPlace)
+{
+    controller.showNextSlide();
+    controller.showNextSlide();
+    const qint64 token = controller.slideChangeToken();
+
+    update({ { 1, u"New"_s, u"New"_s }, { 2, u"Intro"_s, u"First notes"_s },
+        { 3, std::nullopt, u""_s }, { 4, u"End"_s, u"Last notes, edited"_s } });
+
+    EXPECT_EQ(controller.displayIndex(), 3);
+    EXPECT_EQ(controller.slideCount(), 4);
+    EXPECT_EQ(controller.promptText(), u"Last notes, edited"_s);
+    EXPECT_EQ(controller.slideChangeToken(), token);
+}
+
+TEST_F(UpdatedDeckTest, staysInsideADeckThatHasBecomeShorter)
+{
+    controller.showNextSlide();
+    controller.showNextSlide();
+
+    update({ { 1, u"Intro"_s, u"First notes"_s } });
+
+    EXPECT_EQ(controller.displayIndex(), 0);
+    EXPECT_EQ(controller.promptText(), u"First notes"_s);
+}
+
+TEST_F(UpdatedDeckTest, aSlideshowDecidesAboutItsSlide)
+{
+    showLive(3);
+
+    update({ { 1, u"New"_s, u"New"_s }, { 2, u"Intro"_s, u"First notes"_s },
+        { 3, std::nullopt, u"Third"_s }, { 4, u"End"_s, u"Last notes"_s } });
+
+    EXPECT_EQ(controller.displayIndex(), 2);
+    EXPECT_EQ(controller.promptText(), u"Third"_s);
+}
+
+TEST_F(UpdatedDeckTest, updatesTheWholeTextWithoutStartingAnew)
+{
+    setTracking(false);
+    const qint64 token = controller.slideChangeToken();
+    const QSignalSpy updates(&controller, &DeckController::promptTextUpdated);
+
+    update({ { 1, u"Intro"_s, u"First, new notes"_s }, { 2, std::nullopt, u""_s },
+        { 3, u"End"_s, u"Last new notes"_s } });
+
+    EXPECT_EQ(controller.promptText(), library.activeScript()->body);
+    EXPECT_EQ(controller.slideChangeToken(), token);
+    ASSERT_EQ(updates.count(), 1);
+    EXPECT_EQ(updates.first().first().value<TextDifferences>().size(), 2u);
+}
+
 } // namespace
 } // namespace Orvello

@@ -172,8 +172,12 @@ TEST_F(AllowedImpressPresenterTest, isFollowedLikeTheOthers)
     EXPECT_EQ(sync.app()->logName, u"Impress"_s);
     EXPECT_EQ(advices.count(), 0);
 
+    EXPECT_EQ(asked(), QStringList({ u"open"_s, u"slide"_s, u"presented"_s }));
+    answer({ 0, u"Talk\x1eWelcome\x1f\n"_s, {} });
+    EXPECT_EQ(sync.presentedDeck(), (DeckOutline { u"Talk"_s, { u"Welcome"_s } }));
+
     stage.time.advance(0.5);
-    EXPECT_EQ(asked(), QStringList({ u"open"_s, u"slide"_s, u"slide"_s }));
+    EXPECT_EQ(asked(), QStringList({ u"open"_s, u"slide"_s, u"presented"_s, u"slide"_s }));
 }
 
 TEST_F(AllowedImpressPresenterTest, givesEveryQuestionItsTime)
@@ -224,6 +228,7 @@ TEST_F(AllowedImpressPresenterTest, isLetGoOnlyAfterTheSlideshow)
     presentImpress();
     answer({ 0, {}, {} });
     answer({ 0, u"4\n"_s, {} });
+    answer({ 0, u"Talk\n"_s, {} });
     import();
     answer({ 0, u"record"_s, {} });
     stage.workspace.frontmost = Testing::FakeWorkspace::application(u"org.mozilla.firefox"_s);

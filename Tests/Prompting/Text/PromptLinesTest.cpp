@@ -636,5 +636,38 @@ TEST_F(PromptLinesTest, leavesNoCallBehind)
     EXPECT_EQ(time.manual.pendingCalls(), 0u);
 }
 
+TEST_F(PromptLinesTest, staysAtTheSameWordsWhenTheTextIsUpdated)
+{
+    const QString before = numbered(300);
+    lines.setText(before);
+    finish();
+    const double pitch = lines.contentHeight() / 300;
+    lines.setReadingTop(200 * pitch);
+    lines.setVisibleTop(200 * pitch);
+    ASSERT_EQ(shownTexts().first(), u"line 200"_s);
+    const QSignalSpy moves(&lines, &PromptLines::readingTopMoved);
+
+    // Above the reader's place, below it, and far above it again.
+    QString after = before;
+    after.replace(u"line 3\n"_s, u"line 3\nadded\nadded, too\n"_s);
+    after.replace(u"line 250\n"_s, u"changed\n"_s);
+    after.remove(u"line 100\n"_s);
+    lines.update(after, differencesBetween(before, after));
+    finish();
+
+    EXPECT_EQ(shownTexts().first(), u"line 200"_s);
+    EXPECT_NEAR(lines.readingTop(), 201 * pitch, 0.1);
+    EXPECT_EQ(moves.count(), 1);
+}
+
+TEST_F(PromptLinesTest, staysAtTheTopWhenTheTextIsUpdated)
+{
+    lines.setText(u"One\nTwo"_s);
+    lines.update(u"Once\nTwo"_s, differencesBetween(u"One\nTwo"_s, u"Once\nTwo"_s));
+
+    EXPECT_EQ(lines.readingTop(), 0);
+    EXPECT_EQ(shownTexts(), QStringList({ u"Once"_s, u"Two"_s }));
+}
+
 } // namespace
 } // namespace Orvello

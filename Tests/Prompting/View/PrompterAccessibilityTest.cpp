@@ -106,6 +106,23 @@ TEST_F(PrompterAccessibilityTest, tellsWhichOfTheChipsButtonsAreInert)
     EXPECT_FALSE(canBePressed(u"Next slide"_s));
 }
 
+TEST_F(PrompterAccessibilityTest, offersTheNotesOfTheDeckThatIsOnScreen)
+{
+    services.openDeck({ { 1, u"Intro"_s, u"First notes"_s }, { 2, u"End"_s, u"Last notes"_s } });
+    services.presentOtherDeck(u"Budget\x1e"
+                              "Costs\x1f\x1eIncome\x1f"_s);
+
+    const QString notice = u"“Budget” is on screen. These notes are from another presentation."_s;
+    ASSERT_TRUE(object(notice));
+    EXPECT_EQ(object(notice)->role(), QAccessible::AlertMessage);
+    EXPECT_TRUE(canBePressed(u"Import its notes"_s));
+    EXPECT_FALSE(object(u"Next slide"_s));
+
+    press(u"Keep these notes"_s);
+    EXPECT_FALSE(object(notice));
+    EXPECT_TRUE(canBePressed(u"Next slide"_s));
+}
+
 TEST_F(PrompterAccessibilityTest, readsTheCountdownWhileItCounts)
 {
     services.settings.setCountdownSeconds(2);

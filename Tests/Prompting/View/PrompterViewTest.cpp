@@ -686,6 +686,36 @@ TEST_F(PrompterViewTest, fitsIntoTheSmallestPanel)
     }
 }
 
+TEST_F(PrompterViewTest, offersTheNotesOfTheDeckThatIsOnScreen)
+{
+    openDeck();
+    services.setInCall(true);
+    services.presentOtherDeck(u"A budget with a name that is far longer than this card is wide, "
+                              "and goes on\x1e"
+                              "Costs\x1f\x1eIncome\x1f"_s);
+    resize(340, 130);
+
+    // As a frame would.
+    for (QQuickItem* item : root().findChildren<QQuickItem*>())
+        item->ensurePolished();
+
+    EXPECT_NE(textItem(u"Other deck"_s), nullptr);
+    EXPECT_EQ(textItem(u"1 / 3"_s), nullptr);
+    EXPECT_EQ(symbol(u"chevron.right"_s), nullptr);
+    EXPECT_EQ(symbol(u"eye.trianglebadge.exclamationmark"_s), nullptr);
+    for (const QQuickItem* item : visibleTexts()) {
+        const QRectF place = placeOf(*item);
+        EXPECT_TRUE(QRectF(0, 0, 340, 130).contains(place))
+            << item->property("text").toString().toStdString() << place.width();
+    }
+
+    ASSERT_NE(textItem(u"Keep these notes"_s), nullptr);
+    click(*textItem(u"Keep these notes"_s));
+    EXPECT_EQ(textItem(u"Keep these notes"_s), nullptr);
+    EXPECT_EQ(services.deck.promptText(), u"First notes"_s);
+    EXPECT_NE(symbol(u"eye.trianglebadge.exclamationmark"_s), nullptr);
+}
+
 TEST_F(PrompterViewTest, fitsTheCountdownIntoTheSmallestPanel)
 {
     settings.setCountdownSeconds(10);

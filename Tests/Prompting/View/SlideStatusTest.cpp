@@ -106,6 +106,23 @@ TEST_F(SlideStatusTest, saysNoAccessWithoutPermission)
     EXPECT_EQ(status.stateColor(), QColor(255, 69, 58));
 }
 
+TEST_F(SlideStatusTest, saysThatTheSlideshowShowsAnotherDeck)
+{
+    openDeck();
+    const QSignalSpy changes(&status, &SlideStatus::changed);
+
+    services.presentOtherDeck(u"Budget\x1e"
+                              "Costs\x1f\x1eIncome\x1f"_s);
+
+    EXPECT_TRUE(status.isShown());
+    EXPECT_TRUE(status.isOtherDeck());
+    EXPECT_EQ(status.stateLabel(), u"Other deck"_s);
+    EXPECT_EQ(status.stateColor(), QColor(255, 214, 10));
+    EXPECT_TRUE(status.stateLabels().contains(status.stateLabel()));
+    EXPECT_EQ(status.title(), QString());
+    EXPECT_GT(changes.count(), 0);
+}
+
 TEST_F(SlideStatusTest, announcesEachChange)
 {
     openDeck();

@@ -22,20 +22,37 @@ DeckFileImport::~DeckFileImport()
 
 void DeckFileImport::import(const QString& path, Completion completion)
 {
+    read(path, [this, path, completion = std::move(completion)](const ReadDeck& deck) {
+        if (!deck)
+            completion(Failure { deck.error() });
+        else
+            completion(m_library.addReadDeck(path, *deck));
+    });
+}
+
+void DeckFileImport::read(const QString& path, std::function<void(const ReadDeck&)> completion)
+{
     ++m_waiting;
     m_reader.start([this, path, completion = std::move(completion)] {
         const auto deck = PptxImporter::importDeck(path, &m_isCancelled);
         // Dropped with the import, which waits for this thread.
         QMetaObject::invokeMethod(
             this,
-            [this, path, completion, deck] {
+            [this, completion, deck] {
                 --m_waiting;
-                if (!deck)
-                    completion(Failure { deck.error() });
-                else
-                    completion(m_library.addReadDeck(path, *deck));
+                completion(deck);
             },
             Qt::QueuedConnection);
+    });
+}
+
+void DeckFileImport::look(
+    const QString& path, std::function<void(const PptxImporter::FileStamp&)> completion)
+{
+    m_reader.start([this, path, completion = std::move(completion)] {
+        const auto stamp = PptxImporter::FileStamp::of(path);
+        QMetaObject::invokeMethod(
+            this, [completion, stamp] { completion(stamp); }, Qt::QueuedConnection);
     });
 }
 

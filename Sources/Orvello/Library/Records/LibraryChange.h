@@ -18,6 +18,7 @@ struct LibraryChange {
     qsizetype newRow = 0; ///< For a move: where the script is now.
     QUuid id = {};
     bool hasNewTitle = false; ///< For an edit: the title changed.
+    bool hasNewSlides = false; ///< For an edit: a deck was read anew.
     std::optional<TextEdit> body = {}; ///< For an edit that changed the body: where it differs.
 
     friend bool operator==(const LibraryChange&, const LibraryChange&) = default;

@@ -62,8 +62,8 @@ QString body(const Facts& facts)
     else
         paragraphs += translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
             "Sharing your screen? This desktop cannot hide a window, so whoever sees your whole "
-            "screen sees this panel too. Share only the window of your slides: your audience sees "
-            "your slides — never your notes."));
+            "screen sees this panel too. Share only the window of your slides, and keep this panel "
+            "beside it: your audience then sees your slides, not your notes."));
     return paragraphs.join(u"\n\n"_s);
 }
 

@@ -10,6 +10,7 @@
 #include "Orvello/Platform/Early/UserDefaults.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -50,12 +51,14 @@ LibraryStore::LibraryStore(UserDefaults& defaults, const Folders& folders, TimeS
     , m_lock(inExistingFolder(m_file.path()) + u".lock"_s)
     , m_rescue(m_file.path())
     , m_deleted(QFileInfo(m_file.path()).path() + u"/deleted.json"_s)
+    , m_deckFiles(QFileInfo(m_file.path()).path() + u"/deck-files.json"_s)
     , m_saveState(m_lock.isTaken() ? SaveState::Foreign : SaveState::Saved)
     , m_scripts(m_file.load())
 {
     if (!m_lock.isTaken())
         rescueLibrary();
     m_deleted.load(time.date());
+    loadDeckFiles();
     if (const auto storedID = DefaultsValue::asString(m_defaults.value(activeScriptIDKey)))
         assignActiveScriptID(UuidText::parse(*storedID));
     if (m_scripts.isEmpty())
@@ -261,6 +264,8 @@ void LibraryStore::duplicate(QUuid id)
         return;
     Script copy = *original;
     copy.id = QUuid::createUuid();
+    if (const DeckFile* const file = deckFile(id))
+        m_deckFiles.set(copy.id, DeckFile(*file));
     //: The title of a copied script. %1: the title of the original.
     copy.title = copy.title.isEmpty() ? QString() : tr("%1 copy").arg(copy.title);
     copy.createdAt = copy.updatedAt = m_time.date();
@@ -351,22 +356,127 @@ QUuid LibraryStore::addReadDeck(
 {
     const QString fileName = QFileInfo(path).fileName();
     AppLog::write("Orvello IMPORT_PPTX ok slides=%d file=%@", deck.slides.size(), fileName);
-    const QUuid id = addDeck(withoutExtension(fileName), deck.slides, source.value_or(fileName));
-    if (!deck.unread.isEmpty()) {
-        const QString slides = PptxImporter::slideRanges(deck.unread);
-        AppLog::write("Orvello IMPORT_PPTX limit: notes of slides %@ could not be read", slides);
-        Q_EMIT notesLeftOut(slides);
+    const Script script
+        = deckScript(withoutExtension(fileName), deck.slides, source.value_or(fileName));
+    // First: whoever hears of the script may ask for its file.
+    m_deckFiles.set(script.id, { QFileInfo(path).absoluteFilePath(), deck.stamp });
+    addOnTop(script);
+    tellLimits(deck);
+    return script.id;
+}
+
+void LibraryStore::tellLimits(const PptxImporter::Deck& deck)
+{
+    if (deck.unread.isEmpty())
+        return;
+    const QString slides = PptxImporter::slideRanges(deck.unread);
+    AppLog::write("Orvello IMPORT_PPTX limit: notes of slides %@ could not be read", slides);
+    Q_EMIT notesLeftOut(slides);
+}
+
+/// Those of deleted scripts, too, which may come back.
+void LibraryStore::loadDeckFiles()
+{
+    if (m_saveState == SaveState::Foreign)
+        m_deckFiles.keepToMemory();
+    m_deckFiles.load([this](QUuid id) {
+        const auto hasID = [id](const Script& script) { return script.id == id; };
+        return std::ranges::any_of(m_scripts, hasID)
+            || std::ranges::any_of(m_deleted.scripts(), hasID, &DeletedScript::script);
+    });
+}
+
+std::optional<QUuid> LibraryStore::scriptOfDeckFile(const QString& path) const
+{
+    for (const Script& script : m_scripts) {
+        const DeckFile* const file = deckFile(script.id);
+        if (script.slides && file && file->path == path)
+            return script.id;
     }
-    return id;
+    return std::nullopt;
+}
+
+QList<qint64> LibraryStore::lostNotes(const Script& script, const QList<SlideNote>& slides)
+{
+    QSet<QString> notes;
+    QSet<QString> titles;
+    for (const SlideNote& slide : slides) {
+        if (slide.notes.isEmpty())
+            continue;
+        notes.insert(slide.notes);
+        if (slide.title)
+            titles.insert(*slide.title);
+    }
+    QList<qint64> lost;
+    const QList<SlideNote> before = script.slides.value_or(QList<SlideNote>());
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        const SlideNote& slide = before[i];
+        const bool hasPlace = i < slides.size() && !slides[i].notes.isEmpty();
+        if (!slide.notes.isEmpty() && !notes.contains(slide.notes) && !hasPlace
+            && !(slide.title && titles.contains(*slide.title)))
+            lost.append(slide.index);
+    }
+    return lost;
+}
+
+void LibraryStore::updateDeck(QUuid id, const QString& path, const PptxImporter::Deck& deck)
+{
+    const auto script = std::ranges::find(m_scripts, id, &Script::id);
+    if (script == m_scripts.end() || !script->slides)
+        return;
+    const DeckFile* const known = deckFile(id);
+    const QString formerName = known ? QFileInfo(known->path).fileName() : QString();
+    const QString fileName = QFileInfo(path).fileName();
+    m_deckFiles.set(id, { QFileInfo(path).absoluteFilePath(), deck.stamp });
+    AppLog::write("Orvello IMPORT_PPTX updated slides=%d file=%@", deck.slides.size(), fileName);
+    tellLimits(deck);
+
+    LibraryChange change;
+    if (*script->slides != deck.slides) {
+        const QString body = joinedBody(deck.slides);
+        if (script->body != joinedBody(*script->slides)
+            || !lostNotes(*script, deck.slides).isEmpty())
+            keepVersion(*script);
+        change.hasNewSlides = true;
+        change.body = TextEdit { 0, script->body.size(), body.size() };
+        script->slides = deck.slides;
+        script->body = body;
+    }
+    if (formerName != fileName && !formerName.isEmpty()) {
+        if (script->deckSource == formerName)
+            script->deckSource = fileName;
+        if (script->title == withoutExtension(formerName)) {
+            script->title = withoutExtension(fileName);
+            change.hasNewTitle = true;
+        }
+    }
+    if (change.hasNewSlides || change.hasNewTitle)
+        edit(*script, change);
+}
+
+/// As a script of its own, because the library still has one with that id.
+void LibraryStore::keepVersion(const Script& script)
+{
+    Script version = script;
+    version.id = QUuid::createUuid();
+    //: The title of a former version of a script. %1: the title of the script.
+    version.title = tr("%1 (before the update)").arg(script.title);
+    keepDeleted({ version, m_time.date(), &script - m_scripts.constData() + 1 });
 }
 
 QUuid LibraryStore::addDeck(
     const QString& title, const QList<SlideNote>& slides, const QString& source)
 {
+    return addOnTop(deckScript(title, slides, source));
+}
+
+Script LibraryStore::deckScript(
+    const QString& title, const QList<SlideNote>& slides, const QString& source) const
+{
     Script script = Script::create(title, joinedBody(slides), m_time.date());
     script.slides = slides;
     script.deckSource = source;
-    return addOnTop(script);
+    return script;
 }
 
 } // namespace Orvello

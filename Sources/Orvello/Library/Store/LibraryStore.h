@@ -2,6 +2,7 @@
 
 #include "Orvello/Foundation/Result.h"
 #include "Orvello/Library/Records/Script.h"
+#include "Orvello/Library/Store/DeckFiles.h"
 #include "Orvello/Library/Store/DeletedScripts.h"
 #include "Orvello/Library/Store/LibraryFile.h"
 #include "Orvello/Library/Store/LibraryLock.h"
@@ -77,6 +78,22 @@ public:
     QUuid addReadDeck(const QString& path, const PptxImporter::Deck& deck,
         const std::optional<QString>& source = {});
 
+    /// The file that a deck script was made from; null when nobody knows.
+    const DeckFile* deckFile(QUuid id) const { return m_deckFiles.of(id); }
+
+    /// The newest script that was made from that file. The path is absolute.
+    std::optional<QUuid> scriptOfDeckFile(const QString& path) const;
+
+    /// The numbers of the slides whose notes would be gone if these slides took the place of those
+    /// of the script: they had some, and what is in their place has none.
+    [[nodiscard]] static QList<qint64> lostNotes(
+        const Script& script, const QList<SlideNote>& slides);
+
+    /// Puts what was read from that file in the place of a deck script's notes. Its title stays,
+    /// unless it was the former file's name. Where notes would be gone, the version before is kept
+    /// among the deleted scripts.
+    void updateDeck(QUuid id, const QString& path, const PptxImporter::Deck& deck);
+
     /// Adds a deck's speaker notes on top and makes them active.
     QUuid addDeck(const QString& title, const QList<SlideNote>& slides, const QString& source);
 
@@ -110,6 +127,11 @@ Q_SIGNALS:
 private:
     void makeFirstScript(const Facts& facts);
     QUuid addOnTop(const Script& script);
+    Script deckScript(
+        const QString& title, const QList<SlideNote>& slides, const QString& source) const;
+    void tellLimits(const PptxImporter::Deck& deck);
+    void loadDeckFiles();
+    void keepVersion(const Script& script);
     Script* editedScript();
     void edit(Script& script, LibraryChange change);
     void insert(qsizetype row, const Script& script);
@@ -131,6 +153,7 @@ private:
     LibraryLock m_lock;
     LibraryRescue m_rescue;
     DeletedScripts m_deleted;
+    DeckFiles m_deckFiles;
     SaveState m_saveState;
     std::error_code m_saveProblem;
     std::unique_ptr<TimeSource::Ticket> m_retry;

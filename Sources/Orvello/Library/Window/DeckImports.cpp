@@ -1,12 +1,14 @@
 #include "Orvello/Library/Window/DeckImports.h"
 
 #include "Orvello/Library/Import/DeckFileImport.h"
+#include "Orvello/Library/Import/DeckFileUpdates.h"
 #include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Platform/Desktop/OpenPanel.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/PresenterApp.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -42,9 +44,15 @@ bool hasNotes(const LibraryStore& library, QUuid id)
 
 } // namespace
 
+std::optional<QString> chooseDeckFile(OpenPanel& panel, const Facts& facts, const QString& message)
+{
+    return facts.hasKeynoteAndPowerPoint
+        ? panel.chooseFile(message, { deckFile })
+        : panel.chooseFile(message, { deckFile, openDocumentFile });
+}
+
 DeckImports::DeckImports(const Services& services)
     : m_services(services)
-    , m_files(std::make_unique<DeckFileImport>(services.library))
 {
     for (const PresenterApp& app : services.presenters.apps()) {
         if (app.isForThisSystem)
@@ -100,14 +108,10 @@ void DeckImports::run(int item)
 
 void DeckImports::chooseFile()
 {
-    const auto path = m_services.facts.hasKeynoteAndPowerPoint
-        ? m_services.openPanel.chooseFile(
-            tr("Choose a PowerPoint presentation — Orvello imports its speaker notes."),
-            { deckFile })
-        : m_services.openPanel.chooseFile(
-            tr("Choose a presentation — Orvello imports its speaker notes."),
-            { deckFile, openDocumentFile });
-    if (path)
+    if (const auto path = chooseDeckFile(m_services.openPanel, m_services.facts,
+            m_services.facts.hasKeynoteAndPowerPoint
+                ? tr("Choose a PowerPoint presentation — Orvello imports its speaker notes.")
+                : tr("Choose a presentation — Orvello imports its speaker notes.")))
         importFiles({ QUrl::fromLocalFile(*path) });
 }
 
@@ -134,15 +138,70 @@ void DeckImports::importFiles(const QList<QUrl>& files)
 
 void DeckImports::importFile(const QString& path)
 {
-    m_files->import(path, [this](const DeckFileImport::Imported& imported) {
-        if (imported)
-            finishFile(*imported);
-        else
-            showAlert(tr("Import failed"), PptxImporter::description(imported.error()));
-    });
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (!m_services.library.scriptOfDeckFile(absolute)) {
+        addFile(path);
+        return;
+    }
+    m_questions.append(absolute);
+    if (m_questions.size() == 1)
+        Q_EMIT questionChanged();
 }
 
-bool DeckImports::isReadingFiles() const { return m_files->isBusy(); }
+QString DeckImports::question() const
+{
+    return m_questions.isEmpty()
+        ? QString()
+        //: %1: the name of a file.
+        : tr("The notes of “%1” are among your scripts already. Update them, or add them once "
+             "more?")
+              .arg(QFileInfo(m_questions.first()).fileName());
+}
+
+void DeckImports::updateKnown()
+{
+    const QString path = takeQuestion();
+    const auto failed = [self = QPointer(this)](PptxImporter::ImportError error) {
+        if (self)
+            self->showAlert(failureTitle(), PptxImporter::description(error));
+    };
+    if (const auto script = m_services.library.scriptOfDeckFile(path))
+        m_services.updates.update(*script, path, failed);
+    else if (!path.isEmpty())
+        addFile(path);
+}
+
+void DeckImports::addOnceMore()
+{
+    if (const QString path = takeQuestion(); !path.isEmpty())
+        addFile(path);
+}
+
+void DeckImports::dismissQuestion() { takeQuestion(); }
+
+QString DeckImports::takeQuestion()
+{
+    if (m_questions.isEmpty())
+        return {};
+    const QString path = m_questions.takeFirst();
+    Q_EMIT questionChanged();
+    return path;
+}
+
+void DeckImports::addFile(const QString& path)
+{
+    const auto finish = [self = QPointer(this)](const DeckFileImport::Imported& imported) {
+        if (!self)
+            return;
+        if (imported)
+            self->finishFile(*imported);
+        else
+            self->showAlert(failureTitle(), PptxImporter::description(imported.error()));
+    };
+    m_services.files.import(path, finish);
+}
+
+bool DeckImports::isReadingFiles() const { return m_services.files.isBusy(); }
 
 void DeckImports::finishFile(const QUuid& imported)
 {
@@ -182,7 +241,7 @@ void DeckImports::importOpenPowerPointDeck(const PresenterApp& powerPoint)
 
 void DeckImports::showFailure(const DeckImportError& error)
 {
-    showAlert(tr("Import failed"), error.description());
+    showAlert(failureTitle(), error.description());
 }
 
 void DeckImports::showAlert(const QString& title, const std::optional<QString>& message)

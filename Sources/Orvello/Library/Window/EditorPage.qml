@@ -10,6 +10,7 @@ Pane {
 
     required property ScriptEditor editor
     required property facts facts
+    required property DeckFileBar deckFile
     property bool isActive: false
     property bool isLoaded: false
     property alias cursorPosition: body.cursorPosition
@@ -73,6 +74,10 @@ Pane {
             Layout.fillWidth: true
             visible: root.editor.isDeck
             text: root.editor.deckNotice
+            fileText: root.isActive ? root.deckFile.text : ""
+            filePath: root.deckFile.path
+            action: root.deckFile.action
+            onUpdateRequested: root.deckFile.update()
         }
 
         ScrollView {

@@ -54,6 +54,10 @@ Pane {
         onActivated: root.library.exportListed()
     }
     Shortcut {
+        sequences: ["Ctrl+R"]
+        onActivated: root.library.deckFile.update()
+    }
+    Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: root.Window.window.close()
     }
@@ -107,6 +111,7 @@ Pane {
                     model: root.library.openScripts
                     delegate: EditorPage {
                         facts: root.library.facts
+                        deckFile: root.library.deckFile
                         isActive: editor === root.library.openScripts.active
                         onStartRequested: root.startHere()
                         visible: isActive
@@ -139,6 +144,10 @@ Pane {
     }
 
     LibraryAlert {
+        imports: root.library.imports
+    }
+
+    UpdateQuestion {
         imports: root.library.imports
     }
 }

@@ -34,6 +34,7 @@ LibraryViewModel::LibraryViewModel(
     , m_notices(services.library)
     , m_openScripts(services.library)
     , m_imports(services)
+    , m_deckFile(services, m_imports)
     , m_facts(services.facts)
 {
 }

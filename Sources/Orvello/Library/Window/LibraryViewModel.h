@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Library/Window/DeckFileBar.h"
 #include "Orvello/Library/Window/DeckImports.h"
 #include "Orvello/Library/Window/DeletedScriptsModel.h"
 #include "Orvello/Library/Window/LibraryNotices.h"
@@ -20,6 +21,7 @@ class LibraryViewModel final : public QObject {
     Q_PROPERTY(Orvello::LibraryNotices* notices READ notices CONSTANT FINAL)
     Q_PROPERTY(Orvello::OpenScripts* openScripts READ openScripts CONSTANT FINAL)
     Q_PROPERTY(Orvello::DeckImports* imports READ imports CONSTANT FINAL)
+    Q_PROPERTY(Orvello::DeckFileBar* deckFile READ deckFile CONSTANT FINAL)
     Q_PROPERTY(Orvello::Facts facts MEMBER m_facts CONSTANT FINAL)
 
 public:
@@ -34,6 +36,7 @@ public:
     LibraryNotices* notices() { return &m_notices; }
     OpenScripts* openScripts() { return &m_openScripts; }
     DeckImports* imports() { return &m_imports; }
+    DeckFileBar* deckFile() { return &m_deckFile; }
 
     Q_INVOKABLE void addScript();
     Q_INVOKABLE void removeActive(); ///< Does nothing when no script is active.
@@ -61,6 +64,7 @@ private:
     LibraryNotices m_notices;
     OpenScripts m_openScripts;
     DeckImports m_imports;
+    DeckFileBar m_deckFile;
     Facts m_facts; ///< What the window may say about this machine.
 };
 

@@ -1,6 +1,7 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/TextDifferences.h"
 #include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
@@ -45,7 +46,7 @@ bool isForeignBreak(QChar character) { return shown(character) != character; }
 QString shown(QString text)
 {
     if (std::ranges::any_of(std::as_const(text), isForeignBreak))
-        std::ranges::replace_if(text, isForeignBreak, u'\n');
+        std::replace_if(text.begin(), text.end(), isForeignBreak, u'\n');
     return text;
 }
 
@@ -149,10 +150,14 @@ void ScriptEditor::update(const Script& script, const LibraryChange& change)
         m_title = script.title;
         Q_EMIT titleChanged();
     }
+    if (script.slides && assign(m_deckSource, script.deckSource.value_or(QString())))
+        Q_EMIT deckNoticeChanged();
     if (!change.body || m_isStoring)
         return;
     const QString inserted = script.body.sliced(change.body->position, change.body->inserted);
-    if (m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
+    if (change.hasNewSlides && m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
+        showDifferences(script.body);
+    } else if (m_isAsInLibrary && !m_unstored && !inserted.contains(u'\r')) {
         show(change.body->position, change.body->removed, inserted);
     } else {
         const QString body = asInDocument(script.body);
@@ -183,7 +188,9 @@ void ScriptEditor::takeOverText(qsizetype position, qsizetype removed, QStringVi
 {
     const QStringView before = QStringView(m_body).sliced(position, removed);
     const auto looksSame = [](QChar old, QChar now) { return shown(old) == shown(now); };
-    const qsizetype begin = std::ranges::mismatch(before, text, looksSame).in1 - before.begin();
+    const qsizetype begin
+        = std::mismatch(before.begin(), before.end(), text.begin(), text.end(), looksSame).first
+        - before.begin();
     const auto oldRest = before.sliced(begin);
     const auto newRest = text.sliced(begin);
     const qsizetype end = std::mismatch(oldRest.rbegin(), oldRest.rend(), newRest.rbegin(),
@@ -205,6 +212,18 @@ void ScriptEditor::replaceInBody(qsizetype position, qsizetype removed, const QS
     m_wordCount += WordCount::beginningIn(m_body, position, position + inserted.size() + 1);
     const TextEdit edit { position, removed, inserted.size() };
     m_unstored = m_unstored ? m_unstored->followedBy(edit) : edit;
+}
+
+/// Leaves what is the same where it is, with the cursor and the part in sight.
+void ScriptEditor::showDifferences(const QString& body)
+{
+    const TextDifferences differences = differencesBetween(m_body, body);
+    qsizetype moved = 0;
+    for (const TextEdit& edit : differences) {
+        show(
+            edit.position + moved, edit.removed, body.sliced(edit.position + moved, edit.inserted));
+        moved += edit.inserted - edit.removed;
+    }
 }
 
 void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& inserted)

@@ -21,7 +21,7 @@ class ScriptEditor final : public QObject {
     Q_PROPERTY(QString bodyInField READ bodyInField NOTIFY bodyChanged FINAL)
     Q_PROPERTY(QString lengthText READ lengthText NOTIFY bodyChanged FINAL)
     Q_PROPERTY(bool isDeck READ isDeck CONSTANT FINAL)
-    Q_PROPERTY(QString deckNotice READ deckNotice CONSTANT FINAL)
+    Q_PROPERTY(QString deckNotice READ deckNotice NOTIFY deckNoticeChanged FINAL)
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY editableChanged FINAL)
 
 public:
@@ -68,11 +68,13 @@ Q_SIGNALS:
     void titleChanged();
     void bodyChanged();
     void editableChanged();
+    void deckNoticeChanged();
 
 private:
     void takeOver(int position, int removed, int added);
     void takeOverText(qsizetype position, qsizetype removed, QStringView text);
     void replaceInBody(qsizetype position, qsizetype removed, const QString& inserted);
+    void showDifferences(const QString& body);
     void show(qsizetype position, qsizetype removed, const QString& inserted);
     void showBreaks();
     bool canStore() const;

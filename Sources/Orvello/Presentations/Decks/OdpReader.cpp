@@ -36,7 +36,7 @@ Result<Deck, ImportError> read(ZipArchive& archive)
         return Failure { ImportError::NotAPresentation };
     OdpNotesParser parser({ Limits::slides, Limits::partText, Limits::totalText });
     parser.parse({ content->data(), static_cast<std::size_t>(content->size()) });
-    Deck deck { parser.takeSlides(), parser.cutSlides() };
+    Deck deck { parser.takeSlides(), parser.cutSlides(), {} };
     if (deck.slides.isEmpty())
         return Failure { ImportError::NotAPresentation };
     return deck;

@@ -5,6 +5,7 @@
 #include "Orvello/Presentations/Decks/ZipArchive.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -37,6 +38,13 @@ bool isProtected(QFile& file)
 
 } // namespace
 
+FileStamp FileStamp::of(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isFile() ? FileStamp { file.lastModified().toMSecsSinceEpoch(), file.size() }
+                         : FileStamp();
+}
+
 QString description(ImportError error)
 {
     switch (error) {
@@ -64,6 +72,7 @@ Result<QList<SlideNote>, ImportError> importNotes(const QString& path)
 
 Result<Deck, ImportError> importDeck(const QString& path, const std::atomic<bool>* isCancelled)
 {
+    const FileStamp stamp = FileStamp::of(path);
     // Opening a pipe waits for its writer, who may never come.
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
@@ -71,8 +80,13 @@ Result<Deck, ImportError> importDeck(const QString& path, const std::atomic<bool
     const std::unique_ptr<ZipArchive> archive = ZipArchive::open(file, isCancelled);
     if (!archive)
         return Failure { isProtected(file) ? ImportError::Protected : ImportError::Unreadable };
-    return OdpReader::isOpenDocument(*archive) ? OdpReader::read(*archive)
-                                               : DeckReader(*archive).read();
+    const auto read = OdpReader::isOpenDocument(*archive) ? OdpReader::read(*archive)
+                                                          : DeckReader(*archive).read();
+    if (!read)
+        return read;
+    Deck deck = *read;
+    deck.stamp = stamp;
+    return deck;
 }
 
 bool isDeckFile(const QString& path)

@@ -18,10 +18,21 @@ enum class ImportError {
     Protected, ///< Encrypted with a password.
 };
 
+/// What tells a version of a file from another one without reading it.
+struct FileStamp {
+    qint64 modified = 0; ///< In milliseconds since 1970.
+    qint64 size = -1; ///< Negative when there is no file.
+
+    [[nodiscard]] static FileStamp of(const QString& path); ///< Asks the disk. Any thread.
+
+    friend bool operator==(const FileStamp&, const FileStamp&) = default;
+};
+
 /// What a package holds.
 struct Deck {
     QList<SlideNote> slides;
     QList<qint64> unread; ///< The numbers of the slides whose notes were lost to a limit, in order.
+    FileStamp stamp = {}; ///< Of the package's file, from before it was read.
 };
 
 /// What the user is told.

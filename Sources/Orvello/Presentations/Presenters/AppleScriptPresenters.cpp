@@ -34,6 +34,22 @@ constexpr QStringView keynoteOpenDeck = uR"script(tell application "Keynote"
     return out
 end tell)script";
 
+/// One question for all titles: one for each would take a large deck seconds. Where that is not
+/// possible, the name alone is told.
+constexpr QStringView keynotePresentedDeck = uR"script(tell application "Keynote"
+    set doc to front document
+    set out to name of doc
+    set slideTitles to {}
+    try
+        set slideTitles to object text of default title item of every slide of doc
+    end try
+    repeat with t in slideTitles
+        set out to out & (character id 30)
+        if (contents of t) is not missing value then set out to out & (contents of t)
+    end repeat
+    return out
+end tell)script";
+
 constexpr QStringView powerPointCurrentSlide = uR"script(tell application "Microsoft PowerPoint"
     tell slideshow view of slide show window 1
         try
@@ -42,6 +58,16 @@ constexpr QStringView powerPointCurrentSlide = uR"script(tell application "Micro
             current show position
         end try
     end tell
+end tell)script";
+
+/// Titles would take a question for each shape.
+constexpr QStringView powerPointPresentedDeck = uR"script(tell application "Microsoft PowerPoint"
+    set theDoc to presentation of slide show window 1
+    set outText to name of theDoc
+    repeat (count of slides of theDoc) times
+        set outText to outText & (character id 30)
+    end repeat
+    return outText
 end tell)script";
 
 constexpr QStringView powerPointOpenDeck = uR"script(tell application "Microsoft PowerPoint"
@@ -105,6 +131,7 @@ PresenterApp keynote(const AppleScriptRunner& runner)
         .permissionAdvice = automationAdvice(u"Keynote"_s),
         .askCurrentSlide = running(runner, keynoteCurrentSlide),
         .askOpenDeck = running(runner, keynoteOpenDeck),
+        .askPresentedDeck = running(runner, keynotePresentedDeck),
     };
 }
 
@@ -118,6 +145,7 @@ PresenterApp powerPoint(const AppleScriptRunner& runner)
         .permissionAdvice = automationAdvice(u"Microsoft PowerPoint"_s),
         .askCurrentSlide = running(runner, powerPointCurrentSlide),
         .askOpenDeck = running(runner, powerPointOpenDeck),
+        .askPresentedDeck = running(runner, powerPointPresentedDeck),
         .hasDeckFiles = true,
     };
 }

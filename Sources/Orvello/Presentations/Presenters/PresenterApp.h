@@ -22,6 +22,9 @@ struct PresenterApp {
     QString permissionAdvice; ///< What to tell a user whose system does not let it be asked.
     Query askCurrentSlide; ///< Prints the number of the slide on screen, 1-based.
     Query askOpenDeck; ///< Prints the deck record of the front document, or fails with NO_DOCUMENT.
+    /// Prints the name and, where that is cheap, the titles of the deck that is being presented.
+    /// May be missing.
+    Query askPresentedDeck = nullptr;
     bool hasDeckFiles = false; ///< Its decks are files that the importer reads by itself.
     bool isForThisSystem = true; ///< Somebody could have it here.
 };

@@ -7,6 +7,8 @@
 #include "Orvello/Settings/Store/SettingsStore.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 #include <variant>
 
 namespace Orvello {
@@ -47,8 +49,10 @@ qint64 slideCountOf(const Script* script)
     return script && script->slides ? script->slides->size() : 0;
 }
 
-QString unitKey(const Script* script, const std::optional<qint64>& slide)
+QString unitKey(const Script* script, const std::optional<qint64>& slide, bool isOtherDeck)
 {
+    if (isOtherDeck)
+        return u"other deck"_s;
     const QString id = script ? UuidText::format(script->id) : QString(u'-');
     return id + u'|' + (slide ? "true"_L1 : "false"_L1) + u'|'
         + QString::number(slide.value_or(-1));
@@ -62,6 +66,7 @@ DeckController::DeckController(const LibraryStore& library, const SettingsStore&
     , m_library(library)
     , m_settings(settings)
     , m_sync(sync)
+    , m_presentedDeck(library, sync)
 {
     const auto recomputed = [this](auto) { recompute(); };
     connect(&library, &LibraryStore::scriptsChanged, this, &DeckController::noteEdit);
@@ -70,6 +75,7 @@ DeckController::DeckController(const LibraryStore& library, const SettingsStore&
     observe(settings, nothing, &SettingsStore::slideSyncChanged, *this, recomputed);
     observe(sync, &SlideSyncService::liveSlide, &SlideSyncService::liveSlideChanged, *this,
         [this](const std::optional<qint64>& slide) { followLiveSlide(slide); });
+    observe(m_presentedDeck, &PresentedDeck::isOther, &PresentedDeck::changed, *this, recomputed);
     observe(sync, &SlideSyncService::state, &SlideSyncService::stateChanged, *this,
         [this](SlideSyncService::State state) { setSyncState(state); });
 }
@@ -105,6 +111,8 @@ void DeckController::showNextSlide()
 /// change arrives.
 void DeckController::noteEdit(const LibraryChange& change)
 {
+    if (change.hasNewSlides && change.id == m_lastScriptID)
+        m_isReadAnew = true;
     if (change.body && change.id == m_lastScriptID)
         m_edit = m_edit ? m_edit->followedBy(*change.body) : change.body;
 }
@@ -137,6 +145,7 @@ void DeckController::settlePosition(const Script* script)
     const auto id = script ? std::optional(script->id) : std::nullopt;
     if (id != m_lastScriptID) {
         m_lastScriptID = id;
+        m_isReadAnew = false;
         m_manualIndex = 0;
     }
     const qint64 count = slideCountOf(script);
@@ -146,7 +155,38 @@ void DeckController::settlePosition(const Script* script)
     }
     if (m_settings.slideSync() && m_sync.liveSlide())
         m_manualIndex = *m_sync.liveSlide() - 1;
+    else if (m_isReadAnew)
+        followSlide(*script->slides);
     m_manualIndex = std::clamp<qint64>(m_manualIndex, 0, count - 1);
+}
+
+/// Goes where the slide has gone that was stepped to by hand: to the one like it that is nearest,
+/// or else of its title. To whom the notes are shown, it is the same one.
+void DeckController::followSlide(const QList<SlideNote>& slides)
+{
+    if (m_manualIndex >= m_slides.size())
+        return;
+    const SlideNote& before = m_slides[m_manualIndex];
+    const auto nearest = [&](const auto& isIt) {
+        std::optional<qint64> found;
+        for (qint64 i = 0; i < slides.size(); ++i) {
+            if (isIt(slides[i])
+                && (!found || std::abs(i - m_manualIndex) < std::abs(*found - m_manualIndex)))
+                found = i;
+        }
+        return found;
+    };
+    auto place = nearest([&](const SlideNote& slide) {
+        return slide.title == before.title && slide.notes == before.notes;
+    });
+    if (!place && before.title)
+        place = nearest([&](const SlideNote& slide) { return slide.title == before.title; });
+    if (!place)
+        return;
+    const QString keyBefore = unitKey(m_library.activeScript(), m_manualIndex, false);
+    m_manualIndex = *place;
+    if (m_lastUnitKey == keyBefore)
+        m_lastUnitKey = unitKey(m_library.activeScript(), m_manualIndex, false);
 }
 
 DeckController::Unit DeckController::unitOf(const Script* script) const
@@ -155,6 +195,8 @@ DeckController::Unit DeckController::unitOf(const Script* script) const
         return {};
     if (slideCountOf(script) == 0 || !m_settings.slideSync())
         return { script->body, std::nullopt, std::nullopt };
+    if (m_presentedDeck.isOther())
+        return { tr("(Another presentation is on screen)"), std::nullopt, m_manualIndex, true };
     const SlideNote& slide = script->slides->at(m_manualIndex);
     return { slide.notes.isEmpty() ? tr("(No speaker notes on this slide)") : slide.notes,
         slide.title, m_manualIndex };
@@ -166,7 +208,7 @@ std::optional<TextEdit> DeckController::editTo(const Unit& unit, bool isOtherUni
     if (isOtherUnit && unit.text != m_promptText)
         return TextEdit { 0, m_promptText.size(), unit.text.size() };
     if (isOtherUnit || unit.slide || !m_edit)
-        return std::nullopt; // A slide's notes never change.
+        return std::nullopt; // A slide's notes never change, unless the deck is read anew.
     const QStringView removed = QStringView(m_promptText).sliced(m_edit->position, m_edit->removed);
     const QStringView inserted = QStringView(unit.text).sliced(m_edit->position, m_edit->inserted);
     return removed == inserted ? std::nullopt : m_edit;
@@ -174,21 +216,28 @@ std::optional<TextEdit> DeckController::editTo(const Unit& unit, bool isOtherUni
 
 void DeckController::publish(const Script* script, const Unit& unit)
 {
-    const bool isOtherUnit = assign(m_lastUnitKey, unitKey(script, unit.slide));
+    const bool isOtherUnit = assign(m_lastUnitKey, unitKey(script, unit.slide, unit.isOtherDeck));
     if (isOtherUnit)
         ++m_slideChangeToken;
-    const std::optional<TextEdit> edit = editTo(unit, isOtherUnit);
+    const bool isReadAnew = std::exchange(m_isReadAnew, false) && !isOtherUnit;
+    const std::optional<TextEdit> edit = isReadAnew ? std::nullopt : editTo(unit, isOtherUnit);
+    const TextDifferences differences
+        = isReadAnew ? differencesBetween(m_promptText, unit.text) : TextDifferences();
     m_promptText = unit.text;
+    m_slides = script && script->slides ? *script->slides : QList<SlideNote>();
     m_edit.reset();
     const bool isOtherTracking = assign(m_trackingActive, unit.slide.has_value());
     const bool isOtherIndex = assign(m_displayIndex, m_manualIndex);
     const bool isOtherCount = assign(m_slideCount, slideCountOf(script));
     const bool hasNewTitle = assign(m_slideTitle, unit.title);
+    const bool isOtherDeckNews = assign(m_isOtherDeck, unit.isOtherDeck);
 
     if (isOtherUnit)
         Q_EMIT slideChangeTokenChanged();
     if (edit)
         Q_EMIT promptTextChanged(*edit);
+    if (!differences.empty())
+        Q_EMIT promptTextUpdated(differences);
     if (isOtherTracking)
         Q_EMIT trackingActiveChanged();
     if (isOtherIndex)
@@ -197,6 +246,8 @@ void DeckController::publish(const Script* script, const Unit& unit)
         Q_EMIT slideCountChanged();
     if (hasNewTitle)
         Q_EMIT slideTitleChanged();
+    if (isOtherDeckNews)
+        Q_EMIT otherDeckChanged();
 }
 
 } // namespace Orvello

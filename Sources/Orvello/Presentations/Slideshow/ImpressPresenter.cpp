@@ -23,6 +23,8 @@ constexpr QStringView notAuthorised = u"-1743";
 
 /// A slide that comes later than this is no longer the one on screen.
 constexpr double slideSeconds = 2.0;
+/// No slide is followed meanwhile; the first of a large deck's answers takes a second.
+constexpr double presentedSeconds = 5.0;
 constexpr double deckSeconds = 20.0;
 constexpr double openSeconds = 20.0;
 
@@ -103,6 +105,8 @@ PresenterApp ImpressPresenter::row()
         = [this](ScriptCompletion completion) { ask(Purpose::Slide, std::move(completion)); },
         .askOpenDeck
         = [this](ScriptCompletion completion) { ask(Purpose::Deck, std::move(completion)); },
+        .askPresentedDeck
+        = [this](ScriptCompletion completion) { ask(Purpose::Presented, std::move(completion)); },
     };
 }
 
@@ -164,6 +168,8 @@ void ImpressPresenter::askOpened(Purpose purpose, ScriptCompletion completion)
 {
     if (purpose == Purpose::Slide)
         m_helper.ask(u"slide"_s, slideSeconds, std::move(completion));
+    else if (purpose == Purpose::Presented)
+        m_helper.ask(u"presented"_s, presentedSeconds, std::move(completion));
     else
         m_helper.ask(u"deck"_s, deckSeconds, std::move(completion));
 }

@@ -46,7 +46,7 @@ Q_SIGNALS:
     void adviceNeeded();
 
 private:
-    enum class Purpose { Slide, Deck };
+    enum class Purpose { Slide, Presented, Deck };
 
     void ask(Purpose purpose, ScriptCompletion completion);
     void open(Purpose purpose, ScriptCompletion completion);

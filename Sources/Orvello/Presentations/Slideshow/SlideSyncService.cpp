@@ -51,6 +51,7 @@ void SlideSyncService::setActive(bool on)
         m_isInFlight = false;
         setState(State::Idle);
         setLiveSlide(std::nullopt);
+        setPresentedDeck(std::nullopt);
         m_app = nullptr;
     }
     AppLog::write("Orvello SYNC active=%d", on ? 1 : 0);
@@ -71,6 +72,8 @@ void SlideSyncService::follow(const PresenterApp& app)
 {
     if (m_app != &app) {
         m_app = &app;
+        m_isDeckDue = true;
+        setPresentedDeck(std::nullopt);
         if (m_state == State::Denied)
             setState(State::Manual); // Another application gets a fresh chance.
         AppLog::write("Orvello SYNC following %@", app.logName);
@@ -84,6 +87,7 @@ void SlideSyncService::follow(const PresenterApp& app)
 void SlideSyncService::standBy()
 {
     setLiveSlide(std::nullopt);
+    setPresentedDeck(std::nullopt);
     m_app = nullptr;
     if (m_state == State::Live)
         setState(State::Manual);
@@ -106,15 +110,36 @@ void SlideSyncService::complete(const PresenterApp& app, const ScriptResult& res
     if (slide) {
         if (slide != m_liveSlide) {
             setLiveSlide(slide);
+            m_isDeckDue = true;
             AppLog::write("Orvello SYNC slide=%d", *slide);
         }
         setState(State::Live);
+        askDeck(app);
     } else if (result.standardError.contains(notAuthorised)) {
         setState(State::Denied);
         setLiveSlide(std::nullopt);
+        setPresentedDeck(std::nullopt);
         AppLog::write("Orvello SYNC denied (Automation permission for %@)", app.logName);
     }
     // Any other failure is transient: the slideshow may just have ended. The next tick asks again.
+}
+
+/// A slideshow can give way to another one between two looks at the windows, so each new slide may
+/// be another deck's.
+void SlideSyncService::askDeck(const PresenterApp& app)
+{
+    if (!m_isDeckDue || !app.askPresentedDeck || m_app != &app)
+        return;
+    m_isDeckDue = false;
+    m_isInFlight = true;
+    app.askPresentedDeck([self = QPointer(this), &app](const ScriptResult& result) {
+        if (!self)
+            return;
+        self->m_isInFlight = false;
+        // What cannot be told now is asked again with the next slide.
+        if (self->m_app == &app && self->m_state == State::Live && result.status == 0)
+            self->setPresentedDeck(DeckOutline::parse(result.standardOutput));
+    });
 }
 
 void SlideSyncService::setState(State state)
@@ -129,6 +154,13 @@ void SlideSyncService::setLiveSlide(std::optional<qint64> slide)
     if (!assign(m_liveSlide, slide))
         return;
     Q_EMIT liveSlideChanged();
+}
+
+void SlideSyncService::setPresentedDeck(const std::optional<DeckOutline>& deck)
+{
+    if (!assign(m_presentedDeck, deck))
+        return;
+    Q_EMIT presentedDeckChanged();
 }
 
 } // namespace Orvello

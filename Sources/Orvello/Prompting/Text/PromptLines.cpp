@@ -46,7 +46,17 @@ void PromptLines::setText(const QString& text)
     if (!assign(m_text, text))
         return;
     m_sought.reset();
+    m_moves.clear();
     restart(Place::Left);
+    Q_EMIT textChanged();
+}
+
+void PromptLines::update(const QString& text, const TextDifferences& differences)
+{
+    m_text = text;
+    m_sought.reset();
+    m_moves.push_back(differences);
+    restart(Place::Kept);
     Q_EMIT textChanged();
 }
 
@@ -55,6 +65,8 @@ void PromptLines::edit(const QString& text, const TextEdit& edit)
     m_text = text;
     if (m_sought && edit.position < *m_sought)
         *m_sought = std::max(edit.position, *m_sought + edit.inserted - edit.removed);
+    if (!m_moves.empty())
+        m_moves.push_back({ edit });
     if (canLayOut())
         layOut(newest().edited(text, edit));
     Q_EMIT textChanged();
@@ -174,7 +186,9 @@ void PromptLines::adoptWhenReady()
 {
     double readingTop = m_readingTop;
     if (m_next && m_place == Place::Kept) {
-        const double character = m_shown.characterAt(readingTop / m_shown.typography().scale);
+        double character = m_shown.characterAt(readingTop / m_shown.typography().scale);
+        for (const TextDifferences& differences : m_moves)
+            character = placeAfter(differences, character);
         readingTop = m_next->topOf(character) * m_next->typography().scale;
     }
     if (!m_next || !isNextReady(readingTop)) {
@@ -186,6 +200,7 @@ void PromptLines::adoptWhenReady()
     m_visibleTop += readingTop - m_readingTop;
     m_readingTop = readingTop;
     m_place = Place::Left;
+    m_moves.clear();
     m_visibleRange.reset();
     showVisibleLines();
     if (m_shown.typography() != before)

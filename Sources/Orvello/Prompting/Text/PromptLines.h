@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Foundation/TextDifferences.h"
 #include "Orvello/Platform/Early/TimeSource.h"
 #include "Orvello/Prompting/Text/PromptLayout.h"
 
@@ -30,6 +31,10 @@ public:
     /// Takes over a text that differs from the present one by the edit alone: at the cost of the
     /// edit, not of the text.
     void edit(const QString& text, const TextEdit& edit);
+
+    /// Takes over a text that is the present one with these differences. The reader stays at the
+    /// same words, wherever they have gone.
+    void update(const QString& text, const TextDifferences& differences);
 
     /// Sizes at which nobody could read are shown as the nearest at which one can.
     void setFontSize(double points);
@@ -102,6 +107,9 @@ private:
     double m_contentHeight = 0;
     PromptLayout m_shown;
     std::optional<PromptLayout> m_next; ///< Replaces m_shown when it has reached the visible part.
+    /// What has happened to the text that is shown, for the place in the one that is being laid
+    /// out.
+    std::vector<TextDifferences> m_moves;
     Place m_place = Place::Left; ///< Of the reader, in the text that is being laid out.
     /// Half-open; nothing when out of date.
     std::optional<std::pair<PromptLayout::Index, PromptLayout::Index>> m_visibleRange;

@@ -15,6 +15,7 @@ Item {
     required property ReadingClock clock
     required property VoiceActivityEngine voice
     required property SlideStatus slideStatus
+    required property OtherDeckNotice otherDeckNotice
     required property ShareWarning shareWarning
     required property string fontFamily
     required property bool forceCapturable
@@ -63,6 +64,15 @@ Item {
         anchors.margins: CardStyle.edge
         warning: root.shareWarning
         isVisibleInRecordings: root.status.isVisibleInRecordings
+        visible: root.shareWarning.isShown && !root.otherDeckNotice.isShown // A small card has room for one.
+    }
+
+    OtherDeck {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: statusBadge.top
+        anchors.margins: CardStyle.edge
+        notice: root.otherDeckNotice
     }
 
     StatusBadge {

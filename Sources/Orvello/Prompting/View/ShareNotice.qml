@@ -14,7 +14,6 @@ RoundedBox {
     radius: CardStyle.capsuleHeight / 2
     implicitHeight: Math.max(CardStyle.capsuleHeight, message.implicitHeight + 6)
     color: CardStyle.capsule
-    visible: warning.isShown
 
     Symbol {
         id: eye

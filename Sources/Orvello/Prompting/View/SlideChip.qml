@@ -13,7 +13,7 @@ Capsule {
 
     Accessible.role: Accessible.Grouping
     //: Read aloud. %1: which slide of how many, as in "2 / 14".
-    Accessible.name: qsTr("Slide %1").arg(status.position)
+    Accessible.name: status.isOtherDeck ? status.stateLabel : qsTr("Slide %1").arg(status.position)
     //: Read aloud. %2: the slide's title, which goes in last, as it may hold a "%1"; %1: who turns the slides, as in "Live".
     Accessible.description: status.title ? qsTr("%2, %1").arg(status.stateLabel).arg(status.title) : status.stateLabel
 
@@ -51,6 +51,7 @@ Capsule {
 
     Row {
         id: buttons
+        visible: !root.status.isOtherDeck
         height: parent.height
 
         CardButton {

@@ -24,15 +24,23 @@ Appearance noAccess()
     return { SlideStatus::tr("No access"), CardStyle::red };
 }
 
+Appearance otherDeck()
+{
+    //: On the card, at most about 12 characters: the slideshow shows another presentation.
+    return { SlideStatus::tr("Other deck"), CardStyle::yellow };
+}
+
 Appearance manual()
 {
     //: On the card, at most about 12 characters: the user turns the notes by hand.
     return { SlideStatus::tr("Manual"), QColor::fromRgbF(1, 1, 1, 0.5F) };
 }
 
-Appearance appearanceOf(SlideSyncService::State state)
+Appearance appearanceOf(const DeckController& deck)
 {
-    switch (state) {
+    if (deck.isOtherDeck())
+        return otherDeck();
+    switch (deck.syncState()) {
     case SlideSyncService::State::Live:
         return live();
     case SlideSyncService::State::Denied:
@@ -56,13 +64,16 @@ SlideStatus::SlideStatus(DeckController& deck, QObject* parent)
     : QObject(parent)
     , m_deck(deck)
 {
-    for (const auto signal : { &DeckController::trackingActiveChanged,
-             &DeckController::displayIndexChanged, &DeckController::slideCountChanged,
-             &DeckController::slideTitleChanged, &DeckController::syncStateChanged })
+    for (const auto signal :
+        { &DeckController::trackingActiveChanged, &DeckController::displayIndexChanged,
+            &DeckController::slideCountChanged, &DeckController::slideTitleChanged,
+            &DeckController::syncStateChanged, &DeckController::otherDeckChanged })
         connect(&deck, signal, this, &SlideStatus::changed);
 }
 
 bool SlideStatus::isShown() const { return m_deck.trackingActive(); }
+
+bool SlideStatus::isOtherDeck() const { return m_deck.isOtherDeck(); }
 
 QString SlideStatus::position() const
 {
@@ -80,13 +91,13 @@ bool SlideStatus::hasPrevious() const { return m_deck.displayIndex() > 0; }
 
 bool SlideStatus::hasNext() const { return m_deck.displayIndex() < m_deck.slideCount() - 1; }
 
-QString SlideStatus::stateLabel() const { return appearanceOf(m_deck.syncState()).label; }
+QString SlideStatus::stateLabel() const { return appearanceOf(m_deck).label; }
 
-QColor SlideStatus::stateColor() const { return appearanceOf(m_deck.syncState()).color; }
+QColor SlideStatus::stateColor() const { return appearanceOf(m_deck).color; }
 
 QStringList SlideStatus::stateLabels()
 {
-    return { live().label, noAccess().label, manual().label };
+    return { live().label, noAccess().label, otherDeck().label, manual().label };
 }
 
 void SlideStatus::previous()

@@ -13,6 +13,7 @@ class DeckController;
 class SlideStatus final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isShown READ isShown NOTIFY changed FINAL)
+    Q_PROPERTY(bool isOtherDeck READ isOtherDeck NOTIFY changed FINAL)
     Q_PROPERTY(QString position READ position NOTIFY changed FINAL)
     Q_PROPERTY(QString widestPosition READ widestPosition NOTIFY changed FINAL)
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
@@ -27,6 +28,7 @@ public:
     explicit SlideStatus(DeckController& deck, QObject* parent = nullptr);
 
     bool isShown() const; ///< True while one slide's notes are shown.
+    bool isOtherDeck() const; ///< They are hidden, being another deck's than the slideshow's.
     QString position() const; ///< "2 / 14": counted from 1, as people count slides.
     QString widestPosition() const; ///< This deck's widest position, for which the chip has room.
     QString title() const; ///< The slide's title; empty if it has none.

@@ -38,12 +38,12 @@ TourPage {
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: 15
             text: root.facts.canHideWindows ? qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")
-                                            : qsTr("Your private teleprompter. Share your slides' window, and your audience never sees your notes.")
+                                            : qsTr("Your private teleprompter. Share your slides' window alone, keep the prompter beside it, and your notes are yours.")
         }
     }
     TourFeature {
         symbol: "eye.slash"
-        title: root.facts.canHideWindows ? qsTr("Invisible on screen shares") : qsTr("Not part of a window share")
+        title: root.facts.canHideWindows ? qsTr("Invisible on screen shares") : qsTr("Beside the window that you share")
         text: root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
                                         : qsTr("Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.")
     }

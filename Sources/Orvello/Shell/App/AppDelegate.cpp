@@ -42,6 +42,9 @@ AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeW
     , m_library(platforms.early.userDefaults(), platforms.early.folders(), platforms.early.time(),
           platforms.early.facts())
     , m_scriptRunner(platforms.early.childProcess())
+    , m_openDecks(m_library, platforms.desktop.workspace(), m_scriptRunner)
+    , m_deckFiles(m_library)
+    , m_deckUpdates(m_library, m_deckFiles, platforms.early.time())
     , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
     , m_engine(m_settings, platforms.early.time())
     , m_pace(m_settings, m_engine, platforms.early.time())
@@ -207,6 +210,8 @@ void AppDelegate::makePanel()
             .voice = m_voice,
             .presentation = m_presentation,
             .deck = m_deck,
+            .library = m_library,
+            .openDecks = m_openDecks,
             .time = m_platforms.early.time(),
             .forceCapturable = m_options.noStealth });
     m_panel = m_platforms.desktop.makePanel(m_prompterWindow->window());
@@ -224,10 +229,10 @@ void AppDelegate::makePanel()
 void AppDelegate::makeWindows()
 {
     m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_pace, m_updates, m_presenters,
-        m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
-        m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-        m_platforms.desktop.hotKeys(), m_platforms.desktop.compositing(), m_platforms.early.facts(),
-        m_impress.get(),
+        m_openDecks, m_deckFiles, m_deckUpdates, m_platforms.desktop.workspace(),
+        m_platforms.desktop.openPanel(), m_platforms.desktop.windowChrome(),
+        m_platforms.desktop.statusBar(), m_platforms.desktop.hotKeys(),
+        m_platforms.desktop.compositing(), m_platforms.early.facts(), m_impress.get(),
         PanelSpace {
             .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
             .stepAside = [this] { m_panel->hide(); },

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Orvello/Library/Import/DeckFileImport.h"
+#include "Orvello/Library/Import/DeckFileUpdates.h"
+#include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Library/Store/LibraryStore.h"
 #include "Orvello/Platform/Early/ProcessSignals.h"
 #include "Orvello/Platform/Early/RunningInstance.h"
@@ -120,6 +123,9 @@ private:
     LibraryStore m_library;
     AppleScriptRunner m_scriptRunner;
     PresenterTable m_presenters;
+    LiveDeckImport m_openDecks;
+    DeckFileImport m_deckFiles;
+    DeckFileUpdates m_deckUpdates;
     ProcessMicActivity m_micActivity;
     ScrollEngine m_engine;
     ReadingPace m_pace;

@@ -9,11 +9,13 @@
 
 namespace Orvello {
 
-class AppleScriptRunner;
 class Compositing;
+class DeckFileImport;
+class DeckFileUpdates;
 class HotKeys;
 class ImpressPresenter;
 class LibraryStore;
+class LiveDeckImport;
 class Menu;
 class OpenPanel;
 class PresenterTable;
@@ -55,7 +57,9 @@ public:
         ReadingPace& pace;
         UpdateController& updates;
         const PresenterTable& presenters;
-        const AppleScriptRunner& appleScript;
+        LiveDeckImport& openDecks;
+        DeckFileImport& files;
+        DeckFileUpdates& deckUpdates;
         Workspace& workspace;
         OpenPanel& openPanel;
         WindowChrome& windowChrome;

@@ -11,6 +11,7 @@
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/CardStyle.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
+#include "Orvello/Prompting/View/OtherDeckNotice.h"
 #include "Orvello/Prompting/View/PromptText.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
 #include "Orvello/Prompting/View/RoundedBox.h"
@@ -107,6 +108,20 @@ struct ReadingPaceType {
     Q_GADGET
     QML_FOREIGN(Orvello::ReadingPace)
     QML_NAMED_ELEMENT(ReadingPace)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct DeckFileBarType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::DeckFileBar)
+    QML_NAMED_ELEMENT(DeckFileBar)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct OtherDeckNoticeType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::OtherDeckNotice)
+    QML_NAMED_ELEMENT(OtherDeckNotice)
     QML_UNCREATABLE("The program makes it.")
 };
 

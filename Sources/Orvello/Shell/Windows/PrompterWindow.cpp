@@ -22,6 +22,7 @@ PrompterWindow::PrompterWindow(const Services& services)
     , m_clock(services.settings, services.engine, services.time)
     , m_levelMeter(services.voice)
     , m_slideStatus(services.deck)
+    , m_otherDeckNotice(services.deck, services.library, services.openDecks)
     , m_shareWarning(services.presentation, services.settings, services.engine)
 {
     connectText(services);
@@ -37,6 +38,7 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
             { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
+            { u"otherDeckNotice"_s, QVariant::fromValue(&m_otherDeckNotice) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
             { u"fontFamily"_s, PromptFont::family() },
             { u"forceCapturable"_s, services.forceCapturable },
@@ -84,6 +86,10 @@ void PrompterWindow::connectText(const Services& services)
     connect(&services.deck, &DeckController::promptTextChanged, this,
         [this, &deck = services.deck](
             const TextEdit& edit) { m_lines.edit(deck.promptText(), edit); });
+    connect(&services.deck, &DeckController::promptTextUpdated, this,
+        [this, &deck = services.deck](const TextDifferences& differences) {
+            m_lines.update(deck.promptText(), differences);
+        });
     // Every slide's notes start at the top.
     connect(&services.deck, &DeckController::slideChangeTokenChanged, this,
         [&engine = services.engine] { engine.setOffset(0); });

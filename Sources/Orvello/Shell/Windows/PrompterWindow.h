@@ -3,6 +3,7 @@
 #include "Orvello/Prompting/Engine/ReadingClock.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
+#include "Orvello/Prompting/View/OtherDeckNotice.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
 #include "Orvello/Prompting/View/ShareWarning.h"
 #include "Orvello/Prompting/View/SlideStatus.h"
@@ -13,6 +14,8 @@
 namespace Orvello {
 
 class DeckController;
+class LibraryStore;
+class LiveDeckImport;
 class PresentationMonitor;
 class ScrollEngine;
 class SettingsStore;
@@ -32,6 +35,8 @@ public:
         VoiceActivityEngine& voice;
         const PresentationMonitor& presentation;
         DeckController& deck;
+        LibraryStore& library;
+        LiveDeckImport& openDecks;
         TimeSource& time;
         bool forceCapturable;
     };
@@ -56,6 +61,7 @@ private:
     ReadingClock m_clock;
     LevelMeter m_levelMeter;
     SlideStatus m_slideStatus;
+    OtherDeckNotice m_otherDeckNotice;
     ShareWarning m_shareWarning;
     QQuickView m_view;
 };

@@ -13,7 +13,6 @@ namespace Orvello {
 
 QtShellWindows::QtShellWindows(const Services& services)
     : m_services(services)
-    , m_openDecks(services.library, services.workspace, services.appleScript)
 {
 }
 
@@ -22,8 +21,8 @@ QtShellWindows::~QtShellWindows() = default;
 std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 {
     return std::make_unique<LibraryWindow>(
-        LibraryWindow::Services { m_services.library, m_openDecks, m_services.presenters,
-            m_services.openPanel, m_services.facts },
+        LibraryWindow::Services { m_services.library, m_services.openDecks, m_services.files,
+            m_services.deckUpdates, m_services.presenters, m_services.openPanel, m_services.facts },
         m_services.panel, m_services.startReadingAt);
 }
 

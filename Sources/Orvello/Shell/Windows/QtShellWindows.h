@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Orvello/Library/Import/LiveDeckImport.h"
 #include "Orvello/Shell/Commands/ShellWindows.h"
 #include "Orvello/Shell/Windows/QtMenu.h"
 
@@ -22,7 +21,6 @@ public:
 
 private:
     const Services m_services;
-    LiveDeckImport m_openDecks;
     std::unique_ptr<QtMenu> m_popUp; ///< The one that was opened last.
 };
 

@@ -48,6 +48,9 @@ class FakeOffice:
     def __init__(self):
         self.is_alive = True
         self.slide = 1
+        self.titles = ["Welcome", "Results"]
+        self.reads = 0  # How often all slides were looked at.
+        self.RuntimeUID = "1"
 
     def createInstanceWithContext(self, _name, _context):
         return self
@@ -69,6 +72,23 @@ class FakeOffice:
     def getPresentation(self):
         controller = types.SimpleNamespace(getCurrentSlide=lambda: Slide(self.slide)) if self.slide else None
         return types.SimpleNamespace(getController=lambda: controller)
+
+    def getTitle(self):
+        return "Talk.odp"
+
+    def hasLocation(self):
+        return True
+
+    def getDrawPages(self):
+        def page(index):
+            self.reads += index == 0
+            shape = types.SimpleNamespace(
+                getShapeType=lambda: "com.sun.star.presentation.TitleTextShape",
+                IsEmptyPresentationObject=False, getString=lambda: self.titles[index])
+            notes = types.SimpleNamespace(getCount=lambda: 0)
+            return types.SimpleNamespace(
+                getCount=lambda: 1, getByIndex=lambda _: shape, getNotesPage=lambda: notes)
+        return types.SimpleNamespace(getCount=lambda: len(self.titles), getByIndex=page)
 
 
 class ImpressHelperTest(unittest.TestCase):
@@ -349,6 +369,21 @@ class ImpressHelperTest(unittest.TestCase):
         self.add_process(30)
         self.open()
         self.assertEqual(self.ask()["output"], "4\n")
+
+    def test_the_deck_that_is_presented_is_read_once(self):
+        self.open()
+        talk = "Talk\x1eWelcome\x1f\x1eResults\x1f\n"
+        self.assertEqual(self.ask("presented")["output"], talk)
+        self.assertEqual(self.ask("presented")["output"], talk)
+        self.assertEqual(self.libreoffice.reads, 1)
+
+        # Another number of slides, or another document of the same name.
+        self.libreoffice.titles.append("End")
+        self.assertEqual(self.ask("presented")["output"], "Talk\x1eWelcome\x1f\x1eResults\x1f\x1eEnd\x1f\n")
+        self.libreoffice.titles[0], self.libreoffice.RuntimeUID = "Hello", "2"
+        self.assertIn("Hello", self.ask("presented")["output"])
+        self.libreoffice.slide = None
+        self.assert_failed(self.ask("presented"), "-1728")
 
     def test_a_lost_connection_is_made_anew(self):
         self.open()

@@ -8,7 +8,7 @@ script would have left: its exit "status", its "output" and its "error". The que
 
     open        has the LibreOffice on this screen listen to this program alone
     slide       the number of the slide on screen, 1-based
-    deck        the open deck: its name, then for every slide U+001E, the title, U+001F, the notes
+    deck        the deck that is presented, else the one in front: its name, then for every slide U+001E, the title, U+001F, the notes
     presented   the same of the deck that is being presented, without the notes
     take-back   takes the permission back that former versions wrote into LibreOffice's profile
 
@@ -333,6 +333,7 @@ class Office:
 
     def __init__(self):
         self.doors = []
+        self.outline = (None, "")  # Of the deck that was presented last, with what tells it from others.
 
     def open(self):
         """Reaches those that are not reached yet. Fails when there is none."""
@@ -447,12 +448,17 @@ def open_deck(office):
     documents = office.presentations()
     if not documents:
         raise no_document()
-    return record_of(documents[0], has_notes=True)
+    presented = [document for document in documents if document.getPresentation().getController() is not None]
+    return record_of((presented or documents)[0], has_notes=True)
 
 
 def presented_deck(office):
+    """Asked after each slide, but read once: a large deck keeps LibreOffice busy for a moment."""
     document, _ = slideshow_in(office)
-    return record_of(document, has_notes=False)
+    deck = (document.RuntimeUID, document.getTitle(), document.getDrawPages().getCount())
+    if office.outline[0] != deck:
+        office.outline = (deck, record_of(document, has_notes=False))
+    return office.outline[1]
 
 
 def open_office(office):
