@@ -728,6 +728,47 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · noch %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>Der Prompter hat keinen Text zum Rollen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wort pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wörter pro Minute</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: schneller, als man spricht</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -1173,6 +1214,45 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     </message>
 </context>
 <context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Zeichen pro Minute</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Wörter pro Minute</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Mein Tempo behalten, auch mit anderem Text, anderer Größe oder Breite</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Zeit auf dem Prompter</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Vergangen</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Show the badge in full</source>
@@ -1374,6 +1454,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Lesezeit</translation>
     </message>
 </context>
 <context>

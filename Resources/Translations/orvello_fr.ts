@@ -728,6 +728,47 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · reste %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>Le prompteur n’a aucun texte à faire défiler.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · environ %n caractères par minute dans ce script</numerusform>
+            <numerusform>%1 pt/s · environ %n caractères par minute dans ce script</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · environ %n mot par minute dans ce script</numerusform>
+            <numerusform>%1 pt/s · environ %n mots par minute dans ce script</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1 : plus vite que la parole</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -1173,6 +1214,45 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     </message>
 </context>
 <context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Caractères par minute</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Mots par minute</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Garder mon rythme avec un autre texte, une autre taille ou largeur</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Temps sur le prompteur</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restant</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Écoulé</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Les deux</translation>
+    </message>
+</context>
+<context>
     <name>RecordingBadge</name>
     <message>
         <source>Show the badge in full</source>
@@ -1374,6 +1454,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Status</source>
         <translation>État</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Temps de lecture</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,11 @@ Scenes prompterScenes()
                 stage.services.hear(0.03F);
                 stage.services.engine.setVoiceGate(true);
             }),
+        prompter(u"reading time"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) {
+                stage.services.settings.setCardTime(u"both"_s);
+                scroll(stage);
+            }),
         prompter(u"what the microphone hears"_s, Wallpaper::Night,
             [](PrompterStage& stage) {
                 stage.services.microphones.become({ .heard = u"Headset"_s });

@@ -24,7 +24,8 @@ constexpr double watchdogSeconds = 1.0;
 constexpr int clearPollsBeforeAec = 5;
 constexpr int rawBlockFrames = 2048;
 
-/// How long a start waits for a microphone, in a session that is only just coming up.
+/// How long a start waits for a microphone, in a session that is only just coming up, once the
+/// sound system says that there is none.
 constexpr double startPatienceSeconds = 3.0;
 
 } // namespace
@@ -39,7 +40,8 @@ VoiceActivityEngine::VoiceActivityEngine(
     , m_reportsArrived([this] { applyPendingReports(); })
     , m_sensitivityTest(*this, settings, ports.time)
 {
-    static_assert(std::atomic<double>::is_always_lock_free);
+    static_assert(
+        std::atomic<double>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
     // Directly, not through the event loop: the very next block uses the new value.
     connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
         [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
@@ -134,7 +136,15 @@ void VoiceActivityEngine::start()
 
 void VoiceActivityEngine::awaitMicrophone()
 {
-    m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+    m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] {
+        // Only an answer ends the waiting: what nobody knows is no clear environment.
+        const bool isAnswered = m_sound.trouble != Microphones::Trouble::NoAnswer
+            && m_sound.trouble != Microphones::Trouble::Refused;
+        if (isAnswered)
+            return choosePath();
+        (void)m_ports.micActivity.otherProcessCapturingInput(); // The system asks itself anew.
+        awaitMicrophone();
+    });
     Q_EMIT statusChanged();
 }
 
@@ -413,6 +423,7 @@ void VoiceActivityEngine::noticeSilence()
     applyPendingReports(); // After a stall of the main loop they are only late.
     if (std::exchange(m_hasHeard, false) || !m_isSpeaking)
         return;
+    m_hasGap.store(true, std::memory_order_relaxed);
     apply({ .levelDecay = 0,
         .isSpeaking = false,
         .threshold = Loudness::speechThreshold(m_settings.voiceSensitivity()) });
@@ -485,6 +496,8 @@ void VoiceActivityEngine::onSamples(std::span<const float> samples) noexcept
 
 void VoiceActivityEngine::process(std::span<const float> samples) noexcept
 {
+    if (m_hasGap.exchange(false, std::memory_order_relaxed))
+        m_detector.forget();
     m_reports.push(m_detector.process(
         samples, m_sensitivity.load(std::memory_order_relaxed), m_ports.time.now()));
     m_reportsArrived.signal();

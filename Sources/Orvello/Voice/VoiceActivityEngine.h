@@ -194,6 +194,7 @@ private:
     bool m_hasHeard = false; ///< A block came since the watchdog last looked.
 
     VoiceActivityDetector m_detector; ///< The audio thread's, while one runs.
+    std::atomic<bool> m_hasGap = false; ///< The next block continues nothing.
     std::atomic<double> m_sensitivity; ///< Mirrors the setting for the audio thread.
     ReportQueue m_reports;
     WakeUp m_reportsArrived;

@@ -718,6 +718,18 @@ TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnABadge)
     EXPECT_TRUE(engine.hoverPaused());
 }
 
+TEST_F(PrompterViewTest, showsTheReadersTimeBesideTheStatus)
+{
+    const QRectF without = placeOf(*textItem(u"paused"_s));
+    EXPECT_EQ(visibleTexts().size(), 1);
+    settings.setCardTime(u"elapsed"_s);
+    show(u"One"_s);
+
+    ASSERT_TRUE(textItem(u"0:00"_s));
+    EXPECT_GT(placeOf(*textItem(u"0:00"_s)).left(), without.right());
+    EXPECT_EQ(placeOf(*textItem(u"paused"_s)), without);
+}
+
 TEST_F(PrompterViewTest, tellsWhoPointsAtTheStatusWhatTheMicrophoneHears)
 {
     const QPoint onBadge = placeOf(*textItem(u"paused"_s)).center().toPoint();

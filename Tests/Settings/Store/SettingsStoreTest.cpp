@@ -44,6 +44,8 @@ const Property properties[] = {
     { "slideshowPauseKey", true, false },
     { "slideSync", true, false },
     { "recordingBadgeFolded", false, true },
+    { "keptPace", 0.0, 140.5 },
+    { "cardTime", u""_s, u"left"_s },
     { "onboardingSeenVersion", Q_INT64_C(0), Q_INT64_C(3) },
 };
 
@@ -72,6 +74,8 @@ TEST_F(SettingsStoreTest, hasTheDefaultsOfAFreshAccount)
     EXPECT_TRUE(settings.slideshowPauseKey());
     EXPECT_TRUE(settings.slideSync());
     EXPECT_FALSE(settings.recordingBadgeFolded());
+    EXPECT_EQ(settings.keptPace(), 0.0);
+    EXPECT_EQ(settings.cardTime(), QString());
     EXPECT_EQ(settings.onboardingSeenVersion(), 0);
     EXPECT_EQ(defaults.writes, 0);
 }

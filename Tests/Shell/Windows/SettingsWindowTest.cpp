@@ -2,6 +2,8 @@
 
 #include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeHelperProcess.h"
@@ -64,7 +66,7 @@ protected:
     {
         window.reset();
         window = std::make_unique<SettingsWindow>(SettingsWindow::Services {
-            settings, *engine, updates, keys, compositing, facts, impress });
+            settings, *engine, pace, updates, keys, compositing, facts, impress });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -121,6 +123,8 @@ protected:
     FakeHotKeys keys;
     Compositing compositing;
     ImpressPresenter* impress = nullptr;
+    ScrollEngine scrolling { settings, time };
+    ReadingPace pace { settings, scrolling, time };
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -178,7 +182,7 @@ TEST_F(SettingsWindowTest, closesByKey)
     EXPECT_FALSE(view().isVisible());
 }
 
-TEST_F(SettingsWindowTest, hasTheSevenSectionsInTheirOrder)
+TEST_F(SettingsWindowTest, hasItsSectionsInTheirOrder)
 {
     QStringList headings;
     for (const QQuickItem* item : visibleItems(view())) {
@@ -187,7 +191,7 @@ TEST_F(SettingsWindowTest, hasTheSevenSectionsInTheirOrder)
     }
     EXPECT_EQ(headings,
         QStringList({ u"Prompter"_s, u"Voice-follow"_s, u"Session"_s, u"Slides"_s, u"Privacy"_s,
-            u"Keyboard shortcuts (global)"_s, u"Updates"_s }));
+            u"Keyboard shortcuts (global)"_s, u"Updates"_s, u"Reading"_s }));
 }
 
 TEST_F(SettingsWindowTest, dragsTheSpeedToExactlyItsBounds)
@@ -693,6 +697,50 @@ TEST_F(SettingsWindowTest, scrollsOnALowScreenToWhatTheTabKeyReaches)
         EXPECT_TRUE(QRectF(0, 0, 500, 320).contains(place))
             << accessibleName(*view().activeFocusItem()).toStdString() << " at " << place.y();
     }
+}
+
+TEST_F(SettingsWindowTest, saysWhatTheSpeedMeansInWords)
+{
+    scrolling.setViewportHeight(200);
+    scrolling.setContentHeight(10060);
+    pace.setText(u"word "_s.repeated(2000));
+    drainEvents();
+    EXPECT_THAT(visibleTexts(view()),
+        ::testing::Contains(
+            u"25 pt/s · about 300 words a minute in this script: faster than speech"_s));
+
+    QQuickItem& words = control(u"Words a minute"_s);
+    EXPECT_EQ(words.property("value").toInt(), 300);
+    press(words, Qt::Key_Down);
+    EXPECT_NEAR(pace.unitsPerMinute(), 294, 0.01) << "steps of two per cent";
+    EXPECT_NEAR(settings.speed(), 24.5, 0.01);
+    press(words, Qt::Key_Up);
+    EXPECT_NEAR(pace.unitsPerMinute(), 300, 0.01);
+
+    settings.setSpeed(10);
+    drainEvents();
+    EXPECT_EQ(words.property("value").toInt(), 120) << "follows the speed keys";
+}
+
+TEST_F(SettingsWindowTest, offersNoPaceWithoutAText)
+{
+    EXPECT_FALSE(control(u"Words a minute"_s).isEnabled());
+}
+
+TEST_F(SettingsWindowTest, keepsThePaceAndShowsTheTimeOnlyOnceTheUserWantsIt)
+{
+    scrolling.setContentHeight(10060);
+    pace.setText(u"word "_s.repeated(2000));
+
+    press(control(u"Keep my pace with another text, size or width"_s), Qt::Key_Space);
+    EXPECT_GT(stored(u"keptPace"_s).toDouble(), 0);
+    press(control(u"Keep my pace with another text, size or width"_s), Qt::Key_Space);
+    EXPECT_EQ(stored(u"keptPace"_s).toDouble(), 0);
+
+    QQuickItem& times = control(u"Time on the prompter"_s);
+    EXPECT_EQ(times.property("currentIndex").toInt(), 0);
+    press(times, Qt::Key_Down);
+    EXPECT_EQ(stored(u"cardTime"_s), u"left"_s);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "Orvello/Library/Window/ScriptEditor.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
-#include "Orvello/Library/Window/WordCount.h"
 #include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <QQuickItem>
@@ -45,7 +45,7 @@ bool isForeignBreak(QChar character) { return shown(character) != character; }
 QString shown(QString text)
 {
     if (std::ranges::any_of(std::as_const(text), isForeignBreak))
-        std::ranges::replace_if(text, isForeignBreak, u'\n');
+        std::replace_if(text.begin(), text.end(), isForeignBreak, u'\n');
     return text;
 }
 
@@ -183,7 +183,9 @@ void ScriptEditor::takeOverText(qsizetype position, qsizetype removed, QStringVi
 {
     const QStringView before = QStringView(m_body).sliced(position, removed);
     const auto looksSame = [](QChar old, QChar now) { return shown(old) == shown(now); };
-    const qsizetype begin = std::ranges::mismatch(before, text, looksSame).in1 - before.begin();
+    const qsizetype begin
+        = std::mismatch(before.begin(), before.end(), text.begin(), text.end(), looksSame).first
+        - before.begin();
     const auto oldRest = before.sliced(begin);
     const auto newRest = text.sliced(begin);
     const qsizetype end = std::mismatch(oldRest.rbegin(), oldRest.rend(), newRest.rbegin(),

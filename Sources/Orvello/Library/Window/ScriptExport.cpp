@@ -19,7 +19,7 @@ constexpr qsizetype longestFileName = 60;
 QStringList linesOf(QString text)
 {
     text.replace(u"\r\n"_s, u"\n"_s);
-    std::ranges::replace_if(text, isParagraphEnd, u'\n');
+    std::replace_if(text.begin(), text.end(), isParagraphEnd, u'\n');
     return text.split(u'\n');
 }
 
@@ -89,7 +89,7 @@ QString fileNameOf(const QString& title)
     const auto isUnfit = [](QChar character) {
         return character.category() == QChar::Other_Control || u"/\\:*?\"<>|"_s.contains(character);
     };
-    std::ranges::replace_if(name, isUnfit, u'-');
+    std::replace_if(name.begin(), name.end(), isUnfit, u'-');
     while (name.startsWith(u'.')) // It would be hidden.
         name.remove(0, 1);
     name.truncate(longestFileName);

@@ -12,6 +12,7 @@ Item {
     required property PromptLines lines
     required property PrompterStatus status
     required property LevelMeter levelMeter
+    required property ReadingClock clock
     required property VoiceActivityEngine voice
     required property SlideStatus slideStatus
     required property ShareWarning shareWarning
@@ -71,6 +72,7 @@ Item {
         anchors.margins: CardStyle.edge
         status: root.status
         meter: root.levelMeter
+        clock: root.clock
         voice: root.voice
     }
 

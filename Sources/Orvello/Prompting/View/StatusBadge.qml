@@ -7,6 +7,7 @@ Capsule {
 
     required property PrompterStatus status
     required property LevelMeter meter
+    required property ReadingClock clock
     required property VoiceActivityEngine voice
 
     readonly property bool isPointedAt: hover.hovered
@@ -36,5 +37,14 @@ Capsule {
     LevelBeam {
         anchors.verticalCenter: parent.verticalCenter
         meter: root.meter
+    }
+
+    SmallLabel {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: text !== ""
+        text: root.clock.text
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        Accessible.description: qsTr("Reading time")
     }
 }

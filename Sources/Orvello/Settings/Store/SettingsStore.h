@@ -36,6 +36,8 @@ class SettingsStore final : public QObject {
     Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
     Q_PROPERTY(bool recordingBadgeFolded READ recordingBadgeFolded WRITE setRecordingBadgeFolded
             NOTIFY recordingBadgeFoldedChanged FINAL)
+    Q_PROPERTY(double keptPace READ keptPace WRITE setKeptPace NOTIFY keptPaceChanged FINAL)
+    Q_PROPERTY(QString cardTime READ cardTime WRITE setCardTime NOTIFY cardTimeChanged FINAL)
     Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
             setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
 
@@ -92,6 +94,14 @@ public:
     bool recordingBadgeFolded() const { return m_recordingBadgeFolded; }
     void setRecordingBadgeFolded(bool isFolded);
 
+    /// The words a minute that every text keeps, whatever its speed then is; 0 for none.
+    double keptPace() const { return m_keptPace; }
+    void setKeptPace(double wordsPerMinute);
+
+    /// Which times the card shows: "left", "elapsed", "both"; anything else is none.
+    const QString& cardTime() const { return m_cardTime; }
+    void setCardTime(const QString& times);
+
     qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
     void setOnboardingSeenVersion(qint64 version);
 
@@ -111,6 +121,8 @@ Q_SIGNALS:
     void slideshowPauseKeyChanged();
     void slideSyncChanged();
     void recordingBadgeFoldedChanged();
+    void keptPaceChanged();
+    void cardTimeChanged();
     void onboardingSeenVersionChanged();
 
 private:
@@ -132,6 +144,8 @@ private:
     bool m_slideshowPauseKey;
     bool m_slideSync;
     bool m_recordingBadgeFolded;
+    double m_keptPace;
+    QString m_cardTime;
     qint64 m_onboardingSeenVersion;
 };
 

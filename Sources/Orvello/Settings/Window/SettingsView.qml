@@ -12,6 +12,7 @@ Pane {
     required property SettingsStore settings
     required property SettingsForm form
     required property VoiceActivityEngine voice
+    required property ReadingPace pace
     required property UpdateController updates
     required property string version
     required property ShortcutList shortcuts
@@ -104,6 +105,10 @@ Pane {
                 updates: root.updates
                 facts: root.facts
                 version: root.version
+            }
+            ReadingSettings {
+                settings: root.settings
+                pace: root.pace
             }
         }
     }

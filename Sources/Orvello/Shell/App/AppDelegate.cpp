@@ -44,6 +44,7 @@ AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeW
     , m_scriptRunner(platforms.early.childProcess())
     , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
     , m_engine(m_settings, platforms.early.time())
+    , m_pace(m_settings, m_engine, platforms.early.time())
     , m_voice(m_settings,
           VoiceActivityEngine::Ports { platforms.early.time(),
               platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
@@ -222,7 +223,7 @@ void AppDelegate::makePanel()
 
 void AppDelegate::makeWindows()
 {
-    m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_updates, m_presenters,
+    m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_pace, m_updates, m_presenters,
         m_scriptRunner, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
         m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
         m_platforms.desktop.hotKeys(), m_platforms.desktop.compositing(), m_platforms.early.facts(),
@@ -338,6 +339,9 @@ void AppDelegate::subscribe()
         });
     observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
         *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
+    connect(&m_deck, &DeckController::promptTextChanged, this,
+        [this] { m_pace.setText(m_deck.promptText()); });
+    m_pace.setText(m_deck.promptText());
     m_stayAwake
         = std::make_unique<StayAwake>(StayAwake::Services { m_platforms.desktop.wakefulness(),
             m_engine, m_slideSync, m_presentation, m_voice, m_platforms.early.time() });

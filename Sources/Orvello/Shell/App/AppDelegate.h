@@ -8,6 +8,7 @@
 #include "Orvello/Presentations/Slideshow/DeckController.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Orvello/Presentations/Slideshow/SlideSyncService.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -121,6 +122,7 @@ private:
     PresenterTable m_presenters;
     ProcessMicActivity m_micActivity;
     ScrollEngine m_engine;
+    ReadingPace m_pace;
     VoiceActivityEngine m_voice;
     PresentationMonitor m_presentation;
     std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.

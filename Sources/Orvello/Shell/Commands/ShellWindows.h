@@ -17,6 +17,7 @@ class LibraryStore;
 class Menu;
 class OpenPanel;
 class PresenterTable;
+class ReadingPace;
 class SettingsStore;
 class StatusBar;
 class StatusItem;
@@ -51,6 +52,7 @@ public:
         SettingsStore& settings;
         LibraryStore& library;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         const PresenterTable& presenters;
         const AppleScriptRunner& appleScript;

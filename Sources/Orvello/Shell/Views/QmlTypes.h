@@ -5,6 +5,8 @@
 #include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingClock.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/CardStyle.h"
@@ -92,6 +94,20 @@ struct PromptTextType {
     Q_GADGET
     QML_FOREIGN(Orvello::PromptText)
     QML_NAMED_ELEMENT(PromptText)
+};
+
+struct ReadingClockType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingClock)
+    QML_NAMED_ELEMENT(ReadingClock)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ReadingPaceType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingPace)
+    QML_NAMED_ELEMENT(ReadingPace)
+    QML_UNCREATABLE("The program makes it.")
 };
 
 struct PrompterStatusType {

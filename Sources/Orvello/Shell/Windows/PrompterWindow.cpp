@@ -19,6 +19,7 @@ PrompterWindow::PrompterWindow(const Services& services)
     : m_deck(services.deck)
     , m_lines(services.time)
     , m_status(services.engine)
+    , m_clock(services.settings, services.engine, services.time)
     , m_levelMeter(services.voice)
     , m_slideStatus(services.deck)
     , m_shareWarning(services.presentation, services.settings, services.engine)
@@ -32,6 +33,7 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"settings"_s, QVariant::fromValue(&services.settings) },
             { u"lines"_s, QVariant::fromValue(&m_lines) },
             { u"status"_s, QVariant::fromValue(&m_status) },
+            { u"clock"_s, QVariant::fromValue(&m_clock) },
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
             { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },

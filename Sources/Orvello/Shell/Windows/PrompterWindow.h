@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Prompting/Engine/ReadingClock.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/PrompterStatus.h"
@@ -52,6 +53,7 @@ private:
     DeckController& m_deck;
     PromptLines m_lines;
     PrompterStatus m_status;
+    ReadingClock m_clock;
     LevelMeter m_levelMeter;
     SlideStatus m_slideStatus;
     ShareWarning m_shareWarning;

@@ -30,8 +30,9 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
     return std::make_unique<SettingsWindow>(
-        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
-            m_services.hotKeys, m_services.compositing, m_services.facts, m_services.impress },
+        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.pace,
+            m_services.updates, m_services.hotKeys, m_services.compositing, m_services.facts,
+            m_services.impress },
         m_services.panel);
 }
 

@@ -3,6 +3,7 @@
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
 #include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
@@ -38,6 +39,7 @@ SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
             { u"compositing"_s, QVariant::fromValue(&services.compositing) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
             { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"pace"_s, QVariant::fromValue(&services.pace) },
             { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
     followSystemPalette(m_view);

@@ -13,6 +13,7 @@ class AssignedKeys;
 class Compositing;
 class ImpressPresenter;
 class SettingsStore;
+class ReadingPace;
 class UpdateController;
 class VoiceActivityEngine;
 
@@ -29,6 +30,7 @@ public:
     struct Services {
         SettingsStore& settings;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         HotKeys& hotKeys;
         Compositing& compositing;

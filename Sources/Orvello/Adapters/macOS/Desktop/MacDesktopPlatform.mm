@@ -79,7 +79,6 @@ public:
     /// The window server always composites.
     Compositing& compositing() override { return m_compositing; }
 
-
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
 
