@@ -1215,6 +1215,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien und lassen Sie dieses Feld daneben: Dann sieht Ihr Publikum Ihre Folien, nicht Ihre Notizen.</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Im Stealth-Modus bleibt dieses Fenster Bildschirmfreigaben, Aufnahmen und Bildschirmfotos fern, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen es womöglich trotzdem: Teilen Sie nur das Fenster Ihrer Folien, dann sieht Ihr Publikum nie Ihre Notizen.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1267,6 +1271,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms, und lassen Sie den Prompter daneben: Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Ist der Stealth-Modus eingeschaltet, bevor das Teilen beginnt, bleibt der Prompter Bildschirmfreigaben, Aufnahmen und Bildschirmfotos fern, soweit dieses System das zulässt – während Sie ihn weiter vollständig sehen. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres aus, bevor Sie sich darauf verlassen.</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1669,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Teilen Sie den ganzen Bildschirm, bleibt der Prompter verborgen, soweit dieses System das zulässt. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1775,6 +1788,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Beside the window that you share</source>
         <translation>Neben dem geteilten Fenster</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Verborgen, wo das System es zulässt</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Der Stealth-Modus hält den Prompter aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraus, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres vorher aus.</translation>
     </message>
 </context>
 <context>

@@ -1215,6 +1215,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas y deja este panel al lado: así tu público ve tus diapositivas, no tus notas.</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Con el modo sigiloso activado, esta ventana queda fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarla de todos modos: comparte solo la ventana de tus diapositivas y tu público nunca verá tus notas.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1267,6 +1271,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Comparte la ventana de la presentación en lugar de toda la pantalla y deja el prompter al lado: algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Con el modo sigiloso activado antes de compartir, el prompter queda fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema, y tú lo sigues viendo por completo. Los programas de grabación más nuevos pueden mostrarlo de todos modos: prueba el tuyo antes de confiar en ello.</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1669,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Al compartir la pantalla completa, el prompter queda fuera hasta donde lo permite este sistema. Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluir el prompter.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1775,6 +1788,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Beside the window that you share</source>
         <translation>Junto a la ventana que compartes</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Oculto donde el sistema lo permite</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>El modo sigiloso deja el prompter fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarlo de todos modos: prueba antes el tuyo.</translation>
     </message>
 </context>
 <context>

@@ -1215,6 +1215,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives et laissez ce panneau à côté : votre public voit alors vos diapositives, pas vos notes.</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>En mode furtif, cette fenêtre reste hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet. Les programmes d’enregistrement récents peuvent la montrer malgré tout : ne partagez que la fenêtre de vos diapositives, et votre public ne verra jamais vos notes.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1267,6 +1271,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Partagez la fenêtre de la présentation plutôt que tout l’écran, et gardez le prompteur à côté : certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Si le mode furtif est activé avant le début d’un partage, le prompteur reste hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet, tout en restant bien visible pour vous. Les programmes d’enregistrement récents peuvent le montrer malgré tout : essayez le vôtre avant de vous y fier.</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1669,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Le partage de l’écran entier laisse le prompteur de côté dans la mesure où ce système le permet. Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1775,6 +1788,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Beside the window that you share</source>
         <translation>À côté de la fenêtre partagée</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Caché là où le système le permet</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Le mode furtif tient le prompteur hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet. Les programmes d’enregistrement récents peuvent le montrer malgré tout : essayez d’abord le vôtre.</translation>
     </message>
 </context>
 <context>

@@ -1209,6 +1209,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有し、このパネルはその横に置いてください。聞き手に見えるのはスライドで、ノートではありません。</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>ステルスモードがオンなら、このウインドウは、システムが許す範囲で画面共有、録画、スクリーンショットに映りません。新しい録画ソフトにはそれでも映ることがあります。スライドのウインドウだけを共有すれば、聞き手にノートは見えません。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1261,6 +1265,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>画面全体ではなくプレゼンテーションのウインドウを共有し、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>共有の前からステルスモードがオンなら、プロンプターは、システムが許す範囲で画面共有、録画、スクリーンショットに映りません。あなたにははっきり見えたままです。新しい録画ソフトにはそれでも映ることがあります。頼りにする前に、お使いのソフトで試してください。</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1663,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>画面全体の共有では、システムが許す範囲でプロンプターは映りません。%1のウインドウだけを共有すれば、リスクはなくなります。ウインドウの共有にプロンプターが入ることはありません。</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1769,6 +1782,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Beside the window that you share</source>
         <translation>共有するウインドウの横に</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>システムが許す範囲で隠れます</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>ステルスモードは、システムが許す範囲で画面共有、録画、スクリーンショットからプロンプターを隠します。新しい録画ソフトにはそれでも映ることがあります。先にお使いのソフトで試してください。</translation>
     </message>
 </context>
 <context>

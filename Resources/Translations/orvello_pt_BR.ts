@@ -1215,6 +1215,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides e deixe este painel ao lado: assim seu público vê seus slides, não suas anotações.</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Com o modo furtivo ativado, esta janela fica fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite. Gravadores mais novos podem mostrá-la mesmo assim: compartilhe só a janela dos seus slides e seu público nunca verá suas anotações.</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1267,6 +1271,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Compartilhe a janela da apresentação em vez da tela inteira e mantenha o prompter ao lado: alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Com o modo furtivo ativado antes do compartilhamento, o prompter fica fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite, e continua totalmente visível para você. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes de confiar nisso.</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1669,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Ao compartilhar a tela inteira, o prompter fica de fora até onde este sistema permite. Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1775,6 +1788,14 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Beside the window that you share</source>
         <translation>Ao lado da janela compartilhada</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Oculto onde o sistema permite</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>O modo furtivo mantém o prompter fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes.</translation>
     </message>
 </context>
 <context>

@@ -1209,6 +1209,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
         <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口，并把这个面板放在它旁边：这样观众看到的是幻灯片，而不是你的备注。</translation>
     </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>隐身模式开启时，这个窗口会在系统允许的范围内避开屏幕共享、录屏和截图。较新的录屏软件仍有可能显示它：请只共享幻灯片的窗口，观众就绝不会看到你的备注。</translation>
+    </message>
 </context>
 <context>
     <name>Orvello::WelcomeTour</name>
@@ -1261,6 +1265,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>请共享演示文稿窗口而不是整个屏幕，并把提词器放在它旁边：有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>在共享开始前打开隐身模式，提词器会在系统允许的范围内避开屏幕共享、录屏和截图，而你仍能完整看到它。较新的录屏软件仍有可能显示它：请先用你的软件试一试，再放心使用。</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1663,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
+    <message>
+        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>共享整个屏幕时，提词器会在系统允许的范围内不被显示。只共享 %1 的窗口则没有任何风险——窗口共享绝不会包含提词器。</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1769,6 +1782,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Beside the window that you share</source>
         <translation>在你共享的窗口旁边</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>在系统允许的范围内隐藏</translation>
+    </message>
+    <message>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>隐身模式会在系统允许的范围内让屏幕共享、录屏和截图看不到提词器。较新的录屏软件仍有可能显示它：请先用你的软件试一试。</translation>
     </message>
 </context>
 <context>

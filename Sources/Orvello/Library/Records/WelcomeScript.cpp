@@ -51,9 +51,15 @@ QString body(const Facts& facts)
     };
     if (facts.canHideWindows)
         paragraphs += {
-            translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
-                "With Stealth Mode on, this window is invisible to screen sharing, recordings, and "
-                "screenshots. Your audience only sees your slides — never your notes.")),
+            facts.capturesMayShowHidden
+                ? translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
+                    "With Stealth Mode on, this window stays out of screen sharing, recordings, "
+                    "and screenshots as far as this system allows. Newer recorders may show it all "
+                    "the same: share only the window of your slides, and your audience never sees "
+                    "your notes."))
+                : translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
+                    "With Stealth Mode on, this window is invisible to screen sharing, recordings, "
+                    "and screenshots. Your audience only sees your slides — never your notes.")),
             translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
                 "Sharing your screen? Leave Stealth Mode alone while you share — toggling it "
                 "mid-share can make your meeting app show a gray box where the prompter sits. "
