@@ -389,7 +389,7 @@ TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
     construct({ path },
         { { path,
             PptxImporter::Deck {
-                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {} } } });
+                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {}, .stamp = {} } } });
 
     delegate->applicationDidFinishLaunching();
 
