@@ -27,6 +27,7 @@
 #include <ctime>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -248,6 +249,30 @@ void scrollThroughManyScripts()
         [&] { QTest::keyClick(&program.window(), Qt::Key_A); });
 }
 
+/// Two minutes of talk each. The limit is 50 ms from the key to the list.
+void searchManyScripts()
+{
+    QList<Script> scripts;
+    for (int i = 0; i < 10'000; ++i)
+        scripts.append(LibraryServices::script(u"Script %1"_s.arg(i), prose(1'500)));
+    Program program(scripts);
+    QQuickWindow& window = program.window();
+    const auto alternate = [&window](Qt::Key key) {
+        return [&window, key, isTyping = false]() mutable {
+            isTyping = !isTyping;
+            QTest::keyClick(&window, isTyping ? key : Qt::Key_Backspace);
+        };
+    };
+
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    measure("the first letter of a search in 10,000 texts", program, 20, alternate(Qt::Key_T));
+    QTest::keyClick(&window, Qt::Key_T);
+    measure("a second letter, which no text has", program, 20, alternate(Qt::Key_Z));
+    for (const char letter : std::string_view("hank you al"))
+        QTest::keyClick(&window, letter);
+    measure("another letter of what every text has", program, 20, alternate(Qt::Key_L));
+}
+
 } // namespace
 } // namespace Orvello
 
@@ -263,5 +288,6 @@ int main(int argc, char** argv)
     Orvello::typeIntoALongParagraph("a key press in a paragraph of 10 kB", 10'000);
     Orvello::typeIntoALongParagraph("a key press in a paragraph of 100 kB", 100'000);
     Orvello::scrollThroughManyScripts();
+    Orvello::searchManyScripts();
     return 0;
 }

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Wird im Prompter gezeigt · automatisch lokal gesichert, nichts verlässt Ihren Computer</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -624,10 +645,47 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Dieses Skript exportieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n Skript exportieren</numerusform>
+            <numerusform>%n Skripte exportieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Export fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>„%1“ konnte nicht geschrieben werden (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Skripte</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Der Text im Prompter wird gerade gelesen</translation>
     </message>
 </context>
 <context>
@@ -746,6 +804,47 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · noch %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>Der Prompter hat keinen Text zum Rollen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Zeichen pro Minute</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wort pro Minute</numerusform>
+            <numerusform>%1 pt/s · in diesem Text etwa %n Wörter pro Minute</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: schneller, als man spricht</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -785,6 +884,10 @@ In den Einstellungen gibt es einen Knopf, der das zurücknimmt.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Sprechen Sie fünf Sekunden lang ganz normal.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Warten auf das Mikrofon …</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -1037,6 +1140,14 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Vom Mikrofon „%1“ kommt nichts. Vielleicht behält es ein anderes Programm für sich.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Das Mikrofon ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Das Mikrofon ließ sich nicht starten. Schalten Sie „Der Stimme folgen“ aus und ein, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>Die Echounterdrückung ist an.</translation>
     </message>
@@ -1168,6 +1279,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Text color</source>
         <translation>Textfarbe</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>Die Deckkraft wirkt im Moment nicht: Fenster können nur durchscheinen, solange auf dem Desktop ein Compositor läuft.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1183,6 +1299,57 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>IN AUFNAHMEN SICHTBAR</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Zeichen pro Minute</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Wörter pro Minute</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Mein Tempo behalten, auch mit anderem Text, anderer Größe oder Breite</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Zeit auf dem Prompter</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Vergangen</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Hinweis ausgeschrieben zeigen</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Hinweis zum Auge verkleinern</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1402,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Move Down</source>
         <translation>Nach unten</translation>
     </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Alle exportieren …</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>
@@ -1273,6 +1449,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Dismiss</source>
         <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>Der Stealth-Modus wirkt auf diesem Desktop nicht – wer Ihren Bildschirm sieht, sieht auch diesen Prompter.</translation>
     </message>
 </context>
 <context>
@@ -1362,6 +1542,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Lesezeit</translation>
     </message>
 </context>
 <context>

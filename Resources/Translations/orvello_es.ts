@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Se muestra en el prompter · guardado automático local, nada sale de tu ordenador</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -624,10 +645,47 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exportar este guion</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exportar %n guion</numerusform>
+            <numerusform>Exportar %n guiones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Guiones</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Error al exportar</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>No se pudo escribir «%1» (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Guiones</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Se está leyendo el prompter</translation>
     </message>
 </context>
 <context>
@@ -746,6 +804,47 @@ En los ajustes hay un botón que lo revoca.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>quedan %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · quedan %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>El prompter no tiene texto que desplazar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · unos %n caracteres por minuto en este guion</numerusform>
+            <numerusform>%1 pt/s · unos %n caracteres por minuto en este guion</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · una %n palabra por minuto en este guion</numerusform>
+            <numerusform>%1 pt/s · unas %n palabras por minuto en este guion</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: más rápido que el habla</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -785,6 +884,10 @@ En los ajustes hay un botón que lo revoca.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Habla con normalidad durante cinco segundos.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>Esperando al micrófono…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -1037,6 +1140,14 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Del micrófono «%1» no llega nada. Puede que otro programa lo tenga en exclusiva.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>No se pudo iniciar el micrófono.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>No se pudo iniciar el micrófono. Desactiva y activa el seguimiento de la voz para volver a intentarlo.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>La cancelación de eco está activada.</translation>
     </message>
@@ -1168,6 +1279,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Text color</source>
         <translation>Color del texto</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>La opacidad no tiene efecto por ahora: las ventanas solo pueden ser translúcidas mientras el escritorio ejecute un compositor.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1183,6 +1299,57 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>VISIBLE EN GRABACIONES</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Caracteres por minuto</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Palabras por minuto</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Mantener mi ritmo con otro texto, tamaño o ancho</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Tiempo en el prompter</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restante</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Transcurrido</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Mostrar el aviso completo</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Reducir el aviso a un ojo</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1402,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Move Down</source>
         <translation>Bajar</translation>
     </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Exportar todos…</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>
@@ -1273,6 +1449,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Dismiss</source>
         <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>El modo sigiloso no tiene efecto en este escritorio: quien ve tu pantalla ve también este prompter.</translation>
     </message>
 </context>
 <context>
@@ -1362,6 +1542,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Status</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Tiempo de lectura</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>Affiché dans le prompteur · enregistré automatiquement en local, rien ne quitte votre ordinateur</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>Commencer ici</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -624,10 +645,47 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>Exporter ce script</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>Exporter %n script</numerusform>
+            <numerusform>Exporter %n scripts</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>Scripts</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>Échec de l’exportation</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>Impossible d’écrire « %1 » (%2).</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>Scripts</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>Le prompteur est en cours de lecture</translation>
     </message>
 </context>
 <context>
@@ -746,6 +804,47 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · reste %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>Le prompteur n’a aucun texte à faire défiler.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · environ %n caractères par minute dans ce script</numerusform>
+            <numerusform>%1 pt/s · environ %n caractères par minute dans ce script</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · environ %n mot par minute dans ce script</numerusform>
+            <numerusform>%1 pt/s · environ %n mots par minute dans ce script</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1 : plus vite que la parole</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -785,6 +884,10 @@ Les réglages ont un bouton qui annule cette autorisation.</translation>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>Parlez normalement pendant cinq secondes.</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>En attente du microphone…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -1037,6 +1140,14 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Rien ne vient du microphone « %1 ». Un autre programme se le réserve peut-être.</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>Le microphone n’a pas pu démarrer.</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>Le microphone n’a pas pu démarrer. Désactivez et réactivez le suivi de la voix pour réessayer.</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>L’annulation de l’écho est active.</translation>
     </message>
@@ -1168,6 +1279,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Text color</source>
         <translation>Couleur du texte</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>L’opacité est sans effet pour le moment : les fenêtres ne peuvent être translucides que si un compositeur est actif sur le bureau.</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1183,6 +1299,57 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>VISIBLE DANS LES ENREGISTREMENTS</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>Caractères par minute</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>Mots par minute</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>Garder mon rythme avec un autre texte, une autre taille ou largeur</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>Temps sur le prompteur</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Restant</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>Écoulé</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Les deux</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>Afficher l’indication en entier</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>Réduire l’indication à un œil</translation>
     </message>
 </context>
 <context>
@@ -1235,6 +1402,15 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Move Down</source>
         <translation>Descendre</translation>
     </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>Tout exporter…</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>
@@ -1273,6 +1449,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Dismiss</source>
         <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>Le mode furtif est sans effet sur ce bureau — qui voit votre écran voit aussi ce prompteur.</translation>
     </message>
 </context>
 <context>
@@ -1362,6 +1542,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Status</source>
         <translation>État</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Temps de lecture</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>プロンプターに表示中 · このコンピューターに自動保存され、外部には送られません</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>ここから開始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>ペースト</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -623,10 +644,46 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>この原稿を書き出す</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>%n件の原稿を書き出す</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>原稿</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>書き出しに失敗しました</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>“%1”に書き込めませんでした（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>原稿</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>プロンプターを読んでいます</translation>
     </message>
 </context>
 <context>
@@ -745,6 +802,45 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · 残り %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>プロンプターにスクロールする文章がありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · この台本では毎分約%n文字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · この台本では毎分約%n語</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1: 話すより速い</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -782,6 +878,10 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>5秒間、ふだんどおりに話してください。</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>マイクを待っています…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -1034,6 +1134,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>マイク「%1」から音が届きません。ほかのプログラムが独占している可能性があります。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>マイクを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>マイクを開始できませんでした。「音声に追従」をいったんオフにしてオンに戻すと、もう一度試します。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>エコーキャンセルはオンです。</translation>
     </message>
@@ -1165,6 +1273,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Text color</source>
         <translation>文字の色</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度は現在効きません。ウインドウが半透明になるのは、デスクトップでコンポジターが動作している間だけです。</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1180,6 +1293,57 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>録画に映ります</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>読む速さ</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>毎分の文字数</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>毎分の語数</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>文章・文字サイズ・幅が変わっても速さを保つ</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>プロンプターの時間表示</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>残り</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>経過</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>両方</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>表示を全文に戻す</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>表示を目のアイコンにたたむ</translation>
     </message>
 </context>
 <context>
@@ -1232,6 +1396,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Move Down</source>
         <translation>下へ移動</translation>
     </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>すべて書き出す…</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>
@@ -1270,6 +1443,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Dismiss</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>このデスクトップではステルスモードは効きません。画面を見ている人にはこのプロンプターも見えます。</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1536,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Status</source>
         <translation>状態</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>読み上げ時間</translation>
     </message>
 </context>
 <context>

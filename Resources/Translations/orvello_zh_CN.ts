@@ -49,6 +49,27 @@
         <source>Shown in the prompter · autosaved locally, nothing leaves your computer</source>
         <translation>显示在提词器中 · 自动保存在本机，任何内容都不会离开你的电脑</translation>
     </message>
+    <message>
+        <source>Start Here</source>
+        <extracomment>The prompter begins with the line that the cursor is on.</extracomment>
+        <translation>从这里开始</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
 </context>
 <context>
     <name>ImportMenu</name>
@@ -623,10 +644,46 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::LibraryViewModel</name>
+    <message>
+        <source>Export this script</source>
+        <extracomment>Above the panel in which the user says where the script is to be written.</extracomment>
+        <translation>导出此讲稿</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export %n scripts</source>
+        <translation>
+            <numerusform>导出 %n 篇讲稿</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <extracomment>The name of a file with several scripts.</extracomment>
+        <translation>讲稿</translation>
+    </message>
+    <message>
+        <source>Export failed</source>
+        <translation>导出失败</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written (%2).</source>
+        <extracomment>%1: the name of a file; %2: what the system says about it.</extracomment>
+        <translation>无法写入“%1”（%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::LibraryWindow</name>
     <message>
         <source>Scripts</source>
         <translation>讲稿</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::LinuxWakefulness</name>
+    <message>
+        <source>The prompter is being read</source>
+        <extracomment>Why the display is kept on, for a desktop that shows it: at most about 60 characters.</extracomment>
+        <translation>正在阅读提词器</translation>
     </message>
 </context>
 <context>
@@ -745,6 +802,45 @@ The settings have a button that takes this back.</source>
     </message>
 </context>
 <context>
+    <name>Orvello::ReadingClock</name>
+    <message>
+        <source>%1 left</source>
+        <extracomment>On the card, at most about 15 characters. %1: minutes and seconds, as in &quot;3:12&quot;.</extracomment>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>%1 · %2 left</source>
+        <extracomment>On the card, at most about 25 characters. %1: how long the reader has been reading; %2: how long the rest takes, both as in &quot;3:12&quot;.</extracomment>
+        <translation>%1 · 剩余 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Orvello::ReadingPace</name>
+    <message>
+        <source>The prompter has no text to scroll.</source>
+        <translation>提词器没有可滚动的文本。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n characters a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · 此脚本约每分钟 %n 字</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pt/s · about %n words a minute in this script</source>
+        <extracomment>%1: points per second. About the script that the prompter shows.</extracomment>
+        <translation>
+            <numerusform>%1 pt/s · 此脚本约每分钟 %n 词</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: faster than speech</source>
+        <extracomment>%1: as in &quot;25 pt/s · about 250 words a minute in this script&quot;.</extracomment>
+        <translation>%1:比说话快</translation>
+    </message>
+</context>
+<context>
     <name>Orvello::ScriptEditor</name>
     <message numerus="yes">
         <source>%n words</source>
@@ -782,6 +878,10 @@ The settings have a button that takes this back.</source>
     <message>
         <source>Speak normally for five seconds.</source>
         <translation>请正常说话五秒钟。</translation>
+    </message>
+    <message>
+        <source>Waiting for the microphone…</source>
+        <translation>正在等待麦克风…</translation>
     </message>
     <message>
         <source>A sensitivity of %1% suits your voice here.</source>
@@ -1034,6 +1134,14 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>麦克风“%1”没有声音传来。可能被另一个程序独占。</translation>
     </message>
     <message>
+        <source>The microphone could not be started.</source>
+        <translation>无法启动麦克风。</translation>
+    </message>
+    <message>
+        <source>The microphone could not be started. Turn Voice-Follow off and on to try again.</source>
+        <translation>无法启动麦克风。请关闭再打开语音跟随以重试。</translation>
+    </message>
+    <message>
         <source>Echo cancellation is on.</source>
         <translation>回声消除已开启。</translation>
     </message>
@@ -1165,6 +1273,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Text color</source>
         <translation>文字颜色</translation>
     </message>
+    <message>
+        <source>The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.</source>
+        <extracomment>A compositor is the part of a Linux desktop that makes windows translucent.</extracomment>
+        <translation>不透明度目前不起作用:只有当桌面运行合成器时,窗口才能半透明。</translation>
+    </message>
 </context>
 <context>
     <name>PrompterView</name>
@@ -1180,6 +1293,57 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>VISIBLE IN RECORDINGS</source>
         <translation>录屏可见</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSettings</name>
+    <message>
+        <source>Reading</source>
+        <translation>朗读</translation>
+    </message>
+    <message>
+        <source>Characters a minute</source>
+        <translation>每分钟字数</translation>
+    </message>
+    <message>
+        <source>Words a minute</source>
+        <translation>每分钟词数</translation>
+    </message>
+    <message>
+        <source>Keep my pace with another text, size or width</source>
+        <translation>换文本、字号或宽度时保持我的语速</translation>
+    </message>
+    <message>
+        <source>Time on the prompter</source>
+        <translation>提词器上的时间</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>剩余</translation>
+    </message>
+    <message>
+        <source>Elapsed</source>
+        <translation>已用</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>两者</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingBadge</name>
+    <message>
+        <source>Show the badge in full</source>
+        <extracomment>Read aloud: the button makes the words &quot;VISIBLE IN RECORDINGS&quot; on the card a small eye, or words again.</extracomment>
+        <translation>完整显示标记</translation>
+    </message>
+    <message>
+        <source>Fold the badge to an eye</source>
+        <translation>将标记收起为眼睛图标</translation>
     </message>
 </context>
 <context>
@@ -1232,6 +1396,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Move Down</source>
         <translation>下移</translation>
     </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Export All…</source>
+        <extracomment>All scripts of the list, into one file.</extracomment>
+        <translation>全部导出…</translation>
+    </message>
 </context>
 <context>
     <name>SessionSettings</name>
@@ -1270,6 +1443,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Dismiss</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.</source>
+        <translation>隐身模式在此桌面上不起作用——能看到您屏幕的人也能看到此提词器。</translation>
     </message>
 </context>
 <context>
@@ -1359,6 +1536,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Status</source>
         <translation>状态</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>朗读时间</translation>
     </message>
 </context>
 <context>

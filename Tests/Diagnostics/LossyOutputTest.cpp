@@ -89,6 +89,20 @@ TEST_F(LossyOutputTest, appendsToAFile)
     EXPECT_EQ(Testing::readFile(path), "one\ntwo\n");
 }
 
+TEST_F(LossyOutputTest, keepsALongLineInAFileWhole)
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath(QStringLiteral("errors")).toStdString();
+    ends[1] = ::open(path.c_str(), O_WRONLY | O_CREAT, 0644);
+    LossyOutput output(ends[1]);
+    const std::string line = std::string(10000, 'x') + '\n';
+
+    output.write(line);
+    output.write("two\n");
+
+    EXPECT_EQ(Testing::readFile(path), line + "two\n");
+}
+
 TEST_F(LossyOutputTest, doesNotWaitForAPipeThatNobodyReads)
 {
     openPipe();

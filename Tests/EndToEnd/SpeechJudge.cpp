@@ -3,46 +3,21 @@
 // 48 kHz, mono), with a 0 or 1 for each sensitivity and one for WebRTC.
 
 #include "Orvello/Voice/VoiceActivityDetector.h"
+#include "Tests/EndToEnd/WebRtcDetector.h"
 
-#include <webrtc/modules/audio_processing/include/audio_processing.h>
-
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
 namespace {
 
-constexpr int sampleRate = 48000;
-constexpr std::size_t frameSamples = sampleRate / 100;
+constexpr int sampleRate = Orvello::Testing::WebRtcDetector::sampleRate;
+constexpr std::size_t frameSamples = Orvello::Testing::WebRtcDetector::frameSamples;
 constexpr std::size_t blockSamples = 2 * frameSamples;
-
-/// The same library that removes the echo, with nothing but its detector turned on.
-class WebRtcDetector {
-public:
-    WebRtcDetector()
-        : m_processing(webrtc::AudioProcessing::Create())
-    {
-        m_processing->voice_detection()->Enable(true);
-        m_processing->voice_detection()->set_likelihood(
-            webrtc::VoiceDetection::kModerateLikelihood);
-    }
-
-    bool hearsVoice(float* frame)
-    {
-        const webrtc::StreamConfig mono(sampleRate, 1);
-        m_processing->ProcessStream(&frame, mono, mono, &frame);
-        return m_processing->voice_detection()->stream_has_voice();
-    }
-
-private:
-    std::unique_ptr<webrtc::AudioProcessing> m_processing;
-};
 
 std::vector<float> samplesOf(const char* path)
 {
@@ -65,7 +40,7 @@ int main(int argc, char** argv)
     for (int i = 2; i < argc; ++i)
         sensitivities.push_back(std::strtod(argv[i], nullptr));
     std::vector<Orvello::VoiceActivityDetector> gates(sensitivities.size());
-    WebRtcDetector webRtc;
+    Orvello::Testing::WebRtcDetector webRtc;
 
     for (std::size_t begin = 0; begin + blockSamples <= samples.size(); begin += blockSamples) {
         const std::span<float> block(samples.data() + begin, blockSamples);

@@ -79,8 +79,7 @@ class Service:
                   GLib.Variant("(su)", (name, 4)))
 
     def _call(self, connection, sender, path, interface, method, arguments, invocation):
-        self.functions.get(method, lambda *words: None)(*arguments.unpack())
-        invocation.return_value(None)
+        invocation.return_value(self.functions.get(method, lambda *words: None)(*arguments.unpack()))
 
     def _get(self, connection, sender, path, interface, name):
         return self.functions[name]()
@@ -245,6 +244,22 @@ class FileManager(Service):
         self.shown = []
         super().__init__(bus, FILE_MANAGER, "/org/freedesktop/FileManager1", FILE_MANAGER_XML,
                          ShowItems=lambda uris, startup: self.shown.extend(uris))
+
+
+SCREEN_SAVER = "org.freedesktop.ScreenSaver"
+SCREEN_SAVER_XML = f"""<node><interface name="{SCREEN_SAVER}">
+  <method name="Inhibit"><arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="u" direction="out"/></method>
+  <method name="UnInhibit"><arg type="u" direction="in"/></method>
+</interface></node>"""
+
+
+class ScreenSaver(Service):
+    """Blanks the display unless somebody keeps it on; remembers why they do."""
+
+    def __init__(self, bus):
+        self.reasons = []
+        super().__init__(bus, SCREEN_SAVER, "/org/freedesktop/ScreenSaver", SCREEN_SAVER_XML,
+                         Inhibit=lambda program, reason: self.reasons.append(reason) or GLib.Variant("(u)", (7,)))
 
 
 class Opener:

@@ -59,8 +59,7 @@ class Desktop(contextlib.ExitStack):
         wait_until(lambda: "window" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    what="the window manager")
         if self.compositor:
-            # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
-            self.start(["picom", "--backend", "xrender", "--no-use-damage"])
+            self.start_compositor()
         time.sleep(0.3)
 
     def start_x_server(self):
@@ -79,6 +78,13 @@ class Desktop(contextlib.ExitStack):
         half = self.width // 2
         for name, left, output in (("left", 0, "screen"), ("right", half, "none")):
             self.run("xrandr", "--setmonitor", name, f"{half}/300x{self.height}/240+{left}+0", output)
+
+    def start_compositor(self):
+        # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
+        self._compositor = self.start(["picom", "--backend", "xrender", "--no-use-damage"])
+
+    def stop_compositor(self):
+        self._stop(self._compositor)
 
     def start_session_bus(self):
         """Gives the desktop a session bus of its own, for what is started from now on."""
@@ -245,11 +251,15 @@ class App:
         return False
 
     def windows(self):
-        """The program's X windows that are on screen."""
+        """The program's X windows that are on screen, without the panel's shadow."""
         self._check_alive()
-        result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
-            env=self.desktop.environment, capture_output=True, text=True)
+        shadow = self._search("--onlyvisible", "--name", "^Orvello shadow$")
+        return [window for window in self._search("--onlyvisible", "--pid", str(self.process.pid))
+                if window not in shadow]
+
+    def _search(self, *what):
+        result = subprocess.run(["xdotool", "search", *what], env=self.desktop.environment, capture_output=True,
+                                text=True)
         return [int(line) for line in result.stdout.split()]
 
     def window(self):
@@ -266,10 +276,7 @@ class App:
         return wait_until(painted, what="the first frame")
 
     def is_window_visible(self):
-        result = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
-            env=self.desktop.environment, capture_output=True, text=True)
-        return bool(result.stdout.split())
+        return bool(self._search("--onlyvisible", "--pid", str(self.process.pid)))
 
     def geometry(self):
         """The panel's (x, y, width, height) on the screen."""

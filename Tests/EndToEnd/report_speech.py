@@ -6,12 +6,13 @@ WebRTC's own detector of voices, with the gate's hangover, judges the same signa
 
 import array
 import os
+import pathlib
 import random
 import subprocess
 import tempfile
 import time
 
-from sound import RATE, silence, speech
+from sound import RATE, recording, silence, speech
 
 VOICES = ["en-us+m3", "en-gb+f2", "en-us+f4", "en-gb+m7", "de+f3", "fr+m2", "es+f1", "pt-br+m4"]
 SENTENCES = {"en": "Good morning everybody, and welcome. Let us look at the figures of the last three months.",
@@ -19,6 +20,8 @@ SENTENCES = {"en": "Good morning everybody, and welcome. Let us look at the figu
              "fr": "Bonjour à tous, et bienvenue. Regardons ensemble les chiffres des trois derniers mois.",
              "es": "Buenos días a todos, y bienvenidos. Veamos juntos las cifras de los últimos meses.",
              "pt": "Bom dia a todos, e bem-vindos. Vamos olhar os números dos últimos três meses."}
+# A woman who names loudspeakers, recorded: alsa-utils brings it.
+RECORDINGS = sorted(pathlib.Path("/usr/share/sounds/alsa").glob("*_*.wav"))
 SENSITIVITIES = [0.1, 0.25, 0.5, 0.6, 0.75, 0.9, 1.0]
 LEVEL = 0.03  # A voice at arm's length of a laptop's microphone.
 PAUSE = 3.0
@@ -29,8 +32,8 @@ SOON, HANGOVER = 0.3, 0.7
 def spoken(scratch):
     """All voices in turn, with pauses, and when each speaks."""
     samples, times = silence(PAUSE), []
-    for voice in VOICES:
-        words = speech(SENTENCES[voice[:2]], scratch, voice=voice, level=LEVEL)
+    for words in [*(speech(SENTENCES[voice[:2]], scratch, voice=voice, level=LEVEL) for voice in VOICES),
+                  *(recording(path, level=LEVEL) for path in RECORDINGS)]:
         begin = len(samples) / RATE
         samples += words
         times.append((begin, len(samples) / RATE))
@@ -74,7 +77,8 @@ def judged(decisions, times):
 def main():
     with tempfile.TemporaryDirectory() as scratch:
         samples, times = spoken(scratch)
-        print(f"{len(times)} sentences by as many voices, {len(samples) / RATE:.0f} s, {time.strftime('%Y-%m-%d')}")
+        print(f"{len(VOICES)} sentences by as many synthetic voices, {len(RECORDINGS)} short ones by a human one, "
+              f"{len(samples) / RATE:.0f} s, {time.strftime('%Y-%m-%d')}")
         print(f"{'':24}{'heard within 0.3 s':>20}{'open for speech':>18}{'open for nothing':>18}")
         for decibels in (None, 20, 10, 5):
             path = os.path.join(scratch, "signal.raw")

@@ -270,6 +270,11 @@ def speech(text, scratch, voice="en", level=0.1, speed=150):
     """Spoken text, without the silence around it, at a loudness (RMS) of `level`."""
     path = pathlib.Path(scratch) / "speech.wav"
     subprocess.run(["espeak-ng", "-v", voice, "-s", str(speed), "-w", str(path), text], check=True, capture_output=True)
+    return recording(path, level)
+
+
+def recording(path, level=0.1):
+    """A file with one channel, as speech()."""
     with wave.open(str(path)) as file:
         assert file.getnchannels() == 1 and file.getsampwidth() == 2
         rate = file.getframerate()

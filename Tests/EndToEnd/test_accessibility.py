@@ -76,7 +76,8 @@ class AccessibilityTest(unittest.TestCase):
         self.assertIn({"role": "label", "name": "paused", "description": "Status", "showing": True, "enabled": True},
                       nodes)
         self.assertIn("Slide 1 / 2", [node["name"] for node in nodes])
-        self.assertEqual(self.buttons(nodes), {"Previous slide": False, "Next slide": True})
+        self.assertEqual(self.buttons(nodes), {"Fold the badge to an eye": True, "Previous slide": False,
+                                               "Next slide": True})
         self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
 
     def test_the_buttons_can_be_pressed(self):
@@ -90,7 +91,14 @@ class AccessibilityTest(unittest.TestCase):
         wait_until(lambda: "The second slide." in self.names("label"), what="the next slide")
         nodes = self.read()
         self.assertIn("Slide 2 / 2", [node["name"] for node in nodes])
-        self.assertEqual(self.buttons(nodes), {"Previous slide": True, "Next slide": False})
+        self.assertEqual(self.buttons(nodes), {"Fold the badge to an eye": True, "Previous slide": True,
+                                               "Next slide": False})
+
+        self.read("Fold the badge to an eye")
+        nodes = wait_until(lambda: [node for node in self.read() if node["name"] == "Show the badge in full"] and self.read(),
+                           what="the eye")
+        self.assertIn("VISIBLE IN RECORDINGS", [node["name"] for node in nodes])
+        self.assertTrue(App.defaults(self.desktop)["recordingBadgeFolded"])
         self.read("Next slide")
         self.assertIn("Slide 2 / 2", [node["name"] for node in self.read()])
 
@@ -115,6 +123,19 @@ class AccessibilityTest(unittest.TestCase):
         shown = [node["name"] for node in self.read() if node["showing"]]
         self.assertIn("VISIBLE IN RECORDINGS", shown)
         self.assertEqual([name for name in shown if "gray" in name], [])
+
+    def test_the_settings_say_whether_the_opacity_has_an_effect(self):
+        app = App(self.desktop, "--settings")
+        app.shown()
+        wait_until(lambda: "Session" in self.names("label"), what="the settings")
+        note = lambda: [name for name in self.names("label") if name.startswith("The opacity has no effect")]  # noqa: E731
+        self.assertEqual(note(), [])
+
+        self.desktop.stop_compositor()
+        wait_until(note, what="the note")
+
+        self.desktop.start_compositor()
+        wait_until(lambda: not note(), what="the note to go")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,8 @@
 """The main job on the real program: a deck's notes scroll in the floating prompter."""
 
 import json
+import os
+import shutil
 import signal
 import subprocess
 import time
@@ -216,6 +218,45 @@ class FoundationTest(unittest.TestCase):
 
         self.assertEqual(app.quit(), 0)
         self.assertNotIn("textColorName", App.defaults(self.desktop))
+
+    def test_a_number_out_of_range_harms_nothing_in_any_preference(self):
+        write_library(self.desktop, "Hello all. " * 500)
+        keys = ["fontSize", "textColorName", "backgroundOpacity", "speed", "stealthMode", "voiceFollow", "voiceSensitivity",
+                "microphone", "microphoneName", "countdownSeconds", "slideshowPauseKey", "slideSync", "activeScriptID",
+                "onboardingSeenVersion", "SUEnableAutomaticChecks", "SULastCheckTime", "SUSkippedVersion",
+                "migratedFromDrumlin", "ghostMode"]
+        for number in (1e300, -1e300, 1e-300, 2 ** 63, -(2 ** 63) - 1):
+            with self.subTest(number=number):
+                # A frame is kept as a text.
+                App.set_defaults(self.desktop, **{key: number for key in keys},
+                                 **{"NSWindow Frame PrompterPanel": f"{number} {number} {number} {number} 0 0 1440 900 "})
+                if number < 1:
+                    App.set_defaults(self.desktop, onboardingSeenVersion=1) # Else the tour comes first.
+                app = App(self.desktop, "--settings", "--scripts", "--autostart")
+                wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings")
+                wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts")
+                x, y, width, height = self.desktop.frame(wait_until(
+                    lambda: self.desktop.windows_titled("Orvello"), what="the prompter")[0])
+                self.assertTrue(340 <= width <= 1600 and 130 <= height <= 900, (width, height))
+                self.assertTrue(-width < x < self.desktop.width and -height < y < self.desktop.height, (x, y))
+                time.sleep(0.5)
+                self.assertEqual(app.quit(), 0)
+                self.assertNotIn("CRASH", App.log_text(self.desktop))
+
+    def test_all_that_a_session_leaves_is_for_the_users_eyes_alone(self):
+        self.addCleanup(os.umask, os.umask(0))
+        self.desktop.data.rmdir()
+        shutil.rmtree(self.desktop.config)
+        app = App(self.desktop, "--scripts", "--no-stealth", "--onboarding")
+        wait_until(lambda: self.desktop.windows_titled("Scripts"), what="the scripts")
+        app.signal(signal.SIGUSR1) # The other log has a line about it.
+        stealth_log = App.folder(self.desktop) / "stealth.log"
+        wait_until(stealth_log.exists, what="the log of Stealth Mode")
+        self.assertEqual(app.quit(), 0)
+
+        left = [path for folder in (self.desktop.data, self.desktop.config) for path in (folder, *folder.rglob("*"))]
+        self.assertGreater(len([path for path in left if path.is_file()]), 4)
+        self.assertEqual([(str(path), oct(path.stat().st_mode)) for path in left if path.stat().st_mode & 0o077], [])
 
     def test_help_and_version_print_and_leave_no_session(self):
         for switch, text in (("--help", "Usage: orvello"), ("--version", "Orvello 1.0.0 (1)")):

@@ -1,10 +1,11 @@
 """The status menu where desktops show it: on the session bus, in an X11 tray, or without either on the prompter."""
 
+import re
 import time
 import unittest
 import urllib.parse
 
-from bus import FileManager, Opener, SessionBus, TrayHost
+from bus import FileManager, Opener, ScreenSaver, SessionBus, TrayHost
 from desktop import App, Desktop, wait_until
 
 TITLES = ["Start Scrolling  (Alt+Super+P)", "Back to Top", "-", "Voice-Follow Scrolling", "Slide Tracking", "Stealth Mode",
@@ -79,6 +80,16 @@ class BusMenuTest(unittest.TestCase):
         self.item.choose("Back to Top")
 
         self.assertIsNone(self.app.process.poll())
+
+    def test_the_display_stays_on_while_the_text_scrolls(self):
+        saver = ScreenSaver(self.bus)
+        self.start()
+        time.sleep(0.5)
+        self.assertEqual(saver.reasons, [])
+
+        self.item.choose("Start Scrolling  (Alt+Super+P)")
+
+        wait_until(lambda: saver.reasons == ["The prompter is being read"], what="the request")
 
     def test_the_prompter_hides_and_shows(self):
         self.start()
@@ -247,7 +258,7 @@ def tray_icon(desktop):
         if '("orvello"' in line.lower() and "x" in line:
             size, position = line.split()[-2:]
             width, height = (int(part) for part in size.split("+")[0].split("x"))
-            x, y = (int(part) for part in position.replace("-", "+").strip("+").split("+"))
+            x, y = (int(part) for part in re.findall(r"\+(-?\d+)", position))
             if y > desktop.height - 40:
                 return x, y, width, height
     return None

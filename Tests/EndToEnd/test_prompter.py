@@ -10,6 +10,7 @@ from desktop import PROGRAM, App, Desktop, upward_shift, wait_until
 
 GREEN = (48, 209, 88)
 ORANGE = (255, 159, 10)
+WALLPAPER = (0x28, 0x40, 0x60)
 
 
 class PrompterTest(unittest.TestCase):
@@ -235,19 +236,87 @@ class PrompterTest(unittest.TestCase):
         wait_until(rests, what="the prompter to rest again")
 
     def test_without_a_compositor_its_corners_are_cut_off(self):
-        for compositor in (True, False):
-            with self.subTest(compositor=compositor), Desktop(compositor=compositor) as desktop:
-                App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=1.0)
-                app = App(desktop)
-                x, y, width, height = app.shown()
+        with Desktop(compositor=False) as desktop:
+            App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=1.0)
+            app = App(desktop)
+            x, y, width, height = app.shown()
 
-                picture = desktop.screenshot()
+            picture = desktop.screenshot()
 
-                wallpaper = (0x28, 0x40, 0x60)
-                for corner in ((x + 1, y + 1), (x + width - 2, y + 1), (x + 1, y + height - 2),
-                               (x + width - 2, y + height - 2)):
-                    self.assertEqual(picture.pixel(*corner), wallpaper)
-                self.assertLess(max(picture.pixel(x + width // 2, y + height - 3)), 60)
+            for corner in ((x + 1, y + 1), (x + width - 2, y + 1), (x + 1, y + height - 2),
+                           (x + width - 2, y + height - 2)):
+                self.assertEqual(picture.pixel(*corner), WALLPAPER)
+            self.assertLess(max(picture.pixel(x + width // 2, y + height - 3)), 60)
+            self.assertEqual(picture.pixel(x + width // 2, y + height + 4), WALLPAPER, "no shadow, either")
+
+    def test_its_shadow_darkens_what_is_around_it(self):
+        app = App(self.desktop)
+        x, y, width, height = app.shown()
+        middle = x + width // 2
+        below = lambda distance: self.desktop.screenshot().pixel(middle, y + height + distance)[2]  # noqa: E731
+        wait_until(lambda: below(4) < 0.75 * WALLPAPER[2], what="the shadow")
+        self.assertLess(below(4), below(14))
+        self.assertLess(below(14), below(28))
+        self.assertEqual(below(34), WALLPAPER[2])
+        # It does not darken the card, and goes where the card goes.
+        inside = self.desktop.screenshot().pixel(x + 14, y + height // 2)
+        self.assertAlmostEqual(inside[2], round(0.28 * WALLPAPER[2]), delta=2)
+        self.mouse("mousemove", x + 300, y + 100, "mousedown", 1, "mousemove", x + 300, y + 250,
+                   "mousemove", x + 300, y + 400, "mouseup", 1)
+        wait_until(lambda: app.geometry()[1] == y + 300, what="the drag")
+        wait_until(lambda: below(4) == WALLPAPER[2] and below(304) < 0.75 * WALLPAPER[2], what="the shadow to follow")
+        # The frame is that of the panel alone.
+        self.assertEqual(app.geometry()[2:], (width, height))
+        self.assertEqual(App.defaults(self.desktop)["NSWindow Frame PrompterPanel"].split()[2:4],
+                         [str(width), str(height)])
+        app.quit()
+        wait_until(lambda: below(304) == WALLPAPER[2], what="the shadow to go")
+
+    def test_a_click_on_the_shadow_goes_to_the_window_below(self):
+        app = App(self.desktop)
+        x, y, width, height = app.shown()
+
+        def window_at(*place):
+            self.mouse("mousemove", *place)
+            return self.desktop.run("xdotool", "getmouselocation", "--shell").split("WINDOW=")[1].strip()
+
+        desktop = window_at(10, 700)
+        self.assertEqual(window_at(x + width // 2, y + height // 2), str(app.window()))
+        for place in ((x + width // 2, y + height + 10), (x - 10, y + height // 2), (x + width + 10, y + 50)):
+            self.assertEqual(window_at(*place), desktop)
+
+    def test_its_shadow_and_hair_line_part_it_from_white_and_black_windows(self):
+        app = App(self.desktop)
+        x, y, width, height = app.shown()
+        for color, parts in (("#ffffff", lambda edge, outside: outside < 200 and edge < outside),
+                             ("#000000", lambda edge, outside: outside == 0 and edge > 30)):
+            with self.subTest(color):
+                self.desktop.run("hsetroot", "-solid", color)
+                row = lambda: [self.desktop.screenshot().pixel(x + width // 2, y + height + line)[1]  # noqa: E731
+                               for line in (-1, 4)]
+                wait_until(lambda: parts(*row()), what="an edge that can be seen")
+
+    def test_a_compositor_that_starts_later_makes_the_card_translucent(self):
+        with Desktop(compositor=False) as desktop:
+            App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=0.3)
+            app = App(desktop)
+            x, y, width, height = app.shown()
+            middle = (x + 14, y + height // 2)
+            self.assertLess(max(desktop.screenshot().pixel(*middle)), 4)
+            self.assertTrue(self.has_shape(desktop, app))
+
+            desktop.start_compositor()
+
+            wait_until(lambda: desktop.screenshot().pixel(*middle)[2] > 50, what="the wallpaper through the card")
+            wait_until(lambda: not self.has_shape(desktop, app), what="whole corners")
+
+            desktop.stop_compositor()
+
+            wait_until(lambda: self.has_shape(desktop, app), what="corners that are cut off again")
+
+    @staticmethod
+    def has_shape(desktop, app):
+        return "No window shape" not in desktop.run("xwininfo", "-shape", "-id", str(app.window()))
 
     # Stealth Mode
 

@@ -70,14 +70,18 @@ class ScriptsWindow:
     def text(self):
         self.click(-200, 200)
 
-    def choose_file(self, path):
-        """Through the file dialog, with the keyboard."""
-        self.key("ctrl+o")
-        wait_until(lambda: self.desktop.windows_titled(FILE_DIALOG), what="the file dialog")
+    def choose_file(self, path, shortcut="ctrl+o", dialog=FILE_DIALOG):
+        """Through the file dialog, with the keyboard. It belongs to this window, and is in front of it."""
+        self.key(shortcut)
+        opened = wait_until(lambda: self.desktop.windows_titled(dialog), what="the file dialog")[0]
+        owner = self.desktop.run("xprop", "-id", str(opened), "WM_TRANSIENT_FOR")
+        assert int(owner.split()[-1], 16) == self.id, f"{owner} is not {self.id:#x}"
+        wait_until(lambda: self.desktop.focused_window() == opened, what="the keyboard in the dialog")
         time.sleep(0.5)
+        self.key("ctrl+a")
         self.type(str(path))
         self.key("Return")
-        wait_until(lambda: not self.desktop.windows_titled(FILE_DIALOG), what="the file dialog to go")
+        wait_until(lambda: not self.desktop.windows_titled(dialog), what="the file dialog to go")
         wait_until(lambda: self.desktop.focused_window() == self.id, what="the keyboard")
 
     # Eyes
@@ -342,6 +346,54 @@ class ScriptsWindowTest(unittest.TestCase):
         window.key("BackSpace", "ctrl+v", "shift+Tab", "End")
         window.type(" 2")
         window.wait_for_active(title="Quarterly review 2", body=body)
+
+    def test_the_prompter_begins_at_the_line_of_the_cursor(self):
+        App.set_defaults(self.desktop, speed=10.0, countdownSeconds=0.0)
+        window = self.start()
+        window.wait_for_first_frame()
+        window.key("ctrl+n")
+        window.key("Return")
+        window.key(*["m", "Return"] * 12)
+        window.type("MMMMMMMM")
+        window.key("Return", *["m", "Return"] * 6)
+        window.wait_for_active(body="m\n" * 12 + "MMMMMMMM\n" + "m\n" * 6)
+        x, y, width, height = window.app.geometry()
+        self.desktop.run("xdotool", "mousemove", "10", "880")
+
+        def has_long_line():
+            """Whether the long line is near the card's top: its end is right of where a short one ends."""
+            rows = self.desktop.screenshot().rows(x + width // 8, y + height // 8, width // 2, height // 3)
+            return max(rows) > 2 * base
+        base = max(self.desktop.screenshot().rows(x + width // 8, y + height // 8, width // 2, height // 3))
+        self.assertFalse(has_long_line())
+
+        window.key(*["Up"] * 7, "ctrl+Return")
+        wait_until(has_long_line, what="the long line at the top")
+        wait_until(lambda: not has_long_line(), 30, "the text to scroll on")
+        self.assertEqual(window.active()["body"].count("\n"), 19, "the key writes nothing")
+
+    def test_scripts_are_exported_as_text_and_markdown(self):
+        window = self.start()
+        window.wait_for_first_frame()
+        for title, body in (("One", "First line"), ("Two", "Second text")):
+            window.key("ctrl+n")
+            window.type(title)
+            window.key("Return")
+            window.type(body)
+        window.wait_for_active(title="Two", body="Second text")
+
+        text = self.desktop.scratch / "two"
+        window.choose_file(text, "ctrl+e", "Export this script")
+        wait_until(text.with_suffix(".txt").exists, what="the text")
+        self.assertEqual(text.with_suffix(".txt").read_text(), "Second text\n")
+
+        markdown = self.desktop.scratch / "all.md"
+        window.choose_file(markdown, "ctrl+shift+e", "Export 3 scripts")
+        wait_until(markdown.exists, what="the Markdown")
+        self.assertTrue(markdown.read_text().startswith("# Two\n\nSecond text\n\n\n# One\n\nFirst line\n\n\n# Welcome"))
+
+        window.choose_file(pathlib.Path("/proc/nothing.txt"), "ctrl+e", "Export this script")
+        wait_until(window.shows_alert, what="that it could not be written")
 
     def test_alerts_are_answered_with_keys_and_mouse(self):
         broken = self.desktop.scratch / "broken.pptx"

@@ -13,9 +13,11 @@ from sound import SoundServer, speech
 
 WIDTH, HEIGHT = 500, 780
 
+CHECKS = ["automatic checks", "Check Now"]
 # The controls in the order in which the Tab key reaches them.
 CONTROLS = ["fontSize", "speed", "textColorName", "backgroundOpacity", "voiceFollow", "voiceSensitivity",
-            "test of the voice", "countdownSeconds", "slideshowPauseKey", "slideSync", "way to Impress", "stealthMode", "automatic checks", "Check Now"]
+            "test of the voice", "countdownSeconds", "slideshowPauseKey", "slideSync", "way to Impress", "stealthMode", *CHECKS,
+            "words a minute", "keep my pace", "time on the prompter"]
 # The sliders of the first section: rows of 42 points below its header.
 SLIDER_ROWS = {"fontSize": 59, "speed": 101, "backgroundOpacity": 185}
 SLIDER_LEFT, SLIDER_RIGHT = 236, 462
@@ -64,8 +66,9 @@ class SettingsWindowTest(unittest.TestCase):
 
     def go_to(self, control):
         """Gives the control the keyboard."""
-        target = CONTROLS.index(control)
-        self.key(*["Tab"] * (target - self.focus))
+        # Without a feed there is nothing to check, and nothing to switch.
+        target = [name for name in CONTROLS if hasattr(self, "feed") or name not in CHECKS].index(control)
+        self.key(*["Tab"] * (target - self.focus), *["shift+Tab"] * (self.focus - target))
         self.focus = target
         time.sleep(0.2)
 
@@ -174,10 +177,10 @@ class SettingsWindowTest(unittest.TestCase):
 
     def test_stealth_mode_is_in_effect_at_once(self):
         self.start()
-        x, y, width, _ = self.panel
+        x, y, width, height = self.panel
         badge = lambda: any(
-            r > 200 and g < 110 for r, g, b in (self.desktop.screenshot().pixel(px, y + 14)
-                                                for px in range(x + width // 2, x + width)))
+            r > 200 and g < 110 for r, g, b in (self.desktop.screenshot().pixel(px, y + height - 15)
+                                                for px in range(x + 60, x + width)))
         self.open()
         self.assertTrue(badge(), "the card says that recordings show it")
 
@@ -277,6 +280,35 @@ class SettingsWindowTest(unittest.TestCase):
         self.item.choose("Start Scrolling  (Alt+Super+P)")
         wait_until(lambda: self.card() != standing, what="the countdown")
 
+    def test_the_pace_in_words_and_the_time_are_in_effect_at_once(self):
+        self.start()
+        self.open()
+        self.go_to("words a minute")
+        self.key("Down")
+        slower = wait_until(lambda: App.defaults(self.desktop).get("speed"), what="the speed of that pace")
+        self.assertTrue(20 < slower < 25, slower)
+        self.go_to("keep my pace")
+        self.key("space")
+        pace = wait_until(lambda: App.defaults(self.desktop).get("keptPace"), what="the pace")
+        # Larger letters go by faster, so that the words do not.
+        self.go_to("fontSize")
+        self.key("End")
+        self.wait_for("fontSize", 64)
+        wait_until(lambda: App.defaults(self.desktop)["speed"] > 2 * slower, what="the speed of larger letters")
+        self.assertAlmostEqual(App.defaults(self.desktop)["keptPace"], pace)
+
+        without = self.time_on_the_card()
+        self.go_to("time on the prompter")
+        self.key("Down")
+        self.wait_for("cardTime", "left")
+        wait_until(lambda: self.time_on_the_card() != without, what="the time beside the status")
+
+    def time_on_the_card(self):
+        """The pixels beyond the level beam."""
+        x, y, _, height = self.panel
+        picture = self.desktop.screenshot()
+        return [picture.pixel(px, py) for py in range(y + height - 24, y + height - 6) for px in range(x + 124, x + 200)]
+
     def test_a_change_survives_a_kill(self):
         self.start()
         self.open()
@@ -314,11 +346,11 @@ class CheckNowTest(SettingsWindowTest):
         self.feed = f"http://127.0.0.1:{server.server_port}/feed"
 
     def darkest_of_button(self):
-        """The colour of the words Check Now, at the bottom right once the window has scrolled to its end."""
+        """The colour of the words Check Now, at the bottom right once the window has scrolled to the button."""
         x, y, width, height = self.frame(self.window)
         picture = self.desktop.screenshot()
         return min(max(picture.pixel(px, py)) for px in range(x + width - 100, x + width - 40)
-                   for py in range(y + height - 50, y + height - 30))
+                   for py in range(y + height - 46, y + height - 18))
 
     def test_it_is_grey_while_a_check_runs(self):
         self.start("-OrvelloAppcastURL", self.feed)

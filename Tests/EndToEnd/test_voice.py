@@ -135,12 +135,14 @@ class VoiceTest(unittest.TestCase):
         self.assertEqual(app.quit(), 0)
 
     def test_a_sound_server_that_comes_after_the_login_is_waited_for(self):
-        app = self.launch()
+        app = self.launch("LAUNCH")
+        time.sleep(3)
         self.assertFalse(self.is_moving(app))
-        self.assertEqual(self.messages("VPIO"), [])
+        self.assertEqual(self.messages() + self.messages("VPIO"), [])
 
         self.sound.start_server()
-        time.sleep(2)
+        app.wait_for_log(LISTENING)
+        time.sleep(1)
 
         self.assert_follows(app)
         self.assertEqual(app.quit(), 0)

@@ -28,7 +28,9 @@ TEST(TextEditTest, coversWhatLiesBetweenTwoPlaces)
 TEST(TextEditTest, leadsFromTheFirstTextToTheLastHoweverManyFollow)
 {
     std::mt19937 random(7);
-    const auto below = [&](qsizetype end) { return static_cast<qsizetype>(random() % end); };
+    const auto below = [&](qsizetype end) {
+        return static_cast<qsizetype>(random() % static_cast<std::size_t>(end));
+    };
     for (int round = 0; round < 500; ++round) {
         const QString before = u"The quick brown fox"_s;
         QString after = before;

@@ -2,6 +2,8 @@
 
 #include "Tests/Support/PrompterServices.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
 #include <QQuickWindow>
 
 namespace Orvello::Gallery {
@@ -68,6 +70,14 @@ void scroll(PrompterStage& stage)
     stage.services.engine.setOffset(54);
 }
 
+void pointAtTheStatus(PrompterStage& stage)
+{
+    const QPointF place(40, stage.window().height() - 15);
+    QMouseEvent move(QEvent::MouseMove, place, stage.window().mapToGlobal(place), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&stage.window(), &move);
+}
+
 void openDeck(PrompterStage& stage)
 {
     stage.services.openDeck({
@@ -121,8 +131,30 @@ Scenes prompterScenes()
                 stage.services.hear(0.03F);
                 stage.services.engine.setVoiceGate(true);
             }),
+        prompter(u"reading time"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) {
+                stage.services.settings.setCardTime(u"both"_s);
+                scroll(stage);
+            }),
+        prompter(u"what the microphone hears"_s, Wallpaper::Night,
+            [](PrompterStage& stage) {
+                stage.services.microphones.become({ .heard = u"Headset"_s });
+                stage.services.settings.setVoiceFollow(true);
+                stage.services.hear(0.03F);
+                pointAtTheStatus(stage);
+            }),
         prompter(u"visible in recordings"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.prompter.setVisibleInRecordings(true); }),
+        prompter(u"visible in recordings, folded"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.settings.setRecordingBadgeFolded(true);
+            }),
+        prompter(u"share notice where nothing hides a window"_s, Wallpaper::Photo,
+            [](PrompterStage& stage) {
+                stage.prompter.setVisibleInRecordings(true);
+                stage.services.setInCall(true);
+            }),
         prompter(u"capturable on purpose"_s, Wallpaper::Photo, [](PrompterStage&) {},
             { .forceCapturable = true }),
         prompter(u"slide chip, manual, first slide"_s, Wallpaper::Document, &openDeck),
@@ -189,6 +221,12 @@ Scenes prompterScenes()
         prompter(u"scale 1.5, scrolling"_s, Wallpaper::Night, &scroll, { .scale = 1.5 }),
         prompter(u"faintest card"_s, Wallpaper::Document,
             [](PrompterStage& stage) { stage.services.settings.setBackgroundOpacity(0.3); }),
+        prompter(u"outlined letters"_s, Wallpaper::Document,
+            [](PrompterStage& stage) {
+                stage.services.settings.setBackgroundOpacity(0.15);
+                stage.services.settings.setTextColorName(u"Pink"_s);
+                scroll(stage);
+            }),
     };
 }
 

@@ -1,6 +1,9 @@
 #include "Tests/Gallery/Scenes.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/SettingsWindow.h"
@@ -51,7 +54,11 @@ public:
         updater.feed = u"https://example.com/feed"_s;
         updates.start();
         updater.setChecks(true, Date::fromUnixSeconds(1.79e9));
-        settingsWindow.emplace(SettingsWindow::Services { settings, voice, updates, keys, facts });
+        engine.setViewportHeight(200);
+        engine.setContentHeight(1700);
+        pace.setText(u"word "_s.repeated(300));
+        settingsWindow.emplace(
+            SettingsWindow::Services { settings, voice, pace, updates, keys, compositing, facts });
         settingsWindow->view().setFlags(Qt::FramelessWindowHint);
     }
 
@@ -90,10 +97,13 @@ public:
     Testing::FakeUserDefaults defaults;
     Testing::FakeUpdater updater;
     Testing::FakeHotKeys keys;
+    Compositing compositing;
     SettingsStore settings { defaults };
     VoiceActivityEngine voice { settings,
         { time, permission, voiceProcessing, microphone, micActivity, microphones, workspace } };
     UpdateController updates { { updater, defaults, [] {} } };
+    ScrollEngine engine { settings, time };
+    ReadingPace pace { settings, engine, time };
     AssignedKeys assignedKeys;
     std::optional<SettingsWindow> settingsWindow;
 

@@ -67,7 +67,7 @@ TEST_F(HalAudioProcessesTest, takesAnyNumberButZeroForCapturing)
 TEST_F(HalAudioProcessesTest, asksNoProcessThatEndedWhileTheListWasRead)
 {
     hardware.processes = { { 41, 501, 1 }, { 42, 502, 1 } };
-    hardware.processesGoneInBetween = 1;
+    hardware.goneInBetween = 1;
 
     EXPECT_THAT(processes.capturingInput(), ElementsAre(501));
     EXPECT_EQ(hardware.calls.size(), 4);

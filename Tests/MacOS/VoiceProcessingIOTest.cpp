@@ -1,7 +1,10 @@
 #include "Orvello/Adapters/macOS/Sound/VoiceProcessingIO.h"
+#include "Orvello/Adapters/macOS/Sound/HalMicrophones.h"
 #include "Orvello/Platform/Sound/SampleListener.h"
 #include "Orvello/Voice/VoiceProcessingCapture.h"
+#include "Tests/MacOS/StandIns/AudioHardware.h"
 #include "Tests/MacOS/StandIns/VoiceUnit.h"
+#include "Tests/Support/EventLoop.h"
 
 #include <gmock/gmock.h>
 
@@ -42,7 +45,9 @@ public:
 class VoiceProcessingIOTest : public testing::Test {
 protected:
     Testing::VoiceUnit unit;
-    VoiceProcessingIO voiceProcessing;
+    Testing::AudioHardware hardware;
+    HalMicrophones microphones;
+    VoiceProcessingIO voiceProcessing { microphones };
     HeardSamples listener;
     VoiceProcessingCapture capture { voiceProcessing, listener };
 
@@ -111,6 +116,124 @@ TEST_F(VoiceProcessingIOTest, disposesOfNothingThatWasNotMade)
     capture.dispose();
 
     EXPECT_THAT(callsOnTheUnit(), IsEmpty());
+}
+
+/// With a microphone beside the built-in one, which is the system's choice.
+class ChosenMicrophoneTest : public VoiceProcessingIOTest {
+protected:
+    ChosenMicrophoneTest()
+    {
+        hardware.connect({ 77, u"BuiltIn", u"MacBook Microphone" });
+        hardware.connect({ 80, u"USB:1", u"USB Microphone" });
+        microphones.setDeviceObserver([this] { voiceProcessing.onDeviceChanged(); });
+        Testing::drainEvents();
+    }
+
+    void start(const QString& microphone)
+    {
+        microphones.choose(microphone);
+        ASSERT_TRUE(capture.start());
+        Testing::drainEvents();
+        unit.calls.clear();
+    }
+
+    static Testing::CallRecord restartOn(const std::string& device)
+    {
+        return { "stop", "uninitialize", "set 2000 global 1 4: " + device, "initialize", "start" };
+    }
+};
+
+TEST_F(ChosenMicrophoneTest, isGivenToTheUnitOnceBothSidesAreOn)
+{
+    microphones.choose(QStringLiteral("USB:1"));
+    EXPECT_TRUE(capture.start());
+
+    Testing::CallRecord expected = configuration;
+    expected.insert(expected.begin() + 2, "set 2000 global 1 4: 80");
+    expected.insert(expected.end(), { "initialize", "start" });
+    EXPECT_EQ(callsOnTheUnit(), expected);
+    Testing::drainEvents();
+    EXPECT_EQ(callsOnTheUnit(), expected) << "it has the right one already";
+}
+
+TEST_F(ChosenMicrophoneTest, neverStopsTheCaptureWhenTheUnitDoesNotTakeIt)
+{
+    unit.failures["set 2000"] = -10851;
+    microphones.choose(QStringLiteral("USB:1"));
+
+    EXPECT_TRUE(capture.start());
+}
+
+TEST_F(ChosenMicrophoneTest, takesThePlaceOfTheOneThatIsHeard)
+{
+    start({});
+
+    microphones.choose(QStringLiteral("USB:1"));
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("80"));
+
+    unit.calls.clear();
+    microphones.choose({});
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("77"));
+
+    unit.calls.clear();
+    hardware.connect({ 83, u"USB:2", u"Headset" });
+    hardware.changeDefaultInput(83);
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("83")) << "it no longer follows the system by itself";
+}
+
+TEST_F(ChosenMicrophoneTest, leavesItsPlaceWhileItIsNotConnected)
+{
+    start(QStringLiteral("USB:1"));
+
+    hardware.disconnect(80);
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("77"));
+
+    unit.calls.clear();
+    hardware.connect({ 91, u"USB:1", u"USB Microphone" });
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("91"));
+}
+
+TEST_F(ChosenMicrophoneTest, isTriedAgainAtTheNextChange)
+{
+    start({});
+    unit.failures["initialize"] = -10875;
+    microphones.choose(QStringLiteral("USB:1"));
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls.back(), "initialize");
+
+    unit.failures.clear();
+    unit.calls.clear();
+    hardware.changeDefaultInput(kAudioObjectUnknown);
+    Testing::drainEvents();
+    EXPECT_EQ(unit.calls, restartOn("80"));
+}
+
+TEST_F(ChosenMicrophoneTest, leavesAUnitAloneThatFollowsTheSystemByItself)
+{
+    start({});
+
+    hardware.connect({ 83, u"USB:2", u"Headset" });
+    hardware.changeDefaultInput(83);
+    Testing::drainEvents();
+
+    EXPECT_THAT(unit.calls, IsEmpty());
+}
+
+TEST_F(ChosenMicrophoneTest, startsNothingThatWasStopped)
+{
+    start({});
+    capture.dispose();
+    unit.calls.clear();
+
+    microphones.choose(QStringLiteral("USB:1"));
+    Testing::drainEvents();
+
+    EXPECT_THAT(unit.calls, IsEmpty());
 }
 
 /// Each step that can fail, by the beginning of its call.

@@ -15,7 +15,17 @@ public:
         return choice;
     }
 
+    std::optional<NewFile> chooseNewFile(
+        const QString& message, const QString& name, const QList<FileKind>& kinds) override
+    {
+        suggestedName = name;
+        newFile.path = chooseFile(message, kinds).value_or(QString());
+        return newFile.path.isEmpty() ? std::optional<NewFile>() : newFile;
+    }
+
     std::optional<QString> choice; ///< Nothing: the user cancels.
+    NewFile newFile; ///< Of which kind the new file is to be; its path is the choice.
+    QString suggestedName;
 
     QString shownMessage;
     QList<FileKind> shownKinds;

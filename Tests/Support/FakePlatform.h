@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
@@ -82,13 +83,14 @@ public:
     Workspace& workspace() override { return workspaceFake; }
     WindowServer& windowServer() override { return windowServerFake; }
     WindowChrome& windowChrome() override { return windowChromeFake; }
+    Compositing& compositing() override { return compositingFake; }
     DesktopServices& desktopServices() override { return desktop; }
     OpenPanel& openPanel() override { return openPanelFake; }
     StatusBar& statusBar() override { return statusBarFake; }
     HotKeys& hotKeys() override { return hotKeysFake; }
     Updater& updater() override { return updaterFake; }
     HelperProcess* impressHelper() override { return nullptr; }
-    Wakefulness* wakefulness() override { return &wakefulnessFake; }
+    Wakefulness& wakefulness() override { return wakefulnessFake; }
     bool hasHardwareRenderer() override { return false; }
 
     MicrophonePermission& microphonePermission() override { return permission; }
@@ -122,6 +124,7 @@ public:
     FakeWorkspace workspaceFake;
     FakeWindowServer windowServerFake;
     FakeWindowChrome windowChromeFake;
+    Compositing compositingFake;
     FakeWakefulness wakefulnessFake;
     FakeDesktopServices desktop;
     FakeOpenPanel openPanelFake;

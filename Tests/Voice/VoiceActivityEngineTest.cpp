@@ -160,17 +160,44 @@ TEST_F(VoiceActivityEngineTest, choosesItsPathOnceTheSoundSystemHasAnswered)
     EXPECT_EQ(time.pendingCalls(), 1u);
 }
 
-TEST_F(VoiceActivityEngineTest, startsWithoutAnAnswerWhenNoneComes)
+TEST_F(VoiceActivityEngineTest, choosesNoPathWhileItCannotKnowWhoElseHasTheMicrophone)
+{
+    for (const auto trouble : { Microphones::Trouble::NoAnswer, Microphones::Trouble::Refused }) {
+        const Testing::LogCapture ownLog;
+        journal.clear();
+        microphones.current.isReady = false;
+        microphones.current.trouble = trouble;
+        engine->requestPermissionAndStart();
+
+        time.advance(600);
+        EXPECT_THAT(journal, IsEmpty());
+        EXPECT_THAT(ownLog.lines(), IsEmpty());
+        runZoom();
+        microphones.become({});
+
+        EXPECT_TRUE(engine->isListening());
+        EXPECT_EQ(ownLog.lines().front(), "VAD: AEC held (Zoom is open) — raw mic tap");
+        engine->stop();
+    }
+}
+
+TEST_F(VoiceActivityEngineTest, givesASessionThatComesUpAMomentToFindItsMicrophone)
 {
     microphones.current.isReady = false;
+    microphones.current.trouble = Microphones::Trouble::NoAnswer;
+    microphone.rate = 0;
+    voiceProcessing.available = false;
     engine->requestPermissionAndStart();
+    time.advance(3.1);
+    microphones.current.trouble = Microphones::Trouble::NoMicrophone;
+    microphones.become(microphones.current);
 
-    time.advance(2.9);
-    EXPECT_FALSE(engine->isListening());
+    time.advance(2.8);
+    EXPECT_THAT(log.lines(), IsEmpty());
     time.advance(0.2);
 
-    EXPECT_TRUE(engine->isListening());
-    EXPECT_THAT(log.lines(), ElementsAre("VAD listening (VPIO, AEC on)"));
+    EXPECT_THAT(
+        log.lines(), ElementsAre("VPIO: component not found", "VAD: no usable input device"));
 }
 
 TEST_F(VoiceActivityEngineTest, startsOnceHoweverOftenItIsAskedWhileItWaits)

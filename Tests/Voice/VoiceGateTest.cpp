@@ -256,6 +256,20 @@ TEST_F(VoiceGateTest, shutsWhenTheMicrophoneFallsSilentInMidSentenceWithoutAWord
     EXPECT_EQ(log.lines().back(), "VAD speaking=0 rms=0.0000 thr=0.0063");
 }
 
+TEST_F(VoiceGateTest, takesWhatIsLoudAfterSuchASilenceForANewSound)
+{
+    speak();
+    time.advance(2);
+    ASSERT_FALSE(engine->isSpeaking());
+
+    hear(loud);
+    EXPECT_FALSE(engine->isSpeaking());
+    time.advance(0.125);
+    hear(loud);
+
+    EXPECT_TRUE(engine->isSpeaking());
+}
+
 TEST_F(VoiceGateTest, staysOpenThroughAStallOfTheMainLoop)
 {
     speak();

@@ -87,23 +87,113 @@ TEST_F(VoiceStatusTest, saysWhyNothingIsHeard)
     EXPECT_EQ(changes.count(), 5);
 }
 
-TEST_F(VoiceStatusTest, saysHowToGoOnWithoutAMicrophoneFromTheStart)
-{
-    microphone.rate = 0;
-    voiceProcessing.available = false;
-    become(Sound::NoMicrophone, {});
-    engine->requestPermissionAndStart();
-
-    EXPECT_EQ(engine->status(),
-        u"No microphone is connected. Connect one, then turn Voice-Follow off and on."_s);
-}
-
 TEST_F(VoiceStatusTest, aRefusedPermissionIsTheTrouble)
 {
     permission.currentStatus = MicrophonePermission::Status::Denied;
     engine->requestPermissionAndStart();
 
     EXPECT_EQ(engine->trouble(), Trouble::PermissionDenied);
+}
+
+// Only turning it off and on is a way out of these.
+
+const QString howToGoOnWithoutAMicrophone
+    = u"No microphone is connected. Connect one, then turn Voice-Follow off and on."_s;
+const QString howToGoOn
+    = u"The microphone could not be started. Turn Voice-Follow off and on to try again."_s;
+
+class DeadVoiceStatusTest : public VoiceStatusTest {
+protected:
+    DeadVoiceStatusTest()
+    {
+        connect(engine.get());
+        voiceProcessing.available = false;
+    }
+
+    void connect(VoiceActivityEngine* voice)
+    {
+        QObject::connect(voice, &VoiceActivityEngine::statusChanged, voice,
+            [this, voice] { shown = voice->status(); });
+    }
+
+    void dieWithoutAMicrophone()
+    {
+        microphone.rate = 0;
+        microphones.current.isReady = false;
+        become(Sound::NoMicrophone, {});
+        engine->requestPermissionAndStart();
+        time.advance(3.1);
+        ASSERT_FALSE(engine->isListening());
+    }
+
+    QString shown; ///< By a view that follows the signal.
+};
+
+TEST_F(DeadVoiceStatusTest, saysHowToGoOnOnceItNoLongerWaitsForAMicrophone)
+{
+    microphone.rate = 0;
+    microphones.current.isReady = false;
+    become(Sound::NoMicrophone, {});
+    engine->requestPermissionAndStart();
+    EXPECT_EQ(shown, u"No microphone is connected."_s);
+
+    time.advance(3.1);
+
+    EXPECT_EQ(shown, howToGoOnWithoutAMicrophone);
+}
+
+TEST_F(DeadVoiceStatusTest, goesOnSayingSoWhenOneIsConnected)
+{
+    dieWithoutAMicrophone();
+
+    microphones.current.isReady = true;
+    become(Sound::None);
+
+    EXPECT_EQ(engine->trouble(), Trouble::NotStarted);
+    EXPECT_EQ(shown, howToGoOn);
+    EXPECT_EQ(engine->hearing(), howToGoOn);
+}
+
+TEST_F(DeadVoiceStatusTest, saysSoOfAMicrophoneThatDoesNotStart)
+{
+    become(Sound::None);
+    microphone.startError = u"Busy"_s;
+
+    engine->requestPermissionAndStart();
+
+    EXPECT_EQ(engine->trouble(), Trouble::NotStarted);
+    EXPECT_EQ(shown, howToGoOn);
+}
+
+TEST_F(DeadVoiceStatusTest, saysSoOfAMicrophoneThatIsLostInAChangeOfPath)
+{
+    become(Sound::None);
+    voiceProcessing.available = true;
+    engine->requestPermissionAndStart();
+    ASSERT_EQ(engine->trouble(), Trouble::None);
+    microphone.startError = u"Busy"_s;
+
+    runZoom();
+    time.advance(1);
+
+    EXPECT_EQ(shown, howToGoOn);
+}
+
+TEST_F(DeadVoiceStatusTest, isOverOnceItIsTurnedOffAndOn)
+{
+    dieWithoutAMicrophone();
+    microphone.rate = 48000;
+    microphones.current.isReady = true;
+    become(Sound::None);
+
+    settings.setVoiceFollow(false);
+    engine->stop();
+    EXPECT_EQ(shown, QString());
+    settings.setVoiceFollow(true);
+    engine->requestPermissionAndStart();
+
+    EXPECT_EQ(engine->trouble(), Trouble::None);
+    EXPECT_EQ(shown, u"Listening to “Headset”.\nEcho cancellation is not available."_s);
 }
 
 // The choice of a microphone

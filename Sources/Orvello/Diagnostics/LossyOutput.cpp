@@ -7,6 +7,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <climits>
 
 namespace Orvello {
@@ -43,6 +45,7 @@ LossyOutput::LossyOutput(int descriptor)
         m_descriptor = own;
         m_isOwn = true;
     }
+    m_mayWait = !m_isOwn;
 }
 
 LossyOutput::~LossyOutput()
@@ -60,9 +63,15 @@ void LossyOutput::write(std::string_view line) noexcept
     }
     if (!takesSomething(m_descriptor))
         return;
-    // A pipe that takes something takes this much without waiting.
-    const std::string_view part = m_isOwn ? line : line.substr(0, PIPE_BUF);
-    [[maybe_unused]] const ssize_t written = ::write(m_descriptor, part.data(), part.size());
+    if (m_mayWait && line.size() > PIPE_BUF) {
+        // A pipe that takes something takes this much without waiting.
+        std::array<char, PIPE_BUF> part {};
+        std::copy_n(line.begin(), part.size() - 1, part.begin());
+        part.back() = '\n';
+        [[maybe_unused]] const ssize_t cut = ::write(m_descriptor, part.data(), part.size());
+        return;
+    }
+    [[maybe_unused]] const ssize_t written = ::write(m_descriptor, line.data(), line.size());
 }
 
 void LossyOutput::fillStandardStreams() noexcept

@@ -25,6 +25,7 @@ private:
     int m_descriptor; ///< The given one where this one cannot have its own.
     bool m_isOwn = false;
     bool m_isSocket = false;
+    bool m_mayWait = false; ///< Once more is written than it takes at a time.
 };
 
 } // namespace Orvello

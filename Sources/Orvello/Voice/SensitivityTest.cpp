@@ -52,50 +52,86 @@ SensitivityTest::SensitivityTest(
     , m_settings(settings)
     , m_time(time)
 {
+    connect(&voice, &VoiceActivityEngine::statusChanged, this, &SensitivityTest::onVoiceChanged);
 }
 
 SensitivityTest::~SensitivityTest() = default;
 
 QString SensitivityTest::message() const
 {
-    if (isRunning())
+    if (m_timer && m_voice.trouble() != VoiceActivityEngine::Trouble::None)
+        return m_voice.troubleForPeople();
+    if (m_timer)
         return tr("Speak normally for five seconds.");
+    if (m_isRunning)
+        return tr("Waiting for the microphone…");
     if (m_proposal)
         //: %1: a whole number.
         return tr("A sensitivity of %1% suits your voice here.")
             .arg(std::lround(*m_proposal * 100));
-    return m_isOver ? tr("No voice stood out from the room. Come closer to the microphone, or "
-                         "choose another one.")
-                    : QString();
+    return m_failure;
 }
 
 void SensitivityTest::begin()
 {
-    if (isRunning())
+    if (m_isRunning)
         return;
     m_loudness.clear();
     m_proposal.reset();
+    m_failure.clear();
+    m_isRunning = true;
     m_isStarter = !m_voice.isListening();
-    m_timer = m_time.callAfter(seconds, [this] { finish(); });
     if (m_isStarter)
         m_voice.requestPermissionAndStart();
+    onVoiceChanged();
+}
+
+/// Until something is captured, whatever may keep it from that ends the test: nobody waits in a
+/// window for a microphone to be bought, and nothing must be left that begins to capture later.
+void SensitivityTest::onVoiceChanged()
+{
+    if (!m_isRunning)
+        return;
+    const bool hasStopped = m_timer && !m_voice.isListening();
+    if (!m_timer && m_voice.isListening()) {
+        m_timer = m_time.callAfter(seconds, [this] { finish(); });
+    } else if (hasStopped || (!m_timer && isInVain())) {
+        m_failure = m_voice.troubleForPeople(); // None where the user stopped it.
+        end();
+    }
     Q_EMIT changed();
+}
+
+bool SensitivityTest::isInVain() const
+{
+    const bool isAnswered = m_voice.isStarted() || m_voice.micAuthorized() == false;
+    return isAnswered && m_voice.trouble() != VoiceActivityEngine::Trouble::None;
 }
 
 void SensitivityTest::hear(float rootMeanSquare)
 {
-    if (isRunning())
+    if (m_timer)
         m_loudness.push_back(rootMeanSquare);
 }
 
 void SensitivityTest::finish()
 {
-    m_timer.reset();
-    m_isOver = true;
     m_proposal = proposalFor(m_loudness);
+    if (!m_proposal)
+        m_failure = m_voice.troubleForPeople();
+    if (!m_proposal && m_failure.isEmpty())
+        m_failure = tr("No voice stood out from the room. Come closer to the microphone, or "
+                       "choose another one.");
+    end();
+    Q_EMIT changed();
+}
+
+void SensitivityTest::end()
+{
+    m_isRunning = false;
+    m_timer.reset();
     if (m_isStarter && !m_settings.voiceFollow())
         m_voice.stop();
-    Q_EMIT changed();
 }
 
 void SensitivityTest::useProposal()

@@ -16,7 +16,8 @@ class SettingsStore;
 class VoiceActivityEngine;
 
 /// Listens to the user for five seconds and proposes a sensitivity that lets this voice through on
-/// this microphone, and not the room. Captures meanwhile even where Voice-Follow is off.
+/// this microphone, and not the room. Captures meanwhile even where Voice-Follow is off. The
+/// seconds begin once something is captured: the user may have to allow it first.
 class SensitivityTest final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY changed FINAL)
@@ -39,7 +40,7 @@ public:
     SensitivityTest(VoiceActivityEngine& voice, SettingsStore& settings, TimeSource& time);
     ~SensitivityTest() override;
 
-    bool isRunning() const { return m_timer != nullptr; }
+    bool isRunning() const { return m_isRunning; }
     bool hasProposal() const { return m_proposal.has_value(); }
     std::optional<double> proposal() const { return m_proposal; }
     QString message() const;
@@ -52,16 +53,20 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void onVoiceChanged();
+    bool isInVain() const;
     void finish();
+    void end();
 
     VoiceActivityEngine& m_voice;
     SettingsStore& m_settings;
     TimeSource& m_time;
-    std::unique_ptr<TimeSource::Ticket> m_timer;
+    bool m_isRunning = false;
+    std::unique_ptr<TimeSource::Ticket> m_timer; ///< While it listens.
     std::vector<float> m_loudness;
     bool m_isStarter = false; ///< Nothing was captured before it began.
-    bool m_isOver = false;
     std::optional<double> m_proposal;
+    QString m_failure; ///< Why there is no proposal.
 };
 
 } // namespace Orvello

@@ -23,6 +23,13 @@ public:
     /// process() runs.
     void stopSpeaking() noexcept { m_speakingInternal = false; }
 
+    /// Takes the next block for the first. The thread of process().
+    void forget() noexcept
+    {
+        m_speakingInternal = false;
+        m_aboveSince.reset();
+    }
+
 private:
     float thresholdAt(double sensitivity) noexcept;
     bool speakingAfterLoudBlock(double now) noexcept;

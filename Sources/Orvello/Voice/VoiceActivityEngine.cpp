@@ -24,7 +24,8 @@ constexpr double watchdogSeconds = 1.0;
 constexpr int clearPollsBeforeAec = 5;
 constexpr int rawBlockFrames = 2048;
 
-/// How long a start waits for a microphone, in a session that is only just coming up.
+/// How long a start waits for a microphone, in a session that is only just coming up, once the
+/// sound system says that there is none.
 constexpr double startPatienceSeconds = 3.0;
 
 } // namespace
@@ -39,7 +40,8 @@ VoiceActivityEngine::VoiceActivityEngine(
     , m_reportsArrived([this] { applyPendingReports(); })
     , m_sensitivityTest(*this, settings, ports.time)
 {
-    static_assert(std::atomic<double>::is_always_lock_free);
+    static_assert(
+        std::atomic<double>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
     // Directly, not through the event loop: the very next block uses the new value.
     connect(&settings, &SettingsStore::voiceSensitivityChanged, this,
         [this] { m_sensitivity.store(m_settings.voiceSensitivity()); });
@@ -129,7 +131,21 @@ void VoiceActivityEngine::start()
     if (m_sound.isReady)
         choosePath();
     else
-        m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] { choosePath(); });
+        awaitMicrophone();
+}
+
+void VoiceActivityEngine::awaitMicrophone()
+{
+    m_patience = m_ports.time.callAfter(startPatienceSeconds, [this] {
+        // Only an answer ends the waiting: what nobody knows is no clear environment.
+        const bool isAnswered = m_sound.trouble != Microphones::Trouble::NoAnswer
+            && m_sound.trouble != Microphones::Trouble::Refused;
+        if (isAnswered)
+            return choosePath();
+        (void)m_ports.micActivity.otherProcessCapturingInput(); // The system asks itself anew.
+        awaitMicrophone();
+    });
+    Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::onMicrophonesChanged()
@@ -143,13 +159,15 @@ void VoiceActivityEngine::onMicrophonesChanged()
         choosePath();
 }
 
+bool VoiceActivityEngine::isDead() const { return m_watchdog && !m_isListening; }
+
 VoiceActivityEngine::Trouble VoiceActivityEngine::trouble() const
 {
     if (m_micAuthorized == false)
         return Trouble::PermissionDenied;
     switch (m_sound.trouble) {
     case Microphones::Trouble::None:
-        return Trouble::None;
+        return isDead() ? Trouble::NotStarted : Trouble::None;
     case Microphones::Trouble::NoAnswer:
         return Trouble::NoAnswer;
     case Microphones::Trouble::Refused:
@@ -186,9 +204,7 @@ QString VoiceActivityEngine::troubleForPeople() const
     case Trouble::NoAnswer:
         return tr("The sound system does not answer.");
     case Trouble::NoMicrophone:
-        return m_isListening || m_patience
-            ? tr("No microphone is connected.")
-            : tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+        return tr("No microphone is connected.");
     case Trouble::Muted:
         //: %1: the name of a microphone.
         return tr("The microphone “%1” is muted.").arg(m_sound.heard);
@@ -197,6 +213,8 @@ QString VoiceActivityEngine::troubleForPeople() const
         return tr("Nothing comes from the microphone “%1”. Another program may keep it to "
                   "itself.")
             .arg(m_sound.heard);
+    case Trouble::NotStarted:
+        return tr("The microphone could not be started.");
     }
     return {};
 }
@@ -222,9 +240,13 @@ QString VoiceActivityEngine::hearing() const
 {
     if (!m_settings.voiceFollow() && !m_isListening)
         return {};
-    const QString trouble = troubleForPeople();
-    if (!trouble.isEmpty() || !m_isListening || m_sound.heard.isEmpty())
-        return trouble;
+    if (isDead() && trouble() == Trouble::NoMicrophone)
+        return tr("No microphone is connected. Connect one, then turn Voice-Follow off and on.");
+    if (trouble() == Trouble::NotStarted)
+        return tr("The microphone could not be started. Turn Voice-Follow off and on to try "
+                  "again.");
+    if (trouble() != Trouble::None || !m_isListening || m_sound.heard.isEmpty())
+        return troubleForPeople();
     //: %1: the name of a microphone.
     return tr("Listening to “%1”.").arg(m_sound.heard);
 }
@@ -300,8 +322,11 @@ void VoiceActivityEngine::choosePath()
 
 void VoiceActivityEngine::stop()
 {
+    const bool wasDead = isDead();
     m_patience.reset();
     m_watchdog.reset();
+    if (wasDead)
+        Q_EMIT statusChanged();
     if (!m_isListening)
         return;
     stopCurrentCapture();
@@ -370,6 +395,8 @@ std::optional<QString> VoiceActivityEngine::runningMeetingAppName() const
 void VoiceActivityEngine::startWatchdog()
 {
     m_watchdog = m_ports.time.callEvery(watchdogSeconds, [this] { watchdogTick(); });
+    if (isDead())
+        Q_EMIT statusChanged();
 }
 
 void VoiceActivityEngine::watchdogTick()
@@ -396,6 +423,7 @@ void VoiceActivityEngine::noticeSilence()
     applyPendingReports(); // After a stall of the main loop they are only late.
     if (std::exchange(m_hasHeard, false) || !m_isSpeaking)
         return;
+    m_hasGap.store(true, std::memory_order_relaxed);
     apply({ .levelDecay = 0,
         .isSpeaking = false,
         .threshold = Loudness::speechThreshold(m_settings.voiceSensitivity()) });
@@ -468,6 +496,8 @@ void VoiceActivityEngine::onSamples(std::span<const float> samples) noexcept
 
 void VoiceActivityEngine::process(std::span<const float> samples) noexcept
 {
+    if (m_hasGap.exchange(false, std::memory_order_relaxed))
+        m_detector.forget();
     m_reports.push(m_detector.process(
         samples, m_sensitivity.load(std::memory_order_relaxed), m_ports.time.now()));
     m_reportsArrived.signal();
@@ -477,6 +507,7 @@ void VoiceActivityEngine::applyPendingReports()
 {
     while (const std::optional<BlockReport> report = m_reports.pop()) {
         m_hasHeard = true;
+        m_sensitivityTest.hear(report->rootMeanSquare);
         apply(*report);
     }
 }
@@ -484,7 +515,6 @@ void VoiceActivityEngine::applyPendingReports()
 void VoiceActivityEngine::apply(const BlockReport& report)
 {
     publish(m_level, report.smoothed(m_level), &VoiceActivityEngine::levelChanged);
-    m_sensitivityTest.hear(report.rootMeanSquare);
     if (m_isSpeaking == report.isSpeaking)
         return;
     publish(m_isSpeaking, report.isSpeaking, &VoiceActivityEngine::isSpeakingChanged);

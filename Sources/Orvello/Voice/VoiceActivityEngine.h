@@ -60,7 +60,15 @@ class VoiceActivityEngine final : public QObject, private SampleListener {
 
 public:
     /// Why nothing can be heard although it is wanted.
-    enum class Trouble { None, PermissionDenied, NoAnswer, NoMicrophone, Muted, Withheld };
+    enum class Trouble {
+        None,
+        PermissionDenied,
+        NoAnswer,
+        NoMicrophone,
+        Muted,
+        Withheld,
+        NotStarted, ///< It began in vain, and is not tried again before the next start.
+    };
     Q_ENUM(Trouble)
 
     enum class EchoCancellation {
@@ -91,6 +99,8 @@ public:
     float level() const { return m_level; } ///< Smoothed loudness, 0 to 1.
     std::optional<bool> micAuthorized() const { return m_micAuthorized; }
     bool isListening() const { return m_isListening; }
+    /// It is wanted, and may be: it listens, waits for a microphone, or began in vain.
+    bool isStarted() const { return m_patience || m_watchdog; }
     bool aecActive() const { return m_aecActive; } ///< Echo cancellation is on.
     /// Why echo cancellation is held, as the log says it; none when it is not.
     std::optional<QString> aecHoldReason() const;
@@ -98,6 +108,7 @@ public:
     Trouble trouble() const;
     EchoCancellation echoCancellation() const;
     const QString& microphoneName() const { return m_sound.heard; }
+    QString troubleForPeople() const; ///< A sentence in the user's language; empty without trouble.
     QString hearing() const;
     QString status() const;
     QStringList microphoneChoices() const;
@@ -138,9 +149,10 @@ private:
 
     void requestPermission();
     void start();
+    void awaitMicrophone();
+    bool isDead() const; ///< Started in vain: nothing will be captured before the next start.
     void choosePath();
     void onMicrophonesChanged();
-    QString troubleForPeople() const;
     QString echoCancellationForPeople() const;
     void startWatchdog();
     void watchdogTick();
@@ -182,6 +194,7 @@ private:
     bool m_hasHeard = false; ///< A block came since the watchdog last looked.
 
     VoiceActivityDetector m_detector; ///< The audio thread's, while one runs.
+    std::atomic<bool> m_hasGap = false; ///< The next block continues nothing.
     std::atomic<double> m_sensitivity; ///< Mirrors the setting for the audio thread.
     ReportQueue m_reports;
     WakeUp m_reportsArrived;

@@ -1,18 +1,14 @@
 #include "Orvello/Adapters/Portable/SocketInstance.h"
 
-#include <QDir>
+#include "Tests/Adapters/RunningInstanceContract.h"
+
 #include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QThread>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <memory>
-#include <optional>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -28,31 +24,9 @@ using ::testing::SizeIs;
 using Claim = RunningInstance::Claim;
 using Outcome = RunningInstance::Outcome;
 
-/// Starts of the program. A later one runs on a thread of its own, because it waits for the answer
-/// of the first.
-class SocketInstanceTest : public ::testing::Test {
+class SocketInstanceTest : public Testing::InstanceFixture<SocketInstance, QString> {
 protected:
-    QString place() const { return folder.filePath(u"logs"_s); }
-
-    void listen()
-    {
-        first->listen({ {}, [this](const ProgramStart& start, const auto& answer) {
-                           starts.append(start);
-                           answer(refusals);
-                       } });
-    }
-
-    static Outcome startAgain(const QString& place, const ProgramStart& start = {})
-    {
-        std::optional<Outcome> outcome;
-        const std::unique_ptr<QThread> thread(QThread::create([&] {
-            SocketInstance second(place);
-            outcome = second.claim(start);
-        }));
-        thread->start();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return thread->isFinished(); }, 60'000));
-        return outcome.value();
-    }
+    QString place() const override { return logs(); }
 
     /// Says something else than a start would.
     int connectAndSay(const QByteArray& bytes) const
@@ -67,63 +41,9 @@ protected:
             bytes.size());
         return descriptor;
     }
-
-    QTemporaryDir folder;
-    std::unique_ptr<SocketInstance> first = std::make_unique<SocketInstance>(place());
-    QStringList refusals;
-    QList<ProgramStart> starts;
 };
 
-TEST_F(SocketInstanceTest, isTheOneWhenNobodyElseRuns)
-{
-    EXPECT_EQ(first->claim({}).claim, Claim::Granted);
-}
-
-TEST_F(SocketInstanceTest, handsEverythingToTheOneThatRuns)
-{
-    ASSERT_EQ(first->claim({}).claim, Claim::Granted);
-    listen();
-    const ProgramStart start { { u"--voice"_s, u"orvello://a"_s, u"-key"_s, u"Grün"_s, u""_s },
-        u"/home/ada"_s, { { u"ORVELLO_IMPORT_PPTX"_s, u"talk.pptx"_s } } };
-
-    EXPECT_EQ(startAgain(place(), start).claim, Claim::HandedOver);
-    EXPECT_EQ(startAgain(place()).claim, Claim::HandedOver);
-
-    EXPECT_THAT(starts, ElementsAre(start, ProgramStart()));
-}
-
-TEST_F(SocketInstanceTest, tellsTheSecondStartWhatCouldNotBeDone)
-{
-    ASSERT_EQ(first->claim({}).claim, Claim::Granted);
-    refusals = { u"--no-stealth comes too late"_s };
-    listen();
-
-    const Outcome outcome = startAgain(place());
-
-    EXPECT_EQ(outcome.claim, Claim::HandedOver);
-    EXPECT_THAT(outcome.messages, ElementsAre(u"--no-stealth comes too late"_s));
-}
-
-TEST_F(SocketInstanceTest, letsAStartWaitUntilSomebodyListens)
-{
-    ASSERT_EQ(first->claim({}).claim, Claim::Granted);
-    QTimer timer;
-    timer.singleShot(300, &timer, [this] { listen(); });
-
-    EXPECT_EQ(startAgain(place(), { { u"orvello://early"_s }, {}, {} }).claim, Claim::HandedOver);
-
-    EXPECT_THAT(starts, ElementsAre(ProgramStart { { u"orvello://early"_s }, {}, {} }));
-}
-
-TEST_F(SocketInstanceTest, leavesNoFileWhenItEnds)
-{
-    ASSERT_EQ(first->claim({}).claim, Claim::Granted);
-    first.reset();
-
-    EXPECT_THAT(
-        QDir(place()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot), IsEmpty());
-    EXPECT_EQ(startAgain(place()).claim, Claim::Granted);
-}
+INSTANTIATE_TYPED_TEST_SUITE_P(SocketInstance, RunningInstanceContract, SocketInstanceTest);
 
 TEST_F(SocketInstanceTest, saysThatTheOneThatRunsDoesNotAnswer)
 {

@@ -27,7 +27,7 @@ public:
         QQmlComponent component(&m_engine);
         component.setData("import QtQuick\nTextEdit { textFormat: TextEdit.PlainText }", {});
         m_item.reset(component.create());
-        m_item->setProperty("text", editor.body());
+        m_item->setProperty("text", editor.bodyInField());
         auto* const document = m_item->property("textDocument").value<QQuickTextDocument*>();
         editor.follow(document);
         m_document = document->textDocument();
@@ -217,6 +217,71 @@ TEST_F(OpenScriptsTest, keepsCharactersThatADocumentHasOthersFor)
     EXPECT_EQ(
         other.library.activeScript()->body, u"A non\u00a0breaking\u2028line\nWindows!\rMac"_s);
     EXPECT_EQ(scriptsChanged.count(), 2);
+}
+
+TEST_F(OpenScriptsTest, breaksLinesWhereTheCardDoesAndKeepsWhatBreaksThem)
+{
+    const QString body = u"1\v2\f3\u00854\u20285\u20296\r7\n8"_s;
+    LibraryServices other { { LibraryServices::script(u"Odd"_s, body) } };
+    OpenScripts scripts(other.library);
+    TextField field(*scripts.active());
+    EXPECT_EQ(field.document().toPlainText(), u"1\n2\n3\n4\n5\n6\n7\n8"_s);
+    EXPECT_EQ(field.document().blockCount(), 8);
+
+    field.replace(15, 15, u"!"_s);
+    field.replace(0, 0, u"!"_s);
+    QTextCursor all(&field.document());
+    all.select(QTextCursor::Document);
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    all.mergeCharFormat(bold);
+    EXPECT_EQ(other.library.activeScript()->body, u"!"_s + body + u"!"_s);
+
+    field.replace(2, 5, u"\n2"_s); // The second of three breaks goes.
+    EXPECT_EQ(other.library.activeScript()->body, u"!1\v23\u00854\u20285\u20296\r7\n8!"_s);
+
+    other.library.editActive(3, 1, u"\f\f"_s);
+    EXPECT_EQ(field.document().toPlainText(), u"!1\n\n\n3\n4\n5\n6\n7\n8!"_s);
+    EXPECT_EQ(other.library.activeScript()->body, scripts.active()->body());
+}
+
+TEST_F(OpenScriptsTest, breaksLinesThatAreInsertedWhereTheCardDoes)
+{
+    TextField field(active());
+    QTextCursor cursor(&field.document());
+    cursor.setPosition(3);
+
+    field.replace(2, 3, u"\vbe\u2028\u2028or\f"_s);
+    EXPECT_EQ(field.document().toPlainText(), u"To\nbe\n\nor\nbe or not"_s);
+    EXPECT_EQ(field.document().blockCount(), 5);
+    EXPECT_EQ(storedBody(), u"To\vbe\u2028\u2028or\fbe or not"_s);
+    EXPECT_EQ(cursor.position(), 10);
+
+    field.document().undo();
+    EXPECT_EQ(field.document().toPlainText(), u"To be or not"_s);
+    EXPECT_EQ(storedBody(), u"To be or not"_s);
+
+    field.document().redo();
+    EXPECT_EQ(field.document().toPlainText(), u"To\nbe\n\nor\nbe or not"_s);
+    EXPECT_EQ(storedBody(), active().body());
+}
+
+TEST_F(OpenScriptsTest, knowsWhereALineBeginsInTheLibrary)
+{
+    const QString body = u"One two\r\nthree\vfour\r\nfive"_s;
+    LibraryServices other { { LibraryServices::script(u"Odd"_s, body) } };
+    OpenScripts scripts(other.library);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 5), 0) << "nobody has seen it yet";
+    TextField field(*scripts.active());
+    field.document().setTextWidth(10'000); // Lays it out.
+
+    EXPECT_EQ(scripts.active()->startOfLine(body, 4), 0);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 10), 9);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 14), 15);
+    EXPECT_EQ(scripts.active()->startOfLine(body, 23), 21);
+
+    field.replace(0, 0, u"!"_s); // The library has plain line feeds from here on.
+    EXPECT_EQ(scripts.active()->startOfLine(other.library.activeScript()->body, 24), 20);
 }
 
 TEST_F(OpenScriptsTest, showsWhatAnotherChangesAndLeavesTheCursorAlone)

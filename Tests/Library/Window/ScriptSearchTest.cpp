@@ -53,6 +53,27 @@ TEST_F(ScriptSearchTest, findsTitlesAndTextsInEitherCase)
     EXPECT_EQ(search.rowCount(), 3);
 }
 
+TEST_F(ScriptSearchTest, findsWhateverTheTextContains)
+{
+    const QStringList texts { u"Straße nach Ägypten, ÇA VA ΣΟΦΟΣ"_s, u"x"_s, u"aab"_s, u"😀 smile"_s,
+        {} };
+    QList<Script> list;
+    for (const QString& text : texts)
+        list.append(Testing::LibraryServices::script(u"#"_s, text));
+    Testing::LibraryServices many { list };
+    ScriptListModel rows { many.library };
+    ScriptSearch every { many.library, rows };
+
+    for (const QString& sought : { u"STRAß"_s, u"ägyp"_s, u"ça va"_s, u"σοφος"_s, u"X"_s, u"AB"_s,
+             u"ab "_s, u"aabb"_s, u"😀 S"_s, u"smile"_s, u"SMILES"_s, u", ç"_s }) {
+        int expected = 0;
+        for (const QString& text : texts)
+            expected += text.contains(sought, Qt::CaseInsensitive) ? 1 : 0;
+        every.setText(sought);
+        EXPECT_EQ(every.rowCount(), expected) << sought.toStdString();
+    }
+}
+
 TEST_F(ScriptSearchTest, activatesAmongWhatItFound)
 {
     services.library.setActiveScriptID(services.library.scripts()[1].id);

@@ -9,6 +9,7 @@
 #include "Orvello/Shell/Commands/StatusItem.h"
 #include "Tests/MacOS/GNUstep/GNUstepTest.h"
 #include "Tests/MacOS/GNUstep/RecordingField.h"
+#include "Tests/Support/LogCapture.h"
 #include "Tests/Support/PrivateXServer.h"
 
 #include <QGuiApplication>
@@ -140,6 +141,18 @@
 @synthesize menu;
 @end
 
+namespace {
+
+bool isBarOutOfReach = false; ///< Whatever is asked of it raises an exception.
+
+void reachBar()
+{
+    if (isBarOutOfReach)
+        [NSException raise:NSInternalInconsistencyException format:@"no window server"];
+}
+
+} // namespace
+
 @interface RecordedStatusBar : NSObject {
     NSMutableArray* items;
 }
@@ -151,6 +164,7 @@
 
 - (id)statusItemWithLength:(CGFloat)length
 {
+    reachBar();
     if (!items)
         items = [[NSMutableArray alloc] init];
     RecordedStatusItem* const item = [[[RecordedStatusItem alloc] init] autorelease];
@@ -162,6 +176,7 @@
 
 - (void)removeStatusItem:(id)item
 {
+    reachBar();
     [items removeObject:item];
 }
 
@@ -222,6 +237,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 class WindowWithField : public QWindow {
@@ -527,6 +543,37 @@ TEST_F(MenusTest, takesTheItemAway)
     bar.makeStatusItem(menu, QIcon(QPixmap(18, 18)), u"Orvello"_s).reset();
 
     EXPECT_EQ([recordedStatusBar().items count], 0U);
+}
+
+TEST_F(MenusTest, goesOnWithoutTheItemWhereTheBarRaisesAnException)
+{
+    ChangingMenu menu;
+    CocoaMenuBar bar;
+    const Testing::LogCapture log;
+    isBarOutOfReach = true;
+    auto item = bar.makeStatusItem(menu, QIcon(QPixmap(18, 18)), u"Orvello"_s);
+    EXPECT_THAT(log.lines(),
+        ElementsAre(HasSubstr("EXCEPTION NSInternalInconsistencyException: no window server")));
+
+    item->openMenu();
+    item.reset();
+    EXPECT_EQ(log.lines().size(), 1u) << "there was nothing to take away";
+    isBarOutOfReach = false;
+}
+
+TEST_F(MenusTest, goesOnWhereTheBarKeepsTheItem)
+{
+    ChangingMenu menu;
+    CocoaMenuBar bar;
+    auto item = bar.makeStatusItem(menu, QIcon(QPixmap(18, 18)), u"Orvello"_s);
+    const Testing::LogCapture log;
+
+    isBarOutOfReach = true;
+    item.reset();
+    isBarOutOfReach = false;
+
+    EXPECT_THAT(log.lines(), ElementsAre(HasSubstr("no window server")));
+    [recordedStatusBar().items removeAllObjects];
 }
 
 } // namespace

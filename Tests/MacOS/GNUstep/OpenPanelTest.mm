@@ -46,6 +46,14 @@ __kindof NSApplication* NSApp = nil;
 @implementation NSPanel
 @end
 @implementation NSSavePanel
++ (NSSavePanel*)savePanel
+{
+    return [[[NSSavePanel alloc] init] autorelease];
+}
+- (void)setNameFieldStringValue:(NSString*)name
+{
+    record("name " + text(name));
+}
 - (void)setMessage:(NSString*)message
 {
     record("message " + text(message));
@@ -125,6 +133,13 @@ protected:
             { { .typeIdentifier = u"org.deck"_s, .extension = u"pptx"_s },
                 { .typeIdentifier = u"org.slides"_s, .extension = u"odp"_s } });
     }
+
+    static std::optional<OpenPanel::NewFile> chooseNew()
+    {
+        return CocoaOpenPanel().chooseNewFile(u"Where to?"_s, u"Talk"_s,
+            { { .typeIdentifier = u"public.plain-text"_s, .extension = u"txt"_s },
+                { .typeIdentifier = u"net.daringfireball.markdown"_s, .extension = u"md"_s } });
+    }
 };
 
 TEST_F(OpenPanelTest, opensThePanelOfFilesAboveThePrompterAndInFront)
@@ -132,8 +147,8 @@ TEST_F(OpenPanelTest, opensThePanelOfFilesAboveThePrompterAndInFront)
     EXPECT_EQ(choose(), u"/decks/talk.pptx"_s);
 
     EXPECT_THAT(calls(),
-        ElementsAre("message Choose a deck", "type org.deck", "type org.slides", "types 2", "one",
-            "no folders", "files", "level 1001", "activated", "runs"));
+        ElementsAre("one", "no folders", "files", "message Choose a deck", "type org.deck",
+            "type org.slides", "types 2", "level 1001", "activated", "runs"));
 }
 
 TEST_F(OpenPanelTest, findsATypeThatTheSystemDoesNotKnowByItsExtension)
@@ -149,6 +164,28 @@ TEST_F(OpenPanelTest, choosesNothingWhenTheUserCancels)
 {
     response = 0;
     EXPECT_EQ(choose(), std::nullopt);
+    EXPECT_FALSE(chooseNew());
+}
+
+TEST_F(OpenPanelTest, asksForANewFileAboveThePrompterAndInFront)
+{
+    chosen = [NSURL fileURLWithPath:@"/texts/Talk.txt"];
+    const auto file = chooseNew();
+
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->path, u"/texts/Talk.txt"_s);
+    EXPECT_EQ(file->kind, 0);
+    EXPECT_THAT(calls(),
+        ElementsAre("name Talk.txt", "message Where to?", "type public.plain-text",
+            "type net.daringfireball.markdown", "types 2", "level 1001", "activated", "runs"));
+}
+
+TEST_F(OpenPanelTest, takesTheKindOfANewFileFromItsExtension)
+{
+    chosen = [NSURL fileURLWithPath:@"/texts/Talk.MD"];
+    EXPECT_EQ(chooseNew()->kind, 1);
+    chosen = [NSURL fileURLWithPath:@"/texts/Talk"];
+    EXPECT_EQ(chooseNew()->kind, 0);
 }
 
 } // namespace

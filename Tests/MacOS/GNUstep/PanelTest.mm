@@ -36,6 +36,7 @@ struct Recorded {
     bool isActive = false;
     NSEvent* event = nil;
     NSRect screen = NSMakeRect(0, 0, 1440, 900);
+    std::string raising; ///< The call that raises an exception.
 };
 
 Recorded& recorded()
@@ -44,7 +45,12 @@ Recorded& recorded()
     return instance;
 }
 
-void record(const std::string& call) { recorded().calls.push_back(call); }
+void record(const std::string& call)
+{
+    recorded().calls.push_back(call);
+    if (call == recorded().raising)
+        [NSException raise:NSInternalInconsistencyException format:@"AppKit is not well"];
+}
 
 /// The call's name, and its argument where that is one number.
 std::string description(NSInvocation* call)
@@ -188,6 +194,10 @@ NSString* const NSApplicationDidResignActiveNotification
 }
 @end
 
+namespace {
+id trackingOwner = nil;
+}
+
 @implementation NSTrackingArea
 - (instancetype)initWithRect:(NSRect)rect
                      options:(NSTrackingAreaOptions)options
@@ -195,6 +205,7 @@ NSString* const NSApplicationDidResignActiveNotification
                     userInfo:(NSDictionary*)userInfo
 {
     record("tracks with " + std::to_string(options));
+    trackingOwner = owner;
     return [super init];
 }
 @end
@@ -404,6 +415,22 @@ TEST_F(PanelTest, isDraggedByWhatTakesNoPressAndTellsTheViewOfTheRelease)
     expectInOrder({ "performWindowDragWithEvent:", "mouseUp:" });
 }
 
+TEST_F(PanelTest, takesTheRestBackWhereAppKitRaisesAnException)
+{
+    for (const std::string call :
+        { "orderOut:", "removeTrackingArea:", "removeFromSuperview", "close" }) {
+        panel = std::make_unique<CocoaPanel>(view, screens);
+        recorded().calls.clear();
+        recorded().raising = call;
+
+        panel.reset();
+
+        recorded().raising.clear();
+        placeOf("reportException:");
+        expectInOrder({ "orderOut:", "removeTrackingArea:", "removeFromSuperview", "close" });
+    }
+}
+
 TEST_F(PanelTest, takesEverythingBackInTheEnd)
 {
     const QSignalSpy resized(panel.get(), &NativePanel::resized);
@@ -416,6 +443,12 @@ TEST_F(PanelTest, takesEverythingBackInTheEnd)
     post(NSApplicationDidChangeScreenParametersNotification);
     post(NSApplicationDidResignActiveNotification);
     [[NSRunLoop currentRunLoop] runUntilDate:[NSDate dateWithTimeIntervalSinceNow:0.05]];
+    EventNotes notes(view);
+    NSEvent* const late = [[[NSEvent alloc] init] autorelease];
+    [trackingOwner mouseEntered:late];
+    [trackingOwner mouseMoved:late];
+    [trackingOwner mouseExited:late];
+    EXPECT_THAT(notes.seen, IsEmpty());
 }
 
 } // namespace

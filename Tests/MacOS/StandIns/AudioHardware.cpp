@@ -4,6 +4,11 @@
 #include <cstring>
 #include <string>
 
+/// A text, which has one owner here.
+struct __CFString {
+    std::u16string text;
+};
+
 namespace Orvello::Testing {
 
 namespace {
@@ -33,12 +38,44 @@ AudioHardware*& AudioHardware::current()
     return hardware;
 }
 
+const AudioHardware::Device* AudioHardware::deviceWith(AudioObjectID object) const
+{
+    const auto device = std::find_if(devices.begin(), devices.end(),
+        [object](const Device& candidate) { return candidate.object == object; });
+    return device == devices.end() ? nullptr : &*device;
+}
+
+std::vector<AudioObjectID> AudioHardware::objectsOf(
+    AudioObjectID object, const AudioObjectPropertyAddress& address) const
+{
+    std::vector<AudioObjectID> objects;
+    if (address.mSelector == kAudioHardwarePropertyProcessObjectList)
+        for (const Process& process : processes)
+            objects.push_back(process.object);
+    if (address.mSelector == kAudioHardwarePropertyDevices)
+        for (const Device& device : devices)
+            objects.push_back(device.object);
+    if (address.mSelector == kAudioDevicePropertyStreams
+        && address.mScope == kAudioObjectPropertyScopeInput)
+        if (const Device* const device = deviceWith(object))
+            objects.assign(device->inputStreams, 1000);
+    return objects;
+}
+
+bool AudioHardware::hasProperty(
+    AudioObjectID object, const AudioObjectPropertyAddress& address) const
+{
+    const Device* const device = deviceWith(object);
+    return device && fourCharacters(address.mSelector) == "tapd"
+        && address.mScope == kAudioObjectPropertyScopeOutput && device->deliversPlayedSound;
+}
+
 OSStatus AudioHardware::propertyDataSize(
     AudioObjectID object, const AudioObjectPropertyAddress& address, UInt32& bytes)
 {
     calls.push_back("size " + described(object, address));
     if (sizeStatus == noErr)
-        bytes = static_cast<UInt32>(processes.size() * sizeof(AudioObjectID));
+        bytes = static_cast<UInt32>(objectsOf(object, address).size() * sizeof(AudioObjectID));
     return sizeStatus;
 }
 
@@ -46,10 +83,30 @@ OSStatus AudioHardware::propertyData(
     AudioObjectID object, const AudioObjectPropertyAddress& address, UInt32& bytes, void* data)
 {
     calls.push_back("read " + described(object, address) + ' ' + std::to_string(bytes));
-    if (address.mSelector == kAudioHardwarePropertyProcessObjectList)
-        return listStatus == noErr ? readList(bytes, data) : listStatus;
-    if (address.mSelector == kAudioHardwarePropertyDefaultInputDevice)
+    if (std::vector<AudioObjectID> objects = objectsOf(object, address); !objects.empty()) {
+        if (address.mSelector == kAudioHardwarePropertyProcessObjectList && listStatus != noErr)
+            return listStatus;
+        objects.resize(objects.size() - std::min(goneInBetween, objects.size()));
+        bytes = std::min(bytes, static_cast<UInt32>(objects.size() * sizeof(AudioObjectID)));
+        if (bytes > 0)
+            std::memcpy(data, objects.data(), bytes);
+        return noErr;
+    }
+    if (address.mSelector == kAudioHardwarePropertyDefaultInputDevice
+        && defaultInputStatus == noErr)
         return readValue(&defaultInput, sizeof defaultInput, bytes, data);
+    const bool ofInput = address.mScope == kAudioObjectPropertyScopeInput;
+    if (const Device* const device = deviceWith(object)) {
+        if (address.mSelector == kAudioDevicePropertyDeviceUID)
+            return readText(device->identifier, bytes, data);
+        if (address.mSelector == kAudioObjectPropertyName)
+            return readText(device->name, bytes, data);
+        if (address.mSelector == kAudioDevicePropertyDeviceCanBeDefaultDevice && ofInput)
+            return readValue(&device->canBeDefault, sizeof(UInt32), bytes, data);
+        if (address.mSelector == kAudioDevicePropertyMute && ofInput && device->isMuted)
+            return readValue(&*device->isMuted, sizeof(UInt32), bytes, data);
+        return unknownProperty;
+    }
     const auto process = std::find_if(processes.begin(), processes.end(),
         [object](const Process& candidate) { return candidate.object == object; });
     if (process == processes.end())
@@ -61,34 +118,39 @@ OSStatus AudioHardware::propertyData(
     return unknownProperty;
 }
 
-OSStatus AudioHardware::readList(UInt32& bytes, void* data) const
+OSStatus AudioHardware::readText(const std::u16string& text, UInt32& bytes, void* data)
 {
-    std::vector<AudioObjectID> objects;
-    for (std::size_t i = 0; i + processesGoneInBetween < processes.size(); ++i)
-        objects.push_back(processes[i].object);
-    bytes = std::min(bytes, static_cast<UInt32>(objects.size() * sizeof(AudioObjectID)));
-    if (bytes > 0)
-        std::memcpy(data, objects.data(), bytes);
-    return noErr;
+    const CFStringRef string = new __CFString { text };
+    ++stringsInUse;
+    return readValue(&string, sizeof string, bytes, data);
 }
 
-void AudioHardware::addListener(AudioObjectPropertyListenerProc listener, void* client)
+void AudioHardware::tell(AudioObjectPropertySelector property) const
 {
-    m_listeners.push_back({ listener, client });
-}
-
-void AudioHardware::removeListener(AudioObjectPropertyListenerProc listener, void* client)
-{
-    std::erase(m_listeners, Listener { listener, client });
+    const AudioObjectPropertyAddress address { property, kAudioObjectPropertyScopeGlobal,
+        kAudioObjectPropertyElementMain };
+    for (const Listener& listener : listeners) {
+        if (listener.property == property)
+            listener.function(kAudioObjectSystemObject, 1, &address, listener.client);
+    }
 }
 
 void AudioHardware::changeDefaultInput(AudioObjectID device)
 {
-    constexpr AudioObjectPropertyAddress address { kAudioHardwarePropertyDefaultInputDevice,
-        kAudioObjectPropertyScopeGlobal, kAudioObjectPropertyElementMain };
     defaultInput = device;
-    for (const Listener& listener : m_listeners)
-        listener.function(kAudioObjectSystemObject, 1, &address, listener.client);
+    tell(kAudioHardwarePropertyDefaultInputDevice);
+}
+
+void AudioHardware::connect(const Device& device)
+{
+    devices.push_back(device);
+    tell(kAudioHardwarePropertyDevices);
+}
+
+void AudioHardware::disconnect(AudioObjectID object)
+{
+    std::erase_if(devices, [object](const Device& device) { return device.object == object; });
+    tell(kAudioHardwarePropertyDevices);
 }
 
 } // namespace Orvello::Testing
@@ -107,16 +169,36 @@ OSStatus AudioObjectGetPropertyData(AudioObjectID object, const AudioObjectPrope
     return AudioHardware::current()->propertyData(object, *address, *bytes, data);
 }
 
-OSStatus AudioObjectAddPropertyListener(AudioObjectID, const AudioObjectPropertyAddress*,
+OSStatus AudioObjectAddPropertyListener(AudioObjectID, const AudioObjectPropertyAddress* address,
     AudioObjectPropertyListenerProc listener, void* client)
 {
-    AudioHardware::current()->addListener(listener, client);
+    AudioHardware::current()->listeners.push_back({ address->mSelector, listener, client });
     return noErr;
 }
 
-OSStatus AudioObjectRemovePropertyListener(AudioObjectID, const AudioObjectPropertyAddress*,
+OSStatus AudioObjectRemovePropertyListener(AudioObjectID, const AudioObjectPropertyAddress* address,
     AudioObjectPropertyListenerProc listener, void* client)
 {
-    AudioHardware::current()->removeListener(listener, client);
+    std::erase(AudioHardware::current()->listeners,
+        AudioHardware::Listener { address->mSelector, listener, client });
     return noErr;
+}
+
+Boolean AudioObjectHasProperty(AudioObjectID object, const AudioObjectPropertyAddress* address)
+{
+    return AudioHardware::current()->hasProperty(object, *address);
+}
+
+void CFRelease(CFTypeRef string)
+{
+    delete static_cast<CFStringRef>(string);
+    --AudioHardware::current()->stringsInUse;
+}
+
+CFIndex CFStringGetLength(CFStringRef string) { return static_cast<CFIndex>(string->text.size()); }
+
+void CFStringGetCharacters(CFStringRef string, CFRange range, UniChar* buffer)
+{
+    string->text.copy(reinterpret_cast<char16_t*>(buffer), static_cast<std::size_t>(range.length),
+        static_cast<std::size_t>(range.location));
 }

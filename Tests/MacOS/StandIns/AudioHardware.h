@@ -6,18 +6,30 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace Orvello::Testing {
 
-/// Stands in for the audio hardware layer: process objects, and a record of what is read of them.
-/// Linked into a test in place of CoreAudio; one exists at a time.
+/// Stands in for the audio hardware layer: devices and process objects, and a record of what is
+/// read of them. Linked into a test in place of CoreAudio and of CoreFoundation's texts; one exists
+/// at a time.
 class AudioHardware final {
 public:
     struct Process {
         AudioObjectID object = 0;
         std::optional<std::int32_t> pid; ///< Nothing: reading it fails.
         std::optional<UInt32> isRunningInput; ///< The same.
+    };
+
+    struct Device {
+        AudioObjectID object = 0;
+        std::u16string identifier;
+        std::u16string name;
+        std::size_t inputStreams = 1;
+        UInt32 canBeDefault = 1;
+        std::optional<UInt32> isMuted = {}; ///< Nothing: it has no such switch.
+        bool deliversPlayedSound = false; ///< A loudspeaker, for echo cancellers.
     };
 
     AudioHardware() { current() = this; }
@@ -32,27 +44,37 @@ public:
     OSStatus propertyData(
         AudioObjectID object, const AudioObjectPropertyAddress& address, UInt32& bytes, void* data);
 
-    void addListener(AudioObjectPropertyListenerProc listener, void* client);
-    void removeListener(AudioObjectPropertyListenerProc listener, void* client);
-    std::size_t listenerCount() const { return m_listeners.size(); }
-    void changeDefaultInput(AudioObjectID device);
+    bool hasProperty(AudioObjectID object, const AudioObjectPropertyAddress& address) const;
 
-    std::vector<Process> processes;
-    AudioObjectID defaultInput = 77;
-    OSStatus sizeStatus = noErr;
-    OSStatus listStatus = noErr;
-    std::size_t processesGoneInBetween = 0; ///< How many end between the two reads of the list.
-    CallRecord calls;
-
-private:
     struct Listener {
+        AudioObjectPropertySelector property;
         AudioObjectPropertyListenerProc function;
         void* client;
         friend bool operator==(const Listener&, const Listener&) = default;
     };
+    std::vector<Listener> listeners;
 
-    std::vector<Listener> m_listeners;
-    OSStatus readList(UInt32& bytes, void* data) const;
+    void changeDefaultInput(AudioObjectID device);
+    void connect(const Device& device);
+    void disconnect(AudioObjectID device);
+
+    std::vector<Device> devices;
+    std::vector<Process> processes;
+    AudioObjectID defaultInput = 77;
+    OSStatus defaultInputStatus = noErr;
+    OSStatus sizeStatus = noErr;
+    OSStatus listStatus = noErr;
+    std::size_t goneInBetween = 0; ///< How many objects go between the two reads of a list.
+    CallRecord calls;
+
+    int stringsInUse = 0; ///< Texts that were handed out and not released.
+
+private:
+    const Device* deviceWith(AudioObjectID object) const;
+    std::vector<AudioObjectID> objectsOf(
+        AudioObjectID object, const AudioObjectPropertyAddress& address) const;
+    OSStatus readText(const std::u16string& text, UInt32& bytes, void* data);
+    void tell(AudioObjectPropertySelector property) const;
 };
 
 } // namespace Orvello::Testing

@@ -74,6 +74,7 @@ Value valueAt(const void* data)
 std::string described(AudioUnitPropertyID property, const void* data)
 {
     switch (property) {
+    case kAudioOutputUnitProperty_CurrentDevice:
     case kAudioOutputUnitProperty_EnableIO:
         return std::to_string(valueAt<UInt32>(data));
     case kAudioUnitProperty_StreamFormat:

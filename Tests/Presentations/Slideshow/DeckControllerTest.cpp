@@ -89,6 +89,44 @@ TEST_F(DeckControllerTest, showsNothingBeforeTheMainLoopRuns)
     EXPECT_EQ(fresh.syncState(), State::Idle);
 }
 
+TEST_F(DeckControllerTest, goesToTheSlideThatHasAPlaceOfTheText)
+{
+    const QString body = library.activeScript()->body;
+
+    EXPECT_EQ(controller.goTo(body.indexOf(u"notes")), 6);
+    EXPECT_EQ(controller.promptText(), u"First notes"_s);
+    EXPECT_EQ(controller.goTo(body.indexOf(u"Last notes") + 5), 5);
+    EXPECT_EQ(controller.promptText(), u"Last notes"_s);
+    EXPECT_EQ(controller.goTo(body.indexOf(u"Slide 2")), 0);
+    EXPECT_EQ(controller.displayIndex(), 1);
+    EXPECT_EQ(controller.goTo(body.size() + 100), 10);
+    EXPECT_EQ(controller.goTo(body.indexOf(u"Intro")), 0);
+    EXPECT_EQ(controller.displayIndex(), 0);
+}
+
+TEST_F(DeckControllerTest, goesNowhereWhileASlideshowShowsAnotherSlide)
+{
+    showLive(1);
+    EXPECT_EQ(controller.goTo(library.activeScript()->body.indexOf(u"Last")), std::nullopt);
+    EXPECT_EQ(controller.promptText(), u"First notes"_s);
+    EXPECT_EQ(controller.goTo(library.activeScript()->body.indexOf(u"notes")), 6);
+}
+
+TEST_F(DeckControllerTest, goesToAPlaceOfATextThatHasJustChanged)
+{
+    library.addScript();
+    library.updateActive({}, u"Hello all"_s);
+    EXPECT_EQ(controller.goTo(6), 6);
+    EXPECT_EQ(controller.promptText(), u"Hello all"_s);
+
+    library.setActiveScriptID(deck);
+    EXPECT_EQ(controller.goTo(library.activeScript()->body.indexOf(u"Last")), 0);
+    EXPECT_EQ(controller.promptText(), u"Last notes"_s);
+
+    setTracking(false);
+    EXPECT_EQ(controller.goTo(40), 40);
+}
+
 TEST_F(DeckControllerTest, showsTheFirstSlideOfADeck)
 {
     EXPECT_EQ(controller.promptText(), u"First notes"_s);

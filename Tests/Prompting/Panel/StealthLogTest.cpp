@@ -46,6 +46,18 @@ TEST_F(StealthLogTest, makesItsFolderAndFile)
     EXPECT_THAT(content(), MatchesRegex(std::string(stampPattern) + "APPLY ON\n"));
 }
 
+TEST_F(StealthLogTest, belongsToItsOwnerAlone)
+{
+    constexpr auto owners
+        = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    log.write(u"new"_s);
+    EXPECT_EQ(QFileInfo(path()).permissions(), owners);
+
+    QFile::setPermissions(path(), owners | QFile::ReadGroup | QFile::ReadOther);
+    log.write(u"of an older version"_s);
+    EXPECT_EQ(QFileInfo(path()).permissions(), owners);
+}
+
 TEST_F(StealthLogTest, appendsOneLineAMessage)
 {
     log.write(u"first"_s);

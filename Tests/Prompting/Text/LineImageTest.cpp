@@ -92,6 +92,42 @@ TEST_F(LineImageTest, showsTheHyphenWhereASoftOneDividesAWord)
     EXPECT_GT(divided.right(), imageOf(u"aaaaaaa"_s).place.right() + 3);
 }
 
+TEST_F(LineImageTest, showsTheHyphenInBidirectionalTextWhereTheLineBreaksAtIt)
+{
+    const QString leftToRightMark = u"\u200E"_s;
+    const auto ink = [this](const QString& text) {
+        const QImage pixels = imageOf(text).pixels;
+        double sum = 0;
+        for (int y = 0; y < pixels.height(); ++y) {
+            for (int x = 0; x < pixels.width(); ++x)
+                sum += qAlpha(pixels.pixel(x, y)) / 255.0;
+        }
+        return sum;
+    };
+    const auto expectHyphen
+        = [&](const QString& divided, const QString& line, const QString& mark) {
+              EXPECT_NEAR(ink(divided), ink(line + u'-' + mark), 8) << line.toStdString();
+              EXPECT_GT(ink(divided), ink(line) + 40) << line.toStdString();
+          };
+
+    typography.width = 260;
+    expectHyphen(u"x אבג aaaa\u00ADaaaa"_s, u"x אבג aaaa"_s, {});
+    expectHyphen(u"אבג aaaa\u00ADaaaa"_s, u"אבג aaaa"_s, leftToRightMark);
+    expectHyphen(u"سلامسلام\u00ADسلامسلام"_s, u"سلامسلام"_s, {});
+    typography.width = 300;
+    expectHyphen(u"אב aaaa\u00ADaaaa\u00ADaaaa"_s, u"אב aaaaaaaa"_s, leftToRightMark);
+}
+
+TEST_F(LineImageTest, showsNoHyphenWhereTheLineDoesNotBreakAtIt)
+{
+    for (const auto& [hyphenated, plain] : { std::pair(u"aa\u00ADaa bb"_s, u"aaaa bb"_s),
+             std::pair(u"x אבג aa\u00ADaa bb"_s, u"x אבג aaaa bb"_s),
+             std::pair(u"אבג aa\u00ADaa bb"_s, u"אבג aaaa bb"_s),
+             std::pair(u"aaaa\u00ADאבג aaaa"_s, u"aaaaאבג aaaa"_s),
+             std::pair(u"אב\u00ADגד x"_s, u"אבגד x"_s) })
+        EXPECT_EQ(imageOf(hyphenated).pixels, imageOf(plain).pixels) << plain.toStdString();
+}
+
 TEST_F(LineImageTest, hasTwoRowsForEachDevicePixelAtAnyScale)
 {
     for (const double scale : { 1.0, 1.25, 1.5, 2.0 }) {

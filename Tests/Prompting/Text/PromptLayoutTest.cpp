@@ -165,6 +165,41 @@ TEST(PromptLayoutTest, trimsWhatEndsALine)
     EXPECT_EQ(texts(fresh(u"one  \t \n  two"_s)), QStringList({ u"one"_s, u"  two"_s }));
 }
 
+TEST(PromptLayoutTest, makesNoLineOfSpacesThatHangOverALinesEnd)
+{
+    const auto between
+        = [](const QString& spaces) { return texts(fresh(u"a"_s + spaces + u"b"_s)); };
+    const QStringList twoLines { u"a"_s, u"b"_s };
+
+    for (const qsizetype count : { 60, 999, 1000, 1500, 2500 })
+        EXPECT_EQ(between(QString(count, u' ')), twoLines) << count;
+    EXPECT_EQ(between(QString(40, u'\t')), twoLines);
+    EXPECT_EQ(between(QString(1500, u'\t')), twoLines);
+    EXPECT_EQ(texts(fresh(QString(500, u' ') + u"b"_s)), QStringList { u"b"_s });
+    EXPECT_EQ(texts(fresh(u"a"_s + QString(2500, u' '))), QStringList { u"a"_s });
+}
+
+TEST(PromptLayoutTest, makesOneLineOfAParagraphOfSpaces)
+{
+    for (const QString& spaces : { u" "_s, QString(2500, u' '), QString(100, u'\t') })
+        EXPECT_EQ(
+            texts(fresh(u"a\n"_s + spaces + u"\nb"_s)), QStringList({ u"a"_s, u""_s, u"b"_s }))
+            << spaces.size();
+}
+
+TEST(PromptLayoutTest, seesAnEditInSpacesThatHangOverALinesEnd)
+{
+    const QString text = u"one\ntwo"_s + QString(4000, u' ') + u"three\nfour"_s;
+    const PromptLayout layout = fresh(text);
+    for (const qsizetype at : { 7, 8, 900, 2500, 3999, 4006, 4007, 4010 }) {
+        const QString edited = QString(text).insert(at, u'x');
+        const PromptLayout result = complete(layout.edited(edited, { at, 0, 1 }));
+
+        EXPECT_EQ(texts(result), texts(fresh(edited))) << at;
+        EXPECT_EQ(starts(result), starts(fresh(edited))) << at;
+    }
+}
+
 TEST(PromptLayoutTest, dividesAWordAtASoftHyphen)
 {
     const QString text = u"aaaaaaaaaaaaa\u00ADaaaaaaaaaaaa"_s;

@@ -504,6 +504,53 @@ TEST_F(PromptLinesTest, showsTheSameLinesWhenTheTextAboveThemGrows)
     EXPECT_EQ(shownTexts(), before);
 }
 
+TEST_F(PromptLinesTest, findsTheLineOfACharacterAtOnce)
+{
+    QSignalSpy found(&lines, &PromptLines::found);
+    lines.setText(numbered(10));
+    finish();
+
+    lines.find(0);
+    lines.find(6); // "line 0\n" is before it.
+    lines.find(7);
+    lines.find(13);
+    lines.find(1000);
+
+    const auto places = shown();
+    const double pitch = std::next(places.begin())->first - places.begin()->first;
+    ASSERT_EQ(found.count(), 5);
+    EXPECT_EQ(found[0][0].toDouble(), 0);
+    EXPECT_EQ(found[1][0].toDouble(), 0);
+    EXPECT_DOUBLE_EQ(found[2][0].toDouble(), pitch);
+    EXPECT_DOUBLE_EQ(found[3][0].toDouble(), pitch);
+    EXPECT_DOUBLE_EQ(found[4][0].toDouble(), 9 * pitch);
+}
+
+TEST_F(PromptLinesTest, findsALineThatIsStillToBeLaidOut)
+{
+    const QString text = numbered(20'000);
+    lines.setText(text);
+    ASSERT_FALSE(lines.isLaidOut());
+    QSignalSpy found(&lines, &PromptLines::found);
+
+    lines.find(text.indexOf(u"line 9000"));
+    EXPECT_EQ(found.count(), 0);
+    lines.edit(u"line\n"_s + text, { 0, 0, 5 });
+    while (found.isEmpty() && !lines.isLaidOut())
+        time.runSlice();
+
+    const auto places = shown();
+    const double pitch = std::next(places.begin())->first - places.begin()->first;
+    ASSERT_EQ(found.count(), 1);
+    EXPECT_NEAR(found[0][0].toDouble(), 9001 * pitch, 0.001);
+    EXPECT_FALSE(lines.isLaidOut());
+    EXPECT_GE(lines.contentHeight(), 9001 * pitch + height);
+
+    lines.find(text.size());
+    lines.setText(u"Another"_s);
+    EXPECT_EQ(found.count(), 1);
+}
+
 TEST_F(PromptLinesTest, takesAnEditBeforeItsSizeIsKnown)
 {
     PromptLines bare(time);

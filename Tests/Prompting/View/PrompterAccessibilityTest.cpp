@@ -23,7 +23,9 @@ protected:
     PrompterAccessibilityTest()
     {
         services.prompt(u"Good morning."_s);
-        static_cast<QQuickView&>(window.window()).resize(720, 200);
+        auto& view = static_cast<QQuickView&>(window.window());
+        view.resize(720, 200);
+        view.rootObject()->setSize({ 720, 200 });
     }
 
     /// The objects that are not hidden, in the order in which they are read.
@@ -138,6 +140,19 @@ TEST_F(PrompterAccessibilityTest, readsTheCountdownWhileItCounts)
     EXPECT_THAT(countdown(), Not(Contains(::testing::HasSubstr("(Countdown)"))));
 }
 
+TEST_F(PrompterAccessibilityTest, readsWhatTheMicrophoneHearsWithTheStatus)
+{
+    services.microphones.become({ .heard = u"Headset"_s });
+    services.settings.setVoiceFollow(true);
+    services.hear(0);
+    EXPECT_THAT(named(QAccessible::StaticText),
+        Contains("paused (Status\nListening to “Headset”.\nEcho cancellation is on.)"));
+
+    services.microphones.become({ .trouble = Microphones::Trouble::NoAnswer });
+    EXPECT_THAT(named(QAccessible::StaticText),
+        Contains("paused (Status\nThe sound system does not answer.)"));
+}
+
 TEST_F(PrompterAccessibilityTest, readsTheShareNoticeUntilItIsDismissed)
 {
     const QString notice = u"Toggling Stealth Mode during a screen share can gray out this "
@@ -153,6 +168,35 @@ TEST_F(PrompterAccessibilityTest, readsTheShareNoticeUntilItIsDismissed)
     press(u"Dismiss"_s);
     EXPECT_FALSE(object(notice));
     EXPECT_FALSE(object(u"Dismiss"_s));
+}
+
+TEST_F(PrompterAccessibilityTest, saysThatStealthModeHidesNothingWhereRecordingsShowTheCard)
+{
+    const QString notice = u"Stealth Mode has no effect on this desktop — whoever sees your screen "
+                           "sees this prompter, too."_s;
+    window.setVisibleInRecordings(true);
+    EXPECT_FALSE(object(notice));
+
+    services.setInCall(true);
+    EXPECT_TRUE(object(notice));
+
+    press(u"Dismiss"_s);
+    EXPECT_FALSE(object(notice));
+}
+
+TEST_F(PrompterAccessibilityTest, foldsTheBadgeAndStillReadsIt)
+{
+    const QString badge = u"VISIBLE IN RECORDINGS"_s;
+    window.setVisibleInRecordings(true);
+    ASSERT_TRUE(object(badge));
+    EXPECT_EQ(object(badge)->role(), QAccessible::AlertMessage);
+
+    press(u"Fold the badge to an eye"_s);
+    EXPECT_TRUE(services.settings.recordingBadgeFolded());
+    EXPECT_TRUE(object(badge));
+
+    press(u"Show the badge in full"_s);
+    EXPECT_FALSE(services.settings.recordingBadgeFolded());
 }
 
 } // namespace

@@ -142,6 +142,13 @@ protected:
         return items.isEmpty() ? nullptr : items.first();
     }
 
+    QQuickItem* recordingBadge() const
+    {
+        const QList<QQuickItem*> badges
+            = itemsWith({ { u"radius"_s, 4.0 }, { u"height"_s, 18.0 } });
+        return badges.isEmpty() ? nullptr : badges.first();
+    }
+
     static QRgb colorOf(const QQuickItem& item)
     {
         return item.property("color").value<QColor>().rgba();
@@ -162,6 +169,34 @@ protected:
     ScrollEngine& engine = services.engine;
     std::unique_ptr<PrompterWindow> window;
 };
+
+TEST_F(PrompterViewTest, beginsAtALine)
+{
+    QStringList numbered;
+    for (int i = 0; i < 40; ++i)
+        numbered.append(u"Line %1"_s.arg(i));
+    const QString text = numbered.join(u'\n');
+    show(text);
+    const double top = placeOfLine(u"Line 0"_s).top();
+    const double pitch = placeOfLine(u"Line 1"_s).top() - top;
+
+    window->startAt(text.indexOf(u"Line 20") + 3);
+    EXPECT_DOUBLE_EQ(services.engine.offset(), 20 * pitch);
+    EXPECT_TRUE(services.engine.isRunning());
+    EXPECT_NEAR(placeOfLine(u"Line 20"_s).top(), top, 1) << "it stands where the first line did";
+
+    services.engine.toggle();
+    window->startAt(text.size());
+    EXPECT_EQ(services.engine.offset(), services.engine.endOffset());
+    EXPECT_FALSE(services.engine.isRunning()) << "it would start again from the top";
+
+    settings.setCountdownSeconds(3);
+    window->startAt(0);
+    EXPECT_EQ(services.engine.countdown(), 3);
+    window->startAt(text.indexOf(u"Line 1\n"));
+    EXPECT_EQ(services.engine.countdown(), std::nullopt);
+    EXPECT_TRUE(services.engine.isRunning());
+}
 
 TEST_F(PrompterViewTest, tellsTheEngineTheHeightThatIsVisible)
 {
@@ -298,6 +333,13 @@ TEST_F(PrompterViewTest, setsTheTextInSemiboldOfTheSettings)
     EXPECT_EQ(font.weight(), QFont::DemiBold);
     EXPECT_EQ(font.family(), PromptFont::family());
     EXPECT_EQ(root().findChild<PromptText*>()->color(), QColor(48, 209, 88));
+}
+
+TEST_F(PrompterViewTest, tellsTheTextHowDarkTheCardIs)
+{
+    settings.setBackgroundOpacity(0.3);
+
+    EXPECT_EQ(root().findChild<PromptText*>()->cardOpacity(), 0.3);
 }
 
 TEST_F(PrompterViewTest, takesOverAChangedText)
@@ -547,23 +589,87 @@ TEST_F(PrompterViewTest, warnsOfSwitchingStealthModeDuringACall)
 
 TEST_F(PrompterViewTest, laysNothingAtTheEdgesOverEachOther)
 {
-    for (const int width : { 340, 500, 720, 1600 }) {
-        show(u"One"_s, true);
-        openDeck();
-        services.setInCall(true);
-        click(*symbol(u"chevron.right"_s));
-        resize(width, 200);
+    for (const bool isFolded : { false, true }) {
+        settings.setRecordingBadgeFolded(isFolded);
+        for (const QSize size : { QSize(340, 130), QSize(420, 150), QSize(500, 200),
+                 QSize(720, 200), QSize(1600, 900) }) {
+            show(u"One"_s, true);
+            openDeck();
+            services.setInCall(true);
+            click(*symbol(u"chevron.right"_s));
+            resize(size.width(), size.height());
 
-        QList<QRectF> places;
-        for (const QQuickItem* item : itemsWith({ { u"radius"_s, 9.0 } }))
-            places.append(placeOf(*item));
-        ASSERT_EQ(places.size(), 3) << "status, chip and notice";
-        for (qsizetype i = 0; i < places.size(); ++i) {
-            EXPECT_TRUE(QRectF(6, 6, width - 12, 188).contains(places[i])) << width << " " << i;
-            for (qsizetype j = 0; j < i; ++j)
-                EXPECT_FALSE(places[i].intersects(places[j])) << width << " " << i << " " << j;
+            QList<QRectF> places { placeOf(*recordingBadge()) };
+            for (const QQuickItem* item : itemsWith({ { u"radius"_s, 9.0 } }))
+                places.append(placeOf(*item));
+            ASSERT_EQ(places.size(), 4) << "badge, status, chip and notice";
+            for (qsizetype i = 0; i < places.size(); ++i) {
+                EXPECT_TRUE(QRectF(6, 6, size.width() - 12, size.height() - 12).contains(places[i]))
+                    << size.width() << " " << i;
+                for (qsizetype j = 0; j < i; ++j)
+                    EXPECT_FALSE(places[i].intersects(places[j]))
+                        << size.width() << " " << i << " " << j;
+            }
         }
     }
+}
+
+TEST_F(PrompterViewTest, keepsTheBadgesWhereTheTextDissolves)
+{
+    show(u"One"_s, true);
+    openDeck();
+    for (const QSize size : { QSize(340, 130), QSize(720, 200), QSize(1600, 900) }) {
+        resize(size.width(), size.height());
+        QList<QQuickItem*> badges = itemsWith({ { u"radius"_s, 9.0 } });
+        badges.append(recordingBadge());
+        for (const QQuickItem* badge : badges)
+            EXPECT_GT(placeOf(*badge).top(), 0.82 * size.height() - 1) << size.height();
+    }
+}
+
+TEST_F(PrompterViewTest, foldsTheBadgeToAnEyeThatStaysRed)
+{
+    window->setVisibleInRecordings(true);
+    const double words = recordingBadge()->width();
+
+    click(*recordingBadge());
+    EXPECT_TRUE(settings.recordingBadgeFolded());
+    EXPECT_EQ(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+    EXPECT_NE(symbol(u"eye"_s), nullptr);
+    EXPECT_LT(recordingBadge()->width(), 24);
+    EXPECT_EQ(colorOf(*recordingBadge()), red);
+
+    click(*recordingBadge());
+    EXPECT_FALSE(settings.recordingBadgeFolded());
+    EXPECT_NE(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+    EXPECT_EQ(recordingBadge()->width(), words);
+}
+
+TEST_F(PrompterViewTest, foldsTheBadgeByItselfWhereItHasNoRoom)
+{
+    window->setVisibleInRecordings(true);
+    openDeck();
+    resize(340, 130);
+    EXPECT_EQ(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+    EXPECT_EQ(colorOf(*recordingBadge()), red);
+
+    click(*recordingBadge());
+    EXPECT_FALSE(settings.recordingBadgeFolded()) << "nothing would have changed";
+
+    resize(720, 130);
+    EXPECT_NE(textItem(u"VISIBLE IN RECORDINGS"_s), nullptr);
+}
+
+TEST_F(PrompterViewTest, holdsThePressOnTheBadgeSoThatItDragsNothing)
+{
+    show(u"One"_s, true);
+    const QPointF place = placeOf(*recordingBadge()).center();
+    QMouseEvent press(
+        QEvent::MouseButtonPress, place, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+
+    QCoreApplication::sendEvent(&view(), &press);
+
+    EXPECT_NE(press.exclusiveGrabber(press.point(0)), nullptr);
 }
 
 TEST_F(PrompterViewTest, fitsIntoTheSmallestPanel)
@@ -640,6 +746,40 @@ TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnABadge)
     moveMouse(onBadge.x(), onBadge.y());
 
     EXPECT_TRUE(engine.hoverPaused());
+}
+
+TEST_F(PrompterViewTest, showsTheReadersTimeBesideTheStatus)
+{
+    const QRectF without = placeOf(*textItem(u"paused"_s));
+    EXPECT_EQ(visibleTexts().size(), 1);
+    settings.setCardTime(u"elapsed"_s);
+    show(u"One"_s);
+
+    ASSERT_TRUE(textItem(u"0:00"_s));
+    EXPECT_GT(placeOf(*textItem(u"0:00"_s)).left(), without.right());
+    EXPECT_EQ(placeOf(*textItem(u"paused"_s)), without);
+}
+
+TEST_F(PrompterViewTest, tellsWhoPointsAtTheStatusWhatTheMicrophoneHears)
+{
+    const QPoint onBadge = placeOf(*textItem(u"paused"_s)).center().toPoint();
+    moveMouse(360, -50); // Where the pointer is already, nothing moves.
+    moveMouse(onBadge.x(), onBadge.y());
+    EXPECT_EQ(visibleTexts().size(), 1) << "nothing is heard, or wanted to be";
+
+    services.microphones.become({ .heard = u"Headset"_s });
+    settings.setVoiceFollow(true);
+    services.hear(0);
+    const QString heard = u"Listening to “Headset”."_s;
+    ASSERT_TRUE(textItem(heard));
+    EXPECT_TRUE(textItem(u"Echo cancellation is on."_s));
+    EXPECT_FALSE(placeOf(*textItem(heard)).intersects(placeOf(*textItem(u"hover pause"_s))));
+
+    services.microphones.become({ .heard = u"Headset"_s, .trouble = Microphones::Trouble::Muted });
+    EXPECT_TRUE(textItem(u"The microphone “Headset” is muted."_s));
+
+    moveMouse(360, 20);
+    EXPECT_FALSE(textItem(u"The microphone “Headset” is muted."_s));
 }
 
 TEST_F(PrompterViewTest, holdsTheTextWhileThePointerIsOnTheChip)

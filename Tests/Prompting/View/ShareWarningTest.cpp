@@ -89,17 +89,6 @@ TEST_F(ShareWarningTest, comesBackWithANewPanel)
     EXPECT_TRUE(ofANewPanel.isShown());
 }
 
-TEST_F(ShareWarningTest, isNotShownWhereCapturesShowTheCardAnyway)
-{
-    services.setInCall(true);
-
-    warning.setVisibleInRecordings(true);
-    EXPECT_FALSE(warning.isShown());
-
-    warning.setVisibleInRecordings(false);
-    EXPECT_TRUE(warning.isShown());
-}
-
 TEST_F(ShareWarningTest, announcesEachChangeOnce)
 {
     const QSignalSpy changes(&warning, &ShareWarning::isShownChanged);

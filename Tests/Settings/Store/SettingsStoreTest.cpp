@@ -43,6 +43,9 @@ const Property properties[] = {
     { "countdownSeconds", 3.0, 0.0 },
     { "slideshowPauseKey", true, false },
     { "slideSync", true, false },
+    { "recordingBadgeFolded", false, true },
+    { "keptPace", 0.0, 140.5 },
+    { "cardTime", u""_s, u"left"_s },
     { "onboardingSeenVersion", Q_INT64_C(0), Q_INT64_C(3) },
 };
 
@@ -70,6 +73,9 @@ TEST_F(SettingsStoreTest, hasTheDefaultsOfAFreshAccount)
     EXPECT_EQ(settings.countdownSeconds(), 3.0);
     EXPECT_TRUE(settings.slideshowPauseKey());
     EXPECT_TRUE(settings.slideSync());
+    EXPECT_FALSE(settings.recordingBadgeFolded());
+    EXPECT_EQ(settings.keptPace(), 0.0);
+    EXPECT_EQ(settings.cardTime(), QString());
     EXPECT_EQ(settings.onboardingSeenVersion(), 0);
     EXPECT_EQ(defaults.writes, 0);
 }

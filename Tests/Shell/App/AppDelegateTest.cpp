@@ -720,29 +720,14 @@ TEST_F(AppDelegateTest, assertsStealthAgainWheneverItShowsThePanel)
     EXPECT_EQ(logged("STEALTH ON wid=42 fresh=0 mode=both sckExcludeApplied=0"), 1);
 }
 
-TEST_F(AppDelegateTest, keepsTimersOnTimeWhilePresentingAndTheDisplayOnWhileScrolling)
+TEST_F(AppDelegateTest, keepsTheDisplayOnWhileTheTextScrolls)
 {
-    using Need = Wakefulness::Need;
-    std::vector<Need>& held = platform.wakefulnessFake.held;
     launchAndSettle();
-    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::None));
-
-    presentKeynote();
-    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
-
     engine().toggle();
     Testing::drainEvents();
-    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Display));
 
-    engine().toggle();
-    endSlideshow();
-    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers, Need::None));
-
-    settings().setVoiceFollow(true);
-    Testing::drainEvents();
-    platform.manualTime.advance(1.0);
-    Testing::drainEvents();
-    EXPECT_THAT(std::exchange(held, {}), ElementsAre(Need::Timers));
+    EXPECT_THAT(platform.wakefulnessFake.held,
+        ElementsAre(Wakefulness::Need::None, Wakefulness::Need::Display));
 }
 
 TEST_F(AppDelegateTest, excludesThePanelByTheCallsThatItIsGiven)

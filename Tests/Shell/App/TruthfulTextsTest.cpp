@@ -1,4 +1,7 @@
 #include "Orvello/Library/Records/WelcomeScript.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Shell/App/Translation.h"
 #include "Orvello/Shell/Commands/Command.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
@@ -69,7 +72,10 @@ protected:
     const Facts facts = factsOfALinuxDesktop();
     FakeHotKeys keys;
     FakeUpdater updater;
+    Compositing compositing;
     UpdateController updates { { updater, defaults, [] {} } };
+    ScrollEngine scrolling { settings, time };
+    ReadingPace pace { settings, scrolling, time };
 };
 
 TEST_P(TruthfulTextsTest, speaksTheLanguage)
@@ -80,7 +86,7 @@ TEST_P(TruthfulTextsTest, speaksTheLanguage)
 
 TEST_P(TruthfulTextsTest, namesNothingInTheSettingsThatTheMachineLacks)
 {
-    SettingsWindow window({ settings, *engine, updates, keys, facts });
+    SettingsWindow window({ settings, *engine, pace, updates, keys, compositing, facts });
     window.view().show();
     drainEvents();
 

@@ -38,7 +38,8 @@ protected:
     {
         window.reset();
         services.emplace(scripts);
-        window.emplace(services->ofWindow());
+        window.emplace(services->ofWindow(), PanelSpace {},
+            [this](qsizetype position) { starts.append(position); });
         window->bringToFront();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view()));
         settle();
@@ -101,6 +102,7 @@ protected:
         return body ? body->property("text").toString() : u"(none)"_s;
     }
 
+    QList<qsizetype> starts; ///< Where the prompter was asked to begin.
     std::optional<LibraryServices> services;
     std::optional<LibraryWindow> window;
 
@@ -112,6 +114,28 @@ private:
         return item == items.end() ? nullptr : *item;
     }
 };
+
+TEST_F(LibraryWindowTest, beginsReadingAtTheLineOfTheCursor)
+{
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(starts, QList<qsizetype>({ 0 }));
+
+    library().updateActive({}, u"One\nTwo three\nFour"_s);
+    QQuickItem* const body = named(u"Script text"_s);
+    body->forceActiveFocus();
+    press(Qt::Key_End, Qt::ControlModifier);
+    press(Qt::Key_Up);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(starts, QList<qsizetype>({ 0, 4 }));
+    EXPECT_EQ(active().body, u"One\nTwo three\nFour"_s) << "the key writes nothing";
+
+    const QPointF last = body->mapToScene(QPointF(30, 10 + 2.5 * 17));
+    QTest::mouseClick(&view(), Qt::RightButton, {}, last.toPoint());
+    QTest::qWait(50);
+    settle();
+    click(showing(u"Start Here"_s));
+    EXPECT_EQ(starts, QList<qsizetype>({ 0, 4, 14 }));
+}
 
 TEST_F(LibraryWindowTest, hasItsTitleAndSize)
 {

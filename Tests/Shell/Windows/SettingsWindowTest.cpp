@@ -1,6 +1,9 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
+#include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Tests/Support/FactsOf.h"
 #include "Tests/Support/FakeHelperProcess.h"
@@ -62,8 +65,8 @@ protected:
     void open(const Facts& facts = factsOfAMac())
     {
         window.reset();
-        window = std::make_unique<SettingsWindow>(
-            SettingsWindow::Services { settings, *engine, updates, keys, facts, impress });
+        window = std::make_unique<SettingsWindow>(SettingsWindow::Services {
+            settings, *engine, pace, updates, keys, compositing, facts, impress });
         view().resize(SettingsWindow::contentSize);
         view().show();
         view().requestActivate();
@@ -118,7 +121,10 @@ protected:
     FakeUpdater updater;
     UpdateController updates { { updater, defaults, [] {} } };
     FakeHotKeys keys;
+    Compositing compositing;
     ImpressPresenter* impress = nullptr;
+    ScrollEngine scrolling { settings, time };
+    ReadingPace pace { settings, scrolling, time };
     std::unique_ptr<SettingsWindow> window;
 };
 
@@ -176,7 +182,7 @@ TEST_F(SettingsWindowTest, closesByKey)
     EXPECT_FALSE(view().isVisible());
 }
 
-TEST_F(SettingsWindowTest, hasTheSevenSectionsInTheirOrder)
+TEST_F(SettingsWindowTest, hasItsSectionsInTheirOrder)
 {
     QStringList headings;
     for (const QQuickItem* item : visibleItems(view())) {
@@ -185,7 +191,7 @@ TEST_F(SettingsWindowTest, hasTheSevenSectionsInTheirOrder)
     }
     EXPECT_EQ(headings,
         QStringList({ u"Prompter"_s, u"Voice-follow"_s, u"Session"_s, u"Slides"_s, u"Privacy"_s,
-            u"Keyboard shortcuts (global)"_s, u"Updates"_s }));
+            u"Keyboard shortcuts (global)"_s, u"Updates"_s, u"Reading"_s }));
 }
 
 TEST_F(SettingsWindowTest, dragsTheSpeedToExactlyItsBounds)
@@ -629,6 +635,19 @@ TEST_F(SettingsWindowTest, movesItsSlidersOnAGridOfSteps)
     EXPECT_EQ(settings.backgroundOpacity(), 0.15);
 }
 
+TEST_F(SettingsWindowTest, saysThatTheOpacityHasNoEffectWhileThereIsNoCompositor)
+{
+    const QString note = u"The opacity has no effect at the moment: windows can be translucent "
+                         "only while the desktop runs a compositor."_s;
+    EXPECT_FALSE(showsText(view(), note));
+
+    compositing.setOn(false);
+    EXPECT_TRUE(showsText(view(), note));
+
+    compositing.setOn(true);
+    EXPECT_FALSE(showsText(view(), note));
+}
+
 TEST_F(SettingsWindowTest, bindsTheAutomaticChecksBothWays)
 {
     updates.start();
@@ -678,6 +697,50 @@ TEST_F(SettingsWindowTest, scrollsOnALowScreenToWhatTheTabKeyReaches)
         EXPECT_TRUE(QRectF(0, 0, 500, 320).contains(place))
             << accessibleName(*view().activeFocusItem()).toStdString() << " at " << place.y();
     }
+}
+
+TEST_F(SettingsWindowTest, saysWhatTheSpeedMeansInWords)
+{
+    scrolling.setViewportHeight(200);
+    scrolling.setContentHeight(10060);
+    pace.setText(u"word "_s.repeated(2000));
+    drainEvents();
+    EXPECT_THAT(visibleTexts(view()),
+        ::testing::Contains(
+            u"25 pt/s · about 300 words a minute in this script: faster than speech"_s));
+
+    QQuickItem& words = control(u"Words a minute"_s);
+    EXPECT_EQ(words.property("value").toInt(), 300);
+    press(words, Qt::Key_Down);
+    EXPECT_NEAR(pace.unitsPerMinute(), 294, 0.01) << "steps of two per cent";
+    EXPECT_NEAR(settings.speed(), 24.5, 0.01);
+    press(words, Qt::Key_Up);
+    EXPECT_NEAR(pace.unitsPerMinute(), 300, 0.01);
+
+    settings.setSpeed(10);
+    drainEvents();
+    EXPECT_EQ(words.property("value").toInt(), 120) << "follows the speed keys";
+}
+
+TEST_F(SettingsWindowTest, offersNoPaceWithoutAText)
+{
+    EXPECT_FALSE(control(u"Words a minute"_s).isEnabled());
+}
+
+TEST_F(SettingsWindowTest, keepsThePaceAndShowsTheTimeOnlyOnceTheUserWantsIt)
+{
+    scrolling.setContentHeight(10060);
+    pace.setText(u"word "_s.repeated(2000));
+
+    press(control(u"Keep my pace with another text, size or width"_s), Qt::Key_Space);
+    EXPECT_GT(stored(u"keptPace"_s).toDouble(), 0);
+    press(control(u"Keep my pace with another text, size or width"_s), Qt::Key_Space);
+    EXPECT_EQ(stored(u"keptPace"_s).toDouble(), 0);
+
+    QQuickItem& times = control(u"Time on the prompter"_s);
+    EXPECT_EQ(times.property("currentIndex").toInt(), 0);
+    press(times, Qt::Key_Down);
+    EXPECT_EQ(stored(u"cardTime"_s), u"left"_s);
 }
 
 } // namespace

@@ -110,8 +110,8 @@ struct SpyingPanel {
 
 TEST(WindowPlacementTest, letsThePanelStepAsideUntilTheWindowCloses)
 {
-    QWindow window;
     SpyingPanel panel { QRectF(-100, -100, 5000, 5000) };
+    QWindow window; // Closes at its end, which the panel still hears of.
 
     WindowPlacement::bringToFront(window, { QSize(300, 200), QSize(300, 200) }, panel.space());
     EXPECT_FALSE(panel.isVisible);

@@ -13,13 +13,16 @@ Pane {
     required property DeckFileBar deckFile
     property bool isActive: false
     property bool isLoaded: false
+    property alias cursorPosition: body.cursorPosition
+
+    signal startRequested
 
     // Only once the page has its width: laying out a megabyte twice takes twice as long.
     function load(): void {
         if (isLoaded || !isActive || body.width <= 0)
             return;
         isLoaded = true;
-        body.text = editor.body;
+        body.text = editor.bodyInField;
         editor.follow(body.textDocument);
     }
 
@@ -103,6 +106,48 @@ Pane {
                 Accessible.name: root.editor.isDeck ? qsTr("Speaker notes") : qsTr("Script text")
 
                 onWidthChanged: root.load()
+
+                TapHandler {
+                    acceptedButtons: Qt.RightButton
+                    onTapped: eventPoint => {
+                        const clicked = body.positionAt(eventPoint.position.x, eventPoint.position.y);
+                        if (clicked < body.selectionStart || clicked > body.selectionEnd || body.selectedText === "")
+                            body.cursorPosition = clicked;
+                        menu.popup();
+                    }
+                }
+
+                ContextMenu {
+                    id: menu
+
+                    palette: root.palette // Popups do not inherit the window's.
+
+                    MenuItem {
+                        //: The prompter begins with the line that the cursor is on.
+                        text: qsTr("Start Here")
+                        onTriggered: root.startRequested()
+                    }
+                    MenuSeparator {}
+                    MenuItem {
+                        text: qsTr("Cut")
+                        enabled: body.selectedText !== "" && !body.readOnly
+                        onTriggered: body.cut()
+                    }
+                    MenuItem {
+                        text: qsTr("Copy")
+                        enabled: body.selectedText !== ""
+                        onTriggered: body.copy()
+                    }
+                    MenuItem {
+                        text: qsTr("Paste")
+                        enabled: body.canPaste && !body.readOnly
+                        onTriggered: body.paste()
+                    }
+                    MenuItem {
+                        text: qsTr("Select All")
+                        onTriggered: body.selectAll()
+                    }
+                }
             }
         }
 

@@ -16,23 +16,10 @@ ToolbarButton {
     Accessible.role: Accessible.ButtonMenu
     onClicked: menu.popup(root, 0, -menu.height)
 
-    Menu {
+    ContextMenu {
         id: menu
 
-        // The style's menus are as wide as their background, whatever is written in them.
-        width: {
-            let widest = implicitWidth
-            for (let i = 0; i < count; ++i)
-                widest = Math.max(widest, itemAt(i).implicitWidth + leftPadding + rightPadding)
-            return widest
-        }
         palette: root.palette // Popups do not inherit the window's.
-        // On a dark editor the style's own edge is invisible.
-        background: Rectangle {
-            implicitWidth: 250
-            color: root.palette.base
-            border.color: Qt.alpha(root.palette.windowText, 0.3)
-        }
 
         Instantiator {
             model: root.imports.titles

@@ -15,6 +15,10 @@ Pane {
         activePage()?.editTitle();
     }
 
+    function startHere(): void {
+        library.startHere(activePage()?.cursorPosition ?? 0);
+    }
+
     function activePage(): EditorPage {
         for (let i = 0; i < pages.count; ++i) {
             const page = pages.itemAt(i) as EditorPage;
@@ -40,6 +44,18 @@ Pane {
     Shortcut {
         sequences: ["Ctrl+R"]
         onActivated: root.library.deckFile.update()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Return", "Ctrl+Enter"]
+        onActivated: root.startHere()
+    }
+    Shortcut {
+        sequences: ["Ctrl+E"]
+        onActivated: root.library.exportActive()
+    }
+    Shortcut {
+        sequences: ["Ctrl+Shift+E"]
+        onActivated: root.library.exportListed()
     }
     Shortcut {
         sequences: ["Ctrl+W"]
@@ -97,6 +113,7 @@ Pane {
                         facts: root.library.facts
                         deckFile: root.library.deckFile
                         isActive: editor === root.library.openScripts.active
+                        onStartRequested: root.startHere()
                         visible: isActive
                         // A long text out of sight is not worth laying out again at each size of the
                         // window.

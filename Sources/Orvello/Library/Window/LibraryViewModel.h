@@ -5,8 +5,11 @@
 #include "Orvello/Library/Window/DeletedScriptsModel.h"
 #include "Orvello/Library/Window/LibraryNotices.h"
 #include "Orvello/Library/Window/OpenScripts.h"
+#include "Orvello/Library/Window/ScriptExport.h"
 #include "Orvello/Library/Window/ScriptListModel.h"
 #include "Orvello/Library/Window/ScriptSearch.h"
+
+#include <functional>
 
 namespace Orvello {
 
@@ -22,7 +25,10 @@ class LibraryViewModel final : public QObject {
     Q_PROPERTY(Orvello::Facts facts MEMBER m_facts CONSTANT FINAL)
 
 public:
-    explicit LibraryViewModel(const DeckImports::Services& services);
+    /// `startReadingAt` has the prompter begin at a place of the active script's body.
+    explicit LibraryViewModel(
+        const DeckImports::Services& services,
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {});
     ~LibraryViewModel() override;
 
     ScriptSearch* scripts() { return &m_search; }
@@ -36,8 +42,22 @@ public:
     Q_INVOKABLE void removeActive(); ///< Does nothing when no script is active.
     Q_INVOKABLE void duplicateActive(); ///< The same.
 
+    /// Has the prompter begin with the line of the editor that has that place.
+    Q_INVOKABLE void startHere(int cursorPosition);
+
+    /// Writes the active script to a file that the user chooses, as text or Markdown.
+    Q_INVOKABLE void exportActive();
+
+    /// Writes all scripts of the list to one file.
+    Q_INVOKABLE void exportListed();
+
 private:
+    using ContentOf = std::function<QString(ScriptExport::Format)>;
+    void exportTo(const QString& message, const QString& title, const ContentOf& contentOf);
+
     LibraryStore& m_library;
+    OpenPanel& m_openPanel;
+    const std::function<void(qsizetype)> m_startReadingAt;
     ScriptListModel m_scripts;
     ScriptSearch m_search;
     DeletedScriptsModel m_deleted;

@@ -2,17 +2,21 @@
 
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/TextDifferences.h"
+#include "Orvello/Foundation/WordCount.h"
 #include "Orvello/Library/Store/LibraryStore.h"
-#include "Orvello/Library/Window/WordCount.h"
+#include "Orvello/Prompting/Text/PromptPiece.h"
 
 #include <QQuickItem>
 #include <QQuickTextDocument>
 #include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace Orvello {
@@ -24,14 +28,26 @@ namespace {
 /// How fast people speak who present: 52 words take 22 seconds.
 constexpr double wordsPerMinute = 140;
 
-/// What a document makes of a text, position by position. It counts each other line break as one
-/// character, so that they survive until they are edited.
+/// A text with as many characters as a document makes of it. Every other line break is one
+/// character there, too, so that it survives until it is edited.
 QString asInDocument(const QString& text)
 {
     QString result = text;
     if (text.contains(u'\r'))
         result.replace(u"\r\n"_s, u"\n"_s);
     return result;
+}
+
+/// The character that a document shows it as: whatever begins a new line on the card does so here.
+QChar shown(QChar character) { return isParagraphEnd(character) ? QChar(u'\n') : character; }
+
+bool isForeignBreak(QChar character) { return shown(character) != character; }
+
+QString shown(QString text)
+{
+    if (std::ranges::any_of(std::as_const(text), isForeignBreak))
+        std::replace_if(text.begin(), text.end(), isForeignBreak, u'\n');
+    return text;
 }
 
 QString textBetween(QTextDocument& document, qsizetype begin, qsizetype end)
@@ -68,6 +84,8 @@ void ScriptEditor::setTitle(const QString& title)
     if (canStore() && title != m_title)
         m_library.updateActive(title, {}); // Comes back through update().
 }
+
+QString ScriptEditor::bodyInField() const { return shown(m_body); }
 
 QString ScriptEditor::wordCountText() const
 {
@@ -111,6 +129,21 @@ void ScriptEditor::follow(QQuickTextDocument* document)
     connect(m_document, &QTextDocument::contentsChanged, this, &ScriptEditor::store);
 }
 
+qsizetype ScriptEditor::startOfLine(QStringView libraryBody, int position) const
+{
+    qsizetype start = 0;
+    if (m_document) {
+        const QTextBlock block = m_document->findBlock(position);
+        const QTextLine line = block.layout()->lineForTextPosition(position - block.position());
+        start = block.position() + (line.isValid() ? line.textStart() : 0);
+    }
+    if (m_isAsInLibrary)
+        return start;
+    for (qsizetype i = 0; i < std::min(start, libraryBody.size()); ++i)
+        start += libraryBody.sliced(i).startsWith(u"\r\n") ? 1 : 0;
+    return start;
+}
+
 void ScriptEditor::update(const Script& script, const LibraryChange& change)
 {
     if (change.hasNewTitle) {
@@ -139,13 +172,34 @@ void ScriptEditor::update(const Script& script, const LibraryChange& change)
 /// takes milliseconds, and a key press must cost the same in a text of any length.
 void ScriptEditor::takeOver(int position, int removed, int added)
 {
+    if (m_isUpdating)
+        return;
     // An edit at the end also counts the end of the last paragraph, which is not part of the text.
     const qsizetype length = m_document->characterCount() - 1;
     const qsizetype end = std::min<qsizetype>(position + added, length);
-    replaceInBody(position, std::min<qsizetype>(removed, m_body.size() - position),
+    takeOverText(position, std::min<qsizetype>(removed, m_body.size() - position),
         textBetween(*m_document, position, end));
     if (m_body.size() != length)
-        replaceInBody(0, m_body.size(), textBetween(*m_document, 0, length));
+        takeOverText(0, m_body.size(), textBetween(*m_document, 0, length));
+}
+
+/// Leaves what the document shows as before as it is: it may be another line break.
+void ScriptEditor::takeOverText(qsizetype position, qsizetype removed, QStringView text)
+{
+    const QStringView before = QStringView(m_body).sliced(position, removed);
+    const auto looksSame = [](QChar old, QChar now) { return shown(old) == shown(now); };
+    const qsizetype begin
+        = std::mismatch(before.begin(), before.end(), text.begin(), text.end(), looksSame).first
+        - before.begin();
+    const auto oldRest = before.sliced(begin);
+    const auto newRest = text.sliced(begin);
+    const qsizetype end = std::mismatch(oldRest.rbegin(), oldRest.rend(), newRest.rbegin(),
+                              newRest.rend(), looksSame)
+                              .first
+        - oldRest.rbegin();
+    const QString inserted = newRest.chopped(end).toString();
+    replaceInBody(position + begin, removed - begin - end, inserted);
+    m_hasUnshownBreaks = m_hasUnshownBreaks || std::ranges::any_of(inserted, isForeignBreak);
 }
 
 void ScriptEditor::replaceInBody(qsizetype position, qsizetype removed, const QString& inserted)
@@ -174,15 +228,31 @@ void ScriptEditor::showDifferences(const QString& body)
 
 void ScriptEditor::show(qsizetype position, qsizetype removed, const QString& inserted)
 {
-    if (!m_document) {
-        replaceInBody(position, removed, inserted);
+    replaceInBody(position, removed, inserted);
+    if (!m_document)
         return;
-    }
     QTextCursor cursor(m_document);
     cursor.setPosition(static_cast<int>(position));
     cursor.setPosition(static_cast<int>(position + removed), QTextCursor::KeepAnchor);
     const QScopedValueRollback updating(m_isUpdating, true);
-    cursor.insertText(inserted);
+    cursor.insertText(shown(inserted));
+}
+
+/// Breaks the lines of a text that the user has inserted where the card will. The step that undoes
+/// the text undoes this, too.
+void ScriptEditor::showBreaks()
+{
+    const QScopedValueRollback updating(m_isUpdating, true);
+    QTextCursor cursor(m_document);
+    cursor.joinPreviousEditBlock();
+    for (int i = static_cast<int>(m_body.size()) - 1; i >= 0; --i) {
+        if (!isParagraphEnd(m_body[i]) || m_document->characterAt(i) == QChar::ParagraphSeparator)
+            continue;
+        cursor.setPosition(i);
+        cursor.setPosition(i + 1, QTextCursor::KeepAnchor);
+        cursor.insertBlock();
+    }
+    cursor.endEditBlock();
 }
 
 /// An input method may finish a word in a text field that is going out of sight or has already
@@ -196,7 +266,11 @@ bool ScriptEditor::canStore() const
 
 void ScriptEditor::store()
 {
-    if (!m_unstored || m_isUpdating || !canStore())
+    if (m_isUpdating)
+        return;
+    if (std::exchange(m_hasUnshownBreaks, false))
+        showBreaks();
+    if (!m_unstored || !canStore())
         return;
     const TextEdit edit = *std::exchange(m_unstored, std::nullopt);
     {

@@ -232,16 +232,10 @@ ColumnLayout {
         }
     }
 
-    Menu {
+    ContextMenu {
         id: menu
 
         palette: root.palette // Popups do not inherit the window's.
-        // On a dark editor the style's own edge is invisible.
-        background: Rectangle {
-            implicitWidth: 200
-            color: root.palette.base
-            border.color: Qt.alpha(root.palette.windowText, 0.3)
-        }
 
         MenuItem {
             text: qsTr("Rename")
@@ -250,6 +244,15 @@ ColumnLayout {
         MenuItem {
             text: qsTr("Duplicate")
             onTriggered: root.library.duplicateActive()
+        }
+        MenuItem {
+            text: qsTr("Export…")
+            onTriggered: root.library.exportActive()
+        }
+        MenuItem {
+            //: All scripts of the list, into one file.
+            text: qsTr("Export All…")
+            onTriggered: root.library.exportListed()
         }
         MenuItem {
             text: qsTr("Move Up")

@@ -10,13 +10,12 @@ namespace Orvello {
 /// The hot keys as the user has assigned them, on desktops that manage them. Main thread.
 class AssignedKeys : public QObject { // Not final: QML derives from the types that it can create.
     Q_OBJECT
-    /// What to press, in the desktop's own words, by the name of the key's purpose. Keys that the
-    /// desktop leaves to the program are not in it.
-    Q_PROPERTY(QVariantMap triggers READ triggers NOTIFY triggersChanged FINAL)
     /// Whether the desktop has a window for assigning them.
     Q_PROPERTY(bool canConfigure READ canConfigure NOTIFY canConfigureChanged FINAL)
 
 public:
+    /// What to press, in the desktop's own words, by the name of the key's purpose. Keys that the
+    /// desktop leaves to the program are not in it.
     const QVariantMap& triggers() const { return m_triggers; }
     void setTriggers(const QVariantMap& triggers)
     {

@@ -8,6 +8,7 @@ class QWindow;
 
 namespace Orvello {
 
+class Compositing;
 class DesktopServices;
 class EarlyPlatform;
 class HelperProcess;
@@ -45,6 +46,8 @@ public:
     virtual HotKeys& hotKeys() = 0;
     virtual Updater& updater() = 0;
     virtual WindowChrome& windowChrome() = 0;
+    virtual Wakefulness& wakefulness() = 0;
+    virtual Compositing& compositing() = 0;
 
     /// The program that asks LibreOffice Impress, or null in an edition that does not follow it.
     virtual HelperProcess* impressHelper() = 0;
@@ -52,9 +55,6 @@ public:
     /// Whether graphics hardware draws the windows, and not the processor in its place. May take as
     /// long as loading the hardware's driver.
     virtual bool hasHardwareRenderer() = 0;
-
-    /// Null in an edition that holds nothing awake.
-    virtual Wakefulness* wakefulness() { return nullptr; }
 
     /// The prompter's window around the window that shows its view, which must not have been shown
     /// and must outlive it.

@@ -31,8 +31,8 @@ public:
     struct State {
         /// Whether it is known that there is a microphone. Who starts to listen gives it a moment.
         bool isReady = true;
-        QList<Microphone> choices; ///< Empty where this program cannot choose.
-        QString heard; ///< The name of the one that is heard; empty when there is none.
+        QList<Microphone> choices = {}; ///< Empty where this program cannot choose.
+        QString heard = {}; ///< The name of the one that is heard; empty when there is none.
         Trouble trouble = Trouble::None;
 
         friend bool operator==(const State&, const State&) = default;

@@ -21,6 +21,29 @@ namespace {
 /// in the event queue, and make every key press meanwhile copy the whole list.
 std::monostate nothing(const QObject&) { return {}; }
 
+/// A place in a deck's joined text: the slide, 0-based, and the place in its notes.
+struct PlaceInDeck {
+    qint64 slide = 0;
+    qsizetype inNotes = 0;
+};
+
+PlaceInDeck placeInDeck(const QList<SlideNote>& slides, qsizetype position)
+{
+    qsizetype blockStart = 0;
+    PlaceInDeck place;
+    for (const SlideNote& slide : slides) {
+        const qsizetype blockEnd = blockStart + joinedBody({ slide }).size();
+        const qsizetype notesStart = blockEnd - slide.notes.size();
+        place.inNotes = std::clamp<qsizetype>(position - notesStart, 0, slide.notes.size());
+        constexpr qsizetype blankLine = 2;
+        blockStart = blockEnd + blankLine;
+        if (position < blockStart || place.slide + 1 == slides.size())
+            break;
+        ++place.slide;
+    }
+    return place;
+}
+
 qint64 slideCountOf(const Script* script)
 {
     return script && script->slides ? script->slides->size() : 0;
@@ -55,6 +78,21 @@ DeckController::DeckController(const LibraryStore& library, const SettingsStore&
     observe(m_presentedDeck, &PresentedDeck::isOther, &PresentedDeck::changed, *this, recomputed);
     observe(sync, &SlideSyncService::state, &SlideSyncService::stateChanged, *this,
         [this](SlideSyncService::State state) { setSyncState(state); });
+}
+
+std::optional<qsizetype> DeckController::goTo(qsizetype position)
+{
+    const Script* const script = m_library.activeScript();
+    PlaceInDeck place;
+    if (slideCountOf(script) > 0) {
+        place = placeInDeck(*script->slides, position);
+        m_lastScriptID = script->id; // Else another script's first slide would be shown.
+        m_manualIndex = place.slide;
+    }
+    recompute(); // The library's last edits may still be on their way.
+    if (!m_trackingActive)
+        return position;
+    return m_displayIndex == place.slide ? std::optional(place.inNotes) : std::nullopt;
 }
 
 void DeckController::showPreviousSlide()

@@ -45,6 +45,10 @@ public:
     /// Whether slide tracking shows no notes because those of the active script are another deck's.
     bool isOtherDeck() const { return m_isOtherDeck; }
 
+    /// Shows the unit that has that place of the active script's body, and returns the place in its
+    /// text; nothing while a slideshow shows another slide.
+    std::optional<qsizetype> goTo(qsizetype position);
+
     void showPreviousSlide();
     void showNextSlide();
 

@@ -64,9 +64,17 @@ void ScrollEngine::setVoiceGate(bool open)
         Q_EMIT voiceGateChanged();
 }
 
-void ScrollEngine::setContentHeight(double points) { m_contentHeight = points; }
+void ScrollEngine::setContentHeight(double points)
+{
+    if (assign(m_contentHeight, points))
+        Q_EMIT endOffsetChanged();
+}
 
-void ScrollEngine::setViewportHeight(double points) { m_viewportHeight = points; }
+void ScrollEngine::setViewportHeight(double points)
+{
+    if (assign(m_viewportHeight, points))
+        Q_EMIT endOffsetChanged();
+}
 
 double ScrollEngine::endOffset() const
 {

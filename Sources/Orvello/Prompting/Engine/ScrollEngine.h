@@ -82,6 +82,7 @@ public:
 
 Q_SIGNALS:
     void offsetChanged();
+    void endOffsetChanged();
     void isRunningChanged();
     void hoverPausedChanged();
     void countdownChanged();

@@ -22,9 +22,12 @@ void StealthLog::write(const QString& message)
     const QByteArray line = (stamp + u' ' + message + u'\n').toUtf8();
     if (QFileInfo(filePath()).size() > largestSize)
         QFile::remove(filePath());
+    constexpr auto owners = QFile::ReadOwner | QFile::WriteOwner;
     QFile file(filePath());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append))
-        file.write(line);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append, owners))
+        return;
+    file.setPermissions(owners); // An earlier version let others read it.
+    file.write(line);
 }
 
 const QString& StealthLog::filePath()

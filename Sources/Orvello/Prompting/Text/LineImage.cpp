@@ -1,5 +1,7 @@
 #include "Orvello/Prompting/Text/LineImage.h"
 
+#include "Orvello/Prompting/Text/TextOutline.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -58,10 +60,19 @@ QRect devicePixelsAround(const QRect& ink)
     return QRect(ink.left(), top, ink.width(), bottom - top).adjusted(-1, -1, 1, 1);
 }
 
+/// In device pixels. The outline is as wide as half a stem, and as much again to fade. One more is
+/// for the pixels that a letter's edge covers in part.
+TextOutline::Reach outlineReach(double fontPixels)
+{
+    constexpr double share = 0.03;
+    const int width = std::max(static_cast<int>(std::lround(share * fontPixels)), 1);
+    return { width + 1, width };
+}
+
 } // namespace
 
-LineImage LineImage::of(
-    const PromptLine& line, const PromptTypography& typography, const QColor& color, double scale)
+LineImage LineImage::of(const PromptLine& line, const PromptTypography& typography,
+    const QColor& color, double scale, const QColor& outline)
 {
     const QTextLine laidOut = line.inPiece();
     const QRectF room = roomFor(laidOut);
@@ -83,11 +94,19 @@ LineImage LineImage::of(
     const QRect ink = inkOf(canvas);
     if (ink.isEmpty())
         return {};
-    const QRect kept = devicePixelsAround(ink);
+    const TextOutline::Reach reach = outline.alpha() > 0
+        ? outlineReach(typography.font.pixelSize() * pixels)
+        : TextOutline::Reach();
+    const int border = reach.whole();
+    const QRect kept = devicePixelsAround(ink).adjusted(-border, -border, border, border);
     const QRect rows(
         kept.left(), kept.top() * rowsPerPixel, kept.width(), kept.height() * rowsPerPixel);
     const QRectF place = kept.translated(area.topLeft());
-    return { canvas.copy(rows), QRectF(place.topLeft() / resolution, place.size() / resolution) };
+    const QRectF placeInPoints(place.topLeft() / resolution, place.size() / resolution);
+    if (border == 0)
+        return { canvas.copy(rows), placeInPoints };
+    const TextOutline::Reach along { reach.full * rowsPerPixel, reach.soft * rowsPerPixel };
+    return { TextOutline::around(canvas.copy(rows), outline, reach, along), placeInPoints };
 }
 
 } // namespace Orvello

@@ -17,10 +17,10 @@ struct LineImage {
     QImage pixels; ///< Premultiplied; null for a line without a mark.
     QRectF place; ///< In points, from the frame's left edge and the line's baseline.
 
-    /// Draws the line at the typography's scaled size. `scale` is the number of device pixels for
-    /// each point.
+    /// Draws the line at the typography's scaled size, with a soft outline unless that is
+    /// transparent. `scale` is the number of device pixels for each point.
     [[nodiscard]] static LineImage of(const PromptLine& line, const PromptTypography& typography,
-        const QColor& color, double scale);
+        const QColor& color, double scale, const QColor& outline = Qt::transparent);
 };
 
 } // namespace Orvello

@@ -17,6 +17,14 @@ constexpr qsizetype longestText = startMask;
 /// How many characters the paragraph's end takes that `fromEnd` begins with.
 qsizetype paragraphEndLength(QStringView fromEnd) { return fromEnd.startsWith(u"\r\n") ? 2 : 1; }
 
+/// Where the spaces end that begin at `position`, or the paragraph.
+qsizetype endOfSpaces(QStringView text, qsizetype position)
+{
+    while (position < text.size() && text[position].isSpace() && !isParagraphEnd(text[position]))
+        ++position;
+    return position;
+}
+
 /// Where the paragraph begins that contains `position`, if that is less than a piece away.
 std::optional<qsizetype> nearParagraphStart(QStringView text, qsizetype position)
 {
@@ -60,17 +68,21 @@ void PromptLayout::keepLinesBefore(const PromptLayout& previous, qsizetype chang
     // A piece knows its own characters and whether the text ends after them.
     const qsizetype kept
         = nearParagraphStart(m_text, change).value_or(change - PromptPiece::longest);
-    auto next = std::ranges::lower_bound(
-        previous.m_lines, kept, {}, [](const Line& line) { return line.start; });
-    next = std::find_if(
-        next, previous.m_lines.end(), [](const Line& line) { return line.beginsPiece; });
-
-    m_lines.assign(previous.m_lines.begin(), next);
-    if (next == previous.m_lines.end()) {
+    if (!previous.m_isComplete && previous.m_position.start <= kept) {
+        m_lines = previous.m_lines;
         m_position = previous.m_position;
         m_nextTop = previous.m_nextTop;
         return;
     }
+    // The piece that it is in is laid out again.
+    auto next = std::ranges::upper_bound(
+        previous.m_lines, kept, {}, [](const Line& line) { return line.start; });
+    while (next != previous.m_lines.begin() && !std::prev(next)->beginsPiece)
+        --next;
+    if (next == previous.m_lines.begin())
+        return;
+    --next;
+    m_lines.assign(previous.m_lines.begin(), next);
     m_position = { next->start, bool(next->isRightToLeft) };
     m_nextTop = next->top;
 }
@@ -123,9 +135,12 @@ void PromptLayout::step()
         append(piece, lineCount - 1);
         m_position = { piece.lineStart(lineCount - 1), piece.isRightToLeft() };
     } else {
-        // A single line that long consists of characters without width; it is cut here.
+        // A single line that long consists of characters without width, and is cut here, or of
+        // spaces that hang over its end.
         append(piece, lineCount);
-        m_position = { piece.end(), piece.isRightToLeft() };
+        const bool endsInSpaces = m_text[piece.end() - 1].isSpace();
+        m_position = { endsInSpaces ? endOfSpaces(m_text, piece.end()) : piece.end(),
+            piece.isRightToLeft() };
     }
 }
 
@@ -181,6 +196,13 @@ double PromptLayout::characterAt(double top) const
     const Line next = after == m_lines.end() ? end() : *after;
     const double share = std::min((top - line.top) / (next.top - line.top), 1.0);
     return line.start + share * (double(next.start) - line.start);
+}
+
+double PromptLayout::topOfLineWith(qsizetype character) const
+{
+    const auto after = std::ranges::upper_bound(
+        m_lines, character, {}, [](const Line& line) { return qsizetype(line.start); });
+    return after == m_lines.begin() ? 0 : std::prev(after)->top;
 }
 
 double PromptLayout::topOf(double character) const

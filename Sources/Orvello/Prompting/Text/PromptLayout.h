@@ -45,6 +45,7 @@ public:
     /// to fractions of a line's characters, so that one undoes the other. Where the layout has not
     /// reached the character, the height is that of its end.
     double characterAt(double top) const;
+    double topOfLineWith(qsizetype character) const; ///< To whole lines.
     double topOf(double character) const;
 
     /// The half-open range of lines, ready to be drawn. Pieces of `known`, which must be lines of

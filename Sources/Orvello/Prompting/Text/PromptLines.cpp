@@ -46,6 +46,7 @@ void PromptLines::setText(const QString& text)
     if (!assign(m_text, text))
         return;
     m_moves.clear();
+    m_sought.reset();
     restart(Place::Left);
     Q_EMIT textChanged();
 }
@@ -54,6 +55,8 @@ void PromptLines::update(const QString& text, const TextDifferences& differences
 {
     m_text = text;
     m_moves.push_back(differences);
+    if (m_sought)
+        *m_sought = static_cast<qsizetype>(placeAfter(differences, static_cast<double>(*m_sought)));
     restart(Place::Kept);
     Q_EMIT textChanged();
 }
@@ -63,6 +66,8 @@ void PromptLines::edit(const QString& text, const TextEdit& edit)
     m_text = text;
     if (!m_moves.empty())
         m_moves.push_back({ edit });
+    if (m_sought && edit.position < *m_sought)
+        *m_sought = std::max(edit.position, *m_sought + edit.inserted - edit.removed);
     if (canLayOut())
         layOut(newest().edited(text, edit));
     Q_EMIT textChanged();
@@ -150,6 +155,24 @@ void PromptLines::layOutSlice()
     updateContentHeight();
     if (m_readingTop != readingTop)
         Q_EMIT readingTopMoved();
+    tellFound();
+}
+
+void PromptLines::find(qsizetype character)
+{
+    m_sought = character;
+    tellFound();
+}
+
+void PromptLines::tellFound()
+{
+    if (!m_sought || m_next)
+        return;
+    const double top = m_shown.topOfLineWith(*m_sought) * m_shown.typography().scale;
+    if (!m_shown.isComplete() && heightOf(m_shown) < top + m_visibleHeight + margin)
+        return;
+    m_sought.reset();
+    Q_EMIT found(top);
 }
 
 /// Whether what is going to be visible is laid out.

@@ -65,6 +65,11 @@ public:
     /// the height before the change until the layout is complete.
     double contentHeight() const { return m_contentHeight; }
 
+    /// Announces where the line with that character of the text stands: at once or, in a long text,
+    /// when it is laid out as far as the lines that are seen below it. Another text ends the
+    /// search.
+    void find(qsizetype character);
+
     bool isLaidOut() const; ///< Whether the layout has reached the end of the present text.
 
     std::size_t positionBytes() const; ///< The memory that the positions of lines take.
@@ -74,6 +79,7 @@ Q_SIGNALS:
     void visibleLinesChanged();
     void shownTypographyChanged();
     void contentHeightChanged();
+    void found(double top); ///< Below the text's top.
     void readingTopMoved(); ///< Not by who set it. The visible part has moved by as much.
 
 private:
@@ -87,6 +93,7 @@ private:
     void layOut(PromptLayout layout);
     void layOutSlice();
     void adoptWhenReady();
+    void tellFound();
     void updateContentHeight();
     void showVisibleLines();
 
@@ -107,6 +114,7 @@ private:
     /// Half-open; nothing when out of date.
     std::optional<std::pair<PromptLayout::Index, PromptLayout::Index>> m_visibleRange;
     std::vector<PromptLine> m_visibleLines;
+    std::optional<qsizetype> m_sought; ///< A character whose line is to be announced.
     std::unique_ptr<TimeSource::Ticket> m_slice;
 };
 

@@ -88,9 +88,24 @@ PromptPiece::PromptPiece(
     for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
         const bool isContext = line.textStart() < m_contextLength;
         line.setLineWidth(isContext ? unlimitedWidth : typography.width);
-        m_contextLines += isContext ? 1 : 0;
     }
     m_layout.endLayout();
+    findLines();
+}
+
+void PromptPiece::findLines()
+{
+    for (int i = 0; i < m_layout.lineCount(); ++i) {
+        const QTextLine line = m_layout.lineAt(i);
+        const QStringView characters
+            = QStringView(m_layout.text()).mid(line.textStart(), line.textLength());
+        if (line.textStart() >= m_contextLength
+            && !std::ranges::all_of(characters, [](QChar each) { return each.isSpace(); }))
+            m_lines.push_back(i);
+    }
+    const bool isWholeParagraph = m_contextLength == 0;
+    if (m_lines.empty() && isWholeParagraph)
+        m_lines.push_back(0);
 }
 
 qsizetype PromptPiece::lineStart(int index) const

@@ -5,6 +5,7 @@
 #include <QTextLayout>
 
 #include <memory>
+#include <vector>
 
 namespace Orvello {
 
@@ -41,7 +42,10 @@ public:
     bool endsParagraph() const { return m_endsParagraph; }
     bool isRightToLeft() const { return m_isRightToLeft; }
 
-    int lineCount() const { return m_layout.lineCount() - m_contextLines; }
+    /// The lines that can be seen, or that are all of an empty paragraph. Spaces hang over a line's
+    /// end; what is too much for that would be lines without a mark. A part of a long paragraph may
+    /// be nothing else, and has no line.
+    int lineCount() const { return static_cast<int>(m_lines.size()); }
 
     /// Where the line begins in the text.
     qsizetype lineStart(int index) const;
@@ -50,16 +54,21 @@ public:
     QString lineText(int index) const;
 
     /// The line in its place from the frame's left edge; its top is at 0.
-    QTextLine line(int index) const { return m_layout.lineAt(m_contextLines + index); }
+    QTextLine line(int index) const
+    {
+        return m_layout.lineAt(m_lines[static_cast<std::size_t>(index)]);
+    }
 
 private:
+    void findLines();
+
     qsizetype m_start;
     qsizetype m_length = 0;
     bool m_endsParagraph = false;
     bool m_isRightToLeft;
     qsizetype m_contextLength = 0;
-    int m_contextLines = 0;
     QTextLayout m_layout;
+    std::vector<int> m_lines; ///< Their places in the layout.
 };
 
 /// One line, ready to be drawn, before it is scaled.

@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/View/PromptText.h"
 
 #include "Orvello/Foundation/Assign.h"
+#include "Orvello/Prompting/Text/Legibility.h"
 #include "Orvello/Prompting/View/FadingLinesNode.h"
 
 #include <QQuickWindow>
@@ -72,7 +73,22 @@ void PromptText::setColor(const QColor& color)
     if (!assign(m_color, color))
         return;
     redrawAllLines();
+    outlineLetters();
     Q_EMIT colorChanged();
+}
+
+void PromptText::setCardOpacity(double opacity)
+{
+    if (!assign(m_cardOpacity, opacity))
+        return;
+    outlineLetters();
+    Q_EMIT cardOpacityChanged();
+}
+
+void PromptText::outlineLetters()
+{
+    if (assign(m_outline, Legibility::outlineOf(m_color, m_cardOpacity)))
+        redrawAllLines();
 }
 
 void PromptText::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
@@ -187,7 +203,7 @@ void PromptText::takeOverLines()
 void PromptText::draw(ShownLine& shown)
 {
     const double scale = window() ? window()->effectiveDevicePixelRatio() : 1;
-    shown.image = LineImage::of(shown.line, m_lines->shownTypography(), m_color, scale);
+    shown.image = LineImage::of(shown.line, m_lines->shownTypography(), m_color, scale, m_outline);
     shown.imageId = ++m_lastImageId;
 }
 

@@ -24,6 +24,8 @@ class PromptText : public QQuickItem {
     Q_PROPERTY(
         Orvello::PromptLines* lines READ lines WRITE setLines NOTIFY linesChanged REQUIRED FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(
+        double cardOpacity READ cardOpacity WRITE setCardOpacity NOTIFY cardOpacityChanged FINAL)
 
 public:
     explicit PromptText(QQuickItem* parent = nullptr);
@@ -38,10 +40,15 @@ public:
     QColor color() const { return m_color; }
     void setColor(const QColor& color);
 
+    /// How opaque the card under the text is, from 0 (clear) to 1.
+    double cardOpacity() const { return m_cardOpacity; }
+    void setCardOpacity(double opacity);
+
 Q_SIGNALS:
     void engineChanged();
     void linesChanged();
     void colorChanged();
+    void cardOpacityChanged();
 
 protected:
     void updatePolish() override;
@@ -58,6 +65,7 @@ private:
     };
 
     void tellSize();
+    void outlineLetters();
     void follow();
     void requestFrame();
     void frameWasShown();
@@ -71,6 +79,8 @@ private:
     ScrollEngine* m_engine = nullptr;
     PromptLines* m_lines = nullptr;
     QColor m_color = Qt::white;
+    double m_cardOpacity = 1;
+    QColor m_outline = Qt::transparent; ///< Around the letters, where they need one to be read.
     std::optional<SmoothScroll> m_scroll;
     std::vector<ShownLine> m_shown;
     quint64 m_lastImageId = 0;

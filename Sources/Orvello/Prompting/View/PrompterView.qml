@@ -12,6 +12,8 @@ Item {
     required property PromptLines lines
     required property PrompterStatus status
     required property LevelMeter levelMeter
+    required property ReadingClock clock
+    required property VoiceActivityEngine voice
     required property SlideStatus slideStatus
     required property OtherDeckNotice otherDeckNotice
     required property ShareWarning shareWarning
@@ -42,6 +44,7 @@ Item {
         engine: root.engine
         lines: root.lines
         color: root.settings.textColor
+        cardOpacity: root.settings.backgroundOpacity
 
         Accessible.role: Accessible.StaticText
         Accessible.name: root.lines.text
@@ -60,6 +63,7 @@ Item {
         anchors.bottom: statusBadge.top
         anchors.margins: CardStyle.edge
         warning: root.shareWarning
+        isVisibleInRecordings: root.status.isVisibleInRecordings
         visible: root.shareWarning.isShown && !root.otherDeckNotice.isShown // A small card has room for one.
     }
 
@@ -78,23 +82,41 @@ Item {
         anchors.margins: CardStyle.edge
         status: root.status
         meter: root.levelMeter
+        clock: root.clock
+        voice: root.voice
+    }
+
+    VoiceHint {
+        anchors.left: parent.left
+        anchors.bottom: statusBadge.top
+        anchors.margins: CardStyle.edge
+        visible: statusBadge.isPointedAt && voice.status !== ""
+        maximumWidth: parent.width - 2 * CardStyle.edge
+        voice: root.voice
+    }
+
+    RecordingBadge {
+        id: recordingBadge
+        anchors.left: statusBadge.right
+        anchors.bottom: parent.bottom
+        anchors.margins: CardStyle.edge
+        visible: root.forceCapturable || root.status.isVisibleInRecordings
+        maximumWidth: parent.width - statusBadge.width - 3 * CardStyle.edge
+                      - (slideChip.visible ? slideChip.widthWithoutTitle + CardStyle.edge : 0)
+        isFolded: root.settings.recordingBadgeFolded
+        //: On the card, at most about 40 characters: others can see the prompter.
+        message: root.forceCapturable ? qsTr("DEBUG — VISIBLE IN RECORDINGS") : qsTr("VISIBLE IN RECORDINGS")
+        onPressed: root.settings.recordingBadgeFolded = !root.settings.recordingBadgeFolded
     }
 
     SlideChip {
+        id: slideChip
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: CardStyle.edge
         maximumWidth: parent.width - statusBadge.width - 3 * CardStyle.edge
+                      - (recordingBadge.visible ? recordingBadge.width + CardStyle.edge : 0)
         visible: root.slideStatus.isShown
         status: root.slideStatus
-    }
-
-    RecordingBadge {
-        anchors.right: parent.right
-        anchors.top: parent.top
-        anchors.margins: CardStyle.edge
-        visible: root.forceCapturable || root.status.isVisibleInRecordings
-        //: On the card, at most about 40 characters: others can see the prompter.
-        message: root.forceCapturable ? qsTr("DEBUG — VISIBLE IN RECORDINGS") : qsTr("VISIBLE IN RECORDINGS")
     }
 }

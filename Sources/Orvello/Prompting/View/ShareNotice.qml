@@ -1,11 +1,12 @@
 import QtQuick
 import Orvello
 
-// Warns of switching Stealth Mode while others see the screen.
+// Warns of what Stealth Mode does while others see the screen, or says that it does nothing here.
 RoundedBox {
     id: root
 
     required property ShareWarning warning
+    required property bool isVisibleInRecordings
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message.text
@@ -32,7 +33,9 @@ RoundedBox {
         anchors.leftMargin: 6
         anchors.right: dismissal.left
         anchors.verticalCenter: parent.verticalCenter
-        text: qsTr("Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.")
+        text: root.isVisibleInRecordings
+              ? qsTr("Stealth Mode has no effect on this desktop — whoever sees your screen sees this prompter, too.")
+              : qsTr("Toggling Stealth Mode during a screen share can gray out this prompter — close and open Orvello again to clear it.")
         color: CardStyle.notice
         wrapMode: Text.Wrap
     }

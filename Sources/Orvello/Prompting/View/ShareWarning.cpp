@@ -29,19 +29,12 @@ void ShareWarning::dismiss()
     update();
 }
 
-void ShareWarning::setVisibleInRecordings(bool isVisible)
-{
-    m_isVisibleInRecordings = isVisible;
-    update();
-}
-
 bool ShareWarning::isCalledFor() const
 {
     const bool mayBeShared = m_presentation.inCall()
         || (m_presentation.isPresenting() && m_presentation.meetingAppRunning());
     // The digits of a countdown take the card's centre.
-    return mayBeShared && m_settings.stealthMode() && !m_isVisibleInRecordings && !m_isDismissed
-        && !m_engine.isCountingDown();
+    return mayBeShared && m_settings.stealthMode() && !m_isDismissed && !m_engine.isCountingDown();
 }
 
 void ShareWarning::update()

@@ -8,8 +8,8 @@ class PresentationMonitor;
 class ScrollEngine;
 class SettingsStore;
 
-/// Whether the prompter warns that Stealth Mode should be left alone: while the screen may be being
-/// shared, until the user has dismissed the warning for good.
+/// Whether the prompter warns of what Stealth Mode does, or fails to do, to a shared screen: while
+/// the screen may be being shared, until the user has dismissed the warning for good.
 class ShareWarning final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isShown READ isShown NOTIFY isShownChanged FINAL)
@@ -23,9 +23,6 @@ public:
 
     Q_INVOKABLE void dismiss();
 
-    /// Where captures show the card anyway, Stealth Mode can gray nothing out.
-    void setVisibleInRecordings(bool isVisible);
-
 Q_SIGNALS:
     void isShownChanged();
 
@@ -37,7 +34,6 @@ private:
     const SettingsStore& m_settings;
     const ScrollEngine& m_engine;
     bool m_isDismissed = false;
-    bool m_isVisibleInRecordings = false;
     bool m_isShown;
 };
 

@@ -7,10 +7,18 @@ Capsule {
 
     required property PrompterStatus status
     required property LevelMeter meter
+    required property ReadingClock clock
+    required property VoiceActivityEngine voice
+
+    readonly property bool isPointedAt: hover.hovered
 
     Accessible.role: Accessible.StaticText
     Accessible.name: status.label
-    Accessible.description: qsTr("Status")
+    Accessible.description: voice.status === "" ? qsTr("Status") : qsTr("Status") + "\n" + voice.status
+
+    HoverHandler {
+        id: hover
+    }
 
     RoundedBox {
         anchors.verticalCenter: parent.verticalCenter
@@ -29,5 +37,14 @@ Capsule {
     LevelBeam {
         anchors.verticalCenter: parent.verticalCenter
         meter: root.meter
+    }
+
+    SmallLabel {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: text !== ""
+        text: root.clock.text
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        Accessible.description: qsTr("Reading time")
     }
 }

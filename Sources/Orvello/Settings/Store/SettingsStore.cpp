@@ -40,6 +40,9 @@ SettingsStore::SettingsStore(UserDefaults& defaults, QObject* parent)
     , m_countdownSeconds(numberOr(3.0, defaults, u"countdownSeconds"_s))
     , m_slideshowPauseKey(booleanOr(true, defaults, u"slideshowPauseKey"_s))
     , m_slideSync(booleanOr(true, defaults, u"slideSync"_s))
+    , m_recordingBadgeFolded(booleanOr(false, defaults, u"recordingBadgeFolded"_s))
+    , m_keptPace(numberOr(0.0, defaults, u"keptPace"_s))
+    , m_cardTime(DefaultsValue::asString(defaults.value(u"cardTime"_s)).value_or(QString()))
     , m_onboardingSeenVersion(DefaultsValue::asInteger(defaults.value(u"onboardingSeenVersion"_s)))
 {
 }
@@ -139,6 +142,22 @@ void SettingsStore::setSlideshowPauseKey(bool on)
 void SettingsStore::setSlideSync(bool on)
 {
     assign(m_slideSync, on, u"slideSync"_s, &SettingsStore::slideSyncChanged);
+}
+
+void SettingsStore::setRecordingBadgeFolded(bool isFolded)
+{
+    assign(m_recordingBadgeFolded, isFolded, u"recordingBadgeFolded"_s,
+        &SettingsStore::recordingBadgeFoldedChanged);
+}
+
+void SettingsStore::setKeptPace(double wordsPerMinute)
+{
+    assign(m_keptPace, wordsPerMinute, u"keptPace"_s, &SettingsStore::keptPaceChanged);
+}
+
+void SettingsStore::setCardTime(const QString& times)
+{
+    assign(m_cardTime, times, u"cardTime"_s, &SettingsStore::cardTimeChanged);
 }
 
 void SettingsStore::setOnboardingSeenVersion(qint64 version)

@@ -34,6 +34,10 @@ class SettingsStore final : public QObject {
     Q_PROPERTY(bool slideshowPauseKey READ slideshowPauseKey WRITE setSlideshowPauseKey NOTIFY
             slideshowPauseKeyChanged FINAL)
     Q_PROPERTY(bool slideSync READ slideSync WRITE setSlideSync NOTIFY slideSyncChanged FINAL)
+    Q_PROPERTY(bool recordingBadgeFolded READ recordingBadgeFolded WRITE setRecordingBadgeFolded
+            NOTIFY recordingBadgeFoldedChanged FINAL)
+    Q_PROPERTY(double keptPace READ keptPace WRITE setKeptPace NOTIFY keptPaceChanged FINAL)
+    Q_PROPERTY(QString cardTime READ cardTime WRITE setCardTime NOTIFY cardTimeChanged FINAL)
     Q_PROPERTY(qint64 onboardingSeenVersion READ onboardingSeenVersion WRITE
             setOnboardingSeenVersion NOTIFY onboardingSeenVersionChanged FINAL)
 
@@ -86,6 +90,18 @@ public:
     bool slideSync() const { return m_slideSync; }
     void setSlideSync(bool on);
 
+    /// Whether what says that recordings show the prompter is only an eye.
+    bool recordingBadgeFolded() const { return m_recordingBadgeFolded; }
+    void setRecordingBadgeFolded(bool isFolded);
+
+    /// The words a minute that every text keeps, whatever its speed then is; 0 for none.
+    double keptPace() const { return m_keptPace; }
+    void setKeptPace(double wordsPerMinute);
+
+    /// Which times the card shows: "left", "elapsed", "both"; anything else is none.
+    const QString& cardTime() const { return m_cardTime; }
+    void setCardTime(const QString& times);
+
     qint64 onboardingSeenVersion() const { return m_onboardingSeenVersion; }
     void setOnboardingSeenVersion(qint64 version);
 
@@ -104,6 +120,9 @@ Q_SIGNALS:
     void countdownSecondsChanged();
     void slideshowPauseKeyChanged();
     void slideSyncChanged();
+    void recordingBadgeFoldedChanged();
+    void keptPaceChanged();
+    void cardTimeChanged();
     void onboardingSeenVersionChanged();
 
 private:
@@ -124,6 +143,9 @@ private:
     double m_countdownSeconds;
     bool m_slideshowPauseKey;
     bool m_slideSync;
+    bool m_recordingBadgeFolded;
+    double m_keptPace;
+    QString m_cardTime;
     qint64 m_onboardingSeenVersion;
 };
 

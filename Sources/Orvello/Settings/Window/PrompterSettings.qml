@@ -6,6 +6,7 @@ SettingsSection {
 
     required property SettingsStore settings
     required property SettingsForm form
+    required property Compositing compositing
 
     title: qsTr("Prompter")
 
@@ -38,5 +39,10 @@ SettingsSection {
         step: 0.05
         value: root.settings.backgroundOpacity
         onMoved: value => root.settings.backgroundOpacity = value
+    }
+    SettingsNote {
+        visible: !root.compositing.isOn
+        //: A compositor is the part of a Linux desktop that makes windows translucent.
+        text: qsTr("The opacity has no effect at the moment: windows can be translucent only while the desktop runs a compositor.")
     }
 }

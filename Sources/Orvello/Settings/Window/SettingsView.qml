@@ -12,9 +12,11 @@ Pane {
     required property SettingsStore settings
     required property SettingsForm form
     required property VoiceActivityEngine voice
+    required property ReadingPace pace
     required property UpdateController updates
     required property string version
     required property ShortcutList shortcuts
+    required property Compositing compositing
     required property facts facts
     property ImpressPresenter impress
     property string impressConsent
@@ -72,6 +74,7 @@ Pane {
             PrompterSettings {
                 settings: root.settings
                 form: root.form
+                compositing: root.compositing
             }
             VoiceSettings {
                 settings: root.settings
@@ -102,6 +105,10 @@ Pane {
                 updates: root.updates
                 facts: root.facts
                 version: root.version
+            }
+            ReadingSettings {
+                settings: root.settings
+                pace: root.pace
             }
         }
     }

@@ -7,13 +7,13 @@
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/HotKeys.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
-#include "Orvello/Platform/Desktop/Wakefulness.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/UserDefaults.h"
 #include "Orvello/Platform/Sound/SoundPlatform.h"
 #include "Orvello/Presentations/Decks/PptxImporter.h"
 #include "Orvello/Presentations/Presenters/AppleScriptPresenters.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Shell/App/StayAwake.h"
 #include "Orvello/Shell/Commands/PlainPKey.h"
 #include "Orvello/Shell/Commands/StatusItem.h"
 #include "Orvello/Shell/Windows/Branding.h"
@@ -48,6 +48,7 @@ AppDelegate::AppDelegate(const Platforms& platforms, ShellWindows::Factory makeW
     , m_deckUpdates(m_library, m_deckFiles, platforms.early.time())
     , m_micActivity(platforms.sound.audioProcesses(), QCoreApplication::applicationPid())
     , m_engine(m_settings, platforms.early.time())
+    , m_pace(m_settings, m_engine, platforms.early.time())
     , m_voice(m_settings,
           VoiceActivityEngine::Ports { platforms.early.time(),
               platforms.sound.microphonePermission(), platforms.sound.voiceProcessing(),
@@ -253,16 +254,21 @@ void AppDelegate::makePanel()
 
 void AppDelegate::makeWindows()
 {
-    m_windows = m_makeWindows(
-        { m_settings, m_library, m_voice, m_updates, m_presenters, m_openDecks, m_deckFiles,
-            m_deckUpdates, m_platforms.desktop.workspace(), m_platforms.desktop.openPanel(),
-            m_platforms.desktop.windowChrome(), m_platforms.desktop.statusBar(),
-            m_platforms.desktop.hotKeys(), m_platforms.early.facts(), m_impress.get(),
-            PanelSpace {
-                .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
-                .stepAside = [this] { m_panel->hide(); },
-                .comeBack = [this] { showPanel(); },
-            } });
+    m_windows = m_makeWindows({ m_settings, m_library, m_voice, m_pace, m_updates, m_presenters,
+        m_openDecks, m_deckFiles, m_deckUpdates, m_platforms.desktop.workspace(),
+        m_platforms.desktop.openPanel(), m_platforms.desktop.windowChrome(),
+        m_platforms.desktop.statusBar(), m_platforms.desktop.hotKeys(),
+        m_platforms.desktop.compositing(), m_platforms.early.facts(), m_impress.get(),
+        PanelSpace {
+            .frame = [this] { return m_panel->isVisible() ? m_panel->frame() : QRectF(); },
+            .stepAside = [this] { m_panel->hide(); },
+            .comeBack = [this] { showPanel(); },
+        },
+        [this](qsizetype position) {
+            if (!m_panel->isVisible())
+                showPanel();
+            m_prompterWindow->startAt(position);
+        } });
     m_commands = std::make_unique<AppCommands>(
         AppCommands::Services { m_engine, m_settings, m_updates,
             m_platforms.desktop.desktopServices(), *m_windows, m_platforms.early.facts() },
@@ -364,24 +370,12 @@ void AppDelegate::subscribe()
         });
     observe(m_voice, &VoiceActivityEngine::isSpeaking, &VoiceActivityEngine::isSpeakingChanged,
         *this, [this](bool isSpeaking) { m_engine.setVoiceGate(isSpeaking); });
-    if (Wakefulness* const wakefulness = m_platforms.desktop.wakefulness())
-        keepAwake(*wakefulness);
-}
-
-void AppDelegate::keepAwake(Wakefulness& wakefulness)
-{
-    const auto need = [this] {
-        if (m_engine.isRunning() || m_engine.isCountingDown())
-            return Wakefulness::Need::Display;
-        return m_voice.isListening() || m_presentation.isPresenting() ? Wakefulness::Need::Timers
-                                                                      : Wakefulness::Need::None;
-    };
-    observeCombined(
-        *this, need, [&wakefulness](Wakefulness::Need now) { wakefulness.hold(now); },
-        changeOf(m_engine, &ScrollEngine::isRunningChanged),
-        changeOf(m_engine, &ScrollEngine::countdownChanged),
-        changeOf(m_voice, &VoiceActivityEngine::isListeningChanged),
-        changeOf(m_presentation, &PresentationMonitor::isPresentingChanged));
+    connect(&m_deck, &DeckController::promptTextChanged, this,
+        [this] { m_pace.setText(m_deck.promptText()); });
+    m_pace.setText(m_deck.promptText());
+    m_stayAwake
+        = std::make_unique<StayAwake>(StayAwake::Services { m_platforms.desktop.wakefulness(),
+            m_engine, m_slideSync, m_presentation, m_voice, m_platforms.early.time() });
 }
 
 /// Slide tracking is on exactly while the setting is and the active script has slides.

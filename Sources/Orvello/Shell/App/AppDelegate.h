@@ -11,6 +11,7 @@
 #include "Orvello/Presentations/Slideshow/DeckController.h"
 #include "Orvello/Presentations/Slideshow/PresentationMonitor.h"
 #include "Orvello/Presentations/Slideshow/SlideSyncService.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
@@ -42,7 +43,7 @@ class PrompterWindow;
 class RightClickFilter;
 class SoundPlatform;
 class StatusItem;
-class Wakefulness;
+class StayAwake;
 
 /// Makes every long-lived object, wires them together, shows the first window, and closes the
 /// session at quit. One for the life of the process; everything it makes lives as long.
@@ -102,7 +103,6 @@ private:
     void registerHotKeys();
     void startUpdates();
     void subscribe();
-    void keepAwake(Wakefulness& wakefulness);
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);
@@ -132,6 +132,7 @@ private:
     DeckFileUpdates m_deckUpdates;
     ProcessMicActivity m_micActivity;
     ScrollEngine m_engine;
+    ReadingPace m_pace;
     VoiceActivityEngine m_voice;
     PresentationMonitor m_presentation;
     std::unique_ptr<ImpressPresenter> m_impress; ///< None in an edition that does not follow it.
@@ -151,6 +152,7 @@ private:
     std::unique_ptr<StatusMenu> m_prompterMenu;
     std::unique_ptr<StatusItem> m_statusItem;
     std::unique_ptr<RightClickFilter> m_rightClicks;
+    std::unique_ptr<StayAwake> m_stayAwake;
     std::unique_ptr<PlainPKey> m_plainPKey;
     std::vector<std::unique_ptr<ProcessSignals::Subscription>> m_signals;
     QList<QUrl> m_pendingURLs;

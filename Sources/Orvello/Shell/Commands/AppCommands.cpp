@@ -48,7 +48,9 @@ void AppCommands::speedUp()
 
 void AppCommands::slowDown()
 {
-    m_services.settings.setSpeed(std::max(m_services.settings.speed() - speedStep, slowestSpeed));
+    const double speed = m_services.settings.speed();
+    // A pace in words can be slower than the keys go; they never make it faster then.
+    m_services.settings.setSpeed(std::max(speed - speedStep, std::min(speed, slowestSpeed)));
 }
 
 void AppCommands::backToTop() { m_services.engine.setOffset(0); }

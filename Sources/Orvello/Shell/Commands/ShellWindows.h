@@ -9,6 +9,7 @@
 
 namespace Orvello {
 
+class Compositing;
 class DeckFileImport;
 class DeckFileUpdates;
 class HotKeys;
@@ -18,6 +19,7 @@ class LiveDeckImport;
 class Menu;
 class OpenPanel;
 class PresenterTable;
+class ReadingPace;
 class SettingsStore;
 class StatusBar;
 class StatusItem;
@@ -52,6 +54,7 @@ public:
         SettingsStore& settings;
         LibraryStore& library;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         const PresenterTable& presenters;
         LiveDeckImport& openDecks;
@@ -62,9 +65,12 @@ public:
         WindowChrome& windowChrome;
         StatusBar& statusBar;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the windows may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
         PanelSpace panel = {};
+        /// Has the prompter begin at that place of the active script's body.
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {};
     };
     using Factory = std::function<std::unique_ptr<ShellWindows>(const Services&)>;
 

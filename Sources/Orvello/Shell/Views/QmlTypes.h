@@ -2,8 +2,11 @@
 
 #include "Orvello/Library/Window/LibraryViewModel.h"
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Platform/Early/Facts.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingClock.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Prompting/Engine/ScrollEngine.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/CardStyle.h"
@@ -44,6 +47,13 @@ struct AssignedKeysType {
     Q_GADGET
     QML_FOREIGN(Orvello::AssignedKeys)
     QML_NAMED_ELEMENT(AssignedKeys)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct CompositingType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::Compositing)
+    QML_NAMED_ELEMENT(Compositing)
     QML_UNCREATABLE("The program makes it.")
 };
 
@@ -98,6 +108,20 @@ struct OtherDeckNoticeType {
     Q_GADGET
     QML_FOREIGN(Orvello::OtherDeckNotice)
     QML_NAMED_ELEMENT(OtherDeckNotice)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ReadingClockType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingClock)
+    QML_NAMED_ELEMENT(ReadingClock)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ReadingPaceType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingPace)
+    QML_NAMED_ELEMENT(ReadingPace)
     QML_UNCREATABLE("The program makes it.")
 };
 

@@ -17,8 +17,9 @@ constexpr QSize smallestSize(660, 440);
 
 } // namespace
 
-LibraryWindow::LibraryWindow(const Services& services, PanelSpace panel)
-    : m_library(services)
+LibraryWindow::LibraryWindow(
+    const Services& services, PanelSpace panel, std::function<void(qsizetype)> startReadingAt)
+    : m_library(services, std::move(startReadingAt))
     , m_panel(std::move(panel))
 {
     m_view.setTitle(tr("Scripts"));

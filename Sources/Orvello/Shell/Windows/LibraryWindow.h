@@ -15,7 +15,9 @@ class LibraryWindow final : public ShellWindow {
 public:
     using Services = DeckImports::Services; ///< All of them must outlive the window.
 
-    explicit LibraryWindow(const Services& services, PanelSpace panel = {});
+    explicit LibraryWindow(
+        const Services& services, PanelSpace panel = {},
+        std::function<void(qsizetype)> startReadingAt = [](qsizetype) {});
     ~LibraryWindow() override;
 
     void bringToFront() override;

@@ -5,6 +5,7 @@
 #include "Orvello/Prompting/Text/PromptFont.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Windows/ViewWindow.h"
+#include "Orvello/Voice/VoiceActivityEngine.h"
 
 #include <QQuickItem>
 
@@ -15,8 +16,10 @@ namespace Orvello {
 using namespace Qt::StringLiterals;
 
 PrompterWindow::PrompterWindow(const Services& services)
-    : m_lines(services.time)
+    : m_deck(services.deck)
+    , m_lines(services.time)
     , m_status(services.engine)
+    , m_clock(services.settings, services.engine, services.time)
     , m_levelMeter(services.voice)
     , m_slideStatus(services.deck)
     , m_otherDeckNotice(services.deck, services.library, services.openDecks)
@@ -31,7 +34,9 @@ PrompterWindow::PrompterWindow(const Services& services)
             { u"settings"_s, QVariant::fromValue(&services.settings) },
             { u"lines"_s, QVariant::fromValue(&m_lines) },
             { u"status"_s, QVariant::fromValue(&m_status) },
+            { u"clock"_s, QVariant::fromValue(&m_clock) },
             { u"levelMeter"_s, QVariant::fromValue(&m_levelMeter) },
+            { u"voice"_s, QVariant::fromValue(&services.voice) },
             { u"slideStatus"_s, QVariant::fromValue(&m_slideStatus) },
             { u"otherDeckNotice"_s, QVariant::fromValue(&m_otherDeckNotice) },
             { u"shareWarning"_s, QVariant::fromValue(&m_shareWarning) },
@@ -45,7 +50,12 @@ PrompterWindow::~PrompterWindow() = default;
 void PrompterWindow::setVisibleInRecordings(bool isVisible)
 {
     m_status.setVisibleInRecordings(isVisible);
-    m_shareWarning.setVisibleInRecordings(isVisible);
+}
+
+void PrompterWindow::startAt(qsizetype position)
+{
+    if (const std::optional<qsizetype> character = m_deck.goTo(position))
+        m_lines.find(*character);
 }
 
 /// The text and its size go from the services to the layout, its height from there to the engine.
@@ -63,6 +73,14 @@ void PrompterWindow::connectText(const Services& services)
         [this, &engine = services.engine] { m_lines.setReadingTop(engine.offset()); });
     connect(&m_lines, &PromptLines::readingTopMoved, this, [this, &engine = services.engine] {
         engine.setOffset(std::min(m_lines.readingTop(), engine.endOffset()));
+    });
+    connect(&m_lines, &PromptLines::found, this, [&engine = services.engine](double top) {
+        if (engine.isCountingDown())
+            engine.toggle();
+        engine.setOffset(std::min(top, engine.endOffset()));
+        // A text that stands at its end would start again from the top.
+        if (engine.offset() < engine.endOffset())
+            engine.start();
     });
     m_lines.setText(services.deck.promptText());
     connect(&services.deck, &DeckController::promptTextChanged, this,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Prompting/Engine/ReadingClock.h"
 #include "Orvello/Prompting/Text/PromptLines.h"
 #include "Orvello/Prompting/View/LevelMeter.h"
 #include "Orvello/Prompting/View/OtherDeckNotice.h"
@@ -31,7 +32,7 @@ public:
     struct Services {
         ScrollEngine& engine;
         SettingsStore& settings;
-        const VoiceActivityEngine& voice;
+        VoiceActivityEngine& voice;
         const PresentationMonitor& presentation;
         DeckController& deck;
         LibraryStore& library;
@@ -45,14 +46,19 @@ public:
 
     QWindow& window() { return m_view; }
 
+    /// Begins to scroll at the line with that place of the active script's body.
+    void startAt(qsizetype position);
+
     /// Whether the card says that Stealth Mode cannot hide it here.
     void setVisibleInRecordings(bool isVisible);
 
 private:
     void connectText(const Services& services);
 
+    DeckController& m_deck;
     PromptLines m_lines;
     PrompterStatus m_status;
+    ReadingClock m_clock;
     LevelMeter m_levelMeter;
     SlideStatus m_slideStatus;
     OtherDeckNotice m_otherDeckNotice;

@@ -23,14 +23,15 @@ std::unique_ptr<ShellWindow> QtShellWindows::makeLibrary()
     return std::make_unique<LibraryWindow>(
         LibraryWindow::Services { m_services.library, m_services.openDecks, m_services.files,
             m_services.deckUpdates, m_services.presenters, m_services.openPanel, m_services.facts },
-        m_services.panel);
+        m_services.panel, m_services.startReadingAt);
 }
 
 std::unique_ptr<ShellWindow> QtShellWindows::makeSettings()
 {
     return std::make_unique<SettingsWindow>(
-        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.updates,
-            m_services.hotKeys, m_services.facts, m_services.impress },
+        SettingsWindow::Services { m_services.settings, m_services.voice, m_services.pace,
+            m_services.updates, m_services.hotKeys, m_services.compositing, m_services.facts,
+            m_services.impress },
         m_services.panel);
 }
 

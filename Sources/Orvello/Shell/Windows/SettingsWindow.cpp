@@ -1,7 +1,9 @@
 #include "Orvello/Shell/Windows/SettingsWindow.h"
 
 #include "Orvello/Platform/Desktop/AssignedKeys.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Presentations/Slideshow/ImpressPresenter.h"
+#include "Orvello/Prompting/Engine/ReadingPace.h"
 #include "Orvello/Settings/Store/SettingsStore.h"
 #include "Orvello/Shell/Updates/UpdateController.h"
 #include "Orvello/Shell/Windows/ImpressAdviceDialog.h"
@@ -34,8 +36,10 @@ SettingsWindow::SettingsWindow(const Services& services, PanelSpace panel)
             { u"updates"_s, QVariant::fromValue(&services.updates) },
             { u"version"_s, QString::fromLatin1(version) },
             { u"shortcuts"_s, QVariant::fromValue(&m_shortcuts) },
+            { u"compositing"_s, QVariant::fromValue(&services.compositing) },
             { u"facts"_s, QVariant::fromValue(services.facts) },
             { u"impress"_s, QVariant::fromValue(services.impress) },
+            { u"pace"_s, QVariant::fromValue(&services.pace) },
             { u"impressConsent"_s, ImpressAdviceDialog::consentText() },
         });
     followSystemPalette(m_view);

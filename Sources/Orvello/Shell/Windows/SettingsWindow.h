@@ -10,8 +10,10 @@
 namespace Orvello {
 
 class AssignedKeys;
+class Compositing;
 class ImpressPresenter;
 class SettingsStore;
+class ReadingPace;
 class UpdateController;
 class VoiceActivityEngine;
 
@@ -28,8 +30,10 @@ public:
     struct Services {
         SettingsStore& settings;
         VoiceActivityEngine& voice;
+        ReadingPace& pace;
         UpdateController& updates;
         HotKeys& hotKeys;
+        Compositing& compositing;
         Facts facts; ///< What the window may say about this machine.
         ImpressPresenter* impress = nullptr; ///< Null in an edition that does not follow it.
     };

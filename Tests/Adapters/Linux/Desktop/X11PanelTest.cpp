@@ -1,5 +1,6 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
+#include "Orvello/Adapters/Linux/Desktop/X11Compositing.h"
 #include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 #include "Tests/Support/FakeUserDefaults.h"
@@ -43,6 +44,28 @@ public:
 
     bool wantsPresses = false;
     std::vector<Qt::MouseButton> presses;
+};
+
+/// A compositor as far as other programs can tell: the owner of the selection.
+class StandInCompositor {
+public:
+    StandInCompositor()
+        : m_connection(xcb_connect(nullptr, nullptr))
+    {
+        const xcb_window_t window = xcb_generate_id(m_connection);
+        xcb_screen_t* const screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+        xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, window, screen->root, 0, 0, 1, 1, 0,
+            XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+        xcb_set_selection_owner(
+            m_connection, window, Xcb::atomNamed(m_connection, "_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+        xcb_flush(m_connection);
+    }
+    ~StandInCompositor() { xcb_disconnect(m_connection); }
+    StandInCompositor(const StandInCompositor&) = delete;
+    StandInCompositor& operator=(const StandInCompositor&) = delete;
+
+private:
+    xcb_connection_t* m_connection;
 };
 
 /// The panel on a real X server. Pointer events are handed to its window one after the other, so
@@ -111,7 +134,8 @@ protected:
 
     Testing::FakeUserDefaults defaults;
     View view;
-    X11Panel panel { view, defaults };
+    X11Compositing compositing;
+    X11Panel panel { view, defaults, compositing };
     std::vector<std::string> news;
     std::vector<double> scrolls;
 };
@@ -323,6 +347,35 @@ protected:
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
 };
 
+TEST_F(X11PanelStackTest, takesItsShadowAlongBelowIt)
+{
+    const StandInCompositor compositor;
+    settle();
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto shadow = std::ranges::find(windows, u"Orvello shadow"_s, &QWindow::title);
+    ASSERT_NE(shadow, windows.end());
+    EXPECT_TRUE((*shadow)->isVisible());
+    EXPECT_TRUE((*shadow)->geometry().contains(view.geometry()));
+    const auto number = static_cast<xcb_window_t>((*shadow)->winId());
+    EXPECT_THAT(stack({ own(), number }), ElementsAre(number, own()));
+
+    const xcb_window_t document = add(Kind::Managed);
+    EXPECT_THAT(stack({ own(), document, number }), ElementsAre(document, number, own()));
+
+    panel.setFrame({ 200, 350, 400, 150 });
+    EXPECT_TRUE((*shadow)->geometry().contains(QRect(200, 350, 400, 150)));
+    panel.hide();
+    EXPECT_FALSE((*shadow)->isVisible());
+    show();
+    EXPECT_THAT(stack({ own(), document, number }), ElementsAre(document, number, own()));
+}
+
+TEST_F(X11PanelStackTest, hasNoShadowWhereNobodyComposites)
+{
+    for (const QWindow* const window : QGuiApplication::topLevelWindows())
+        EXPECT_EQ(window->isVisible(), window == &view);
+}
+
 TEST_F(X11PanelStackTest, comesJustAboveAManagedWindowThatCoversIt)
 {
     const xcb_window_t document = add(Kind::Managed);
@@ -402,6 +455,30 @@ TEST_F(X11PanelTest, isDraggedByOnePointerAtATime)
 }
 
 // The frame
+
+TEST_F(X11PanelTest, cutsItsCornersOffOnlyWhileNobodyComposites)
+{
+    EXPECT_FALSE(compositing.isOn());
+    EXPECT_FALSE(view.mask().contains(QPoint(1, 1)));
+    EXPECT_TRUE(view.mask().contains(QPoint(360, 1)));
+    {
+        const StandInCompositor compositor;
+        settle();
+        EXPECT_TRUE(compositing.isOn());
+        EXPECT_TRUE(view.mask().isEmpty());
+    }
+    settle();
+    EXPECT_FALSE(compositing.isOn());
+    EXPECT_FALSE(view.mask().contains(QPoint(1, 1)));
+}
+
+TEST_F(X11PanelTest, knowsACompositorThatIsThereBefore)
+{
+    const StandInCompositor compositor;
+    settle();
+
+    EXPECT_TRUE(X11Compositing().isOn());
+}
 
 TEST_F(X11PanelTest, tellsOfASizeThatItIsGiven)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <AudioToolbox/AudioToolbox.h>
 #include <CoreAudio/CoreAudio.h>
 #include <Foundation/Foundation.h>
 
@@ -48,7 +49,11 @@ typedef void (^AVAudioNodeTapBlock)(AVAudioPCMBuffer* buffer, AVAudioTime* when)
 - (void)removeTapOnBus:(AVAudioNodeBus)bus;
 @end
 
-@interface AVAudioInputNode : AVAudioNode
+@interface AVAudioIONode : AVAudioNode
+@property (nonatomic, readonly, nullable) AudioUnit audioUnit;
+@end
+
+@interface AVAudioInputNode : AVAudioIONode
 @end
 
 @interface AVAudioEngine : NSObject

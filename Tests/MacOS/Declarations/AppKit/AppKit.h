@@ -222,6 +222,8 @@ static const NSModalResponse NSModalResponseOK = 1;
 @property (copy) NSArray<UTType*>* allowedContentTypes;
 @property (nullable, readonly, copy) NSURL* URL;
 @property (null_resettable, copy) NSString* message;
+@property (copy) NSString* nameFieldStringValue;
++ (NSSavePanel*)savePanel;
 - (NSModalResponse)runModal;
 @end
 

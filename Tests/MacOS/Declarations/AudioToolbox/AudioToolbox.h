@@ -38,6 +38,7 @@ enum : AudioUnitScope {
 enum : AudioUnitPropertyID {
     kAudioUnitProperty_StreamFormat = 8,
     kAudioUnitProperty_SetRenderCallback = 23,
+    kAudioOutputUnitProperty_CurrentDevice = 2000,
     kAudioOutputUnitProperty_EnableIO = 2003,
     kAudioOutputUnitProperty_SetInputCallback = 2005,
 };

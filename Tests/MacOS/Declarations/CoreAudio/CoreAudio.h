@@ -13,11 +13,21 @@ struct AudioObjectPropertyAddress {
 };
 
 enum : AudioObjectID { kAudioObjectUnknown = 0, kAudioObjectSystemObject = 1 };
-enum : AudioObjectPropertyScope { kAudioObjectPropertyScopeGlobal = 'glob' };
+enum : AudioObjectPropertyScope {
+    kAudioObjectPropertyScopeGlobal = 'glob',
+    kAudioObjectPropertyScopeInput = 'inpt',
+    kAudioObjectPropertyScopeOutput = 'outp',
+};
 enum : AudioObjectPropertyElement { kAudioObjectPropertyElementMain = 0 };
-// In the SDK since that of macOS 14, without an availability mark.
 enum : AudioObjectPropertySelector {
+    kAudioObjectPropertyName = 'lnam',
+    kAudioHardwarePropertyDevices = 'dev#',
     kAudioHardwarePropertyDefaultInputDevice = 'dIn ',
+    kAudioDevicePropertyDeviceUID = 'uid ',
+    kAudioDevicePropertyStreams = 'stm#',
+    kAudioDevicePropertyDeviceCanBeDefaultDevice = 'dflt',
+    kAudioDevicePropertyMute = 'mute',
+    // In the SDK since that of macOS 14, without an availability mark.
     kAudioHardwarePropertyProcessObjectList = 'prs#',
     kAudioProcessPropertyPID = 'ppid',
     kAudioProcessPropertyIsRunningInput = 'piri',
@@ -27,6 +37,8 @@ typedef OSStatus (*AudioObjectPropertyListenerProc)(AudioObjectID inObjectID,
     UInt32 inNumberAddresses, const AudioObjectPropertyAddress* _Nonnull inAddresses,
     void* _Nullable inClientData);
 extern "C" {
+Boolean AudioObjectHasProperty(
+    AudioObjectID inObjectID, const AudioObjectPropertyAddress* _Nonnull inAddress);
 OSStatus AudioObjectGetPropertyDataSize(AudioObjectID inObjectID,
     const AudioObjectPropertyAddress* _Nonnull inAddress, UInt32 inQualifierDataSize,
     const void* _Nullable inQualifierData, UInt32* _Nonnull outDataSize);

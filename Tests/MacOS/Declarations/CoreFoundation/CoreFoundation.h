@@ -8,6 +8,7 @@
 typedef unsigned char Boolean;
 typedef uint8_t UInt8;
 typedef int16_t SInt16;
+typedef uint16_t UInt16;
 typedef uint32_t UInt32;
 typedef int32_t SInt32;
 typedef unsigned long long UInt64;
@@ -20,6 +21,13 @@ typedef unsigned long ByteCount;
 typedef unsigned long ItemCount;
 typedef UInt32 OptionBits;
 enum { noErr = 0 };
+
+typedef UInt16 UniChar;
+typedef long CFIndex;
+struct CFRange {
+    CFIndex location;
+    CFIndex length;
+};
 
 typedef const void* CFTypeRef;
 typedef unsigned long CFTypeID;
@@ -47,4 +55,7 @@ extern "C" {
 CFTypeID CFGetTypeID(CFTypeRef _Nonnull cf);
 CFTypeID CFBooleanGetTypeID(void);
 Boolean CFNumberIsFloatType(CFNumberRef _Nonnull number);
+void CFRelease(CFTypeRef _Nonnull cf);
+CFIndex CFStringGetLength(CFStringRef _Nonnull theString);
+void CFStringGetCharacters(CFStringRef _Nonnull theString, CFRange range, UniChar* _Nonnull buffer);
 }

@@ -40,6 +40,16 @@ QString filterForAll(const QList<OpenPanel::FileKind>& kinds)
     return names.join(u", "_s) + u" ("_s + patterns.join(u' ') + u')';
 }
 
+/// Returns what was chosen. In front of the window that asks for it, which is no widget.
+std::optional<QString> run(QFileDialog& dialog)
+{
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first();
+}
+
 } // namespace
 
 std::optional<QString> FileDialog::chooseFile(const QString& message, const QList<FileKind>& kinds)
@@ -54,12 +64,35 @@ std::optional<QString> FileDialog::chooseFile(const QString& message, const QLis
     if (kinds.size() > 1)
         filters.prepend(filterForAll(kinds));
     dialog.setNameFilters(filters);
-    // In front of the window that asks for it, which is no widget.
-    dialog.winId();
-    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    return run(dialog); // A name can be typed past the filter.
+}
+
+std::optional<OpenPanel::NewFile> FileDialog::chooseNewFile(
+    const QString& message, const QString& name, const QList<FileKind>& kinds)
+{
+    QFileDialog dialog(nullptr, message);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    QStringList filters;
+    for (const FileKind& kind : kinds)
+        filters.append(filterFor(kind.extension));
+    dialog.setNameFilters(filters);
+    // What the dialog adds to a name without an extension, before it asks about a file that exists.
+    const auto followFilter = [&](const QString& filter) {
+        dialog.setDefaultSuffix(kinds.value(filters.indexOf(filter)).extension);
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, followFilter);
+    followFilter(filters.value(0));
+    dialog.selectFile(name);
+    const std::optional<QString> path = run(dialog);
+    if (!path)
         return std::nullopt;
-    return dialog.selectedFiles().first(); // A name can be typed past the filter.
+    const auto named = std::ranges::find_if(kinds, [&](const FileKind& kind) {
+        return path->endsWith(u'.' + kind.extension, Qt::CaseInsensitive);
+    });
+    const qsizetype kind = named != kinds.end() ? named - kinds.begin()
+                                                : filters.indexOf(dialog.selectedNameFilter());
+    return NewFile { *path, std::max<qsizetype>(kind, 0) };
 }
 
 } // namespace Orvello

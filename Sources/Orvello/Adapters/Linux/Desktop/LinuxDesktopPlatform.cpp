@@ -3,9 +3,11 @@
 #include "Orvello/Adapters/Linux/Desktop/ImpressHelper.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxDesktopServices.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxStatusBar.h"
+#include "Orvello/Adapters/Linux/Desktop/LinuxWakefulness.h"
 #include "Orvello/Adapters/Linux/Desktop/LinuxWorkspace.h"
 #include "Orvello/Adapters/Linux/Desktop/PortalHotKeys.h"
 #include "Orvello/Adapters/Linux/Desktop/UpdateDialogs.h"
+#include "Orvello/Adapters/Linux/Desktop/X11Compositing.h"
 #include "Orvello/Adapters/Linux/Desktop/X11HotKeys.h"
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 #include "Orvello/Adapters/Linux/Desktop/X11WindowServer.h"
@@ -54,6 +56,7 @@ public:
 /// What is read from the X display.
 struct Desktop {
     QtScreens screens;
+    X11Compositing compositing;
     X11Windows windows;
     LinuxWorkspace workspace { windows };
     X11WindowServer windowServer { windows };
@@ -81,6 +84,7 @@ struct Session {
     QDBusConnection bus = QDBusConnection::sessionBus();
     LinuxDesktopServices services { bus };
     LinuxStatusBar statusBar { bus };
+    LinuxWakefulness wakefulness { bus };
     X11HotKeys x11Keys;
     std::optional<PortalHotKeys> portalKeys;
 };
@@ -113,12 +117,14 @@ public:
     HotKeys& hotKeys() override { return m_session.hotKeys(); }
     Updater& updater() override { return m_updates.updater; }
     WindowChrome& windowChrome() override { return m_windowChrome; }
+    Wakefulness& wakefulness() override { return m_session.wakefulness; }
+    Compositing& compositing() override { return m_desktop.compositing; }
     HelperProcess* impressHelper() override { return m_impressHelper.get(); }
     bool hasHardwareRenderer() override { return HardwareRenderer::isThere(); }
 
     std::unique_ptr<NativePanel> makePanel(QWindow& view) override
     {
-        return std::make_unique<X11Panel>(view, m_early.userDefaults());
+        return std::make_unique<X11Panel>(view, m_early.userDefaults(), m_desktop.compositing);
     }
 
 private:

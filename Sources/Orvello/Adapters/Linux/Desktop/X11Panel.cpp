@@ -1,10 +1,11 @@
 #include "Orvello/Adapters/Linux/Desktop/X11Panel.h"
 
+#include "Orvello/Adapters/Linux/Desktop/X11Shadow.h"
 #include "Orvello/Adapters/Linux/Desktop/X11StackingGuard.h"
-#include "Orvello/Adapters/Linux/Desktop/Xcb.h"
 #include "Orvello/Adapters/Portable/QtScreens.h"
 #include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/DefaultsValue.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -15,8 +16,6 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
-#include <string>
-#include <xcb/xcb.h>
 
 namespace Orvello {
 
@@ -29,20 +28,6 @@ constexpr int edgeWidth = 6;
 constexpr std::chrono::milliseconds screensSettlingTime { 100 };
 constexpr int cornerRadius = 16; ///< The card's.
 constexpr int cornerWidth = 14; ///< The same along an edge near a corner, which is harder to hit.
-
-/// Whether somebody on the display draws windows over each other with their transparency.
-bool hasCompositor()
-{
-    int screen = 0;
-    xcb_connection_t* const connection = xcb_connect(nullptr, &screen);
-    const std::uint32_t selection
-        = Xcb::atomNamed(connection, "_NET_WM_CM_S" + std::to_string(screen));
-    const auto owner = Xcb::owned(xcb_get_selection_owner_reply(
-        connection, xcb_get_selection_owner(connection, selection), nullptr));
-    const bool hasOwner = owner && owner->owner != XCB_WINDOW_NONE;
-    xcb_disconnect(connection);
-    return hasOwner;
-}
 
 Qt::Edges edgesAt(QPointF position, QSize size)
 {
@@ -105,9 +90,10 @@ QRect resizedBy(QRect geometry, Qt::Edges edges, QPoint delta)
 
 } // namespace
 
-X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
+X11Panel::X11Panel(QWindow& window, UserDefaults& defaults, const Compositing& compositing)
     : m_window(window)
     , m_defaults(defaults)
+    , m_compositing(compositing)
 {
     m_window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
         | Qt::WindowDoesNotAcceptFocus | Qt::BypassWindowManagerHint);
@@ -115,8 +101,12 @@ X11Panel::X11Panel(QWindow& window, UserDefaults& defaults)
     m_window.setMaximumSize(maximumSize.toSize());
     m_window.create();
     m_window.installEventFilter(this);
-    m_stackingGuard
-        = std::make_unique<X11StackingGuard>(static_cast<std::uint32_t>(m_window.winId()));
+    m_shadow = std::make_unique<X11Shadow>();
+    m_stackingGuard = std::make_unique<X11StackingGuard>(
+        static_cast<std::uint32_t>(m_window.winId()), m_shadow->number());
+
+    connect(&m_compositing, &Compositing::isOnChanged, this, &X11Panel::roundCorners);
+    connect(&m_compositing, &Compositing::isOnChanged, this, &X11Panel::showShadow);
 
     // A change of screens comes in several pieces.
     m_screensSettling.setSingleShot(true);
@@ -145,8 +135,20 @@ void X11Panel::setFrame(const QRectF& frame)
 void X11Panel::moveTo(const QRectF& frame)
 {
     m_settledFrame = frame.toRect();
-    m_window.setGeometry(frame.toRect());
+    setGeometry(frame.toRect());
     announceSize();
+}
+
+void X11Panel::setGeometry(const QRect& geometry)
+{
+    m_window.setGeometry(geometry);
+    m_shadow->surround(geometry);
+}
+
+void X11Panel::showShadow()
+{
+    m_shadow->setVisible(m_window.isVisible() && m_compositing.isOn());
+    m_stackingGuard->settle();
 }
 
 void X11Panel::watch(const QScreen* screen)
@@ -183,13 +185,15 @@ void X11Panel::saveFrameAs(const QString& name)
 void X11Panel::show()
 {
     returnToScreens();
-    m_isComposited = hasCompositor();
-    roundCorners();
     m_window.show();
-    m_stackingGuard->settle();
+    showShadow();
 }
 
-void X11Panel::hide() { m_window.hide(); }
+void X11Panel::hide()
+{
+    m_shadow->hide();
+    m_window.hide();
+}
 
 bool X11Panel::isVisible() const { return m_window.isVisible(); }
 
@@ -218,9 +222,11 @@ bool X11Panel::eventFilter(QObject* watched, QEvent* event)
         endGesture(); // A hidden window gets no release.
         return false;
     case QEvent::Move:
+        m_shadow->surround(m_window.geometry());
         noteFrame();
         return false;
     case QEvent::Resize:
+        m_shadow->surround(m_window.geometry());
         noteFrame();
         announceSize();
         return false;
@@ -259,9 +265,8 @@ bool X11Panel::moved(const QMouseEvent& event)
         return false;
     }
     const QPoint delta = event.globalPosition().toPoint() - m_gesture.startPointer;
-    m_window.setGeometry(m_gesture.edges
-            ? resizedBy(m_gesture.startGeometry, m_gesture.edges, delta)
-            : m_gesture.startGeometry.translated(delta));
+    setGeometry(m_gesture.edges ? resizedBy(m_gesture.startGeometry, m_gesture.edges, delta)
+                                : m_gesture.startGeometry.translated(delta));
     return true;
 }
 
@@ -300,7 +305,7 @@ void X11Panel::announceSize()
 /// black, and so is cut off.
 void X11Panel::roundCorners()
 {
-    if (m_isComposited) {
+    if (m_compositing.isOn()) {
         m_window.setMask({});
         return;
     }

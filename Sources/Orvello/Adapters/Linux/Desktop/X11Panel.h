@@ -18,6 +18,8 @@ class QWindow;
 
 namespace Orvello {
 
+class Compositing;
+class X11Shadow;
 class X11StackingGuard;
 
 /// The prompter's window on X11, around the window that shows the view. Window managers disagree
@@ -29,8 +31,8 @@ class X11Panel final : public NativePanel, private CaptureHiding {
     Q_OBJECT
 
 public:
-    /// `window` must not have been shown yet. Both must outlive the panel.
-    X11Panel(QWindow& window, UserDefaults& defaults);
+    /// `window` must not have been shown yet. All of them must outlive the panel.
+    X11Panel(QWindow& window, UserDefaults& defaults, const Compositing& compositing);
     ~X11Panel() override;
 
     QRectF frame() const override;
@@ -67,6 +69,8 @@ private:
     void watch(const QScreen* screen);
     void returnToScreens();
     void moveTo(const QRectF& frame);
+    void setGeometry(const QRect& geometry);
+    void showShadow();
     void announceSize();
     void roundCorners();
     void noteFrame();
@@ -74,6 +78,8 @@ private:
 
     QWindow& m_window;
     UserDefaults& m_defaults;
+    const Compositing& m_compositing;
+    std::unique_ptr<X11Shadow> m_shadow;
     std::unique_ptr<X11StackingGuard> m_stackingGuard;
     QString m_autosaveKey; ///< Empty while the frame is not saved.
     QList<QRectF> m_screens; ///< Those that the panel was last placed on.
@@ -81,7 +87,6 @@ private:
     QRectF m_settledFrame; ///< The frame last set or noted. Any other was chosen by the user.
     QTimer m_screensSettling;
     QSize m_announcedSize;
-    bool m_isComposited = true; ///< When the panel was last shown.
     bool m_isHidden = false;
     Gesture m_gesture;
 };

@@ -24,8 +24,9 @@ constexpr int deepestClient = 2;
 
 } // namespace
 
-X11StackingGuard::X11StackingGuard(std::uint32_t window)
+X11StackingGuard::X11StackingGuard(std::uint32_t window, std::uint32_t shadow)
     : m_window(window)
+    , m_shadow(shadow)
     , m_connection(xcb_connect(nullptr, nullptr))
 {
     if (xcb_connection_has_error(m_connection))
@@ -51,10 +52,13 @@ X11StackingGuard::~X11StackingGuard()
 void X11StackingGuard::settle()
 {
     const std::vector<xcb_window_t> windows = rootWindows();
-    const auto topmost = std::find_if(windows.rbegin(), windows.rend(),
-        [this](xcb_window_t window) { return window != m_window && isShownAndManaged(window); });
+    const auto topmost
+        = std::find_if(windows.rbegin(), windows.rend(), [this](xcb_window_t window) {
+              return window != m_window && window != m_shadow && isShownAndManaged(window);
+          });
     if (topmost != windows.rend())
         placeAbove(*topmost);
+    placeShadow();
     xcb_flush(m_connection);
 }
 
@@ -101,6 +105,14 @@ void X11StackingGuard::placeAbove(std::uint32_t window)
     const std::array<std::uint32_t, 2> values { window, XCB_STACK_MODE_ABOVE };
     xcb_configure_window(m_connection, m_window,
         XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
+    placeShadow();
+}
+
+void X11StackingGuard::placeShadow()
+{
+    const std::array<std::uint32_t, 2> values { m_window, XCB_STACK_MODE_BELOW };
+    xcb_configure_window(m_connection, m_shadow,
+        XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE, values.data());
 }
 
 void X11StackingGuard::readEvents()
@@ -122,7 +134,7 @@ void X11StackingGuard::readEvents()
 
 void X11StackingGuard::restacked(std::uint32_t window, bool isOverrideRedirect)
 {
-    if (window == m_window)
+    if (window == m_window || window == m_shadow)
         return;
     // Some managers make the frames of managed windows override-redirect, so the flag alone proves
     // nothing.

@@ -19,7 +19,8 @@ class X11StackingGuard final : public QObject {
     Q_OBJECT
 
 public:
-    explicit X11StackingGuard(std::uint32_t window);
+    /// `shadow` is a window that stays just below `window`.
+    X11StackingGuard(std::uint32_t window, std::uint32_t shadow);
     ~X11StackingGuard() override;
 
     /// Also from above the windows that stay above: a window is shown on top of all others.
@@ -34,8 +35,10 @@ private:
     void placeAbove(std::uint32_t window);
     bool holdsManagedWindow(std::uint32_t window, int depth) const;
     bool isManaged(std::uint32_t window) const;
+    void placeShadow();
 
     std::uint32_t m_window;
+    std::uint32_t m_shadow;
     /// Its own, so that Qt's event selection on the root window stays as it is.
     xcb_connection_t* m_connection;
     /// WM_STATE, which a manager sets on each window that it manages.

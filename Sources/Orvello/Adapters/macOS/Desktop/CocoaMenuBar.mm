@@ -2,6 +2,7 @@
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaMenu.h"
 #include "Orvello/Adapters/macOS/Desktop/CocoaStatusItem.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 
 #include <utility>
 
@@ -10,13 +11,13 @@ namespace Orvello {
 CocoaMenuBar::~CocoaMenuBar()
 {
     if (m_nativeMainMenu)
-        [NSApp setMainMenu:nil]; // Its lines are about to go.
+        shielded([] { [NSApp setMainMenu:nil]; }); // Its lines are about to go.
 }
 
 void CocoaMenuBar::setMainMenu(std::unique_ptr<Menu> menu)
 {
     CocoaMenu* const nativeMenu = [[CocoaMenu alloc] initWithMenu:*menu];
-    [NSApp setMainMenu:nativeMenu.nativeMenu];
+    shielded([&] { [NSApp setMainMenu:nativeMenu.nativeMenu]; });
     m_nativeMainMenu = nativeMenu;
     m_mainMenu = std::move(menu);
 }

@@ -44,12 +44,12 @@ CocoaPanel::CocoaPanel(QWindow& view, const Screens& screens)
 CocoaPanel::~CocoaPanel()
 {
     [m_panel tell:PanelEvents {}];
-    [m_panel orderOut:nil];
+    shielded([&] { [m_panel orderOut:nil]; });
     [m_pointerTracker stop];
     m_view.removeEventFilter(this);
     // Qt destroys its view with the window, which outlives the panel.
-    [m_nativeView removeFromSuperview];
-    [m_panel close];
+    shielded([&] { [m_nativeView removeFromSuperview]; });
+    shielded([&] { [m_panel close]; });
 }
 
 void CocoaPanel::embedView()
@@ -176,17 +176,19 @@ bool CocoaPanel::pressed(QMouseEvent& event)
 /// view would believe the button pressed until the next click.
 void CocoaPanel::releaseInView(NSEvent* press)
 {
-    NSEvent* const release = [NSEvent mouseEventWithType:NSEventTypeLeftMouseUp
-                                                location:press.locationInWindow
-                                           modifierFlags:press.modifierFlags
-                                               timestamp:press.timestamp
-                                            windowNumber:m_panel.windowNumber
-                                                 context:nil
-                                             eventNumber:0
-                                              clickCount:1
-                                                pressure:0];
-    if (release)
-        shielded([&] { [m_nativeView mouseUp:release]; });
+    shielded([&] {
+        NSEvent* const release = [NSEvent mouseEventWithType:NSEventTypeLeftMouseUp
+                                                    location:press.locationInWindow
+                                               modifierFlags:press.modifierFlags
+                                                   timestamp:press.timestamp
+                                                windowNumber:m_panel.windowNumber
+                                                     context:nil
+                                                 eventNumber:0
+                                                  clickCount:1
+                                                    pressure:0];
+        if (release)
+            [m_nativeView mouseUp:release];
+    });
 }
 
 } // namespace Orvello

@@ -26,7 +26,7 @@ public:
 
 private:
     CocoaMenu* m_menu;
-    NSStatusItem* m_item; ///< The bar itself does not hold it.
+    NSStatusItem* m_item = nil; ///< The bar itself does not hold it. Nil where it gave none.
 };
 
 } // namespace Orvello

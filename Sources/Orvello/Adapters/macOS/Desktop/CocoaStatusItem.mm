@@ -2,6 +2,7 @@
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaMenu.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 #include "Orvello/Diagnostics/AppLog.h"
 
 #include <QBuffer>
@@ -45,14 +46,20 @@ NSImage* templateImage(const QIcon& glyph, const QString& description)
 
 CocoaStatusItem::CocoaStatusItem(Menu& menu, const QIcon& glyph, const QString& description)
     : m_menu([[CocoaMenu alloc] initWithMenu:menu])
-    , m_item([NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength])
 {
-    m_item.button.image = templateImage(glyph, description);
-    m_item.menu = m_menu.nativeMenu;
-    AppLog::write("TRAY status item shown");
+    shielded([&] {
+        m_item = [NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength];
+        m_item.button.image = templateImage(glyph, description);
+        m_item.menu = m_menu.nativeMenu;
+        AppLog::write("TRAY status item shown");
+    });
 }
 
-CocoaStatusItem::~CocoaStatusItem() { [NSStatusBar.systemStatusBar removeStatusItem:m_item]; }
+CocoaStatusItem::~CocoaStatusItem()
+{
+    if (m_item)
+        shielded([&] { [NSStatusBar.systemStatusBar removeStatusItem:m_item]; });
+}
 
 /// Below the item, where the user looks for it. The click lasts as long as the menu is open, and
 /// whoever asks for it has an event to finish.

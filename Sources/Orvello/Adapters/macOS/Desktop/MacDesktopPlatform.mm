@@ -12,6 +12,7 @@
 #include "Orvello/Adapters/macOS/Desktop/QuartzWindowServer.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
+#include "Orvello/Platform/Desktop/Compositing.h"
 #include "Orvello/Platform/Desktop/DesktopPlatform.h"
 #include "Orvello/Platform/Desktop/DesktopServices.h"
 #include "Orvello/Platform/Desktop/StatusBar.h"
@@ -74,7 +75,9 @@ public:
     }
     WindowChrome& windowChrome() override { return m_windowChrome; }
 
-    Wakefulness* wakefulness() override { return &m_wakefulness; }
+    Wakefulness& wakefulness() override { return m_wakefulness; }
+    /// The window server always composites.
+    Compositing& compositing() override { return m_compositing; }
 
     /// Keynote and PowerPoint are the presenters here.
     HelperProcess* impressHelper() override { return nullptr; }
@@ -97,6 +100,7 @@ private:
     CarbonHotKeys m_hotKeys;
     std::unique_ptr<Updater> m_updater;
     CocoaWindowChrome m_windowChrome;
+    Compositing m_compositing;
     CocoaWakefulness m_wakefulness;
 };
 

@@ -1,5 +1,7 @@
 #include "Orvello/Adapters/macOS/Desktop/PointerTracker.h"
 
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
+
 #include <QCoreApplication>
 #include <QEnterEvent>
 #include <QMouseEvent>
@@ -31,9 +33,9 @@
 
 - (void)stop
 {
-    [NSNotificationCenter.defaultCenter removeObserver:self];
-    [_view removeTrackingArea:_area];
     _window = nullptr; // What is still to come finds nobody.
+    [NSNotificationCenter.defaultCenter removeObserver:self];
+    Orvello::shielded([&] { [_view removeTrackingArea:_area]; });
 }
 
 /// Qt counts y from the top.
@@ -68,14 +70,14 @@
 
 - (void)mouseEntered:(NSEvent*)event
 {
-    if (NSApp.active)
+    if (!_window || NSApp.active)
         return; // Qt's view reports it.
     [self enterAt:[self positionOf:event.locationInWindow]];
 }
 
 - (void)mouseMoved:(NSEvent*)event
 {
-    if (NSApp.active)
+    if (!_window || NSApp.active)
         return;
     const QPointF position = [self positionOf:event.locationInWindow];
     QMouseEvent move(QEvent::MouseMove, position, position, _window->mapToGlobal(position),
@@ -86,6 +88,8 @@
 - (void)mouseExited:(NSEvent*)event
 {
     (void)event;
+    if (!_window)
+        return;
     // Also while the application is active: it may have become so in between, and leaving twice
     // does no harm.
     QEvent leave(QEvent::Leave);

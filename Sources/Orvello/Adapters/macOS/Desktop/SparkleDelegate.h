@@ -2,10 +2,18 @@
 
 #include "Orvello/Platform/Desktop/Updater.h"
 
+#include <functional>
+#include <map>
+
 #import <Sparkle/Sparkle.h>
 
 /// Translates what Sparkle says for the port's listener, which is set when the updater starts.
-@interface SparkleDelegate : NSObject <SPUUpdaterDelegate>
+@interface SparkleDelegate : NSObject <SPUUpdaterDelegate> {
+@private // Here, because the runtime that tests it elsewhere must know its size.
+    Orvello::UpdateListener* _target;
+    SPUUpdater* _observed;
+    std::map<QString, std::function<void()>> _changed; ///< By the property's key path.
+}
 
 @property (nonatomic, nullable) Orvello::UpdateListener* target;
 

@@ -1,8 +1,8 @@
 #include "Orvello/Adapters/macOS/Desktop/SparkleDelegate.h"
 
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
 
-#include <map>
 #include <utility>
 
 namespace {
@@ -25,10 +25,9 @@ Orvello::UpdateError described(NSError* error)
 
 } // namespace
 
-@implementation SparkleDelegate {
-    SPUUpdater* _observed;
-    std::map<QString, std::function<void()>> _changed; ///< By the property's key path.
-}
+@implementation SparkleDelegate
+
+@synthesize target = _target;
 
 - (NSString*)feedURLStringForUpdater:(SPUUpdater*)updater
 {
@@ -103,14 +102,19 @@ Orvello::UpdateError described(NSError* error)
         changed:(std::function<void()>)changed
 {
     _observed = updater;
-    _changed.insert_or_assign(qString(keyPath), std::move(changed));
-    [updater addObserver:self forKeyPath:keyPath options:0 context:nil];
+    // Taking back an observer that was never added raises an exception as well.
+    Orvello::shielded([&] {
+        [updater addObserver:self forKeyPath:keyPath options:0 context:nil];
+        _changed.insert_or_assign(qString(keyPath), std::move(changed));
+    });
 }
 
 - (void)stopObserving
 {
-    for (const auto& [keyPath, changed] : _changed)
-        [_observed removeObserver:self forKeyPath:Orvello::nsString(keyPath)];
+    for (const auto& [keyPath, changed] : _changed) {
+        NSString* const observed = Orvello::nsString(keyPath);
+        Orvello::shielded([&] { [_observed removeObserver:self forKeyPath:observed]; });
+    }
     _changed.clear();
     _observed = nil;
 }

@@ -19,6 +19,8 @@ public:
     SparkleUpdater(const SparkleUpdater&) = delete;
     SparkleUpdater& operator=(const SparkleUpdater&) = delete;
 
+    bool isMade() const { return m_controller != nil; } ///< Otherwise it must not be used.
+
     void start(UpdateListener& listener) override;
     void check() override;
     UpdateSchedule& schedule() override { return *this; }

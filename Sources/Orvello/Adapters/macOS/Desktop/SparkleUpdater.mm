@@ -12,13 +12,27 @@ namespace Orvello {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Nil where Sparkle refuses.
+SPUStandardUpdaterController* controllerWith(SparkleDelegate* delegate)
+{
+    SPUStandardUpdaterController* controller = nil;
+    shielded([&] {
+        controller = [[SPUStandardUpdaterController alloc] initWithStartingUpdater:NO
+                                                                   updaterDelegate:delegate
+                                                                userDriverDelegate:nil];
+    });
+    return controller;
+}
+
+} // namespace
+
 bool SparkleUpdater::isPresent() { return [SPUStandardUpdaterController class] != nil; }
 
 SparkleUpdater::SparkleUpdater()
     : m_delegate([[SparkleDelegate alloc] init])
-    , m_controller([[SPUStandardUpdaterController alloc] initWithStartingUpdater:NO
-                                                                 updaterDelegate:m_delegate
-                                                              userDriverDelegate:nil])
+    , m_controller(controllerWith(m_delegate))
 {
 }
 
@@ -79,7 +93,10 @@ std::unique_ptr<Updater> makeMacUpdater()
     // Some seconds after the start of a build without a key, Sparkle would alert the user.
     if (![NSBundle.mainBundle objectForInfoDictionaryKey:@"SUPublicEDKey"])
         return std::make_unique<AbsentUpdater>(u"this build has no SUPublicEDKey"_s);
-    return std::make_unique<SparkleUpdater>();
+    auto updater = std::make_unique<SparkleUpdater>();
+    if (!updater->isMade())
+        return std::make_unique<AbsentUpdater>(u"Sparkle could not be made"_s);
+    return updater;
 }
 
 } // namespace Orvello

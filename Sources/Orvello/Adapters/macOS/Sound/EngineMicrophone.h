@@ -6,10 +6,12 @@
 
 namespace Orvello {
 
+class HalMicrophones;
+
 /// A tap on the input node of an audio engine. The tap runs off the main thread.
 class EngineMicrophone final : public RawMicrophone {
 public:
-    EngineMicrophone();
+    explicit EngineMicrophone(const HalMicrophones& microphones); ///< Must outlive this.
     ~EngineMicrophone() override;
 
     double sampleRate() override;
@@ -18,8 +20,8 @@ public:
     Result<std::monostate, QString> start() override;
     void stop() override;
 
-    /// Another device is the default one. An engine that stands still for want of one, and so does
-    /// not notice, is started again.
+    /// A microphone was chosen, came or went. An engine that has another one is made anew; one that
+    /// stands still for want of any, and so does not notice, is started again.
     void onDeviceChanged();
 
 private:

@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/macOS/Sound/EngineMicrophone.h"
 
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
+#include "Orvello/Adapters/macOS/Sound/HalMicrophones.h"
 
 #include <QCoreApplication>
 
@@ -8,6 +9,7 @@
 #include <span>
 
 #import <AVFoundation/AVFoundation.h>
+#import <AudioToolbox/AudioToolbox.h>
 
 namespace Orvello {
 
@@ -53,24 +55,31 @@ QString description(NSException* exception)
 } // namespace
 
 struct EngineMicrophone::Engine : std::enable_shared_from_this<Engine> {
+    const HalMicrophones& microphones;
     AVAudioEngine* engine = nil;
+    HalMicrophones::DeviceID device = kAudioObjectUnknown; ///< None follows the system's choice.
     id<NSObject> configurationObserver = nil;
     std::shared_ptr<TapOutlet> outlet; ///< While there is a tap.
     AVAudioFrameCount blockFrames = 0;
     QString tapError; ///< Why the tap could not be installed; start() reports it.
     bool isStarted = false;
 
-    Engine() = default;
+    explicit Engine(const HalMicrophones& microphones)
+        : microphones(microphones)
+    {
+    }
     ~Engine();
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
     void renew();
+    void useChosenDevice();
     void stopObserving();
     void installTap();
     void removeTap();
     Result<std::monostate, QString> start();
     void restart();
+    void startAnew();
 };
 
 EngineMicrophone::Engine::~Engine() { stopObserving(); }
@@ -80,6 +89,7 @@ void EngineMicrophone::Engine::renew()
 {
     stopObserving();
     engine = [[AVAudioEngine alloc] init];
+    useChosenDevice();
     // The engine posts from a queue of its own, for which its deallocation waits. So the block must
     // not wait for the main thread, as delivery by the main queue would, nor hold the engine.
     const std::weak_ptr<Engine> concerned = weak_from_this();
@@ -96,6 +106,25 @@ void EngineMicrophone::Engine::renew()
                         },
                         Qt::QueuedConnection);
                 }];
+}
+
+/// Before anything else is asked of the engine. One that does not take it hears the system's
+/// choice.
+void EngineMicrophone::Engine::useChosenDevice()
+{
+    device = microphones.chosenDevice();
+    if (device == kAudioObjectUnknown)
+        return;
+    @try {
+        const AudioUnit unit = engine.inputNode.audioUnit;
+        if (!unit
+            || AudioUnitSetProperty(unit, kAudioOutputUnitProperty_CurrentDevice,
+                   kAudioUnitScope_Global, 0, &device, sizeof device)
+                != noErr)
+            device = kAudioObjectUnknown;
+    } @catch (NSException*) {
+        device = kAudioObjectUnknown;
+    }
 }
 
 void EngineMicrophone::Engine::stopObserving()
@@ -154,16 +183,22 @@ void EngineMicrophone::Engine::restart()
         return;
     removeTap();
     installTap();
-    if (start())
-        return;
-    renew();
-    installTap();
-    static_cast<void>(
-        start()); // Without a device there is nothing to hear until onDeviceChanged().
+    if (!start())
+        startAnew();
 }
 
-EngineMicrophone::EngineMicrophone()
-    : m_engine(std::make_shared<Engine>())
+/// Without a device there is nothing to hear until onDeviceChanged().
+void EngineMicrophone::Engine::startAnew()
+{
+    removeTap();
+    [engine stop];
+    renew();
+    installTap();
+    static_cast<void>(start());
+}
+
+EngineMicrophone::EngineMicrophone(const HalMicrophones& microphones)
+    : m_engine(std::make_shared<Engine>(microphones))
 {
     m_engine->renew();
 }
@@ -210,8 +245,13 @@ Result<std::monostate, QString> EngineMicrophone::start() { return m_engine->sta
 
 void EngineMicrophone::onDeviceChanged()
 {
-    if (!m_engine->engine.running)
-        m_engine->restart();
+    Engine& engine = *m_engine;
+    if (!engine.isStarted || !engine.outlet)
+        return;
+    if (engine.device != engine.microphones.chosenDevice())
+        engine.startAnew();
+    else if (!engine.engine.running)
+        engine.restart();
 }
 
 void EngineMicrophone::stop()

@@ -1,59 +1,22 @@
 #include "Orvello/Adapters/macOS/Sound/HalAudioProcesses.h"
 
-#include <optional>
-#include <sys/types.h>
-#include <vector>
+#include "Orvello/Adapters/macOS/Sound/HalProperties.h"
 
-#include <CoreAudio/CoreAudio.h>
+#include <sys/types.h>
 
 namespace Orvello {
 
-namespace {
-
-constexpr AudioObjectPropertyAddress globalProperty(AudioObjectPropertySelector selector)
-{
-    return { selector, kAudioObjectPropertyScopeGlobal, kAudioObjectPropertyElementMain };
-}
-
-std::vector<AudioObjectID> processObjects()
-{
-    constexpr AudioObjectPropertyAddress list
-        = globalProperty(kAudioHardwarePropertyProcessObjectList);
-    UInt32 bytes = 0;
-    if (AudioObjectGetPropertyDataSize(kAudioObjectSystemObject, &list, 0, nullptr, &bytes) != noErr
-        || bytes == 0)
-        return {};
-    std::vector<AudioObjectID> objects(bytes / sizeof(AudioObjectID));
-    if (AudioObjectGetPropertyData(
-            kAudioObjectSystemObject, &list, 0, nullptr, &bytes, objects.data())
-        != noErr)
-        return {};
-    // A process may have gone between the two calls.
-    objects.resize(bytes / sizeof(AudioObjectID));
-    return objects;
-}
-
-template <typename Value>
-std::optional<Value> property(AudioObjectID object, AudioObjectPropertySelector selector)
-{
-    const AudioObjectPropertyAddress address = globalProperty(selector);
-    Value value {};
-    UInt32 bytes = sizeof value;
-    if (AudioObjectGetPropertyData(object, &address, 0, nullptr, &bytes, &value) != noErr)
-        return std::nullopt;
-    return value;
-}
-
-} // namespace
+using namespace HalProperties;
 
 QList<qint64> HalAudioProcesses::capturingInput()
 {
     QList<qint64> processes;
-    for (const AudioObjectID object : processObjects()) {
-        const auto process = property<pid_t>(object, kAudioProcessPropertyPID);
+    for (const AudioObjectID object :
+        objects(kAudioObjectSystemObject, address(kAudioHardwarePropertyProcessObjectList))) {
+        const auto process = value<pid_t>(object, address(kAudioProcessPropertyPID));
         if (!process)
             continue;
-        if (property<UInt32>(object, kAudioProcessPropertyIsRunningInput).value_or(0) != 0)
+        if (value<UInt32>(object, address(kAudioProcessPropertyIsRunningInput)).value_or(0) != 0)
             processes.append(*process);
     }
     return processes;

@@ -42,6 +42,7 @@ public:
     MacSoundPlatform()
     {
         m_microphones.setDeviceObserver([this] {
+            m_voiceProcessing.onDeviceChanged();
             if (m_rawMicrophone)
                 m_rawMicrophone->onDeviceChanged();
         });
@@ -51,17 +52,17 @@ public:
     VoiceProcessing& voiceProcessing() override { return m_voiceProcessing; }
     RawMicrophone& rawMicrophone() override
     {
-        return m_rawMicrophone ? *m_rawMicrophone : m_rawMicrophone.emplace();
+        return m_rawMicrophone ? *m_rawMicrophone : m_rawMicrophone.emplace(m_microphones);
     }
     AudioProcesses& audioProcesses() override { return m_audioProcesses; }
     Microphones& microphones() override { return m_microphones; }
 
 private:
+    HalMicrophones m_microphones;
     CapturePermission m_microphonePermission;
-    VoiceProcessingIO m_voiceProcessing;
+    VoiceProcessingIO m_voiceProcessing { m_microphones };
     std::optional<EngineMicrophone> m_rawMicrophone; ///< Nobody's until the microphone is wanted.
     HalAudioProcesses m_audioProcesses;
-    HalMicrophones m_microphones;
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "Orvello/Library/Window/WordCount.h"
+#include "Orvello/Foundation/WordCount.h"
 
 #include <algorithm>
 

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "Tests/MacOS/Declarations/AudioToolbox/AudioToolbox.h"
