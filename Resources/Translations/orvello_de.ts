@@ -1798,7 +1798,7 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Verborgen, wo das System es zulässt</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>Der Stealth-Modus verbirgt den Prompter, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres vorher aus.</translation>
     </message>
 </context>

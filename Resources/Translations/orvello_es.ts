@@ -1798,7 +1798,7 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Oculto donde el sistema lo permite</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>El modo sigiloso oculta el prompter hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarlo igual: prueba antes el tuyo.</translation>
     </message>
 </context>

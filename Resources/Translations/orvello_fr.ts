@@ -1798,7 +1798,7 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Caché là où le système le permet</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>Le mode furtif masque le prompteur autant que ce système le permet. Les enregistreurs récents peuvent le montrer malgré tout : essayez d’abord le vôtre.</translation>
     </message>
 </context>

@@ -1792,7 +1792,7 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>システムが許す範囲で隠れます</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>ステルスモードは、このシステムが許す範囲でプロンプターを隠します。新しい録画ソフトには映ることがあるので、先にお試しください。</translation>
     </message>
 </context>

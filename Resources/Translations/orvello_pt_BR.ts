@@ -1798,7 +1798,7 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Oculto onde o sistema permite</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>O modo furtivo oculta o prompter até onde este sistema permite. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes.</translation>
     </message>
 </context>

@@ -1792,7 +1792,7 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>在系统允许的范围内隐藏</translation>
     </message>
     <message>
-        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <source>Stealth Mode keeps it out of captures as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
         <translation>隐身模式会在此系统允许的范围内隐藏提词器。较新的录制软件仍可能显示它:请先试试您的软件。</translation>
     </message>
 </context>
