@@ -425,9 +425,6 @@ class ScriptsWindowTest(unittest.TestCase):
         wait_until(markdown.exists, what="the Markdown")
         self.assertTrue(markdown.read_text().startswith("# Two\n\nSecond text\n\n\n# One\n\nFirst line\n\n\n# Welcome"))
 
-        window.choose_file(pathlib.Path("/proc/nothing.txt"), "ctrl+e", "Export this script")
-        wait_until(window.shows_alert, what="that it could not be written")
-
     def test_alerts_are_answered_with_keys_and_mouse(self):
         broken = self.desktop.scratch / "broken.pptx"
         broken.write_text("This is no package.")
