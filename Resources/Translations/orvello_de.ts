@@ -1670,9 +1670,9 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Teilen Sie den ganzen Bildschirm, bleibt der Prompter verborgen, soweit dieses System das zulässt. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
+        <translation>Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1794,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Verborgen, wo das System es zulässt</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>Der Stealth-Modus hält den Prompter aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraus, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres vorher aus.</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>Der Stealth-Modus hält den Prompter aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraus, soweit dieses System das zulässt.</translation>
     </message>
 </context>
 <context>

@@ -1670,9 +1670,9 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Al compartir la pantalla completa, el prompter queda fuera hasta donde lo permite este sistema. Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluir el prompter.</translation>
+        <translation>Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluir el prompter.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1794,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Oculto donde el sistema lo permite</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>El modo sigiloso deja el prompter fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarlo de todos modos: prueba antes el tuyo.</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>El modo sigiloso deja el prompter fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema.</translation>
     </message>
 </context>
 <context>

@@ -1670,9 +1670,9 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Le partage de l’écran entier laisse le prompteur de côté dans la mesure où ce système le permet. Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
+        <translation>Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1794,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Caché là où le système le permet</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>Le mode furtif tient le prompteur hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet. Les programmes d’enregistrement récents peuvent le montrer malgré tout : essayez d’abord le vôtre.</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>Le mode furtif tient le prompteur hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet.</translation>
     </message>
 </context>
 <context>

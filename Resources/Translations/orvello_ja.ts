@@ -1664,9 +1664,9 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>画面全体の共有では、システムが許す範囲でプロンプターは映りません。%1のウインドウだけを共有すれば、リスクはなくなります。ウインドウの共有にプロンプターが入ることはありません。</translation>
+        <translation>%1のウインドウだけを共有すれば、リスクはなくなります。ウインドウの共有にプロンプターが入ることはありません。</translation>
     </message>
 </context>
 <context>
@@ -1788,8 +1788,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>システムが許す範囲で隠れます</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>ステルスモードは、システムが許す範囲で画面共有、録画、スクリーンショットからプロンプターを隠します。新しい録画ソフトにはそれでも映ることがあります。先にお使いのソフトで試してください。</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>ステルスモードは、システムが許す範囲で画面共有、録画、スクリーンショットからプロンプターを隠します。</translation>
     </message>
 </context>
 <context>

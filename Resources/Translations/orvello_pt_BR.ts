@@ -1670,9 +1670,9 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Ao compartilhar a tela inteira, o prompter fica de fora até onde este sistema permite. Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
+        <translation>Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1794,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Oculto onde o sistema permite</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>O modo furtivo mantém o prompter fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes.</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>O modo furtivo mantém o prompter fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite.</translation>
     </message>
 </context>
 <context>

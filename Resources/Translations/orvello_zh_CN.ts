@@ -1664,9 +1664,9 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
     <message>
-        <source>A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>共享整个屏幕时，提词器会在系统允许的范围内不被显示。只共享 %1 的窗口则没有任何风险——窗口共享绝不会包含提词器。</translation>
+        <translation>只共享 %1 的窗口则没有任何风险——窗口共享绝不会包含提词器。</translation>
     </message>
 </context>
 <context>
@@ -1788,8 +1788,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>在系统允许的范围内隐藏</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
-        <translation>隐身模式会在系统允许的范围内让屏幕共享、录屏和截图看不到提词器。较新的录屏软件仍有可能显示它：请先用你的软件试一试。</translation>
+        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
+        <translation>隐身模式会在系统允许的范围内让屏幕共享、录屏和截图看不到提词器。</translation>
     </message>
 </context>
 <context>

@@ -38,7 +38,7 @@ TourPage {
               ? qsTr("Full-screen sharing works with Stealth Mode on. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.").arg(root.facts.presenters)
               : root.facts.canHideWindows
               //: %1: presentation programs, as in "Keynote or PowerPoint".
-              ? qsTr("A share of the full screen leaves the prompter out as far as this system allows. Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.").arg(root.facts.presenters)
+              ? qsTr("Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.").arg(root.facts.presenters)
               : qsTr("In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window's place with everything in front of it.")
     }
     TourZoomCard {
