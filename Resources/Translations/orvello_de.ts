@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Gelöscht: %1</translation>
     </message>
 </context>
@@ -1670,9 +1670,13 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Eine Regel: ein Fenster teilen, nie den ganzen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann den Prompter nie enthalten.</translation>
+        <translation>Wird der ganze Bildschirm geteilt, ist der Prompter hier womöglich zu sehen. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann ihn nie enthalten.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1798,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Verborgen, wo das System es zulässt</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>Der Stealth-Modus hält den Prompter aus Bildschirmfreigaben, Aufnahmen und Bildschirmfotos heraus, soweit dieses System das zulässt.</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Der Stealth-Modus verbirgt den Prompter, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres vorher aus.</translation>
     </message>
 </context>
 <context>

@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Eliminado: %1</translation>
     </message>
 </context>
@@ -1670,9 +1670,13 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Una regla: comparte una ventana, nunca toda la pantalla.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluir el prompter.</translation>
+        <translation>Si compartes toda la pantalla, aquí puede verse el prompter. Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluirlo.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1798,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Oculto donde el sistema lo permite</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>El modo sigiloso deja el prompter fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema.</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>El modo sigiloso oculta el prompter hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarlo igual: prueba antes el tuyo.</translation>
     </message>
 </context>
 <context>

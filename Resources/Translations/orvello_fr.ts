@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Supprimé : %1</translation>
     </message>
 </context>
@@ -1670,9 +1670,13 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Une règle : partagez une fenêtre, jamais tout l’écran.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Ne partager que la fenêtre de %1 annule le risque : une fenêtre partagée ne peut jamais contenir le prompteur.</translation>
+        <translation>Un partage de tout l’écran peut montrer le prompteur ici. Ne partager que la fenêtre de %1 réduit le risque à zéro : un partage de fenêtre ne peut jamais l’inclure.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1798,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Caché là où le système le permet</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>Le mode furtif tient le prompteur hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet.</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Le mode furtif masque le prompteur autant que ce système le permet. Les enregistreurs récents peuvent le montrer malgré tout : essayez d’abord le vôtre.</translation>
     </message>
 </context>
 <context>

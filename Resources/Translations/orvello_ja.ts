@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>削除：%1</translation>
     </message>
 </context>
@@ -1664,9 +1664,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>ルールは一つ:画面全体ではなく、ウインドウを共有します。</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>%1のウインドウだけを共有すれば、リスクはなくなります。ウインドウの共有にプロンプターが入ることはありません。</translation>
+        <translation>画面全体を共有すると、ここではプロンプターが映ることがあります。%1のウインドウだけを共有すれば危険はゼロです。ウインドウの共有に映り込むことはありません。</translation>
     </message>
 </context>
 <context>
@@ -1788,8 +1792,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>システムが許す範囲で隠れます</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>ステルスモードは、システムが許す範囲で画面共有、録画、スクリーンショットからプロンプターを隠します。</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>ステルスモードは、このシステムが許す範囲でプロンプターを隠します。新しい録画ソフトには映ることがあるので、先にお試しください。</translation>
     </message>
 </context>
 <context>

@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Apagado: %1</translation>
     </message>
 </context>
@@ -1670,9 +1670,13 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Uma regra: compartilhe uma janela, nunca a tela inteira.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>Compartilhar só a janela do %1 reduz o risco a zero: uma janela compartilhada nunca pode incluir o prompter.</translation>
+        <translation>Compartilhar a tela inteira pode mostrar o prompter aqui. Compartilhar só a janela de %1 reduz o risco a zero: uma janela compartilhada nunca pode incluí-lo.</translation>
     </message>
 </context>
 <context>
@@ -1794,8 +1798,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Oculto onde o sistema permite</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>O modo furtivo mantém o prompter fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite.</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>O modo furtivo oculta o prompter até onde este sistema permite. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes.</translation>
     </message>
 </context>
 <context>

@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>删除于 %1</translation>
     </message>
 </context>
@@ -1664,9 +1664,13 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
     <message>
-        <source>Sharing only the %1 window takes the risk to zero — a window share can never include the prompter.</source>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>一条规则:共享窗口,绝不共享整个屏幕。</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
         <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
-        <translation>只共享 %1 的窗口则没有任何风险——窗口共享绝不会包含提词器。</translation>
+        <translation>共享整个屏幕时,这里可能会显示提词器。只共享 %1 的窗口可将风险降为零——窗口共享绝不会包含它。</translation>
     </message>
 </context>
 <context>
@@ -1788,8 +1792,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>在系统允许的范围内隐藏</translation>
     </message>
     <message>
-        <source>Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.</source>
-        <translation>隐身模式会在系统允许的范围内让屏幕共享、录屏和截图看不到提词器。</translation>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>隐身模式会在此系统允许的范围内隐藏提词器。较新的录制软件仍可能显示它:请先试试您的软件。</translation>
     </message>
 </context>
 <context>

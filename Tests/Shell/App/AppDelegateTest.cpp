@@ -2,6 +2,7 @@
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/WindowServerStandIn.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QIcon>
 
@@ -389,7 +390,7 @@ TEST_F(AppDelegateTest, doesNotReadADeckAgainThatHasBeenRead)
     construct({ path },
         { { path,
             PptxImporter::Deck {
-                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {} } } });
+                .slides = { { 1, u"Intro"_s, u"Hello all"_s } }, .unread = {}, .stamp = {} } } });
 
     delegate->applicationDidFinishLaunching();
 
@@ -440,6 +441,16 @@ protected:
         delegate->applicationStartedAgain(
             LaunchOptions::of({ arguments, folder.path(), environment }),
             [this](const QStringList& refusals) { answers.append(refusals); });
+        Testing::drainEvents();
+    }
+    /// Decks are read by another thread.
+    void waitForAnswers(qsizetype count)
+    {
+        QElapsedTimer timer;
+        for (timer.start(); answers.size() < count;) {
+            ASSERT_LT(timer.elapsed(), 60'000);
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
         Testing::drainEvents();
     }
 
@@ -569,12 +580,37 @@ TEST_F(StartedAgainTest, importsTheDecks)
     launchAndSettle();
 
     startAgain({ u"second.pptx"_s }, { { u"ORVELLO_IMPORT_PPTX"_s, u"first.pptx"_s } });
+    EXPECT_THAT(answers, IsEmpty()); // The reader's text goes on meanwhile.
+    waitForAnswers(1);
 
     EXPECT_EQ(library().scripts()[0].title, u"second");
     EXPECT_EQ(library().scripts()[1].title, u"first");
     EXPECT_EQ(library().activeScript()->title, u"second");
     EXPECT_EQ(windows.openedMenus, 0);
     EXPECT_THAT(answers, ElementsAre(IsEmpty()));
+}
+
+TEST_F(StartedAgainTest, updatesADeckThatIsOpenedOnceMore)
+{
+    makeDeck(u"talk.pptx"_s);
+    launchAndSettle();
+    startAgain({ u"talk.pptx"_s });
+    waitForAnswers(1);
+    const QUuid script = library().activeScript()->id;
+    const qsizetype count = library().scripts().size();
+    library().addScript();
+
+    QFile deck(folder.filePath(u"talk.pptx"_s));
+    ASSERT_TRUE(deck.open(QIODevice::WriteOnly));
+    deck.write(Testing::DeckBuilder().slide("Intro", "Hello everybody").build());
+    deck.close();
+    startAgain({ u"talk.pptx"_s });
+    waitForAnswers(2);
+
+    EXPECT_EQ(library().scripts().size(), count + 1);
+    EXPECT_EQ(library().activeScript()->id, script);
+    EXPECT_EQ(library().activeScript()->slides->first().notes, u"Hello everybody"_s);
+    EXPECT_EQ(logged("IMPORT_PPTX updated slides=1 file=talk.pptx"), 1);
 }
 
 TEST_F(StartedAgainTest, answersForADeckThatCannotBeReadAndDoesNotScroll)
@@ -584,6 +620,7 @@ TEST_F(StartedAgainTest, answersForADeckThatCannotBeReadAndDoesNotScroll)
     launchAndSettle();
 
     startAgain({ u"--autostart"_s }, { { u"ORVELLO_IMPORT_PPTX"_s, u"broken.pptx"_s } });
+    waitForAnswers(1);
 
     EXPECT_FALSE(engine().isRunning());
     EXPECT_EQ(

@@ -231,7 +231,7 @@ TEST_F(OnboardingWindowTest, promisesNoMoreThanIsKnownWhereCapturesMayShowWhatIs
         }
     }
     EXPECT_TRUE(showsText(view(),
-        u"Sharing only the Keynote or PowerPoint window takes the risk to zero — a window share can never include the prompter."_s));
+        u"A share of the full screen leaves the prompter out as far as this system allows. Sharing only the Keynote or PowerPoint window takes the risk to zero — a window share can never include the prompter."_s));
     openOn("0");
     EXPECT_TRUE(showsText(view(), u"Hidden where the system allows"_s));
 }

@@ -42,6 +42,10 @@ Pane {
         onActivated: root.library.imports.chooseFile()
     }
     Shortcut {
+        sequences: ["Ctrl+R"]
+        onActivated: root.library.deckFile.update()
+    }
+    Shortcut {
         sequences: ["Ctrl+Return", "Ctrl+Enter"]
         onActivated: root.startHere()
     }
@@ -52,10 +56,6 @@ Pane {
     Shortcut {
         sequences: ["Ctrl+Shift+E"]
         onActivated: root.library.exportListed()
-    }
-    Shortcut {
-        sequences: ["Ctrl+R"]
-        onActivated: root.library.deckFile.update()
     }
     Shortcut {
         sequences: ["Ctrl+W"]

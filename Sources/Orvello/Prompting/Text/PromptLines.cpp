@@ -45,8 +45,8 @@ void PromptLines::setText(const QString& text)
 {
     if (!assign(m_text, text))
         return;
-    m_sought.reset();
     m_moves.clear();
+    m_sought.reset();
     restart(Place::Left);
     Q_EMIT textChanged();
 }
@@ -54,8 +54,9 @@ void PromptLines::setText(const QString& text)
 void PromptLines::update(const QString& text, const TextDifferences& differences)
 {
     m_text = text;
-    m_sought.reset();
     m_moves.push_back(differences);
+    if (m_sought)
+        *m_sought = static_cast<qsizetype>(placeAfter(differences, static_cast<double>(*m_sought)));
     restart(Place::Kept);
     Q_EMIT textChanged();
 }
@@ -63,10 +64,10 @@ void PromptLines::update(const QString& text, const TextDifferences& differences
 void PromptLines::edit(const QString& text, const TextEdit& edit)
 {
     m_text = text;
-    if (m_sought && edit.position < *m_sought)
-        *m_sought = std::max(edit.position, *m_sought + edit.inserted - edit.removed);
     if (!m_moves.empty())
         m_moves.push_back({ edit });
+    if (m_sought && edit.position < *m_sought)
+        *m_sought = std::max(edit.position, *m_sought + edit.inserted - edit.removed);
     if (canLayOut())
         layOut(newest().edited(text, edit));
     Q_EMIT textChanged();

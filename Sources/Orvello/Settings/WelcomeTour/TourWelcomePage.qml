@@ -48,7 +48,7 @@ TourPage {
              : root.facts.canHideWindows ? qsTr("Hidden where the system allows")
              : qsTr("Beside the window that you share")
         text: root.isSurelyHidden ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
-            : root.facts.canHideWindows ? qsTr("Stealth Mode keeps the prompter out of screen shares, recordings and screenshots as far as this system allows.")
+            : root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.")
             : qsTr("Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.")
     }
     TourFeature {

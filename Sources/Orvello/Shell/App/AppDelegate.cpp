@@ -22,6 +22,7 @@
 #include "Orvello/Shell/Windows/RightClickFilter.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -143,11 +144,38 @@ bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::An
     QStringList decks = options.files;
     if (!options.importedPath.isEmpty())
         decks.prepend(options.importedPath);
-    QStringList refusals;
-    for (const QString& deck : decks) {
-        if (const auto problem = importDeck(deck))
-            refusals.append(deck + u": "_s + *problem);
+    const bool isForThis = !decks.isEmpty() || options.onboarding || options.checkUpdates
+        || options.voice || options.autostart || options.toggle || options.scripts
+        || options.settings;
+    if (decks.isEmpty()) {
+        followRead(options, answer, {});
+        return isForThis;
     }
+    // By another thread, as the reader may be in the middle of a talk.
+    const auto refusals = std::make_shared<QStringList>();
+    for (qsizetype i = 0; i < decks.size(); ++i) {
+        const bool isLast = i + 1 == decks.size();
+        const bool isKnownUpdated = i > 0 || options.importedPath.isEmpty();
+        m_deckFiles.read(decks[i],
+            [this, path = decks[i], isLast, isKnownUpdated, options, answer, refusals](
+                const DeckFileImport::ReadDeck& deck) {
+                if (!deck)
+                    refusals->append(path + u": "_s + refusal(deck.error()));
+                else if (isKnownUpdated)
+                    addDeck(path, *deck);
+                else
+                    m_library.addReadDeck(path, *deck);
+                if (isLast)
+                    followRead(options, answer, *refusals);
+            });
+    }
+    return isForThis;
+}
+
+/// Once its decks are in the library, or refused.
+void AppDelegate::followRead(const LaunchOptions& options, const RunningInstance::Answer& answer,
+    const QStringList& refusals)
+{
     const bool hasDecks = refusals.isEmpty();
     // Before anything that may keep the user, and with it the other process, waiting.
     answer(options.mistakes + refusals + comesTooLate(options));
@@ -161,8 +189,6 @@ bool AppDelegate::follow(const LaunchOptions& options, const RunningInstance::An
     if (hasDecks)
         scroll(options);
     openWindows(options);
-    return !decks.isEmpty() || options.onboarding || options.checkUpdates || options.voice
-        || options.autostart || options.toggle || options.scripts || options.settings;
 }
 
 /// What would have to be different from the launch on.
@@ -381,22 +407,38 @@ void AppDelegate::importDecks()
         importDeck(m_options.importedPath);
     for (const QString& file : m_options.files) {
         if (const auto deck = m_readDecks.find(file); deck != m_readDecks.end())
-            m_library.addReadDeck(file, deck->second);
+            addDeck(file, deck->second);
         else
             importDeck(file);
     }
     m_readDecks.clear();
 }
 
+/// A deck that is opened once more brings the script up to date that was made of it.
+void AppDelegate::addDeck(const QString& path, const PptxImporter::Deck& deck)
+{
+    const auto known = m_library.scriptOfDeckFile(QFileInfo(path).absoluteFilePath());
+    if (!known) {
+        m_library.addReadDeck(path, deck);
+        return;
+    }
+    m_library.setActiveScriptID(known);
+    m_library.updateDeck(*known, path, deck);
+}
+
+/// Why a deck could not be imported, in words for the user.
+QString AppDelegate::refusal(PptxImporter::ImportError error)
+{
+    const QString problem = PptxImporter::description(error);
+    AppLog::write("Orvello IMPORT_PPTX failed: %@", problem);
+    return problem;
+}
+
 /// Returns why it could not be imported, in words for the user.
 std::optional<QString> AppDelegate::importDeck(const QString& path)
 {
     const auto imported = m_library.importPptx(path);
-    if (imported)
-        return std::nullopt;
-    const QString problem = PptxImporter::description(imported.error());
-    AppLog::write("Orvello IMPORT_PPTX failed: %@", problem);
-    return problem;
+    return imported ? std::nullopt : std::optional(refusal(imported.error()));
 }
 
 /// A kill, Ctrl-C or the end of the terminal is an ordinary quit: the session ends cleanly and

@@ -106,9 +106,13 @@ private:
     void followSlideTracking();
     void importDecks();
     std::optional<QString> importDeck(const QString& path);
+    void addDeck(const QString& path, const PptxImporter::Deck& deck);
+    static QString refusal(PptxImporter::ImportError error);
     void openWindows(const LaunchOptions& options);
     void scroll(const LaunchOptions& options);
     bool follow(const LaunchOptions& options, const RunningInstance::Answer& answer);
+    void followRead(const LaunchOptions& options, const RunningInstance::Answer& answer,
+        const QStringList& refusals);
     QStringList comesTooLate(const LaunchOptions& options) const;
     static void handle(const QList<QUrl>& urls);
     void quitAtSignals();

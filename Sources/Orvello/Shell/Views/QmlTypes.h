@@ -97,20 +97,6 @@ struct PromptTextType {
     QML_NAMED_ELEMENT(PromptText)
 };
 
-struct ReadingClockType {
-    Q_GADGET
-    QML_FOREIGN(Orvello::ReadingClock)
-    QML_NAMED_ELEMENT(ReadingClock)
-    QML_UNCREATABLE("The program makes it.")
-};
-
-struct ReadingPaceType {
-    Q_GADGET
-    QML_FOREIGN(Orvello::ReadingPace)
-    QML_NAMED_ELEMENT(ReadingPace)
-    QML_UNCREATABLE("The program makes it.")
-};
-
 struct DeckFileBarType {
     Q_GADGET
     QML_FOREIGN(Orvello::DeckFileBar)
@@ -122,6 +108,20 @@ struct OtherDeckNoticeType {
     Q_GADGET
     QML_FOREIGN(Orvello::OtherDeckNotice)
     QML_NAMED_ELEMENT(OtherDeckNotice)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ReadingClockType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingClock)
+    QML_NAMED_ELEMENT(ReadingClock)
+    QML_UNCREATABLE("The program makes it.")
+};
+
+struct ReadingPaceType {
+    Q_GADGET
+    QML_FOREIGN(Orvello::ReadingPace)
+    QML_NAMED_ELEMENT(ReadingPace)
     QML_UNCREATABLE("The program makes it.")
 };
 
