@@ -6,7 +6,7 @@
 #   make slides                 slideshows in LibreOffice on each of its interfaces, with delays and processor time
 #   make soak [MINUTES=120]     the microphone for hours;  make speech: how well it tells speech from noise
 #   make bench                  print the measured speed and memory
-#   make gallery               every window in every state on one picture, build/gallery.png
+#   make gallery               every window in every state, looked over: build/gallery.html
 #   make kill-test N=1000       kill the program that often while it saves, and look for what is lost
 #   make sanitize               the unit tests under AddressSanitizer and UBSan, those with threads under ThreadSanitizer
 #   make format                 lay the sources out;  make tidy: static analysis
@@ -71,7 +71,7 @@ bench:
 gallery:
 	@tools/setup test
 	@tools/build -DBUILD_TESTING=ON orvello-gallery
-	@tools/gallery build/Tests/Gallery/orvello-gallery build/gallery.png
+	@tools/gallery build/Tests/Gallery/orvello-gallery build/gallery.html
 
 N := 1000
 kill-test:

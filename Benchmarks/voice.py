@@ -1,7 +1,7 @@
 """What the running prompter costs while it follows the voice and nobody speaks, on the voice-processing path.
 
 The real program under Xvfb with software OpenGL, with a private PulseAudio: once with a microphone that delivers digital
-silence, once with the noise of a quiet room, 66 dB below full scale. The text stands ready to move. Limit: 3 % of a core.
+silence, once with the noise of a quiet room, 66 dB below full scale. The text stands ready to move. Limit: 2 % of a core.
 """
 
 import random
@@ -12,7 +12,7 @@ from desktop import App, Desktop
 from sound import RATE, SoundServer
 
 SECONDS_TO_SETTLE = 5
-LIMIT = 0.03
+LIMIT = 0.02
 
 
 def quiet_room(seconds):

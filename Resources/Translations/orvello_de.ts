@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Gelöscht: %1</translation>
     </message>
 </context>
@@ -1212,8 +1212,12 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Sie teilen Ihren Bildschirm? Lassen Sie den Stealth-Modus dabei in Ruhe – wird er währenddessen umgeschaltet, zeigt Ihr Besprechungsprogramm an der Stelle des Prompters womöglich einen grauen Kasten. Schließen und öffnen Sie Orvello dann neu.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien: Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Sie teilen Ihren Bildschirm? Dieser Desktop kann kein Fenster verbergen: Wer Ihren ganzen Bildschirm sieht, sieht auch dieses Feld. Teilen Sie nur das Fenster Ihrer Folien und lassen Sie dieses Feld daneben: Dann sieht Ihr Publikum Ihre Folien, nicht Ihre Notizen.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Im Stealth-Modus bleibt dieses Fenster Bildschirmfreigaben, Aufnahmen und Bildschirmfotos fern, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen es womöglich trotzdem: Teilen Sie nur das Fenster Ihrer Folien, dann sieht Ihr Publikum nie Ihre Notizen.</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1271,10 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Teilen Sie das Fenster der Präsentation statt des ganzen Bildschirms, und lassen Sie den Prompter daneben: Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Ist der Stealth-Modus eingeschaltet, bevor das Teilen beginnt, bleibt der Prompter Bildschirmfreigaben, Aufnahmen und Bildschirmfotos fern, soweit dieses System das zulässt – während Sie ihn weiter vollständig sehen. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres aus, bevor Sie sich darauf verlassen.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1418,11 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Alle exportieren …</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nichts gefunden</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1669,15 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Wählen Sie in der Meeting-App das Fenster Ihrer Folien statt des ganzen Bildschirms, und lassen Sie den Prompter daneben. Manche Programme, vor allem zum Aufnehmen, erfassen den Platz eines Fensters mit allem, was davor liegt.</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Eine Regel: ein Fenster teilen, nie den ganzen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Wird der ganze Bildschirm geteilt, ist der Prompter hier womöglich zu sehen. Teilen Sie nur das Fenster von %1, sinkt das Risiko auf null – ein geteiltes Fenster kann ihn nie enthalten.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1731,16 +1753,8 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
         <translation>Ihr privater Teleprompter. Ihr Publikum sieht Ihre Folien – nie Ihre Notizen.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Ihr privater Teleprompter. Teilen Sie das Fenster Ihrer Folien, und Ihr Publikum sieht Ihre Notizen nie.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Beim Bildschirmteilen unsichtbar</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Nicht Teil eines geteilten Fensters</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1784,22 @@ Falls etwas schiefging, hängen Sie bitte das Protokoll an: Orvello-Menü → Hi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Teilen Sie in Zoom, Meet oder Teams ein Fenster und lassen Sie den Prompter daneben, dann sehen nur Sie ihn. Wird der ganze Bildschirm geteilt, zeigt ihn dieser Desktop allen.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Ihr privater Teleprompter. Teilen Sie nur das Fenster Ihrer Folien, lassen Sie den Prompter daneben, und Ihre Notizen gehören Ihnen.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Neben dem geteilten Fenster</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Verborgen, wo das System es zulässt</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Der Stealth-Modus verbirgt den Prompter, soweit dieses System das zulässt. Neuere Aufnahmeprogramme zeigen ihn womöglich trotzdem: Probieren Sie Ihres vorher aus.</translation>
     </message>
 </context>
 <context>

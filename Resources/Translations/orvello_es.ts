@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Eliminado: %1</translation>
     </message>
 </context>
@@ -1212,8 +1212,12 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>¿Compartes la pantalla? No toques el modo sigiloso mientras tanto: cambiarlo puede hacer que la aplicación de reuniones muestre un recuadro gris donde está el prompter. Cierra y vuelve a abrir Orvello para quitarlo.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas: tu público ve tus diapositivas, nunca tus notas.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>¿Compartes la pantalla? Este escritorio no puede ocultar una ventana: quien ve toda tu pantalla ve también este panel. Comparte solo la ventana de tus diapositivas y deja este panel al lado: así tu público ve tus diapositivas, no tus notas.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Con el modo sigiloso activado, esta ventana queda fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarla de todos modos: comparte solo la ventana de tus diapositivas y tu público nunca verá tus notas.</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1271,10 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Comparte la ventana de la presentación en lugar de toda la pantalla y deja el prompter al lado: algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Con el modo sigiloso activado antes de compartir, el prompter queda fuera de la pantalla compartida, las grabaciones y las capturas hasta donde lo permite este sistema, y tú lo sigues viendo por completo. Los programas de grabación más nuevos pueden mostrarlo de todos modos: prueba el tuyo antes de confiar en ello.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1418,11 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1669,15 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>En tu app de reuniones, elige la ventana de tus diapositivas en lugar de toda la pantalla y deja el prompter al lado. Algunos programas, sobre todo los de grabación, capturan el lugar de una ventana con todo lo que tenga delante.</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Una regla: comparte una ventana, nunca toda la pantalla.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Si compartes toda la pantalla, aquí puede verse el prompter. Compartir solo la ventana de %1 reduce el riesgo a cero: una ventana compartida nunca puede incluirlo.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1731,16 +1753,8 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
         <translation>Tu teleprompter privado. Tu público ve tus diapositivas, nunca tus notas.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Tu teleprompter privado. Comparte la ventana de tus diapositivas y tu público nunca verá tus notas.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible al compartir pantalla</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fuera de una ventana compartida</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1784,22 @@ Si algo salió mal, adjunta el registro: menú de Orvello → Ayuda → Mostrar 
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Comparte una ventana en Zoom, Meet o Teams, deja el prompter al lado y solo tú lo verás. Si compartes toda la pantalla, este escritorio se lo muestra a todos.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Tu teleprompter privado. Comparte solo la ventana de tus diapositivas, deja el prompter al lado, y tus notas son tuyas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Junto a la ventana que compartes</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Oculto donde el sistema lo permite</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>El modo sigiloso oculta el prompter hasta donde lo permite este sistema. Los programas de grabación más nuevos pueden mostrarlo igual: prueba antes el tuyo.</translation>
     </message>
 </context>
 <context>

@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Supprimé : %1</translation>
     </message>
 </context>
@@ -1212,8 +1212,12 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Vous partagez votre écran ? Ne touchez pas au mode furtif pendant ce temps : le basculer en plein partage peut faire apparaître un cadre gris à la place du prompteur. Fermez puis rouvrez Orvello pour l’effacer.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives : votre public voit vos diapositives, jamais vos notes.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vous partagez votre écran ? Ce bureau ne peut pas cacher une fenêtre : qui voit votre écran entier voit aussi ce panneau. Ne partagez que la fenêtre de vos diapositives et laissez ce panneau à côté : votre public voit alors vos diapositives, pas vos notes.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>En mode furtif, cette fenêtre reste hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet. Les programmes d’enregistrement récents peuvent la montrer malgré tout : ne partagez que la fenêtre de vos diapositives, et votre public ne verra jamais vos notes.</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1271,10 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Partagez la fenêtre de la présentation plutôt que tout l’écran, et gardez le prompteur à côté : certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Si le mode furtif est activé avant le début d’un partage, le prompteur reste hors des partages d’écran, des enregistrements et des captures dans la mesure où ce système le permet, tout en restant bien visible pour vous. Les programmes d’enregistrement récents peuvent le montrer malgré tout : essayez le vôtre avant de vous y fier.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1418,11 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Tout exporter…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Aucun résultat</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1669,15 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>Dans votre app de réunion, choisissez la fenêtre de vos diapositives plutôt que tout l’écran, et gardez le prompteur à côté. Certains programmes, surtout d’enregistrement, capturent l’emplacement d’une fenêtre avec tout ce qui se trouve devant.</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Une règle : partagez une fenêtre, jamais tout l’écran.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Un partage de tout l’écran peut montrer le prompteur ici. Ne partager que la fenêtre de %1 réduit le risque à zéro : un partage de fenêtre ne peut jamais l’inclure.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1731,16 +1753,8 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
         <translation>Votre téléprompteur privé. Votre public voit vos diapositives, jamais vos notes.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Votre téléprompteur privé. Partagez la fenêtre de vos diapositives, et votre public ne voit jamais vos notes.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisible dans les partages d’écran</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Absent d’un partage de fenêtre</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1784,22 @@ En cas de problème, joignez le journal : menu Orvello → Aide → Afficher les
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Partagez une fenêtre dans Zoom, Meet ou Teams, gardez le prompteur à côté, et vous seul le voyez. Si tout l’écran est partagé, ce bureau le montre à tout le monde.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Votre téléprompteur privé. Ne partagez que la fenêtre de vos diapositives, laissez le prompteur à côté, et vos notes restent à vous.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>À côté de la fenêtre partagée</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Caché là où le système le permet</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>Le mode furtif masque le prompteur autant que ce système le permet. Les enregistreurs récents peuvent le montrer malgré tout : essayez d’abord le vôtre.</translation>
     </message>
 </context>
 <context>

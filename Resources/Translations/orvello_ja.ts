@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>削除：%1</translation>
     </message>
 </context>
@@ -1206,8 +1206,12 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>画面を共有しますか？共有中はステルスモードをそのままにしてください。途中で切り替えると、会議アプリがプロンプターの場所に灰色の四角を表示することがあります。その場合はOrvelloを閉じて開き直してください。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有してください。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>画面を共有しますか？このデスクトップはウインドウを隠せないため、画面全体を見る人にはこのパネルも見えます。スライドのウインドウだけを共有し、このパネルはその横に置いてください。聞き手に見えるのはスライドで、ノートではありません。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>ステルスモードがオンなら、このウインドウは、システムが許す範囲で画面共有、録画、スクリーンショットに映りません。新しい録画ソフトにはそれでも映ることがあります。スライドのウインドウだけを共有すれば、聞き手にノートは見えません。</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1265,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>画面全体ではなくプレゼンテーションのウインドウを共有し、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>共有の前からステルスモードがオンなら、プロンプターは、システムが許す範囲で画面共有、録画、スクリーンショットに映りません。あなたにははっきり見えたままです。新しい録画ソフトにはそれでも映ることがあります。頼りにする前に、お使いのソフトで試してください。</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1412,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>すべて書き出す…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>見つかりません</translation>
     </message>
 </context>
 <context>
@@ -1650,6 +1663,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>ミーティングアプリでは画面全体ではなくスライドのウインドウを選び、プロンプターはその横に置いてください。一部のプログラム、特に録画ソフトは、ウインドウの位置をその前にあるものごと記録します。</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>ルールは一つ:画面全体ではなく、ウインドウを共有します。</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>画面全体を共有すると、ここではプロンプターが映ることがあります。%1のウインドウだけを共有すれば危険はゼロです。ウインドウの共有に映り込むことはありません。</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1725,16 +1747,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>あなただけのテレプロンプター。聞き手に見えるのはスライドだけ。ノートは見えません。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>あなただけのテレプロンプター。スライドのウインドウを共有すれば、聞き手にノートは見えません。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>画面共有に映りません</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>ウインドウの共有に入りません</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1764,6 +1778,22 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Zoom、Meet、Teamsではウインドウを共有し、プロンプターをその横に置けば、見えるのはあなただけです。画面全体を共有すると、このデスクトップでは全員に表示されます。</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>あなただけのテレプロンプター。スライドのウインドウだけを共有し、プロンプターを横に置けば、ノートはあなただけのもの。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>共有するウインドウの横に</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>システムが許す範囲で隠れます</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>ステルスモードは、このシステムが許す範囲でプロンプターを隠します。新しい録画ソフトには映ることがあるので、先にお試しください。</translation>
     </message>
 </context>
 <context>

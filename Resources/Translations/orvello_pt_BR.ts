@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>Apagado: %1</translation>
     </message>
 </context>
@@ -1212,8 +1212,12 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Vai compartilhar a tela? Não mexa no modo furtivo enquanto isso: alterná-lo pode fazer o aplicativo de reuniões mostrar uma caixa cinza no lugar do prompter. Feche e abra o Orvello de novo para removê-la.</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides: seu público vê seus slides, nunca suas anotações.</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>Vai compartilhar a tela? Este ambiente não consegue ocultar uma janela: quem vê sua tela inteira também vê este painel. Compartilhe só a janela dos seus slides e deixe este painel ao lado: assim seu público vê seus slides, não suas anotações.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>Com o modo furtivo ativado, esta janela fica fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite. Gravadores mais novos podem mostrá-la mesmo assim: compartilhe só a janela dos seus slides e seu público nunca verá suas anotações.</translation>
     </message>
 </context>
 <context>
@@ -1267,6 +1271,10 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>Compartilhe a janela da apresentação em vez da tela inteira e mantenha o prompter ao lado: alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>Com o modo furtivo ativado antes do compartilhamento, o prompter fica fora de compartilhamentos de tela, gravações e capturas até onde este sistema permite, e continua totalmente visível para você. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes de confiar nisso.</translation>
     </message>
 </context>
 <context>
@@ -1410,6 +1418,11 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>Exportar todos…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>Nada encontrado</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1669,15 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>No app de reunião, escolha a janela dos seus slides em vez da tela inteira e mantenha o prompter ao lado. Alguns programas, sobretudo gravadores, capturam o lugar de uma janela com tudo o que está na frente dela.</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>Uma regra: compartilhe uma janela, nunca a tela inteira.</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>Compartilhar a tela inteira pode mostrar o prompter aqui. Compartilhar só a janela de %1 reduz o risco a zero: uma janela compartilhada nunca pode incluí-lo.</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1731,16 +1753,8 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
         <translation>Seu teleprompter particular. Seu público vê seus slides, nunca suas anotações.</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>Seu teleprompter particular. Compartilhe a janela dos seus slides e seu público nunca verá suas anotações.</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>Invisível ao compartilhar a tela</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>Fora de uma janela compartilhada</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1770,6 +1784,22 @@ Se algo deu errado, anexe o registro: menu do Orvello → Ajuda → Mostrar os r
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>Compartilhe uma janela no Zoom, Meet ou Teams, mantenha o prompter ao lado e só você o verá. Ao compartilhar a tela inteira, esta área de trabalho o mostra a todos.</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>Seu teleprompter particular. Compartilhe só a janela dos seus slides, deixe o prompter ao lado, e suas anotações são só suas.</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>Ao lado da janela compartilhada</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>Oculto onde o sistema permite</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>O modo furtivo oculta o prompter até onde este sistema permite. Gravadores mais novos podem mostrá-lo mesmo assim: teste o seu antes.</translation>
     </message>
 </context>
 <context>

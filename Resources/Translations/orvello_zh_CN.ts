@@ -450,7 +450,7 @@
     <name>Orvello::DeletedScriptsModel</name>
     <message>
         <source>Deleted %1</source>
-        <extracomment>%1: a date and a time.</extracomment>
+        <extracomment>%1: a date.</extracomment>
         <translation>删除于 %1</translation>
     </message>
 </context>
@@ -1206,8 +1206,12 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>要共享屏幕吗？共享时不要动隐身模式——途中切换，会议应用可能会在提词器的位置显示一个灰色方块。关闭并重新打开 Orvello 即可消除。</translation>
     </message>
     <message>
-        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides: your audience sees your slides — never your notes.</source>
-        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口：观众看到的是幻灯片，绝不会看到你的备注。</translation>
+        <source>Sharing your screen? This desktop cannot hide a window, so whoever sees your whole screen sees this panel too. Share only the window of your slides, and keep this panel beside it: your audience then sees your slides, not your notes.</source>
+        <translation>要共享屏幕吗？这个桌面无法隐藏窗口，能看到你整个屏幕的人也会看到这个面板。请只共享幻灯片的窗口，并把这个面板放在它旁边：这样观众看到的是幻灯片，而不是你的备注。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on, this window stays out of screen sharing, recordings, and screenshots as far as this system allows. Newer recorders may show it all the same: share only the window of your slides, and your audience never sees your notes.</source>
+        <translation>隐身模式开启时，这个窗口会在系统允许的范围内避开屏幕共享、录屏和截图。较新的录屏软件仍有可能显示它：请只共享幻灯片的窗口，观众就绝不会看到你的备注。</translation>
     </message>
 </context>
 <context>
@@ -1261,6 +1265,10 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share the presentation window instead of the whole screen, and keep the prompter beside it: some programs, recorders above all, capture the place of a window with everything that is in front of it.</source>
         <translation>请共享演示文稿窗口而不是整个屏幕，并把提词器放在它旁边：有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
+    </message>
+    <message>
+        <source>With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.</source>
+        <translation>在共享开始前打开隐身模式，提词器会在系统允许的范围内避开屏幕共享、录屏和截图，而你仍能完整看到它。较新的录屏软件仍有可能显示它：请先用你的软件试一试，再放心使用。</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1412,11 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>Export All…</source>
         <extracomment>All scripts of the list, into one file.</extracomment>
         <translation>全部导出…</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <extracomment>Where the list of scripts is, when none has what is searched for.</extracomment>
+        <translation>没有找到</translation>
     </message>
 </context>
 <context>
@@ -1650,6 +1663,15 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <source>In your meeting app, choose the window of your slides instead of the entire screen, and keep the prompter beside it: some recorders capture the window&apos;s place with everything in front of it.</source>
         <translation>在会议应用中选择幻灯片窗口而不是整个屏幕，并把提词器放在它旁边。有些程序，尤其是录屏软件，会把窗口所在位置连同其前面的一切一起捕获。</translation>
     </message>
+    <message>
+        <source>One rule: share a window, never the whole screen.</source>
+        <translation>一条规则:共享窗口,绝不共享整个屏幕。</translation>
+    </message>
+    <message>
+        <source>A share of the full screen may show the prompter here. Sharing only the %1 window takes the risk to zero — a window share can never include it.</source>
+        <extracomment>%1: presentation programs, as in &quot;Keynote or PowerPoint&quot;.</extracomment>
+        <translation>共享整个屏幕时,这里可能会显示提词器。只共享 %1 的窗口可将风险降为零——窗口共享绝不会包含它。</translation>
+    </message>
 </context>
 <context>
     <name>TourSetupPage</name>
@@ -1725,16 +1747,8 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
         <translation>你的私人提词器。观众看到的是幻灯片，绝不会看到你的备注。</translation>
     </message>
     <message>
-        <source>Your private teleprompter. Share your slides&apos; window, and your audience never sees your notes.</source>
-        <translation>你的私人提词器。共享幻灯片的窗口，观众就绝不会看到你的备注。</translation>
-    </message>
-    <message>
         <source>Invisible on screen shares</source>
         <translation>屏幕共享时不可见</translation>
-    </message>
-    <message>
-        <source>Not part of a window share</source>
-        <translation>不在窗口共享之中</translation>
     </message>
     <message>
         <source>Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.</source>
@@ -1764,6 +1778,22 @@ If something went wrong, attach the log: Orvello menu → Help → Reveal Log Fi
     <message>
         <source>Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.</source>
         <translation>在 Zoom、Meet 或 Teams 中共享一个窗口，把提词器放在旁边，就只有你能看到它。共享整个屏幕时，此桌面会让所有人看到它。</translation>
+    </message>
+    <message>
+        <source>Your private teleprompter. Share your slides&apos; window alone, keep the prompter beside it, and your notes are yours.</source>
+        <translation>你的私人提词器。只共享幻灯片的窗口，把提词器放在旁边，备注就只属于你。</translation>
+    </message>
+    <message>
+        <source>Beside the window that you share</source>
+        <translation>在你共享的窗口旁边</translation>
+    </message>
+    <message>
+        <source>Hidden where the system allows</source>
+        <translation>在系统允许的范围内隐藏</translation>
+    </message>
+    <message>
+        <source>Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.</source>
+        <translation>隐身模式会在此系统允许的范围内隐藏提词器。较新的录制软件仍可能显示它:请先试试您的软件。</translation>
     </message>
 </context>
 <context>

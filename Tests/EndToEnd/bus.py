@@ -40,9 +40,18 @@ FILE_MANAGER_XML = f"""<node><interface name="{FILE_MANAGER}">
 
 
 class SessionBus:
-    """A bus of the desktop's own, without anything that starts on demand. The desktop's programs find it."""
+    """A bus of the desktop's own, without anything that starts on demand. The desktop's programs find it. With an address, the
+    bus is there already."""
 
-    def __init__(self, desktop):
+    def __init__(self, desktop, address=None):
+        self.address = address or self._start(desktop)
+        self.loop = GLib.MainLoop()
+        self.thread = threading.Thread(target=self.loop.run, daemon=True)
+        self.thread.start()
+        desktop.callback(self._stop)
+
+    @staticmethod
+    def _start(desktop):
         configuration = desktop.scratch / "bus.conf"
         configuration.write_text(CONFIGURATION.format(folder=desktop.scratch))
         read_end, write_end = os.pipe()
@@ -50,12 +59,9 @@ class SessionBus:
                        f"--print-address={write_end}"], pass_fds=(write_end,))
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
-            self.address = pipe.readline().strip()
-        desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = self.address
-        self.loop = GLib.MainLoop()
-        self.thread = threading.Thread(target=self.loop.run, daemon=True)
-        self.thread.start()
-        desktop.callback(self._stop)
+            address = pipe.readline().strip()
+        desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        return address
 
     def _stop(self):
         self.loop.quit()

@@ -114,9 +114,10 @@ class Desktop(contextlib.ExitStack):
             command, env=self.environment, check=True, capture_output=True, text=True, timeout=60,
             **options).stdout
 
-    def run_any(self, *command):
+    def run_any(self, *command, **options):
         """The same for commands that fail when they find nothing."""
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60).stdout
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=60,
+                              **options).stdout
 
     def screenshot(self, path=None):
         """The whole screen as (width, height, RGB bytes); also as a file, if a path is given."""
@@ -247,14 +248,12 @@ class App:
     def windows(self):
         """The program's X windows that are on screen, without the panel's shadow."""
         self._check_alive()
-        shadow = self._search("--onlyvisible", "--name", "^Orvello shadow$")
-        return [window for window in self._search("--onlyvisible", "--pid", str(self.process.pid))
-                if window not in shadow]
+        windows = self._search("--onlyvisible", "--pid", str(self.process.pid))
+        shadow = self._search("--name", "^Orvello shadow$")
+        return [window for window in windows if window not in shadow]
 
     def _search(self, *what):
-        result = subprocess.run(["xdotool", "search", *what], env=self.desktop.environment, capture_output=True,
-                                text=True)
-        return [int(line) for line in result.stdout.split()]
+        return [int(line) for line in self.desktop.run_any("xdotool", "search", *what).split()]
 
     def window(self):
         """The X window of the panel, once it is on screen."""

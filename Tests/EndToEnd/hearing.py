@@ -1,6 +1,8 @@
 """What the tests of the voice engine have in common: speech to play, an engine that listens, a microphone in use."""
 
+import os
 import subprocess
+import threading
 import time
 import unittest
 
@@ -11,6 +13,28 @@ FAR_END = ("The quick brown fox jumps over the lazy dog, while the band plays a 
            "house. Nobody had expected that so many people would come, and yet the chairs were not enough for half "
            "of them. After the second song the rain began, and everybody ran to the tents. There they stood.")
 NEAR_END = "And now I would like to say a few words about the weather in the mountains this year."
+
+
+class Listener:
+    """Notes when the air became loud and silent: what the gate is measured against. It hears a monitor, which does
+    not count as a use of the microphone."""
+
+    def __init__(self, sound, source="air.monitor"):
+        self.loud_blocks = []
+        self.process = sound.start(
+            ["parec", f"--device={source}", "--latency-msec=10", "--format=s16le", "--rate=48000", "--channels=1",
+             "--raw"], stdout=subprocess.PIPE)
+        threading.Thread(target=self._listen, daemon=True).start()
+
+    def _listen(self):
+        with self.process.stdout as samples:
+            while data := os.read(samples.fileno(), 4096):
+                self._note(data)
+
+    def _note(self, data):
+        values = memoryview(data[:len(data) // 2 * 2]).cast("h")
+        if max(map(abs, values), default=0) > 1000:
+            self.loud_blocks.append(time.monotonic())
 
 
 class HearingTest(unittest.TestCase):

@@ -1,9 +1,12 @@
 """A screen reader finds the prompter's text, its state and its buttons, and can press them."""
 
 import json
+import re
 import shutil
+import time
 import unittest
 
+from bus import Portal, SessionBus
 from desktop import App, Desktop, wait_until
 
 SLIDES = [{"index": 1, "title": "Welcome", "notes": "Good morning."},
@@ -101,6 +104,41 @@ class AccessibilityTest(unittest.TestCase):
         self.assertTrue(App.defaults(self.desktop)["recordingBadgeFolded"])
         self.read("Next slide")
         self.assertIn("Slide 2 / 2", [node["name"] for node in self.read()])
+
+    def key_rows(self):
+        """What the settings say about the keys, once the window is there."""
+        App(self.desktop, "--settings")
+        wait_until(lambda: self.desktop.windows_titled("Orvello Settings"), what="the settings")
+        def rows(): # The window scrolls: they need not be in sight.
+            printed = json.loads(self.desktop.run("/usr/bin/python3", "-c", READER))
+            return [node["name"] for node in printed if re.match(r"[^.]*: (Press A|A)(lt|LT)\+", node["name"])]
+        wait_until(rows, what="the keys")
+        return rows
+
+    def test_the_settings_show_the_keys_that_the_portal_has_assigned(self):
+        self.desktop.environment["WAYLAND_DISPLAY"] = "wayland-of-nobody"
+        portal = Portal(SessionBus(self.desktop, self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"]))
+        self.addCleanup(portal.close)
+
+        rows = self.key_rows()
+        wait_until(lambda: rows()[:1] == ["Start / pause scrolling: Press ALT+LOGO+p"], what="the portal's keys")
+        self.assertEqual(rows(), ["Start / pause scrolling: Press ALT+LOGO+p",
+                                  "Speed up / down: Press ALT+LOGO+Up  /  Press ALT+LOGO+Down", "Back to top: Press ALT+LOGO+r",
+                                  "Show / hide prompter: Press ALT+LOGO+h"], "no key is named that is not the portal's")
+
+    def test_the_settings_say_which_key_another_program_has(self):
+        folder = self.desktop.config / "openbox"
+        folder.mkdir()
+        with open("/etc/xdg/openbox/rc.xml", encoding="utf-8") as file:
+            settings = file.read()
+        (folder / "rc.xml").write_text(settings.replace(
+            "<keyboard>", '<keyboard><keybind key="A-W-h"><action name="ShowMenu"><menu>none</menu></action></keybind>', 1))
+        self.desktop.run("openbox", "--reconfigure")
+        time.sleep(0.5)
+
+        rows = self.key_rows()()
+        self.assertEqual(rows, ["Start / pause scrolling: Alt+Super+P", "Speed up / down: Alt+Super+↑  /  Alt+Super+↓",
+                                "Back to top: Alt+Super+R", "Show / hide prompter: Alt+Super+H (another program has it)"])
 
     def test_the_countdown_is_there_and_nothing_speaks_of_a_gray_box_here(self):
         zoom = self.desktop.scratch / "zoom"

@@ -3,6 +3,7 @@
 import json
 import re
 import signal
+import subprocess
 import time
 import unittest
 
@@ -317,6 +318,45 @@ class PrompterTest(unittest.TestCase):
     @staticmethod
     def has_shape(desktop, app):
         return "No window shape" not in desktop.run("xwininfo", "-shape", "-id", str(app.window()))
+
+    # What others capture: the tour and the welcome script say so
+
+    def share(self, desktop, x):
+        """A shared window with its left edge there, beside or below the prompter, and what three programs make of it: one
+        that copies the window through the server, one that copies its part of the screen, and one the whole screen."""
+        desktop.start(["xterm", "-T", f"slides {x}", "-bg", "#ff00ff", "-fg", "#ff00ff", "-cr", "#ff00ff", "-b", "0",
+                       "-geometry", f"60x12+{x}+60", "-e", "sleep", "60"])
+        window = wait_until(lambda: desktop.windows_titled(f"slides {x}"), what="the shared window")[0]
+        def is_painted():
+            return self.colours(desktop, "-window", str(window))[1] > 0.1
+        wait_until(is_painted, what="the shared window's content")
+        text = desktop.run("xwininfo", "-id", str(window))
+        left, top, width, height = (int(re.search(name + r": +(-?\d+)", text)[1]) for name in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        region = ("-window", "root", "-crop", f"{width}x{height}+{left}+{top}")
+        return [self.colours(desktop, *source)[0] for source in (("-window", str(window)), region, ("-window", "root"))]
+
+    @staticmethod
+    def colours(desktop, *source):
+        """Of what `import` captures: whether there is any but the shared window's in it, and how much has that one."""
+        raw = subprocess.run(["import", "-silent", *source, "-depth", "8", "rgb:-"], env=desktop.environment, check=True,
+                             capture_output=True, timeout=60).stdout
+        pixels = [raw[i:i + 3] for i in range(0, len(raw), 3)]
+        shared = sum(pixel == b"\xff\x00\xff" for pixel in pixels)
+        return shared < len(pixels), shared / len(pixels)
+
+    def test_a_shared_window_holds_the_prompter_only_where_it_lies_over_it_and_a_program_copies_the_screen(self):
+        for compositor in (True, False):
+            with self.subTest(compositor=compositor), Desktop(compositor=compositor) as desktop:
+                App.set_defaults(desktop, onboardingSeenVersion=1, backgroundOpacity=1.0,
+                                 **{"NSWindow Frame PrompterPanel": "600 600 720 200 0 0 1440 900 "})
+                App(desktop).shown()
+
+                # Beside it, only the whole screen has the prompter in it.
+                self.assertEqual(self.share(desktop, 60), [False, False, True])
+                # Under it, a copy of that part of the screen has it, too, and so has one of the window where no compositor
+                # keeps what is in each.
+                self.assertEqual(self.share(desktop, 700), [not compositor, True, True])
 
     # Stealth Mode
 

@@ -260,6 +260,39 @@ class ScriptsWindowTest(unittest.TestCase):
         window.key("ctrl+d")
         window.wait_for_titles("Two", "One", "Three", "Three copy", "Welcome to Orvello")
 
+    def test_scripts_are_put_in_order_with_the_mouse(self):
+        window = self.start()
+        for name in ("Three", "Two", "One"):
+            window.key("ctrl+n")
+            window.type(name)
+        window.wait_for_titles("One", "Two", "Three", "Welcome to Orvello")
+        window.row(0)
+        window.wait_for_active(title="One")
+        left, top, width, height = window.geometry()
+        centre = [top + 18 + SEARCH_FIELD + 25 * row for row in range(4)]
+
+        def drag(start, end):
+            """Returns whether the row that would make way was marked meanwhile."""
+            unmarked = self.desktop.screenshot()
+            self.desktop.run("xdotool", "mousemove", str(left + 60), str(centre[start]), "mousedown", "1")
+            for step in range(1, 11):
+                self.desktop.run("xdotool", "mousemove", str(left + 60),
+                                 str(centre[start] + (centre[end] - centre[start]) * step // 10))
+                time.sleep(0.03)
+            time.sleep(0.3)
+            marked = self.desktop.screenshot()
+            self.desktop.run("xdotool", "mouseup", "1")
+            upper_edge = [(left + 120, y) for y in range(centre[end] - 24, centre[end])]
+            return any(marked.pixel(*place) != unmarked.pixel(*place) for place in upper_edge)
+
+        self.assertTrue(drag(0, 2))
+        window.wait_for_titles("Two", "Three", "One", "Welcome to Orvello")
+        window.wait_for_active(title="One")
+        self.assertTrue(drag(3, 1))
+        window.wait_for_titles("Two", "Welcome to Orvello", "Three", "One")
+        drag(1, 1)
+        self.assertEqual(window.titles(), ["Two", "Welcome to Orvello", "Three", "One"])
+
     def test_a_damaged_library_is_kept_and_its_copy_brought_back(self):
         window = self.start()
         window.key("ctrl+n")
@@ -402,6 +435,13 @@ class ScriptsWindowTest(unittest.TestCase):
         write_deck_without_notes(silent)
         window = self.start()
         window.wait_for_first_frame()
+
+        notes = self.desktop.scratch / "notes.txt"
+        notes.write_text("No deck.")
+        window.choose_file(notes) # Typed past the dialog's filter.
+        wait_until(window.shows_alert, what="that this is no presentation")
+        window.key("Return")
+        wait_until(lambda: not window.shows_alert(), what="the alert to go")
 
         window.choose_file(broken)
         wait_until(window.shows_alert, what="that the import failed")

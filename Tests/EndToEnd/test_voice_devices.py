@@ -1,5 +1,8 @@
 """The voice engine on a real sound server that comes late, goes, hangs, and changes its devices."""
 
+import re
+import socket
+import subprocess
 import time
 import unittest
 
@@ -8,7 +11,11 @@ from sound import KIND, Probe, SoundServer
 from waiting import wait_until
 
 # Microphones::Trouble
-NO_ANSWER, NO_MICROPHONE, MUTED = 1, 3, 4
+NO_ANSWER, REFUSED, NO_MICROPHONE, MUTED, WITHHELD = 1, 2, 3, 4, 5
+
+
+def only_pulseaudio(test):
+    return test if KIND == "pulseaudio" else None
 
 
 class VoiceDevicesTest(HearingTest):
@@ -111,19 +118,27 @@ class VoiceDevicesTest(HearingTest):
         sound.freeze()
         frozen = time.monotonic()
         probe.wait_for("VAD speaking=0", since=frozen)
-        stalls = []
-        for command in ("app us.zoom.xos Zoom", "stop", "start", "stop", "noapp", "start"):
-            probe.command(command)
-            time.sleep(1.2)
-            stalls.append(float(probe.answer("stall").split()[1]))
-        print("longest stalls of the main loop:", *(f"{stall * 1000:.1f} ms" for stall in stalls), flush=True)
+        stalls = self.stalls(probe)
+        if max(stalls) >= 0.02:  # The machine's fault is no other's the next time.
+            stalls = list(map(min, stalls, self.stalls(probe)))
         self.assertIn("listening=1", probe.answer("state"))
         self.assertIn(f"trouble={NO_ANSWER}", probe.answer("state"))
         sound.stop(player)
         sound.thaw()
         time.sleep(1)
         self.assert_hears(sound, probe)
-        self.assertLess(sorted(stalls)[-2], 0.02, "one may be the fault of a busy machine")
+        self.assertLess(max(stalls), 0.02)
+
+    @staticmethod
+    def stalls(probe):
+        """How long the main loop stood still at most, after each of some commands."""
+        result = []
+        for command in ("app us.zoom.xos Zoom", "stop", "start", "stop", "noapp", "start"):
+            probe.command(command)
+            time.sleep(1.2)
+            result.append(float(probe.answer("stall").split()[1]))
+        print("longest stalls of the main loop:", *(f"{stall * 1000:.1f} ms" for stall in result), flush=True)
+        return result
 
     def test_a_change_of_path_on_a_hanging_server_still_follows_afterwards(self):
         sound = self.sound()
@@ -231,6 +246,13 @@ class VoiceDevicesTest(HearingTest):
         sound.control("set-source-mute", "microphone", "0")
         wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
 
+        # This program's recording alone, as the mixer offers it.
+        own = self.stream(sound, "Voice-Follow")
+        sound.control("set-source-output-mute", own, "1")
+        wait_until(lambda: f"trouble={MUTED}" in probe.answer("state"), what="the trouble")
+        sound.control("set-source-output-mute", own, "0")
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
+
     def test_sources_of_every_format_are_heard(self):
         for rate, channels, form in ((8000, 1, "u8"), (192000, 6, "float32le")):
             with self.subTest(f"{rate} Hz, {channels} channels, {form}"):
@@ -283,6 +305,53 @@ class VoiceDevicesTest(HearingTest):
 
         self.assertLess(closed - changed, 2.0)
         self.assertIn("listening=1", probe.answer("state"))
+        if KIND == "pulseaudio":  # PipeWire's sources deliver silence for what they do not get.
+            wait_until(lambda: f"trouble={WITHHELD}" in probe.answer("state"), what="the trouble")
+        sound.control("set-default-source", "microphone")
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
+
+    def test_a_server_that_hangs_is_not_said_to_withhold_the_microphone(self):
+        sound = self.sound()
+        probe = self.listening(sound)
+        self.assert_hears(sound, probe)
+        sound.freeze()
+        troubles = []
+        while f"{NO_ANSWER}" not in troubles and len(troubles) < 60:
+            time.sleep(0.1)
+            troubles.append(re.search(r"trouble=(\d)", probe.answer("state"))[1])
+        sound.thaw()
+        self.assertEqual(sorted(set(troubles)), ["0", f"{NO_ANSWER}"])
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
+
+    def test_the_process_numbers_of_sandboxes_confuse_nobody(self):
+        """In a sandbox a program has a small number, which another may have, too."""
+        sound = self.sound()
+        probe = Probe(sound, environment={"PULSE_PROP": "application.process.id=2"})
+        probe.command("start")
+        probe.wait_for("VAD listening (VPIO, AEC on)")
+        wait_until(lambda: 'application.process.id = "2"' in sound.control("list", "source-outputs"), what="its number")
+        time.sleep(2.5)
+        self.assertIn("aec=1", probe.answer("state"))
+
+        sound.start(["parec", "--device=microphone", f"--property=application.process.id={probe.process.pid}"],
+                    stdout=subprocess.DEVNULL)
+        probe.wait_for("VAD: dropping AEC (another app is using the microphone)")
+
+    @only_pulseaudio  # The stand-in lets in whoever reaches it.
+    def test_a_server_that_refuses_is_said_to(self):
+        with socket.socket() as free:
+            free.bind(("127.0.0.1", 0))
+            port = free.getsockname()[1]
+        sound = self.sound(modules=SoundServer.MODULES + [f"module-native-protocol-tcp port={port} listen=127.0.0.1"])
+        cookie = sound.scratch / "cookie"
+        cookie.write_bytes(bytes(256))
+        probe = Probe(sound, environment={"PULSE_SERVER": f"tcp:127.0.0.1:{port}", "PULSE_COOKIE": str(cookie)})
+        probe.command("start")
+        wait_until(lambda: f"trouble={REFUSED}" in probe.answer("state"), what="the refusal")
+
+        cookie.write_bytes((sound.scratch / ".config/pulse/cookie").read_bytes())
+        probe.wait_for("VAD listening (VPIO, AEC on)")
+        wait_until(lambda: "trouble=0" in probe.answer("state"), what="the end of the trouble")
 
 
 if __name__ == "__main__":

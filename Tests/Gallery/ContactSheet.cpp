@@ -2,6 +2,7 @@
 
 #include "Tests/Gallery/Rendering.h"
 
+#include <QFileInfo>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,6 +21,8 @@ constexpr int nameHeight = 24;
 struct Cell {
     QImage picture;
     QRect area; ///< The picture and the wallpaper around it; the name lies outside.
+    qsizetype scene = 0;
+    qsizetype sheet = 0;
 };
 
 /// The cells in rows from left to right, as a page of words.
@@ -28,6 +31,8 @@ QList<Cell> placed(const Scenes& scenes, const QDir& folder)
     QList<Cell> cells;
     QPoint next(gap, gap);
     int rowHeight = 0;
+    qsizetype rowBegin = 0;
+    qsizetype sheet = 0;
     for (qsizetype i = 0; i < scenes.size(); ++i) {
         QImage picture(pictureOf(folder, i));
         picture.setDevicePixelRatio(1);
@@ -37,39 +42,81 @@ QList<Cell> placed(const Scenes& scenes, const QDir& folder)
         if (beginsGroup || next.x() + size.width() + gap > sheetWidth) {
             next = { gap, next.y() + rowHeight };
             rowHeight = 0;
+            rowBegin = i;
         }
-        cells.append({ picture, QRect(next, size) });
+        cells.append({ picture, QRect(next, size), i, sheet });
         next.rx() += size.width() + gap;
         rowHeight = std::max(rowHeight, size.height() + nameHeight + gap);
+        if (next.y() + rowHeight <= largestSheet || cells[rowBegin].area.top() == gap)
+            continue;
+        // The row begins the next sheet.
+        ++sheet;
+        for (qsizetype moved = rowBegin; moved <= i; ++moved) {
+            cells[moved].sheet = sheet;
+            cells[moved].area.moveTop(gap);
+        }
+        next.setY(gap);
     }
     return cells;
 }
 
-QSize sizeOf(const QList<Cell>& cells)
+QSize sizeOf(const QList<Cell>& cells, qsizetype sheet)
 {
     QSize size(sheetWidth, gap);
-    for (const Cell& cell : cells)
-        size = size.expandedTo({ cell.area.right() + gap, cell.area.bottom() + nameHeight + gap });
+    for (const Cell& cell : cells) {
+        if (cell.sheet == sheet)
+            size = size.expandedTo(
+                { cell.area.right() + gap, cell.area.bottom() + nameHeight + gap });
+    }
     return size;
+}
+
+QImage paintedSheet(const Scenes& scenes, const QList<Cell>& cells, qsizetype number)
+{
+    QImage sheet(sizeOf(cells, number), QImage::Format_RGB32);
+    sheet.fill(QColor(60, 62, 68));
+    QPainter painter(&sheet);
+    for (const Cell& cell : cells) {
+        if (cell.sheet != number)
+            continue;
+        const Scene& scene = scenes[cell.scene];
+        paintWallpaper(painter, cell.area, scene.wallpaper);
+        painter.drawImage(cell.area.topLeft() + QPoint(margin, margin), cell.picture);
+        painter.setPen(Qt::white);
+        painter.drawText(QRect(cell.area.left(), cell.area.bottom(), cell.area.width(), nameHeight),
+            Qt::AlignVCenter | Qt::TextDontClip, scene.name);
+    }
+    return sheet;
 }
 
 } // namespace
 
-QImage contactSheet(const Scenes& scenes, const QDir& folder)
+QList<QImage> contactSheets(const Scenes& scenes, const QDir& folder)
 {
     const QList<Cell> cells = placed(scenes, folder);
-    QImage sheet(sizeOf(cells), QImage::Format_RGB32);
-    sheet.fill(QColor(60, 62, 68));
-    QPainter painter(&sheet);
-    for (qsizetype i = 0; i < cells.size(); ++i) {
-        const QRect area = cells[i].area;
-        paintWallpaper(painter, area, scenes[i].wallpaper);
-        painter.drawImage(area.topLeft() + QPoint(margin, margin), cells[i].picture);
-        painter.setPen(Qt::white);
-        painter.drawText(QRect(area.left(), area.bottom(), area.width(), nameHeight),
-            Qt::AlignVCenter | Qt::TextDontClip, scenes[i].name);
+    QList<QImage> sheets;
+    for (qsizetype i = 0; i <= cells.last().sheet; ++i)
+        sheets.append(paintedSheet(scenes, cells, i));
+    return sheets;
+}
+
+QByteArray indexPage(const Scenes& scenes, const QString& folderName, const QStringList& sheetNames)
+{
+    QString page = u"<!DOCTYPE html>\n<meta charset=\"utf-8\">\n<title>Orvello's windows</title>\n"
+                   "<style>body { font-family: sans-serif; background: #3c3e44; color: white } "
+                   "a { color: inherit } img { max-width: 100% }</style>\n"_s;
+    for (const QString& sheet : sheetNames)
+        page += u"<a href=\"%1\">%1</a>\n"_s.arg(sheet);
+    QString group;
+    for (qsizetype i = 0; i < scenes.size(); ++i) {
+        if (const QString next = scenes[i].name.section(u':', 0, 0); next != group) {
+            group = next;
+            page += u"<h2>%1</h2>\n"_s.arg(group.toHtmlEscaped());
+        }
+        page += u"<h3>%1</h3>\n<img loading=\"lazy\" alt=\"\" src=\"%2/%3\">\n"_s.arg(
+            scenes[i].name.toHtmlEscaped(), folderName, QFileInfo(pictureOf(QDir(), i)).fileName());
     }
-    return sheet;
+    return page.toUtf8();
 }
 
 } // namespace Orvello::Gallery

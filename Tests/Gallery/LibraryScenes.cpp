@@ -5,6 +5,7 @@
 #include "Tests/Support/DeckBuilder.h"
 #include "Tests/Support/LibraryServices.h"
 
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QMimeData>
@@ -151,6 +152,51 @@ void importSavedCopy(LibraryStage& stage)
 
 void dragADeckOver(LibraryStage& stage) { stage.dragOver(u"/tmp/Quarterly review.pptx"_s); }
 
+void search(LibraryStage& stage)
+{
+    stage.press(Qt::Key_F, Qt::ControlModifier);
+    for (const char letter : { 'm', 'o', 'r', 'n' })
+        QTest::keyClick(&stage.window(), letter);
+}
+
+void searchInVain(LibraryStage& stage)
+{
+    search(stage);
+    stage.press(Qt::Key_X);
+}
+
+void openDeleted(LibraryStage& stage)
+{
+    LibraryStore& store = stage.services().library;
+    for (const qsizetype row : { 3, 2, 1 })
+        store.remove(store.scripts()[row].id);
+    QTest::qWait(100);
+    stage.click(190, 462);
+    QTest::qWait(200);
+}
+
+/// With something in the library file's place nothing can be saved.
+void failToSave(LibraryStage& stage)
+{
+    const QString file = stage.services().folders.path + u"/Orvello/scripts.json"_s;
+    QFile::remove(file);
+    QDir().mkdir(file);
+    stage.services().library.updateActive(u"Opening words"_s, {});
+}
+
+void openEditorMenu(LibraryStage& stage)
+{
+    write(stage);
+    QTest::mouseClick(&stage.window(), Qt::RightButton, {}, QPoint(300, 120));
+    QTest::qWait(200);
+}
+
+void openListMenu(LibraryStage& stage)
+{
+    QTest::mouseClick(&stage.window(), Qt::RightButton, {}, QPoint(60, 90));
+    QTest::qWait(200);
+}
+
 Scene scene(const QString& name, const LibraryStage::Play& play, Look look = Look::Light,
     double scale = 1, const QList<Script>& scripts = library())
 {
@@ -175,6 +221,18 @@ Scenes libraryScenes()
         scene(u"the saved copy imported"_s, importSavedCopy),
         scene(u"a deck dragged over it"_s, dragADeckOver),
         scene(u"a deck dragged over it, dark"_s, dragADeckOver, Look::Dark),
+        scene(u"a search"_s, search),
+        scene(u"a search, dark"_s, search, Look::Dark),
+        scene(u"a search in vain"_s, searchInVain),
+        scene(u"a search in vain, dark"_s, searchInVain, Look::Dark),
+        scene(u"recently deleted"_s, openDeleted),
+        scene(u"recently deleted, dark"_s, openDeleted, Look::Dark),
+        scene(u"not saved"_s, failToSave),
+        scene(u"not saved, dark"_s, failToSave, Look::Dark),
+        scene(u"the editor's menu"_s, openEditorMenu),
+        scene(u"the editor's menu, dark"_s, openEditorMenu, Look::Dark),
+        scene(u"the list's menu"_s, openListMenu),
+        scene(u"the list's menu, dark"_s, openListMenu, Look::Dark),
         scene(
             u"a script, dark"_s, [](LibraryStage&) {}, Look::Dark),
         scene(u"a deck, dark"_s, showDeck, Look::Dark),

@@ -59,6 +59,13 @@ Scene tourOnAMac(const QString& name, int page, Zoom zoom = Zoom::Absent)
     return tour(name + u", on a Mac"_s, page, zoom, 1, Testing::factsOfAMac());
 }
 
+Scene tourWhereCapturesMayShowIt(const QString& name, int page, Zoom zoom = Zoom::Absent)
+{
+    Facts facts = Testing::factsOfAMac();
+    facts.capturesMayShowHidden = true;
+    return tour(name + u", where captures may show the prompter"_s, page, zoom, 1, facts);
+}
+
 } // namespace
 
 Scenes onboardingScenes()
@@ -72,6 +79,8 @@ Scenes onboardingScenes()
         tourOnAMac(u"privacy"_s, 1),
         tourOnAMac(u"privacy, with Zoom"_s, 1, Zoom::Installed),
         tourOnAMac(u"setup"_s, 2),
+        tourWhereCapturesMayShowIt(u"welcome"_s, 0),
+        tourWhereCapturesMayShowIt(u"privacy, with Zoom"_s, 1, Zoom::Installed),
         tour(u"welcome, 2x"_s, 0, Zoom::Absent, 2),
         tour(u"privacy, with Zoom, 2x"_s, 1, Zoom::Installed, 2),
         tour(u"setup, 2x"_s, 2, Zoom::Absent, 2),

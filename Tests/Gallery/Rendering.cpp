@@ -1,5 +1,7 @@
 #include "Tests/Gallery/Rendering.h"
 
+#include "Tests/Gallery/Measures.h"
+
 #include <QImage>
 #include <QQuickWindow>
 #include <QTest>
@@ -26,7 +28,8 @@ bool isBlank(const QImage& picture)
     return true;
 }
 
-QImage pictureOf(const Scene& scene)
+/// Says on standard error what is wrong with it.
+QImage pictureOf(const Scene& scene, bool& isRight)
 {
     const std::unique_ptr<Stage> stage = scene.make();
     QQuickWindow& window = stage->window();
@@ -35,7 +38,12 @@ QImage pictureOf(const Scene& scene)
         return {};
     stage->play();
     QTest::qWait(settling);
-    return window.grabWindow();
+    const QImage picture = window.grabWindow();
+    for (const QString& fault : faultsOf(window, picture)) {
+        std::fprintf(stderr, "gallery: \"%s\": %s\n", qPrintable(scene.name), qPrintable(fault));
+        isRight = false;
+    }
+    return picture;
 }
 
 } // namespace
@@ -47,16 +55,17 @@ QString pictureOf(const QDir& folder, qsizetype number)
 
 bool renderScenes(const Scenes& scenes, double scale, const QDir& folder)
 {
+    bool areRight = true;
     for (qsizetype i = 0; i < scenes.size(); ++i) {
         if (scenes[i].scale != scale)
             continue;
-        const QImage picture = pictureOf(scenes[i]);
+        const QImage picture = pictureOf(scenes[i], areRight);
         if (isBlank(picture) || !picture.save(pictureOf(folder, i))) {
             std::fprintf(stderr, "gallery: no picture of \"%s\"\n", qPrintable(scenes[i].name));
             return false;
         }
     }
-    return true;
+    return areRight;
 }
 
 } // namespace Orvello::Gallery

@@ -159,6 +159,14 @@ Scene settingsOnAMac(const QString& name, Look look)
         name + u", on a Mac"_s, look, Extent::All, asItIs, {}, 1, Testing::factsOfAMac());
 }
 
+Scene settingsWhereCapturesMayShowIt()
+{
+    Facts facts = Testing::factsOfAMac();
+    facts.capturesMayShowHidden = true;
+    return settings(
+        u"where captures may show the prompter"_s, Look::Dark, Extent::All, asItIs, {}, 1, facts);
+}
+
 Scene voice(const QString& name, Look look, const SettingsStage::Play& play)
 {
     return settings(u"voice, "_s + name, look, Extent::Section, play, u"Voice-follow"_s);
@@ -232,6 +240,7 @@ Scenes settingsScenes()
         settings(u"the window"_s, Look::Light, Extent::Window),
         settingsOnAMac(u"light"_s, Look::Light),
         settingsOnAMac(u"dark"_s, Look::Dark),
+        settingsWhereCapturesMayShowIt(),
         voice(u"listening"_s, Look::Light, listen),
         voice(u"during a call"_s, Look::Dark, listenDuringACall),
         voice(u"denied"_s, Look::Light, listenForbidden),

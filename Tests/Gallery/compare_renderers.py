@@ -17,7 +17,7 @@ WORDS = ("slide chip", "est text", "outlined letters")
 
 
 def pictures(gallery, folder, words, backend):
-    sheet = folder / f"{words.replace(' ', '-')}-{backend}.png"
+    sheet = folder / f"{words.replace(' ', '-')}-{backend}.html"
     environment = os.environ | {"QT_QUICK_BACKEND": backend}
     if backend == "opengl":
         del environment["QT_QUICK_BACKEND"]

@@ -1,14 +1,17 @@
 // Makes one picture of every window in every state, from real renders:
 //
-//     orvello-gallery SHEET.png [WORDS]   the scenes whose names contain the words, else all
+//     orvello-gallery INDEX.html [WORDS]   the scenes whose names contain the words, else all
 //
-// Beside the sheet a folder of its name holds the pictures one by one. The sheet is painted here;
-// the windows are shown by one further process for each scale, on the display there is.
+// Beside the page a folder of its name holds the pictures one by one, and INDEX-1.png and so on are
+// contact sheets of all of them. These are painted here; the windows are shown by one further
+// process for each scale, on the display there is. What is wrong with a picture is said on standard
+// error, and the exit status is 1.
 
 #include "Tests/Gallery/ContactSheet.h"
 #include "Tests/Gallery/Rendering.h"
 #include "Tests/Gallery/Scenes.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
@@ -56,7 +59,21 @@ bool renderElsewhere(double scale, const QDir& folder, const QString& words)
         && process.exitCode() == 0;
 }
 
-int makeSheet(int argc, char** argv)
+bool save(const Gallery::Scenes& scenes, const QDir& pictures, const QFileInfo& index)
+{
+    const QDir folder = index.absoluteDir();
+    QStringList sheetNames;
+    for (const QImage& sheet : Gallery::contactSheets(scenes, pictures)) {
+        sheetNames.append(u"%1-%2.png"_s.arg(index.completeBaseName()).arg(sheetNames.size() + 1));
+        if (!sheet.save(folder.filePath(sheetNames.last())))
+            return false;
+    }
+    const QByteArray page = Gallery::indexPage(scenes, pictures.dirName(), sheetNames);
+    QFile file(index.filePath());
+    return file.open(QIODevice::WriteOnly) && file.write(page) == page.size();
+}
+
+int makeGallery(int argc, char** argv)
 {
     // Only the renders need a display.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
@@ -64,9 +81,9 @@ int makeSheet(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     platform.isEmpty() ? qunsetenv("QT_QPA_PLATFORM") : qputenv("QT_QPA_PLATFORM", platform);
 
-    const QString sheet = QGuiApplication::arguments().value(1);
+    const QString index = QGuiApplication::arguments().value(1);
     const QString words = QGuiApplication::arguments().value(2);
-    const QFileInfo file(sheet);
+    const QFileInfo file(index);
     QDir folder(file.absoluteDir().filePath(file.completeBaseName()));
     folder.removeRecursively();
     const Gallery::Scenes scenes = scenesNamed(words);
@@ -78,11 +95,10 @@ int makeSheet(int argc, char** argv)
     std::set<double> scales;
     for (const Gallery::Scene& scene : scenes)
         scales.insert(scene.scale);
-    for (const double scale : scales) {
-        if (!renderElsewhere(scale, folder, words))
-            return 1;
-    }
-    return Gallery::contactSheet(scenes, folder).save(sheet) ? 0 : 1;
+    bool areRight = true;
+    for (const double scale : scales)
+        areRight = renderElsewhere(scale, folder, words) && areRight;
+    return save(scenes, folder, file) && areRight ? 0 : 1;
 }
 
 } // namespace
@@ -90,9 +106,9 @@ int makeSheet(int argc, char** argv)
 int main(int argc, char** argv)
 {
     if (argc < 2) {
-        std::fprintf(stderr, "Usage: orvello-gallery SHEET.png [WORDS]\n");
+        std::fprintf(stderr, "Usage: orvello-gallery INDEX.html [WORDS]\n");
         return 2;
     }
     return QLatin1StringView(argv[1]) == QLatin1StringView(renderSwitch) ? render(argc, argv)
-                                                                         : makeSheet(argc, argv);
+                                                                         : makeGallery(argc, argv);
 }

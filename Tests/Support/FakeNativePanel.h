@@ -41,7 +41,7 @@ public:
     bool isBeingResized() const override { return beingResized; }
     CaptureHiding& captureHiding() override { return *this; }
 
-    bool isPossible() const override { return canHide; }
+    Reach reach() const override { return reachNow; }
     bool isHidden() const override { return hidden; }
     void setHidden(bool isHidden) override
     {
@@ -57,7 +57,7 @@ public:
     qint64 number = 42;
     bool beingResized = false;
     bool hidden = false; ///< Whether captures leave the panel out.
-    bool canHide = true;
+    Reach reachNow = Reach::EveryCapture; ///< Which captures leave a hidden one out.
     QStringList calls;
     std::vector<bool> hiddenSet; ///< Each time it was set.
 };

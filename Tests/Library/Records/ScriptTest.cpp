@@ -106,5 +106,17 @@ TEST(WelcomeScriptTest, speaksOfStealthModeWhereverADesktopCanHideAWindow)
     EXPECT_FALSE(body.contains(u"cannot hide"_s));
 }
 
+TEST(WelcomeScriptTest, promisesNoMoreThanIsKnownWhereCapturesMayShowWhatIsHidden)
+{
+    Facts facts = Testing::factsOfAMac();
+    facts.capturesMayShowHidden = true;
+
+    const QString body = WelcomeScript::body(facts);
+
+    EXPECT_TRUE(body.contains(u"Newer recorders may show it all the same"_s));
+    EXPECT_TRUE(body.contains(u"Leave Stealth Mode alone while you share"_s));
+    EXPECT_FALSE(body.contains(u"invisible"_s));
+}
+
 } // namespace
 } // namespace Orvello

@@ -4,6 +4,7 @@
 
 #include "Orvello/Adapters/macOS/Desktop/CocoaView.h"
 #include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
+#include "Orvello/Adapters/macOS/Early/SharingType.h"
 #include "Tests/MacOS/GNUstep/GNUstepTest.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/FakeScreens.h"
@@ -254,6 +255,10 @@ id trackingOwner = nil;
 
 namespace Orvello {
 
+bool isSystemIgnoringSharing = false;
+
+bool isSharingTypeIgnored() { return isSystemIgnoringSharing; }
+
 NSView* nativeViewOf(const QWindow&)
 {
     static NSView* const view = [[NSView alloc] init];
@@ -341,6 +346,19 @@ TEST_F(PanelTest, showsTheViewFirst)
     panel->hide();
     EXPECT_FALSE(view.isVisible());
     expectInOrder({ "orderFrontRegardless", "orderOut:" });
+}
+
+TEST_F(PanelTest, isLeftOutOfEveryCaptureOnlyWhereTheSystemSaysSo)
+{
+    using Reach = CaptureHiding::Reach;
+    EXPECT_EQ(panel->captureHiding().reach(), Reach::EveryCapture);
+    isSystemIgnoringSharing = true;
+    EXPECT_EQ(panel->captureHiding().reach(), Reach::SomeCaptures);
+    isSystemIgnoringSharing = false;
+
+    panel->captureHiding().setHidden(true);
+    panel->captureHiding().setHidden(false);
+    expectInOrder({ "setSharingType: 0", "setSharingType: 1" });
 }
 
 TEST_F(PanelTest, comesBackAtOnceWhenItsScreenGoes)

@@ -601,7 +601,7 @@ TEST_F(PrompterPanelControllerTest, takesItsWatchdogWithIt)
 
 TEST_F(PrompterPanelControllerTest, saysThatThePanelIsVisibleInRecordingsWhereNothingHidesIt)
 {
-    panel.canHide = false;
+    panel.reachNow = CaptureHiding::Reach::NoCapture;
     build();
     EXPECT_TRUE(controller->isVisibleInRecordings());
 
@@ -611,7 +611,49 @@ TEST_F(PrompterPanelControllerTest, saysThatThePanelIsVisibleInRecordingsWhereNo
 
 TEST_F(PrompterPanelControllerTest, doesNotSaySoWhereThePlatformHidesIt)
 {
+    state().shapeError = 1000;
     build();
+
+    EXPECT_FALSE(controller->isVisibleInRecordings());
+}
+
+TEST_F(PrompterPanelControllerTest, trustsTheShapeAloneWhereSomeCapturesIgnoreTheRest)
+{
+    panel.reachNow = CaptureHiding::Reach::SomeCaptures;
+    state().shapeError = 1000;
+    build();
+    EXPECT_TRUE(controller->isVisibleInRecordings()) << "the window server refused it";
+
+    state().shapeError = 0;
+    int told = 0;
+    QObject::connect(controller.get(), &PrompterPanelController::visibleInRecordingsChanged,
+        controller.get(), [&] { ++told; });
+    controller->reassertStealth();
+    EXPECT_FALSE(controller->isVisibleInRecordings());
+    EXPECT_EQ(told, 1);
+
+    state().shapeError = 1000;
+    controller->reapplyShapeOrPostpone();
+    EXPECT_TRUE(controller->isVisibleInRecordings()) << "it outgrew the shape";
+    EXPECT_EQ(told, 2);
+
+    controller->applyStealthMode(false);
+    EXPECT_FALSE(controller->isVisibleInRecordings()) << "nobody wants it hidden";
+}
+
+TEST_F(PrompterPanelControllerTest, trustsNoShapeThatIsNotInUse)
+{
+    panel.reachNow = CaptureHiding::Reach::SomeCaptures;
+    qputenv("ORVELLO_STEALTH", "flag");
+    build();
+
+    EXPECT_TRUE(controller->isVisibleInRecordings());
+}
+
+TEST_F(PrompterPanelControllerTest, leavesItToTheDebugMarkToSayThatStealthModeIsForcedOff)
+{
+    panel.reachNow = CaptureHiding::Reach::SomeCaptures;
+    build(true);
 
     EXPECT_FALSE(controller->isVisibleInRecordings());
 }

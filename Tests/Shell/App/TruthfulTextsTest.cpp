@@ -54,7 +54,10 @@ protected:
             "Ajustes do Sistema|barra de menus|系统设置|菜单栏|"
             // What nobody can promise where windows cannot be hidden: how programs capture one.
             "window never does|Fenster nie|ventana, nunca\\.|fenêtre, jamais\\.|決して見えません|"
-            "janela, nunca\\.|窗口则绝不会|zero risk"_s,
+            "janela, nunca\\.|窗口则绝不会|zero risk|never sees your notes|never your notes|"
+            "nie Ihre Notizen|Ihre Notizen nie|nunca tus notas|nunca verá tus notas|"
+            "jamais vos notes|ノートは見えません|nunca suas anotações|nunca verá suas anotações|"
+            "绝不会看到你的备注"_s,
             QRegularExpression::CaseInsensitiveOption
                 | QRegularExpression::UseUnicodePropertiesOption);
         EXPECT_FALSE(untrue.match(text).hasMatch()) << GetParam() << ": " << text.toStdString();

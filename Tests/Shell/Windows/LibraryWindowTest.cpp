@@ -219,6 +219,43 @@ TEST_F(LibraryWindowTest, letsTheSidebarBeDraggedToItsBounds)
     EXPECT_EQ(list->width(), 280);
 }
 
+TEST_F(LibraryWindowTest, sticksOutNowhereAtItsSmallestSize)
+{
+    const int edge = qRound(named(u"Scripts"_s)->width()) + 1;
+    QTest::mousePress(&view(), Qt::LeftButton, {}, QPoint(edge, 200));
+    for (int x = edge; x <= 700; x += 50)
+        QTest::mouseMove(&view(), QPoint(x, 200));
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, QPoint(700, 200));
+    settle();
+    ASSERT_EQ(named(u"Scripts"_s)->width(), 280);
+
+    view().resize(view().minimumSize());
+    settle();
+    for (const qsizetype row : { 0, 1 }) {
+        library().setActiveScriptID(library().scripts()[row].id);
+        settle();
+        for (QQuickItem* const item : Testing::visibleItems(view())) {
+            const QRectF place = item->mapRectToScene(QRectF(QPointF(), item->size()));
+            if (place.isEmpty())
+                continue;
+            EXPECT_LE(place.right(), 660.5) << item->metaObject()->className();
+            EXPECT_GE(place.left(), -0.5) << item->metaObject()->className();
+        }
+        EXPECT_GE(named(u"Title"_s)->width(), 374);
+    }
+}
+
+TEST_F(LibraryWindowTest, saysThatASearchFindsNothing)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    type(u"first"_s);
+    EXPECT_EQ(showing(u"Nothing found"_s), nullptr);
+    type(u"x"_s);
+    EXPECT_NE(showing(u"Nothing found"_s), nullptr);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(showing(u"Nothing found"_s), nullptr);
+}
+
 TEST_F(LibraryWindowTest, showsTheActiveScript)
 {
     EXPECT_EQ(titleField(), u"One"_s);
@@ -378,6 +415,7 @@ TEST_F(LibraryWindowTest, letsADecksTitleBeEditedButNotItsBody)
     press(Qt::Key_X, Qt::ControlModifier);
     EXPECT_EQ(active().body, body);
 
+    press(Qt::Key_Backtab); // The button that reads the deck's file.
     press(Qt::Key_Backtab);
     press(Qt::Key_A, Qt::ControlModifier);
     type(u"Second"_s);

@@ -218,6 +218,24 @@ TEST_F(OnboardingWindowTest, asksForNoSettingOfZoomWhereTheDesktopHidesThePrompt
     EXPECT_FALSE(showsText(view(), u"Using Zoom? Share a window"_s));
 }
 
+TEST_F(OnboardingWindowTest, promisesNoMoreThanIsKnownWhereCapturesMayShowWhatIsHidden)
+{
+    facts.capturesMayShowHidden = true;
+
+    for (const char* const page : { "0", "1" }) {
+        openOn(page);
+        for (const QString& text : visibleTexts(view())) {
+            for (const QString& unknown : { u"Invisible"_s, u"hides the prompter"_s,
+                     u"works with Stealth"_s, u"safety net"_s })
+                EXPECT_FALSE(text.contains(unknown)) << text.toStdString();
+        }
+    }
+    EXPECT_TRUE(showsText(view(),
+        u"A share of the full screen leaves the prompter out as far as this system allows. Sharing only the Keynote or PowerPoint window takes the risk to zero — a window share can never include the prompter."_s));
+    openOn("0");
+    EXPECT_TRUE(showsText(view(), u"Hidden where the system allows"_s));
+}
+
 TEST_F(OnboardingWindowTest, copiesThePathToZoomsSetting)
 {
     workspace.installed.append(u"us.zoom.xos"_s);

@@ -540,6 +540,23 @@ TEST_F(SettingsWindowTest, saysSoWhereStealthModeHidesNothing)
     EXPECT_TRUE(showsText(view(), warning));
 }
 
+TEST_F(SettingsWindowTest, promisesNoMoreThanIsKnownWhereCapturesMayShowWhatIsHidden)
+{
+    const auto mentions = [&](const QString& words) {
+        return std::ranges::any_of(
+            visibleTexts(view()), [&](const QString& text) { return text.contains(words); });
+    };
+    EXPECT_TRUE(mentions(u"the prompter is invisible to screen sharing"_s));
+
+    Facts facts = factsOfAMac();
+    facts.capturesMayShowHidden = true;
+    open(facts);
+
+    EXPECT_FALSE(mentions(u"invisible"_s));
+    EXPECT_TRUE(mentions(u"Newer recorders may show it all the same: try yours"_s));
+    EXPECT_TRUE(mentions(u"Leave Stealth Mode alone during a live share"_s));
+}
+
 TEST_F(SettingsWindowTest, namesTheSystemsSettingsWhereTheyGrantPermissions)
 {
     Facts facts = factsOfALinuxDesktop();

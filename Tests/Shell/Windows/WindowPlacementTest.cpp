@@ -24,7 +24,7 @@ TEST(WindowPlacementTest, leavesRoomForTheTitleBar)
 TEST(WindowPlacementTest, makesAWindowAsLowAsTheScreen)
 {
     EXPECT_EQ(
-        WindowPlacement::centered(settings, QRect(0, 0, 1024, 600)), QRect(262, 40, 500, 560));
+        WindowPlacement::centered(settings, QRect(0, 0, 1024, 600)), QRect(262, 40, 500, 552));
 }
 
 TEST(WindowPlacementTest, centresOnTheFreePartOfAnyScreen)

@@ -51,9 +51,15 @@ QString body(const Facts& facts)
     };
     if (facts.canHideWindows)
         paragraphs += {
-            translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
-                "With Stealth Mode on, this window is invisible to screen sharing, recordings, and "
-                "screenshots. Your audience only sees your slides — never your notes.")),
+            facts.capturesMayShowHidden
+                ? translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
+                    "With Stealth Mode on, this window stays out of screen sharing, recordings, "
+                    "and screenshots as far as this system allows. Newer recorders may show it all "
+                    "the same: share only the window of your slides, and your audience never sees "
+                    "your notes."))
+                : translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
+                    "With Stealth Mode on, this window is invisible to screen sharing, recordings, "
+                    "and screenshots. Your audience only sees your slides — never your notes.")),
             translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
                 "Sharing your screen? Leave Stealth Mode alone while you share — toggling it "
                 "mid-share can make your meeting app show a gray box where the prompter sits. "
@@ -62,8 +68,8 @@ QString body(const Facts& facts)
     else
         paragraphs += translated(QT_TRANSLATE_NOOP("Orvello::WelcomeScript",
             "Sharing your screen? This desktop cannot hide a window, so whoever sees your whole "
-            "screen sees this panel too. Share only the window of your slides: your audience sees "
-            "your slides — never your notes."));
+            "screen sees this panel too. Share only the window of your slides, and keep this panel "
+            "beside it: your audience then sees your slides, not your notes."));
     return paragraphs.join(u"\n\n"_s);
 }
 

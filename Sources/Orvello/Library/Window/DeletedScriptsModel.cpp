@@ -33,9 +33,10 @@ QVariant DeletedScriptsModel::data(const QModelIndex& index, int role) const
         return ScriptListModel::shownTitle(deleted.script.title);
     case DeletedRole: {
         const auto seconds = static_cast<qint64>(deleted.deletedAt.unixSeconds());
-        //: %1: a date and a time.
+        //: %1: a date.
         return tr("Deleted %1")
-            .arg(QLocale().toString(QDateTime::fromSecsSinceEpoch(seconds), QLocale::ShortFormat));
+            .arg(QLocale().toString(
+                QDateTime::fromSecsSinceEpoch(seconds).date(), QLocale::ShortFormat));
     }
     default:
         return {};

@@ -159,6 +159,22 @@ ColumnLayout {
                 border.width: 2
             }
 
+            Label {
+                parent: list
+                width: list.width - 32
+                x: 16
+                y: 12
+                visible: list.count === 0 && root.scripts.text !== ""
+                //: Where the list of scripts is, when none has what is searched for.
+                text: qsTr("Nothing found")
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                opacity: 0.7
+
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
+
             // The current item is what assistive technology reads out. A view moves it along with
             // insertions and removals, which the library does not ask for.
             function followActiveRow(): void {

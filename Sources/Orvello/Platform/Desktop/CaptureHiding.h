@@ -8,13 +8,19 @@ namespace Orvello {
 /// do that. Main thread.
 class CaptureHiding {
 public:
+    /// Which captures are known to respect it.
+    enum class Reach {
+        NoCapture,
+        SomeCaptures, ///< Those that are made in the system's older ways.
+        EveryCapture,
+    };
+
     virtual ~CaptureHiding() = default;
 
-    /// Whether this platform can do it at all.
-    virtual bool isPossible() const = 0;
+    virtual Reach reach() const = 0;
 
-    /// Hides the window from captures, or makes it capturable like any other. Where it is not
-    /// possible, the wish is remembered.
+    /// Hides the window from captures, or makes it capturable like any other. Where no capture
+    /// respects it, the wish is remembered.
     virtual void setHidden(bool isHidden) = 0;
 
     /// What was set last; a new window is capturable.

@@ -10,6 +10,7 @@ namespace Orvello {
 struct Facts {
     Q_GADGET
     Q_PROPERTY(bool canHideWindows MEMBER canHideWindows CONSTANT FINAL)
+    Q_PROPERTY(bool capturesMayShowHidden MEMBER capturesMayShowHidden CONSTANT FINAL)
     Q_PROPERTY(bool hasMenuBar MEMBER hasMenuBar CONSTANT FINAL)
     Q_PROPERTY(bool isMac MEMBER isMac CONSTANT FINAL)
     Q_PROPERTY(bool hasQuickTime MEMBER hasQuickTime CONSTANT FINAL)
@@ -23,6 +24,8 @@ struct Facts {
 public:
     /// The desktop can keep a window out of captures.
     bool canHideWindows = false;
+    /// Not every program that captures is known to respect that.
+    bool capturesMayShowHidden = false;
     /// The menu is always in the screen's bar, not in a tray that may be missing.
     bool hasMenuBar = false;
     /// People call the computer a Mac.

@@ -32,7 +32,7 @@ struct FileStamp {
 struct Deck {
     QList<SlideNote> slides;
     QList<qint64> unread; ///< The numbers of the slides whose notes were lost to a limit, in order.
-    FileStamp stamp; ///< Of the package's file, from before it was read.
+    FileStamp stamp = {}; ///< Of the package's file, from before it was read.
 };
 
 /// What the user is told.

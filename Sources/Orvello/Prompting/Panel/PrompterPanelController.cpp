@@ -1,6 +1,7 @@
 #include "Orvello/Prompting/Panel/PrompterPanelController.h"
 
 #include "Orvello/Diagnostics/AppLog.h"
+#include "Orvello/Foundation/Assign.h"
 #include "Orvello/Foundation/Observe.h"
 #include "Orvello/Platform/Desktop/CaptureHiding.h"
 #include "Orvello/Platform/Desktop/Screens.h"
@@ -58,9 +59,16 @@ PrompterPanelController::PrompterPanelController(
 
 PrompterPanelController::~PrompterPanelController() = default;
 
-bool PrompterPanelController::isVisibleInRecordings() const
+void PrompterPanelController::publishVisibility()
 {
-    return m_wantsStealth && !m_hiding.isPossible();
+    using Reach = CaptureHiding::Reach;
+    const Reach reach = m_hiding.reach();
+    // Where the shape is what hides the panel, it is so only once the window server took it.
+    const bool isVisible = m_wantsStealth
+        && (reach == Reach::NoCapture
+            || (reach == Reach::SomeCaptures && m_stealthOn && !m_isShapeApplied));
+    if (assign(m_isVisibleInRecordings, isVisible))
+        Q_EMIT visibleInRecordingsChanged();
 }
 
 void PrompterPanelController::placePanel()
@@ -77,7 +85,6 @@ void PrompterPanelController::putUnderCamera()
 
 void PrompterPanelController::applyStealthMode(bool on)
 {
-    const bool wasVisibleInRecordings = isVisibleInRecordings();
     const bool effective = on && !m_forceCapturable;
     m_stealthOn = effective;
     m_wantsStealth = on;
@@ -87,6 +94,7 @@ void PrompterPanelController::applyStealthMode(bool on)
     const qint64 wid = m_hiding.windowNumber();
     const bool fresh = hideFromCaptures(isHidden, wid);
     const bool applied = applyShape(effective, mode);
+    m_isShapeApplied = effective && applied && mode != u"flag";
     if (wid >= 1) {
         m_appliedWid = wid;
         m_appliedHidden = isHidden;
@@ -97,8 +105,7 @@ void PrompterPanelController::applyStealthMode(bool on)
         + (applied ? u"1"_s : u"0"_s));
     AppLog::write("Orvello STEALTH %@ wid=%ld fresh=%d mode=%@ sckExcludeApplied=%d",
         onOrOff(effective), wid, static_cast<int>(fresh), mode, static_cast<int>(applied));
-    if (isVisibleInRecordings() != wasVisibleInRecordings)
-        Q_EMIT visibleInRecordingsChanged();
+    publishVisibility();
 }
 
 /// Returns whether the window is a new one.
@@ -162,7 +169,9 @@ void PrompterPanelController::reapplyShapeOrPostpone()
 
 void PrompterPanelController::coverCurrentFrame()
 {
-    m_captureExclusion.setExcluded(true, m_hiding.windowNumber(), m_panel.frame().size());
+    m_isShapeApplied
+        = m_captureExclusion.setExcluded(true, m_hiding.windowNumber(), m_panel.frame().size());
+    publishVisibility();
 }
 
 void PrompterPanelController::callChanged(bool inCall)

@@ -53,9 +53,9 @@ public:
     /// Whether Stealth Mode is in effect: wanted, and not forced off.
     bool stealthOn() const { return m_stealthOn; }
 
-    /// Whether Stealth Mode is wanted on a platform that cannot keep the panel out of captures. The
-    /// user must be told.
-    bool isVisibleInRecordings() const;
+    /// Whether Stealth Mode is wanted and nothing keeps the panel out of captures: no platform's
+    /// means, nor the exclude shape where captures may ignore those. The user must be told.
+    bool isVisibleInRecordings() const { return m_isVisibleInRecordings; }
 
     /// Hides the panel from captures, or makes it an ordinary window again.
     void applyStealthMode(bool on);
@@ -75,6 +75,7 @@ private:
     void callChanged(bool inCall);
     void checkWindow();
     void coverCurrentFrame();
+    void publishVisibility();
     bool hideFromCaptures(bool isHidden, qint64 windowNumber);
     bool applyShape(bool on, const QString& mode);
 
@@ -88,6 +89,8 @@ private:
     const bool m_forceCapturable;
     bool m_stealthOn = false;
     bool m_wantsStealth = false;
+    bool m_isShapeApplied = false;
+    bool m_isVisibleInRecordings = false;
     bool m_pendingShapeReapply = false; ///< A shape was left as it was because of a call.
     qint64 m_appliedWid = -1; ///< Window number at the last application.
     std::optional<bool> m_appliedHidden;

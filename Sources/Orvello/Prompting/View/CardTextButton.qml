@@ -8,15 +8,13 @@ T.Button {
 
     signal activated()
 
-    implicitWidth: Math.ceil(label.implicitWidth) + 16
+    implicitWidth: Math.ceil(implicitContentWidth) + 16
     implicitHeight: CardStyle.capsuleHeight
     hoverEnabled: false // The card must see the pointer, too.
     focusPolicy: Qt.NoFocus
     onClicked: activated()
 
     contentItem: SmallLabel {
-        id: label
-
         text: root.text
         color: CardStyle.strongLabel
         font.weight: Font.DemiBold

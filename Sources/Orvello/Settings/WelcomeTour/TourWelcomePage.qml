@@ -7,6 +7,7 @@ TourPage {
 
     required property string headingFamily
     required property facts facts
+    readonly property bool isSurelyHidden: facts.canHideWindows && !facts.capturesMayShowHidden
 
     number: 0
     spacing: 20
@@ -37,15 +38,18 @@ TourPage {
             Layout.preferredWidth: 400
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: 15
-            text: root.facts.canHideWindows ? qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")
-                                            : qsTr("Your private teleprompter. Share your slides' window, and your audience never sees your notes.")
+            text: root.isSurelyHidden ? qsTr("Your private teleprompter. Your audience sees your slides — never your notes.")
+                                      : qsTr("Your private teleprompter. Share your slides' window alone, keep the prompter beside it, and your notes are yours.")
         }
     }
     TourFeature {
         symbol: "eye.slash"
-        title: root.facts.canHideWindows ? qsTr("Invisible on screen shares") : qsTr("Not part of a window share")
-        text: root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
-                                        : qsTr("Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.")
+        title: root.isSurelyHidden ? qsTr("Invisible on screen shares")
+             : root.facts.canHideWindows ? qsTr("Hidden where the system allows")
+             : qsTr("Beside the window that you share")
+        text: root.isSurelyHidden ? qsTr("Stealth Mode hides the prompter from Zoom, Meet, Teams, recordings and screenshots — while you see it perfectly.")
+            : root.facts.canHideWindows ? qsTr("Stealth Mode hides the prompter as far as this system allows. Newer recorders may show it all the same: try yours first.")
+            : qsTr("Share a window in Zoom, Meet or Teams, keep the prompter beside it, and only you see it. In a share of the whole screen, this desktop shows it to everyone.")
     }
     TourFeature {
         symbol: "waveform"

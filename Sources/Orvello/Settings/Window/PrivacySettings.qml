@@ -20,7 +20,9 @@ SettingsSection {
         text: qsTr("This desktop cannot hide a window from screen sharing, recordings, or screenshots. There the prompter is visible, whether Stealth Mode is on or off.")
     }
     SettingsNote {
-        text: root.facts.canHideWindows && root.facts.hasQuickTime
+        text: root.facts.canHideWindows && root.facts.capturesMayShowHidden
+              ? qsTr("With Stealth Mode on before a share starts, the prompter stays out of screen sharing, recordings, and screenshots as far as this system allows — while staying fully visible to you. Newer recorders may show it all the same: try yours before you rely on it.")
+              : root.facts.canHideWindows && root.facts.hasQuickTime
               ? qsTr("With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots (Zoom, Meet, QuickTime, and more) — while staying fully visible to you.")
               : root.facts.canHideWindows
               ? qsTr("With Stealth Mode on before a share starts, the prompter is invisible to screen sharing, recordings, and screenshots — while staying fully visible to you.")

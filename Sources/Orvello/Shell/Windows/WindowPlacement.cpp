@@ -19,7 +19,8 @@ constexpr int largest = 16'777'215; ///< What Qt takes for no limit.
 
 QRect centered(const QSize& wanted, const QRect& available)
 {
-    const QRect free = available.adjusted(0, titleBarHeight, 0, 0);
+    // Below its content a frame has an edge, which no window may leave outside.
+    const QRect free = available.adjusted(0, titleBarHeight, 0, -gap);
     QRect content(QPoint(), wanted.boundedTo(free.size()));
     content.moveCenter(available.center());
     content.moveTop(qMax(content.top(), free.top()));

@@ -161,12 +161,18 @@ typedef NS_OPTIONS(unsigned long long, NSActivityOptions) {
     NSActivityUserInitiated = 0x00FFFFFFULL,
     NSActivityUserInitiatedAllowingIdleSystemSleep = 0x00EFFFFFULL,
 };
+typedef struct {
+    NSInteger majorVersion;
+    NSInteger minorVersion;
+    NSInteger patchVersion;
+} NSOperatingSystemVersion;
 @interface NSProcessInfo : NSObject
 - (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
 - (void)endActivity:(id<NSObject>)activity;
 @property (class, readonly, strong) NSProcessInfo* processInfo;
 @property (copy) NSString* processName;
 @property (readonly, copy) NSString* operatingSystemVersionString;
+@property (readonly) NSOperatingSystemVersion operatingSystemVersion;
 @end
 
 @interface NSUserDefaults : NSObject

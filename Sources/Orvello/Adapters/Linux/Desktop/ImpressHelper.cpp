@@ -18,7 +18,7 @@ namespace {
 QString helperScript()
 {
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
-    const QString besideProgram = folder + u"impress-helper.py"_s;
+    QString besideProgram = folder + u"impress-helper.py"_s;
     if (QFile::exists(besideProgram))
         return besideProgram;
     return folder + QStringLiteral(ORVELLO_INSTALLED_HELPER);

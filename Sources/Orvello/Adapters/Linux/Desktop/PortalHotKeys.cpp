@@ -78,9 +78,9 @@ bool isUnknown(const QDBusError& error)
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
-    Shortcut(PortalHotKeys& portal, const HotKeyName& keyName, const HotKeyRequest& keyRequest)
+    Shortcut(PortalHotKeys& portal, HotKeyName keyName, const HotKeyRequest& keyRequest)
         : keys(portal)
-        , name(keyName)
+        , name(std::move(keyName))
         , request(keyRequest)
         , purpose(*request.purpose)
     {

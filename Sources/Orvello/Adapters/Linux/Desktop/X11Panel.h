@@ -57,7 +57,7 @@ private:
     };
 
     /// X11 shows every window to every client; no request keeps one out.
-    bool isPossible() const override { return false; }
+    Reach reach() const override { return Reach::NoCapture; }
     void setHidden(bool isHidden) override { m_isHidden = isHidden; }
     bool isHidden() const override { return m_isHidden; }
     qint64 windowNumber() const override;

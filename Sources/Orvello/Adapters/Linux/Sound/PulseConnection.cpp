@@ -98,15 +98,6 @@ std::optional<QByteArray> PulseConnection::microphone() const
     return std::nullopt;
 }
 
-std::optional<QByteArray> PulseConnection::farEnd(qsizetype index) const
-{
-    QList<QByteArray> farEnds = m_condition.facts.farEnds;
-    // What the user made their microphone is no echo of it.
-    farEnds.removeAll(
-        m_condition.heard ? m_condition.heard->source : m_condition.facts.defaultSource);
-    return index < farEnds.size() ? std::optional(farEnds[index]) : std::nullopt;
-}
-
 void PulseConnection::setHeard(const std::optional<Heard>& heard)
 {
     if (m_condition.heard == heard)
@@ -207,6 +198,7 @@ void PulseConnection::beginSurvey()
 void PulseConnection::onFacts(const PulseFacts& facts)
 {
     m_unansweredSince.reset();
+    m_lastAnswer = pa_rtclock_now();
     const bool isNews = !m_condition.isAnswering || m_condition.facts != facts;
     if (isNews)
         change([&](Condition& condition) {
@@ -220,6 +212,11 @@ void PulseConnection::onFacts(const PulseFacts& facts)
 
 void PulseConnection::tellClients()
 {
+    QList<QByteArray> farEnds = m_condition.facts.farEnds;
+    // What the user made their microphone is no echo of it.
+    farEnds.removeAll(
+        m_condition.heard ? m_condition.heard->source : m_condition.facts.defaultSource);
+    m_farEnds.assign(farEnds);
     for (Client* const client : m_clients)
         client->onFacts();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvello/Adapters/Linux/Sound/FarEndPlaces.h"
 #include "Orvello/Adapters/Linux/Sound/PulseSurvey.h"
 #include "Orvello/Foundation/WakeUp.h"
 
@@ -32,6 +33,7 @@ public:
     /// The microphone that is being recorded.
     struct Heard {
         QByteArray source;
+        std::uint32_t recording = 0; ///< As the server numbers it.
         bool isDelivering = true;
 
         friend bool operator==(const Heard&, const Heard&) = default;
@@ -91,8 +93,10 @@ public:
     /// The source to ask for: a name, or empty for the server's choice. None when nothing is to be
     /// recorded.
     std::optional<QByteArray> microphone() const;
-    std::optional<QByteArray> farEnd(qsizetype index) const;
+    /// What the echo reference in one of the places hears.
+    std::optional<QByteArray> farEnd(std::size_t place) const { return m_farEnds.at(place); }
     void setHeard(const std::optional<Heard>& heard);
+    pa_usec_t lastAnswer() const { return m_lastAnswer; } ///< By pa_rtclock_now().
     void onRefused();
     pa_context* context() const { return m_context; }
     void freeTimer(pa_time_event* timer) const { api()->time_free(timer); }
@@ -119,6 +123,8 @@ private:
     pa_time_event* m_reconnectTimer = nullptr;
     PulseSurvey m_survey;
     std::optional<pa_usec_t> m_unansweredSince; ///< By pa_rtclock_now(), while a survey runs.
+    pa_usec_t m_lastAnswer = 0;
+    FarEndPlaces m_farEnds;
     std::vector<Client*> m_clients;
 
     /// Written with the loop's lock and this one, so that either is enough to read it.

@@ -29,7 +29,9 @@ Microphones::Trouble troubleOf(const PulseConnection::Condition& condition)
     const PulseSource* const source = heardSource(condition);
     if (!source)
         return condition.facts.haveMicrophone() ? Trouble::None : Trouble::NoMicrophone;
-    if (source->isMuted)
+    if (source->isMuted
+        || (condition.heard
+            && condition.facts.mutedRecordings.contains(condition.heard->recording)))
         return Trouble::Muted;
     return condition.heard && !condition.heard->isDelivering ? Trouble::Withheld : Trouble::None;
 }

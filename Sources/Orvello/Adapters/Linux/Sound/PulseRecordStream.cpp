@@ -11,7 +11,8 @@ constexpr pa_usec_t tickInterval = 100 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t stallTime = 250 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t reopenInterval = 1 * PA_USEC_PER_SEC;
 
-/// From then on it is not a pause any longer: something keeps the microphone from us.
+/// From then on it is not a pause any longer: something keeps the microphone from us, if it is not
+/// that the server itself is silent.
 constexpr pa_usec_t withheldTime = 1 * PA_USEC_PER_SEC;
 
 constexpr std::array<float, PulseRecordStream::sampleRate / 10> silenceOfATick {};
@@ -35,7 +36,7 @@ PulseRecordStream& streamOf(void* userData) { return *static_cast<PulseRecordStr
 
 } // namespace
 
-PulseRecordStream::PulseRecordStream(PulseConnection& connection, Role role, qsizetype farEnd,
+PulseRecordStream::PulseRecordStream(PulseConnection& connection, Role role, std::size_t farEnd,
     std::uint32_t fragmentFrames, Listener listener)
     : m_connection(connection)
     , m_role(role)
@@ -168,8 +169,9 @@ void PulseRecordStream::publish()
     if (!isMicrophone())
         return;
     if (m_stream && pa_stream_get_state(m_stream) == PA_STREAM_READY)
-        m_connection.setHeard({ { pa_stream_get_device_name(m_stream),
-            pa_rtclock_now() - m_lastSamples < withheldTime } });
+        m_connection.setHeard(
+            { { pa_stream_get_device_name(m_stream), pa_stream_get_index(m_stream),
+                m_connection.lastAnswer() < m_lastSamples + withheldTime } });
     else
         m_connection.setHeard(std::nullopt);
 }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -25,7 +26,7 @@ public:
 
     /// `connection` must outlive the stream. `fragmentFrames` samples come at a time, more or less.
     /// `farEnd` says which of the connection's far ends an echo reference is.
-    PulseRecordStream(PulseConnection& connection, Role role, qsizetype farEnd,
+    PulseRecordStream(PulseConnection& connection, Role role, std::size_t farEnd,
         std::uint32_t fragmentFrames, Listener listener);
     ~PulseRecordStream();
     PulseRecordStream(const PulseRecordStream&) = delete;
@@ -51,7 +52,7 @@ private:
 
     PulseConnection& m_connection;
     Role m_role;
-    qsizetype m_farEnd;
+    std::size_t m_farEnd;
     std::uint32_t m_fragmentFrames;
     Listener m_listener;
 

@@ -1,6 +1,7 @@
 #include "Orvello/Adapters/Linux/Sound/PulseSurvey.h"
 
 #include <algorithm>
+#include <unistd.h>
 #include <utility>
 
 namespace Orvello {
@@ -19,12 +20,14 @@ void letGo(pa_operation* operation)
 /// known by number.
 constexpr qint64 unknownProcess = -1;
 
+/// What a program says of itself. In a sandbox its number is another one than outside, and perhaps
+/// ours.
 qint64 processOf(const pa_source_output_info& output)
 {
     const char* const text = pa_proplist_gets(output.proplist, PA_PROP_APPLICATION_PROCESS_ID);
     bool isNumber = false;
     const qint64 process = QByteArray(text).toLongLong(&isNumber);
-    return isNumber ? process : unknownProcess;
+    return isNumber && process != ::getpid() ? process : unknownProcess;
 }
 
 bool contains(const std::vector<std::uint32_t>& indexes, std::uint32_t index)
@@ -159,10 +162,14 @@ void PulseSurvey::take(const pa_sink_info& sink)
 void PulseSurvey::take(const pa_source_output_info& output)
 {
     const bool isServersOwn = output.client == PA_INVALID_INDEX; // A loopback or a filter.
+    const bool isOurs = output.client == pa_context_get_index(m_context);
+    const bool isAtZero = output.has_volume != 0 && pa_cvolume_is_muted(&output.volume) != 0;
+    if (isOurs && (output.mute != 0 || isAtZero))
+        m_draft.mutedRecordings.append(output.index);
     if (isServersOwn)
         m_cables.push_back(output.source);
     else if (!output.corked && !contains(m_monitors, output.source))
-        m_draft.capturingProcesses.append(processOf(output));
+        m_draft.capturingProcesses.append(isOurs ? ::getpid() : processOf(output));
 }
 
 void PulseSurvey::take(const pa_sink_input_info& input)

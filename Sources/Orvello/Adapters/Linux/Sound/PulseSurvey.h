@@ -27,6 +27,7 @@ struct PulseFacts {
     QByteArray defaultSource; ///< A name; empty when there is none.
     QList<PulseSource> sources;
     QList<qint64> capturingProcesses; ///< Identifiers of the processes that record a microphone.
+    QList<std::uint32_t> mutedRecordings; ///< Those of this program, as the server numbers them.
 
     /// The monitors of the sinks that people may hear: first the default sink's, then those of the
     /// sinks on which something plays. A sink that the server itself records is a cable to

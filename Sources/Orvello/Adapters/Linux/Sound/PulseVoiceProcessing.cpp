@@ -66,7 +66,7 @@ public:
 private:
     /// One canceller for each: what two loudspeakers play has two ways through the room.
     struct FarEnd {
-        FarEnd(PulseConnection& connection, qsizetype index)
+        FarEnd(PulseConnection& connection, std::size_t index)
             : stream(connection, PulseRecordStream::Role::EchoReference, index, blockSamples,
                 [this](std::span<const float> samples) { canceller.hearFarEnd(samples); })
         {

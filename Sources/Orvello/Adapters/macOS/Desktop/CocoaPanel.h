@@ -51,7 +51,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool isPossible() const override { return true; }
+    Reach reach() const override;
     void setHidden(bool isHidden) override;
     bool isHidden() const override;
     qint64 windowNumber() const override;

@@ -6,6 +6,7 @@
 #include "Orvello/Adapters/macOS/Desktop/PrompterPanel.h"
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/ExceptionShield.h"
+#include "Orvello/Adapters/macOS/Early/SharingType.h"
 #include "Orvello/Platform/Desktop/Screens.h"
 #include "Orvello/Prompting/Panel/PanelFrame.h"
 
@@ -142,6 +143,11 @@ bool CocoaPanel::isVisible() const { return m_panel.visible; }
 qint64 CocoaPanel::windowNumber() const { return m_panel.windowNumber; }
 
 bool CocoaPanel::isBeingResized() const { return m_panel.inLiveResize; }
+
+CaptureHiding::Reach CocoaPanel::reach() const
+{
+    return isSharingTypeIgnored() ? Reach::SomeCaptures : Reach::EveryCapture;
+}
 
 bool CocoaPanel::isHidden() const { return m_panel.sharingType == NSWindowSharingNone; }
 

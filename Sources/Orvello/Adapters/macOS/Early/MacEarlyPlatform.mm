@@ -4,9 +4,11 @@
 #include "Orvello/Adapters/macOS/Early/CocoaText.h"
 #include "Orvello/Adapters/macOS/Early/CocoaUserDefaults.h"
 #include "Orvello/Adapters/macOS/Early/MacInstance.h"
+#include "Orvello/Adapters/macOS/Early/SharingType.h"
 #include "Orvello/Platform/Early/EarlyPlatform.h"
 #include "Orvello/Platform/Early/Folders.h"
 #include "Orvello/Platform/Early/SystemLog.h"
+#include "Orvello/Prompting/Panel/CaptureExclusion.h"
 
 namespace Orvello {
 
@@ -57,15 +59,19 @@ public:
 
     Facts facts() const override
     {
+        // Where the sharing type is ignored, the exclude shape alone hides a window; and a setting
+        // of Zoom's helps only what is hidden.
+        const bool canHideWindows = !isSharingTypeIgnored() || CaptureExclusion().isUsable();
         return {
-            .canHideWindows = true,
+            .canHideWindows = canHideWindows,
+            .capturesMayShowHidden = isSharingTypeIgnored(),
             .hasMenuBar = true,
             .isMac = true,
             .hasQuickTime = true,
             .asksBeforeControl = true,
             .hasPrivacySettings = true,
             .installsUpdates = true,
-            .zoomChoosesCapture = true,
+            .zoomChoosesCapture = canHideWindows,
             .hasKeynoteAndPowerPoint = true,
             .operatingSystem = QStringLiteral("macOS ") + operatingSystemVersion(),
             .keyPrefix = QStringLiteral("Option-Command-"),
