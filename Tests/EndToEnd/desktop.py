@@ -73,12 +73,6 @@ class Desktop(contextlib.ExitStack):
         with os.fdopen(read_end) as pipe:
             return process, ":" + pipe.readline().strip()
 
-    def split_screen(self):
-        """Makes two monitors of the screen, side by side; the left one is the primary."""
-        half = self.width // 2
-        for name, left, output in (("left", 0, "screen"), ("right", half, "none")):
-            self.run("xrandr", "--setmonitor", name, f"{half}/300x{self.height}/240+{left}+0", output)
-
     def start_compositor(self):
         # Its whole screen at each frame: picom 12 leaves a hole where a menu opens over the prompter otherwise.
         self._compositor = self.start(["picom", "--backend", "xrender", "--no-use-damage"])
