@@ -78,10 +78,10 @@ bool isUnknown(const QDBusError& error)
 } // namespace
 
 struct PortalHotKeys::Shortcut final : Reference {
-    Shortcut(PortalHotKeys& portal, HotKeyName keyName, const HotKeyRequest& keyRequest)
+    Shortcut(PortalHotKeys& portal, const HotKeyName& keyName, HotKeyRequest keyRequest)
         : keys(portal)
-        , name(std::move(keyName))
-        , request(keyRequest)
+        , name(keyName)
+        , request(std::move(keyRequest))
         , purpose(*request.purpose)
     {
     }
