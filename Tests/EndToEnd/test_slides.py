@@ -21,6 +21,8 @@ CHANGES = int(os.environ.get("ORVELLO_SLIDE_CHANGES", "20"))
 
 
 # On a machine that does other things besides; on a quiet one the goal is 0.8 s.
+# What the helper may take of a core while a slide changes every half a second; `make slides` allows what a talk needs.
+HELPER_SHARE = float(os.environ.get("ORVELLO_HELPER_SHARE", "0.1"))
 WORST_DELAY = float(os.environ.get("ORVELLO_WORST_DELAY", "1.5"))
 
 
@@ -434,7 +436,7 @@ class SlidesTest(unittest.TestCase):
         print(f"slide to text over {CHANGES} changes: median {statistics.median(delays) * 1000:.0f} ms, "
               f"worst {max(delays) * 1000:.0f} ms")
         self.assertLess(max(delays), WORST_DELAY)
-        self.assertLess(share, 0.01)
+        self.assertLess(share, HELPER_SHARE)
         self.assertEqual(follower.stop(), 0)
 
 

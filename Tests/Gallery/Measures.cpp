@@ -108,7 +108,11 @@ void collectVisible(const QQuickItem& item, QList<const QQuickItem*>& items)
     QList<QQuickItem*> children = item.childItems();
     std::ranges::stable_sort(children, {}, [](const QQuickItem* child) { return child->z(); });
     for (const QQuickItem* const child : children) {
-        if (!child->isVisible() || child->opacity() == 0)
+        // A list keeps a row that has left it, and draws it no longer, until it is used for
+        // another.
+        const bool hasLeftItsList
+            = child->property("index").isValid() && child->property("index").toInt() < 0;
+        if (!child->isVisible() || child->opacity() == 0 || hasLeftItsList)
             continue;
         items.append(child);
         collectVisible(*child, items);

@@ -68,7 +68,8 @@ std::vector<std::pair<qsizetype, qsizetype>> longestRise(
 /// Adds the part between two places that are the same in both texts, without what its ends share.
 void addPart(TextDifferences& differences, QStringView before, QStringView after, qsizetype begin)
 {
-    const auto [differing, unused] = std::ranges::mismatch(before, after);
+    const auto differing
+        = std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first;
     const qsizetype head = differing - before.begin();
     before = before.sliced(head);
     after = after.sliced(head);
