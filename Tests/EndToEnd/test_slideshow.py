@@ -25,9 +25,10 @@ class SlideshowTest(unittest.TestCase):
         self.addCleanup(self.office.kill)  # Also one that the prompter's helper has started.
         self.addCleanup(self.desktop.close)
         self.addCleanup(self.office.kill)
-        # On an opaque card only the prompter itself changes what is seen of it.
+        # On an opaque card only the prompter itself changes what is seen of it; without Stealth Mode it warns of no
+        # meeting application, which another test may have started.
         App.set_defaults(self.desktop, onboardingSeenVersion=1, backgroundOpacity=1.0, countdownSeconds=0,
-                         impressAllowed=True)
+                         impressAllowed=True, stealthMode=False)
         self.deck = self.desktop.scratch / "Quarterly talk.pptx"
 
     def start(self, *arguments, notes_of=notes):
