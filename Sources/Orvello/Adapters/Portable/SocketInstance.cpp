@@ -50,7 +50,7 @@ QByteArray lineOf(const QStringList& refusals)
 QStringList words(const QJsonValue& value)
 {
     QStringList list;
-    for (const QJsonValue& word : value.toArray())
+    for (const auto word : value.toArray())
         list.append(word.toString());
     return list;
 }
