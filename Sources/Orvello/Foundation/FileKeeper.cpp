@@ -28,6 +28,8 @@ FileKeeper::~FileKeeper()
     m_changed.notify_all();
     if (m_thread.joinable())
         m_thread.join();
+    else
+        perform(m_work);
 }
 
 void FileKeeper::flushSoon(const QString& path)
@@ -59,6 +61,8 @@ void FileKeeper::finish()
     m_changed.notify_all();
     if (m_thread.joinable())
         m_changed.wait(lock, [this] { return m_work.isEmpty() && !m_isBusy; });
+    else
+        perform(std::exchange(m_work, {}));
     m_isHurried = false;
 }
 
@@ -70,7 +74,7 @@ void FileKeeper::startThread()
     try {
         m_thread = std::thread([this] { run(); });
     } catch (const std::system_error&) {
-        // Without a thread the file system decides when the bytes reach the disk.
+        // Whoever waits for the work does it; until then the file system decides.
     }
 }
 
