@@ -120,7 +120,10 @@ Pane {
                 ContextMenu {
                     id: menu
 
+                    property bool canPaste: false // The field's own value changes while it is read.
+
                     palette: root.palette // Popups do not inherit the window's.
+                    onAboutToShow: canPaste = body.canPaste && !body.readOnly
 
                     MenuItem {
                         //: The prompter begins with the line that the cursor is on.
@@ -140,7 +143,7 @@ Pane {
                     }
                     MenuItem {
                         text: qsTr("Paste")
-                        enabled: body.canPaste && !body.readOnly
+                        enabled: menu.canPaste
                         onTriggered: body.paste()
                     }
                     MenuItem {
