@@ -8,11 +8,12 @@ import json
 import mmap
 import os
 import pathlib
+import shutil
 import socket
 import struct
 import time
 
-from desktop import Desktop, Picture
+from desktop import PROGRAM, Desktop, Picture
 from waiting import wait_until
 
 NOBODY = 65534
@@ -65,6 +66,9 @@ class Sway(Desktop):
         return {"user": NOBODY, "group": NOBODY, "extra_groups": []} if os.getuid() == 0 else {}
 
     def start(self, command, environment=None, **options):
+        if os.getuid() == 0 and command[0] == str(PROGRAM):
+            # It may lie in a folder that is for root alone.
+            command = [shutil.copy(PROGRAM, self.scratch / PROGRAM.name), *command[1:]]
         self.give_to_session()
         return super().start(command, environment, **({"cwd": "/"} | {k: v for k, v in options.items() if v is not None}),
                              **self._as_user())
