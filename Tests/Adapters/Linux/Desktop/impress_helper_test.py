@@ -493,9 +493,9 @@ class MessengerTest(unittest.TestCase):
         self.process('sleep 1000 & echo $! > "$NOTE"').hand_over("--accept=x")
         started = self.note.read_text().strip()
         deadline = time.monotonic() + 5
-        while pathlib.Path(f"/proc/{started}").exists() and time.monotonic() < deadline:
+        while not has_ended(started) and time.monotonic() < deadline:
             time.sleep(0.02)
-        self.assertFalse(pathlib.Path(f"/proc/{started}").exists())
+        self.assertTrue(has_ended(started))
 
 
 class ServeTest(unittest.TestCase):
