@@ -19,11 +19,10 @@ HELPER = os.environ["ORVELLO_IMPRESS_HELPER"]
 EMPTY = "(No speaker notes on this slide)"
 CHANGES = int(os.environ.get("ORVELLO_SLIDE_CHANGES", "20"))
 
-
-# On a machine that does other things besides; on a quiet one the goal is 0.8 s.
-# What the helper may take of a core while a slide changes every half a second; `make slides` allows what a talk needs.
-HELPER_SHARE = float(os.environ.get("ORVELLO_HELPER_SHARE", "0.1"))
+# On a machine that does other things besides; on a quiet one the goal is 0.8 s (`make slides`).
 WORST_DELAY = float(os.environ.get("ORVELLO_WORST_DELAY", "1.5"))
+# What the helper may take of a core while a slide changes more than once a second, at the worst. The figure is printed.
+HELPER_SHARE = 0.1
 
 
 def prompt(slide):

@@ -742,6 +742,7 @@ TEST_F(SettingsWindowTest, saysWhatTheSpeedMeansInWords)
 TEST_F(SettingsWindowTest, offersNoPaceWithoutAText)
 {
     EXPECT_FALSE(control(u"Words a minute"_s).isEnabled());
+    EXPECT_FALSE(control(u"Keep my pace with another text, size or width"_s).isEnabled());
 }
 
 TEST_F(SettingsWindowTest, keepsThePaceAndShowsTheTimeOnlyOnceTheUserWantsIt)

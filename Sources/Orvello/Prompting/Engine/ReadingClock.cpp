@@ -20,9 +20,6 @@ constexpr double interval = 0.25;
 /// Until the reader has been reading for so long, in seconds, that share is not known.
 constexpr double shortestSample = 10;
 
-/// A text moved by less than this still counts as standing at its top, in points.
-constexpr double topTolerance = 1;
-
 /// As in "1:05", or "1:02:05".
 QString duration(double seconds)
 {
@@ -60,7 +57,7 @@ void ReadingClock::onRunningChanged()
         m_ticks.reset();
         return;
     }
-    if (m_engine.offset() < topTolerance)
+    if (m_engine.isAtTop())
         m_elapsed = m_moving = 0;
     m_measured = m_time.now();
     m_ticks = m_time.callEvery(interval, [this] { measure(); });

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace Orvello {
 
@@ -39,29 +38,36 @@ ReadingPace::~ReadingPace() = default;
 
 void ReadingPace::setText(const QString& text)
 {
-    // More than that is only estimated, so that no key press waits for a count.
-    constexpr qsizetype sample = 100'000;
-    SpokenLength length = SpokenLength::of(QStringView(text).left(sample));
-    if (text.size() > sample) {
-        length.words = length.words * text.size() / sample;
-        length.characters = length.characters * text.size() / sample;
-    }
-    if (length == std::exchange(m_length, length))
-        return;
+    m_text = text;
+    m_length.reset();
     onTextChanged();
+}
+
+const SpokenLength& ReadingPace::length() const
+{
+    // More than that is only estimated, so that nothing waits for a count.
+    constexpr qsizetype sample = 100'000;
+    if (m_length)
+        return *m_length;
+    m_length = SpokenLength::of(QStringView(m_text).left(sample));
+    if (m_text.size() > sample) {
+        m_length->words = m_length->words * m_text.size() / sample;
+        m_length->characters = m_length->characters * m_text.size() / sample;
+    }
+    return *m_length;
 }
 
 double ReadingPace::unitsPerMinute() const
 {
     const double way = m_engine.endOffset();
-    return way > 0 ? static_cast<double>(m_length.units()) * 60 * m_settings.speed() / way : 0;
+    return way > 0 ? static_cast<double>(length().units()) * 60 * m_settings.speed() / way : 0;
 }
 
 void ReadingPace::setUnitsPerMinute(double pace)
 {
-    if (m_length.units() == 0 || m_engine.endOffset() <= 0 || !(pace > 0))
+    if (length().units() == 0 || m_engine.endOffset() <= 0 || !(pace > 0))
         return;
-    const double speed = pace * m_engine.endOffset() / (60 * static_cast<double>(m_length.units()));
+    const double speed = pace * m_engine.endOffset() / (60 * static_cast<double>(length().units()));
     m_settings.setSpeed(std::clamp(speed, slowest, fastest));
 }
 
@@ -71,7 +77,7 @@ QString ReadingPace::description() const
     if (pace <= 0)
         return tr("The prompter has no text to scroll.");
     const int rounded = static_cast<int>(std::lround(std::min(pace, 9999.0)));
-    const bool isByCharacters = m_length.isByCharacters();
+    const bool isByCharacters = length().isByCharacters();
     const QString speed = QString::number(std::lround(m_settings.speed()));
     const QString meaning = isByCharacters
         //: %1: points per second. About the script that the prompter shows.

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Orvello {
 
@@ -37,8 +38,8 @@ public:
     ~ReadingPace() override;
 
     void setText(const QString& text); ///< The one that the engine scrolls.
-    bool isByCharacters() const { return m_length.isByCharacters(); }
-    const SpokenLength& length() const { return m_length; }
+    bool isByCharacters() const { return length().isByCharacters(); }
+    const SpokenLength& length() const;
 
     double unitsPerMinute() const;
 
@@ -66,7 +67,8 @@ private:
     SettingsStore& m_settings;
     ScrollEngine& m_engine;
     TimeSource& m_time;
-    SpokenLength m_length;
+    QString m_text;
+    mutable std::optional<SpokenLength> m_length; ///< None until somebody asks.
     bool m_isRestoring = false;
     std::unique_ptr<TimeSource::Ticket> m_restore; ///< Once the text's layout has come to rest.
 };

@@ -41,6 +41,8 @@ ScrollEngine::~ScrollEngine() = default;
 
 void ScrollEngine::setOffset(double points) { publish(points, m_isRunning, m_countdown); }
 
+bool ScrollEngine::isAtTop() const { return m_offset < topTolerance; }
+
 void ScrollEngine::setHoverPaused(bool paused)
 {
     if (assign(m_hoverPaused, paused))
@@ -95,7 +97,7 @@ void ScrollEngine::start()
         setOffset(0);
 
     const qint64 seconds = wholeSeconds(m_settings.countdownSeconds());
-    if (seconds >= 1 && m_offset < topTolerance && !isCountingDown() && !m_isRunning)
+    if (seconds >= 1 && isAtTop() && !isCountingDown() && !m_isRunning)
         beginCountdown(seconds);
     else
         publish(m_offset, true, m_countdown);

@@ -47,6 +47,8 @@ public:
     bool voiceGate() const { return m_voiceGate; }
     void setVoiceGate(bool open); ///< Open while the speaker speaks.
 
+    bool isAtTop() const; ///< But for a point that nobody sees.
+
     double contentHeight() const { return m_contentHeight; }
     void setContentHeight(double points); ///< The height of the whole text, as laid out.
 

@@ -39,6 +39,7 @@ SettingsSection {
         text: root.pace.description
     }
     SettingsToggle {
+        enabled: root.pace.isKept || root.pace.unitsPerMinute > 0
         label: qsTr("Keep my pace with another text, size or width")
         isOn: root.pace.isKept
         onToggled: isOn => root.pace.isKept = isOn
